@@ -1,0 +1,57 @@
+# One set of compiler rules for the whole house, and the two kinds of targets.
+
+add_library(sagomi_regole INTERFACE)
+target_compile_options(sagomi_regole INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Werror -ffp-contract=off)
+if(SAGOMI_SANITIZERS)
+  target_compile_options(sagomi_regole INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                 -fno-omit-frame-pointer)
+  target_link_options(sagomi_regole INTERFACE -fsanitize=address,undefined)
+endif()
+
+# The mechanics also refuse every silent narrowing.
+add_library(sagomi_regole_meccanica INTERFACE)
+target_compile_options(sagomi_regole_meccanica INTERFACE -Wconversion -Wsign-conversion)
+
+# sagomi_meccanica(<folder> SOURCES ... LINK ...): a layer of plain C++, without Qt.
+function(sagomi_meccanica folder)
+  cmake_parse_arguments(A "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
+  add_library(sagomi_${folder} STATIC ${A_SOURCES})
+  target_include_directories(sagomi_${folder} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(sagomi_${folder} PUBLIC ${A_LINK} PRIVATE sagomi_regole sagomi_regole_meccanica ${A_LINK_PRIVATE})
+  foreach(l IN LISTS A_LINK A_LINK_PRIVATE)
+    if(l MATCHES "^Qt6|_ui$")
+      message(FATAL_ERROR "sagomi_${folder} is mechanics and cannot link ${l}")
+    endif()
+  endforeach()
+endfunction()
+
+# sagomi_schermi(<folder> SOURCES ... LINK ...): the screens of a layer, with Qt.
+function(sagomi_schermi folder)
+  cmake_parse_arguments(A "" "" "SOURCES;LINK" ${ARGN})
+  add_library(sagomi_${folder}_ui STATIC ${A_SOURCES})
+  set_target_properties(sagomi_${folder}_ui PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+  target_include_directories(sagomi_${folder}_ui PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_compile_definitions(sagomi_${folder}_ui PUBLIC QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+  target_link_libraries(sagomi_${folder}_ui PUBLIC ${A_LINK} PRIVATE sagomi_regole)
+endfunction()
+
+# sagomi_prova(<name> SOURCES ... LINK ...): one test program, its cases known to ctest one by one.
+function(sagomi_prova name)
+  cmake_parse_arguments(A "SCHERMI" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${name} ${A_SOURCES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE SAGOMI_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data"
+                                             SAGOMI_CATALOGUE_DATA="${PROJECT_SOURCE_DIR}/data/catalogue"
+                                             SAGOMI_BIN="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+  target_link_libraries(${name} PRIVATE ${A_LINK} GTest::gmock sagomi_regole)
+  set(env "ASAN_OPTIONS=detect_leaks=1")
+  if(A_SCHERMI)
+    list(APPEND env "QT_QPA_PLATFORM=offscreen")
+    set(env "QT_QPA_PLATFORM=offscreen")
+    target_link_libraries(${name} PRIVATE Qt6::Test)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  else()
+    target_link_libraries(${name} PRIVATE GTest::gmock_main)
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES ENVIRONMENT "${env}" TIMEOUT 300)
+endfunction()

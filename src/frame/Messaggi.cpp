@@ -1,0 +1,42 @@
+#include "frame/Messaggi.h"
+
+#include <utility>
+
+namespace sagomi {
+
+namespace {
+
+PortaMessaggi& Porta() {
+    static PortaMessaggi porta;
+    return porta;
+}
+
+Risposta Manda(Messaggio m) {
+    if (m.titolo.empty())
+        m.titolo = nomeProgramma;
+    if (m.icona == Icona::Nessuna && (m.testo.starts_with("ERRORE") || m.testo.starts_with("Errore")))
+        m.icona = Icona::Avviso;
+    if (Porta())
+        return Porta()(m);
+    MessaggiRaccolti().push_back(m.testo);
+    return m.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
+}
+
+} // namespace
+
+PortaMessaggi CollegaMessaggi(PortaMessaggi porta) { return std::exchange(Porta(), std::move(porta)); }
+
+void Avvisa(std::string_view testo, std::string_view titolo, Icona icona) {
+    Manda({std::string(testo), icona, std::string(titolo), Bottoni::Ok});
+}
+
+bool Chiedi(std::string_view testo, std::string_view titolo, Icona icona) {
+    return Manda({std::string(testo), icona, std::string(titolo), Bottoni::SiNo}) == Risposta::Si;
+}
+
+std::vector<std::string>& MessaggiRaccolti() {
+    static std::vector<std::string> raccolti;
+    return raccolti;
+}
+
+} // namespace sagomi

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace sagomi {
+
+/// What the user is told when something happens in the middle of a calculation: the one way out of the
+/// mechanics to a screen. The program plugs a message box into the port, the tests a recorder.
+enum class Icona { Nessuna, Avviso, Stop, Domanda };
+enum class Bottoni { Ok, SiNo };
+enum class Risposta { Ok, Si, No };
+
+struct Messaggio {
+    std::string testo; ///< UTF-8; CR, LF and CR LF all mean a new line
+    Icona icona = Icona::Nessuna;
+    std::string titolo; ///< the program's name where the caller gave none
+    Bottoni bottoni = Bottoni::Ok;
+};
+
+using PortaMessaggi = std::function<Risposta(const Messaggio&)>;
+
+/// The program's name, title of every message that brings none.
+inline constexpr std::string_view nomeProgramma = "Sagomi";
+
+/// Plugs a receiver into the port and returns the one that was there, to be put back.
+/// An empty function brings back the default: texts are kept in MessaggiRaccolti, questions are answered no.
+PortaMessaggi CollegaMessaggi(PortaMessaggi porta);
+
+/// Shows a message; returns when it has been read. A text that begins with "ERRORE" or "Errore" gets the
+/// warning icon where none is asked for.
+void Avvisa(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Nessuna);
+
+/// Asks a question; true for yes.
+bool Chiedi(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Domanda);
+
+/// Texts that arrived while nothing was plugged in.
+std::vector<std::string>& MessaggiRaccolti();
+
+} // namespace sagomi

@@ -1,0 +1,38 @@
+#include "frame/Messaggi.h"
+
+#include <gtest/gtest.h>
+
+#include "Registratore.h"
+
+using namespace sagomi;
+
+namespace {
+
+TEST(Messaggi, FillsTitleAndIcon) {
+    prove::Registratore r;
+    Avvisa("fy deve essere > 0");
+    Avvisa("ERRORE !! Non è stato selezionato nessun tipo di sagomo");
+    Avvisa("Errore in L0");
+    Avvisa("Errore nelle impostazioni", "ERRORE", Icona::Stop);
+    ASSERT_EQ(r.messaggi.size(), 4U);
+    EXPECT_EQ(r.messaggi[0].titolo, "Sagomi");
+    EXPECT_EQ(r.messaggi[0].icona, Icona::Nessuna);
+    EXPECT_EQ(r.messaggi[1].icona, Icona::Avviso);
+    EXPECT_EQ(r.messaggi[2].icona, Icona::Avviso);
+    EXPECT_EQ(r.messaggi[3].icona, Icona::Stop);
+    EXPECT_EQ(r.messaggi[3].titolo, "ERRORE");
+}
+
+TEST(Messaggi, AnswersNoWhenNobodyListens) {
+    CollegaMessaggi({});
+    MessaggiRaccolti().clear();
+    EXPECT_FALSE(Chiedi("Proseguire ?"));
+    EXPECT_EQ(MessaggiRaccolti(), std::vector<std::string>{"Proseguire ?"});
+}
+
+TEST(Messaggi, RecorderAnswersYes) {
+    prove::Registratore r(true);
+    EXPECT_TRUE(Chiedi("Proseguire ?"));
+}
+
+} // namespace
