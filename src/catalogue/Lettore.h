@@ -1,0 +1,102 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/FoglioDati.h"
+
+namespace sagomi {
+
+/// Rows and field names that a query gave.
+struct EsitoQuery {
+    std::vector<std::string> campi;
+    std::vector<std::vector<Valore>> righe; ///< each as long as campi
+};
+
+/// The reader behind a main screen (its Data1): a workbook, a query, all the rows that it gives and the row
+/// in hand. Rows and fields are counted from 0.
+///
+/// The row in hand is one of the rows, or lies before the first (BOF) or behind the last (EOF); with no rows
+/// both hold. There a field is empty and a move does what it can: nothing here stops the program.
+/// (The two are spelled Bof and Eof because the C library has a macro EOF.)
+class Lettore {
+public:
+    /// Called once at the end of Refresh and of every move that ends at a row, with the row in hand set, also
+    /// when its fields are those of the row before. Not called where there is no row.
+    std::function<void()> rigaCambiata;
+
+    /// The workbook to read; counts from the next Refresh.
+    void DatabaseName(const std::filesystem::path& cartella) { chiesta_.cartella = cartella; }
+    [[nodiscard]] const std::filesystem::path& DatabaseName() const { return chiesta_.cartella; }
+
+    /// The query; counts from the next Refresh.
+    void RecordSource(std::string_view query) { chiesta_.query = query; }
+    [[nodiscard]] const std::string& RecordSource() const { return chiesta_.query; }
+
+    /// Runs the query and goes to the first row. The workbook is read anew when its file has changed.
+    /// Throws ErroreCatalogo when the workbook or the query fails; the rows, the row in hand, the workbook
+    /// and the query of the last Refresh that succeeded are then in force again.
+    void Refresh();
+
+    [[nodiscard]] bool Bof() const { return esito_.righe.empty() || riga_ < 0; }
+    [[nodiscard]] bool Eof() const { return esito_.righe.empty() || riga_ >= Righe(); }
+
+    void MoveFirst();
+    void MoveLast();
+    void MoveNext();     ///< from the last row to EOF; stays there
+    void MovePrevious(); ///< from the first row to BOF; stays there
+
+    /// Goes to a row, 0 to Righe() - 1; another one throws std::out_of_range.
+    void MoveTo(int riga);
+
+    /// Goes to the first row whose field 0 equals the text, capitals and all. When there is none the last row
+    /// is in hand. True when found. One call of rigaCambiata, whatever lies between.
+    bool CercaRecord(std::string_view nome);
+
+    [[nodiscard]] int Righe() const { return static_cast<int>(esito_.righe.size()); }
+    [[nodiscard]] int Campi() const { return static_cast<int>(esito_.campi.size()); }
+    [[nodiscard]] int RigaCorrente() const { return riga_; } ///< -1 at BOF, Righe() at EOF
+
+    /// The heading of a column. Outside 0..Campi() - 1 throws std::out_of_range.
+    [[nodiscard]] const std::string& NomeCampo(int campo) const;
+
+    /// A field of any row. A row or field that is not there throws std::out_of_range.
+    [[nodiscard]] const Valore& Cella(int riga, int campo) const;
+
+    /// A field of the row in hand; empty at BOF and EOF. A field that is not there throws std::out_of_range.
+    [[nodiscard]] const Valore& Campo(int campo) const;
+    [[nodiscard]] double Numero(int campo) const;     ///< the field as a number; empty is 0
+    [[nodiscard]] std::string Testo(int campo) const; ///< the field as plain text; empty is ""
+
+private:
+    struct Fonte {
+        std::filesystem::path cartella;
+        std::string query;
+    };
+
+    void Porta(int riga);
+
+    Fonte chiesta_;
+    Fonte inVigore_;
+    bool letto_ = false; ///< a Refresh has succeeded
+    EsitoQuery esito_;
+    int riga_ = -1;
+};
+
+/// A value as a number: a text by the rule of the entry boxes, nothing as 0.
+double NumeroDi(const Valore& v);
+
+/// A value as plain text: a number in its shortest form with the system's decimal character, without
+/// grouping.
+std::string TestoDi(const Valore& v);
+
+/// One step of the arrow keys and of the little move buttons: forward stays at the last row, back at the
+/// first. The caller then shows field 0 and lets events through.
+void MuoviRecord(Lettore& lettore, bool avanti);
+
+} // namespace sagomi
