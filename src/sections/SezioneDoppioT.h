@@ -284,16 +284,6 @@ public:
     double kZ();            ///< factor of Mz in the interaction, at most 1.5 [-]
     double kYfunz();        ///< the same as kY
     double kZfunz();        ///< the same as kZ
-
-private:
-    void Piatti();
-    void Contorno();
-    void Momenti();
-    void FlessioneY();
-    void FlessioneZ();
-    void Taglio();
-    SezioneGenerica& Calcolata(std::shared_ptr<SezioneGenerica>& sezione, const std::vector<double>& x,
-                               const std::vector<double>& y, std::int16_t n) const;
 };
 
 } // namespace sagomi
