@@ -262,15 +262,13 @@ private:
     [[nodiscard]] const RigaStriscia& Striscia(int i) const;
     [[nodiscard]] std::size_t Numero() const { return n_ > 0 ? static_cast<std::size_t>(n_) : 0; }
     [[nodiscard]] std::shared_ptr<Poligono> Stesso();
-    void Azzera();
-    void Baricentro();
+    static std::shared_ptr<Poligono> DaVertici(std::vector<double> x, std::vector<double> y);
+    void SommeTriangoli();
+    void BaricentroDegenere();
     void AssiPrincipali();
     void ModuliElastici();
-    [[nodiscard]] std::shared_ptr<Poligono> Meta(double y, double segno, const std::vector<bool>& sulTaglio,
-                                                 bool lungoX) const;
     [[nodiscard]] std::shared_ptr<Poligono> ParteTagliata(double a, double b, double c, double xP,
                                                           double yP) const;
-    [[nodiscard]] std::vector<double> CordeOrizzontali(double y) const;
     void ApreTabelle(std::int16_t n, double mezza);
 
     std::vector<double> x_, y_; ///< vertex 1 at [0]; never shorter than n_
