@@ -23,7 +23,7 @@ struct EsitoQuery {
 ///
 /// The row in hand is one of the rows, or lies before the first (BOF) or behind the last (EOF); with no rows
 /// both hold. There a field is empty and a move does what it can: nothing here stops the program.
-/// (The two are spelled Bof and Eof because the C library has a macro EOF.)
+/// (EOF_ is spelled so because the C library has a macro EOF.)
 class Lettore {
 public:
     /// Called once at the end of Refresh and of every move that ends at a row, with the row in hand set, also
@@ -43,8 +43,8 @@ public:
     /// and the query of the last Refresh that succeeded are then in force again.
     void Refresh();
 
-    [[nodiscard]] bool Bof() const { return esito_.righe.empty() || riga_ < 0; }
-    [[nodiscard]] bool Eof() const { return esito_.righe.empty() || riga_ >= Righe(); }
+    [[nodiscard]] bool BOF() const { return esito_.righe.empty() || riga_ < 0; }
+    [[nodiscard]] bool EOF_() const { return esito_.righe.empty() || riga_ >= Righe(); }
 
     void MoveFirst();
     void MoveLast();

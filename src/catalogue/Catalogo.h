@@ -1,0 +1,47 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "catalogue/Lettore.h"
+
+struct sqlite3;
+
+namespace sagomi {
+
+/// A workbook read once into an in-memory database: a table a sheet, named so that the queries run as they
+/// are written ([IPE$], ['L Uguali'$]). The first row gives the names of the fields, which are found without
+/// regard to capitals; numbers stay numbers, texts texts, empty cells are NULL. Rows without any value are
+/// passed over. The rowid of a record is the row of the sheet that it comes from, counted from 1.
+class Catalogo {
+public:
+    /// The catalogue of a workbook. While somebody holds it, it is read again only when the file has changed.
+    /// Throws ErroreCatalogo.
+    static std::shared_ptr<Catalogo> Apri(const std::filesystem::path& file);
+
+    /// Reads a workbook. Throws ErroreCatalogo.
+    explicit Catalogo(const std::filesystem::path& file);
+
+    /// Runs a query and fetches all of its rows. Throws ErroreCatalogo, with the file's name and what is
+    /// missing; nothing but a single SELECT is run.
+    [[nodiscard]] EsitoQuery Esegui(std::string_view query) const;
+
+private:
+    struct Chiude {
+        void operator()(sqlite3* db) const;
+    };
+
+    std::string nome_;
+    std::unique_ptr<sqlite3, Chiude> db_;
+};
+
+/// A file of a folder whatever the capitals of its name. Where there is none the name as asked for, so that
+/// an error can tell what was looked for.
+std::filesystem::path FileAccanto(const std::filesystem::path& cartella, std::string_view nome);
+
+/// Takes the right to write from a file, as far as the system lets. Never fails.
+void RendiSolaLettura(const std::filesystem::path& file) noexcept;
+
+} // namespace sagomi

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <vector>
+
+namespace sagomi {
+
+class Lettore;
+class SezioneDoppioT;
+
+/// One field of a row against what follows from the row's geometry, both in the unit of the table.
+struct VoceControllo {
+    int campo;         ///< position of the field
+    double calcolato;  ///< value from the outline
+    double tolleranza; ///< largest difference over the value of the table [-]
+};
+
+/// Tells the user when two values differ by more than `tol` times the first one. A value of 0 in the table is
+/// not compared.
+/// @param db    value of the table
+/// @param calc  value from the geometry
+/// @return true when the user was told
+bool ConfrontaValore(double db, double calc, double tol);
+
+/// Compares fields of the row in hand one after the other, each with its own message; nothing is changed.
+/// Does nothing at BOF and EOF.
+void ConfrontaVoci(const Lettore& riga, const std::vector<VoceControllo>& voci);
+
+/// What is compared of a rolled double-T, in order. The torsion and warping constants of tapered flanges rest
+/// on approximate formulas and are given more room. The section must have its outline: without one, or with
+/// one of no area, there is nothing to compare.
+std::vector<VoceControllo> VociLaminati(SezioneDoppioT& sezione);
+
+/// The value check of the rolled double-T screen, after each change of row.
+/// @param sezione  made of the row in hand, after InizializzaSezione
+void ControlloDatiLaminati(const Lettore& riga, SezioneDoppioT& sezione);
+
+} // namespace sagomi

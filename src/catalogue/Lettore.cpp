@@ -1,0 +1,124 @@
+#include "catalogue/Lettore.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "catalogue/Catalogo.h"
+#include "frame/Numeri.h"
+
+namespace sagomi {
+
+namespace {
+
+std::out_of_range Fuori(const char* cosa, int i, int n) {
+    return std::out_of_range(std::string(cosa) + " " + std::to_string(i) + " fuori da 0.." +
+                             std::to_string(n - 1));
+}
+
+} // namespace
+
+void Lettore::Refresh() {
+    EsitoQuery nuovo;
+    try {
+        nuovo = Catalogo::Apri(chiesta_.cartella)->Esegui(chiesta_.query);
+    } catch (...) {
+        if (letto_)
+            chiesta_ = inVigore_;
+        throw;
+    }
+    esito_ = std::move(nuovo);
+    inVigore_ = chiesta_;
+    letto_ = true;
+    riga_ = -1;
+    MoveFirst();
+}
+
+/// Every change of row ends here. The receiver is copied: it may plug in another one while it runs.
+void Lettore::Porta(int riga) {
+    riga_ = riga;
+    if (BOF() || EOF_())
+        return;
+    if (const auto avvisa = rigaCambiata)
+        avvisa();
+}
+
+void Lettore::MoveFirst() { Porta(0); }
+
+void Lettore::MoveLast() { Porta(Righe() - 1); }
+
+void Lettore::MoveNext() {
+    if (!EOF_())
+        Porta(riga_ + 1);
+}
+
+void Lettore::MovePrevious() {
+    if (!BOF())
+        Porta(riga_ - 1);
+}
+
+void Lettore::MoveTo(int riga) {
+    if (riga < 0 || riga >= Righe())
+        throw Fuori("riga", riga, Righe());
+    Porta(riga);
+}
+
+bool Lettore::CercaRecord(std::string_view nome) {
+    for (int i = 0; i < Righe(); ++i)
+        if (TestoDi(Cella(i, 0)) == nome) {
+            Porta(i);
+            return true;
+        }
+    MoveLast();
+    return false;
+}
+
+const std::string& Lettore::NomeCampo(int campo) const {
+    if (campo < 0 || campo >= Campi())
+        throw Fuori("campo", campo, Campi());
+    return esito_.campi[static_cast<std::size_t>(campo)];
+}
+
+const Valore& Lettore::Cella(int riga, int campo) const {
+    if (riga < 0 || riga >= Righe())
+        throw Fuori("riga", riga, Righe());
+    if (campo < 0 || campo >= Campi())
+        throw Fuori("campo", campo, Campi());
+    return esito_.righe[static_cast<std::size_t>(riga)][static_cast<std::size_t>(campo)];
+}
+
+const Valore& Lettore::Campo(int campo) const {
+    static const Valore vuoto;
+    return BOF() || EOF_() ? vuoto : Cella(riga_, campo);
+}
+
+double Lettore::Numero(int campo) const { return NumeroDi(Campo(campo)); }
+
+std::string Lettore::Testo(int campo) const { return TestoDi(Campo(campo)); }
+
+double NumeroDi(const Valore& v) {
+    if (const auto* numero = std::get_if<double>(&v))
+        return *numero;
+    const auto* testo = std::get_if<std::string>(&v);
+    return testo == nullptr ? 0 : ValoreNumerico(*testo);
+}
+
+std::string TestoDi(const Valore& v) {
+    if (const auto* testo = std::get_if<std::string>(&v))
+        return *testo;
+    const auto* numero = std::get_if<double>(&v);
+    return numero == nullptr ? std::string() : TestoPiano(*numero);
+}
+
+void MuoviRecord(Lettore& lettore, bool avanti) {
+    if (avanti) {
+        lettore.MoveNext();
+        if (lettore.EOF_())
+            lettore.MoveLast();
+    } else {
+        lettore.MovePrevious();
+        if (lettore.BOF())
+            lettore.MoveFirst();
+    }
+}
+
+} // namespace sagomi

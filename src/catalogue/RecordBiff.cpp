@@ -1,0 +1,150 @@
+#include "catalogue/RecordBiff.h"
+
+#include <bit>
+#include <cmath>
+#include <stdexcept>
+
+namespace sagomi {
+
+namespace {
+
+constexpr char32_t sostituto = 0xFFFD;
+
+/// Bytes that a lead byte announces and the bits that it brings; 0 for a byte that leads nothing.
+struct Testa {
+    int byte;
+    char32_t bit;
+    char32_t minimo; ///< below this the form is longer than it must be, which is not valid
+};
+
+Testa LeggiTesta(unsigned char c) {
+    if (c < 0x80)
+        return {1, c, 0};
+    if (c >= 0xC2 && c < 0xE0)
+        return {2, c & 0x1FU, 0x80};
+    if (c >= 0xE0 && c < 0xF0)
+        return {3, c & 0x0FU, 0x800};
+    if (c >= 0xF0 && c < 0xF5)
+        return {4, c & 0x07U, 0x10000};
+    return {0, sostituto, 0};
+}
+
+/// The character at `i`; moves `i` behind it, or by one byte where there is none.
+char32_t ProssimoCarattere(std::string_view testo, std::size_t& i) {
+    const Testa testa = LeggiTesta(static_cast<unsigned char>(testo[i]));
+    const std::size_t fine = i + static_cast<std::size_t>(testa.byte);
+    ++i;
+    if (testa.byte == 0 || fine > testo.size())
+        return sostituto;
+    char32_t c = testa.bit;
+    for (std::size_t j = i; j < fine; ++j) {
+        const auto segue = static_cast<unsigned char>(testo[j]);
+        if ((segue & 0xC0U) != 0x80U)
+            return sostituto;
+        c = (c << 6U) | (segue & 0x3FU);
+    }
+    if (c < testa.minimo || c > 0x10FFFF || (c >= 0xD800 && c < 0xE000))
+        return sostituto;
+    i = fine;
+    return c;
+}
+
+/// An integer that 30 bits with sign hold. A negative zero is none: its sign would be lost.
+bool InteroDaRk(double v) {
+    return std::trunc(v) == v && v >= -536870912.0 && v <= 536870911.0 && !(v == 0 && std::signbit(v));
+}
+
+std::uint32_t RkIntero(double v, unsigned centesimi) {
+    return (static_cast<std::uint32_t>(static_cast<std::int32_t>(v)) << 2U) | 2U | centesimi;
+}
+
+/// The lower 34 bits are zero, so the upper 30 say it all.
+bool BastanoTrentaBit(double v) { return (std::bit_cast<std::uint64_t>(v) & 0x3FFFFFFFFULL) == 0; }
+
+std::uint32_t RkReale(double v, unsigned centesimi) {
+    return static_cast<std::uint32_t>(std::bit_cast<std::uint64_t>(v) >> 32U) | centesimi;
+}
+
+} // namespace
+
+Ottetti& Ottetti::U8(unsigned v) {
+    dati_.push_back(static_cast<std::uint8_t>(v & 0xFFU));
+    return *this;
+}
+
+Ottetti& Ottetti::U16(unsigned v) { return U8(v).U8(v >> 8U); }
+
+Ottetti& Ottetti::U32(std::uint32_t v) { return U16(v).U16(v >> 16U); }
+
+Ottetti& Ottetti::F64(double v) {
+    const auto bit = std::bit_cast<std::uint64_t>(v);
+    return U32(static_cast<std::uint32_t>(bit)).U32(static_cast<std::uint32_t>(bit >> 32U));
+}
+
+Ottetti& Ottetti::Testo(std::u16string_view t, std::size_t da, std::size_t n, bool stretto) {
+    for (const char16_t c : t.substr(da, n)) {
+        if (stretto)
+            U8(c);
+        else
+            U16(c);
+    }
+    return *this;
+}
+
+std::uint32_t FlussoBiff::Record(Biff genere, const Ottetti& corpo) {
+    if (corpo.size() > massimoRecord)
+        throw std::length_error("record BIFF troppo lungo");
+    const std::uint32_t posizione = Posizione();
+    const Ottetti testa =
+        Ottetti().U16(static_cast<unsigned>(genere)).U16(static_cast<unsigned>(corpo.size()));
+    dati_.insert(dati_.end(), testa.dati().begin(), testa.dati().end());
+    dati_.insert(dati_.end(), corpo.dati().begin(), corpo.dati().end());
+    return posizione;
+}
+
+void FlussoBiff::Correggi(std::uint32_t posizione, std::uint32_t valore) {
+    for (unsigned i = 0; i < 4; ++i)
+        dati_.at(posizione + i) = static_cast<std::uint8_t>(valore >> (8 * i));
+}
+
+void FlussoBiff::AllungaA(std::size_t lunghezza) {
+    if (dati_.size() < lunghezza)
+        dati_.resize(lunghezza);
+}
+
+std::u16string Utf16DaUtf8(std::string_view testo) {
+    std::u16string u;
+    u.reserve(testo.size());
+    for (std::size_t i = 0; i < testo.size();) {
+        const char32_t c = ProssimoCarattere(testo, i);
+        if (c < 0x10000) {
+            u.push_back(static_cast<char16_t>(c));
+        } else {
+            u.push_back(static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10U)));
+            u.push_back(static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FFU)));
+        }
+    }
+    return u;
+}
+
+bool EntraInUnByte(std::u16string_view testo) {
+    for (const char16_t c : testo)
+        if (c > 0xFF)
+            return false;
+    return true;
+}
+
+std::optional<std::uint32_t> CodificaRk(double valore) {
+    if (!std::isfinite(valore))
+        return std::nullopt;
+    if (InteroDaRk(valore))
+        return RkIntero(valore, 0);
+    if (BastanoTrentaBit(valore))
+        return RkReale(valore, 0);
+    const double centesimi = std::round(valore * 100);
+    if (InteroDaRk(centesimi) && centesimi / 100 == valore)
+        return RkIntero(centesimi, 1);
+    return std::nullopt;
+}
+
+} // namespace sagomi
