@@ -1,0 +1,132 @@
+#include "frame/FileAtomico.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "Ambiente.h"
+
+using namespace sagomi;
+using prove::LeggeByte;
+using prove::ScriveByte;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A disk with room for a few bytes more.
+class DiscoPieno {
+public:
+    explicit DiscoPieno(rlim_t byte) {
+        getrlimit(RLIMIT_FSIZE, &prima_);
+        segnale_ = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit ora{byte, prima_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &ora);
+    }
+    ~DiscoPieno() {
+        setrlimit(RLIMIT_FSIZE, &prima_);
+        std::signal(SIGXFSZ, segnale_);
+    }
+    DiscoPieno(const DiscoPieno&) = delete;
+    DiscoPieno& operator=(const DiscoPieno&) = delete;
+
+private:
+    rlimit prima_{};
+    void (*segnale_)(int);
+};
+
+class FileAtomicoTest : public testing::Test {
+protected:
+    prove::CartellaDiProva cartella;
+    fs::path percorso = cartella.percorso / "dati.txt";
+};
+
+TEST_F(FileAtomicoTest, ReplacesTheOldFileAndLeavesNothingElse) {
+    ScriveByte(percorso, "vecchio");
+    EXPECT_TRUE(ScriveAtomico(percorso, std::string("nu\0ovo", 6)));
+    EXPECT_EQ(LeggeByte(percorso), std::string("nu\0ovo", 6));
+    EXPECT_EQ(cartella.Voci(), 1);
+}
+
+TEST_F(FileAtomicoTest, TheOldFileStaysUntilTheEnd) {
+    ScriveByte(percorso, "vecchio");
+    {
+        FileAtomico file;
+        ASSERT_TRUE(file.Apre(percorso));
+        EXPECT_EQ(LeggeByte(percorso), "vecchio");
+        EXPECT_EQ(cartella.Voci(), 2);
+    }
+    EXPECT_EQ(LeggeByte(percorso), "vecchio");
+    EXPECT_EQ(cartella.Voci(), 1);
+}
+
+TEST_F(FileAtomicoTest, AFullDiskLosesNothing) {
+    ScriveByte(percorso, "vecchio");
+    FileAtomico file;
+    ASSERT_TRUE(file.Apre(percorso));
+    {
+        const DiscoPieno pieno(10);
+        EXPECT_FALSE(file.Conferma(std::string(1000, 'x')));
+    }
+    EXPECT_EQ(LeggeByte(percorso), "vecchio");
+    EXPECT_EQ(cartella.Voci(), 1);
+}
+
+TEST_F(FileAtomicoTest, KeepsTheRightsOfTheOldFile) {
+    ScriveByte(percorso, "vecchio");
+    fs::permissions(percorso, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    ASSERT_TRUE(ScriveAtomico(percorso, "nuovo"));
+    EXPECT_EQ(fs::status(percorso).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+}
+
+TEST_F(FileAtomicoTest, ANewFileHasTheRightsOfAnyOther) {
+    const mode_t maschera = umask(027);
+    EXPECT_TRUE(ScriveAtomico(percorso, "nuovo"));
+    umask(maschera);
+    EXPECT_EQ(fs::status(percorso).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+}
+
+TEST_F(FileAtomicoTest, WritesThroughALink) {
+    ScriveByte(percorso, "vecchio");
+    const fs::path legame = cartella.percorso / "legame.txt";
+    fs::create_symlink(percorso, legame);
+    EXPECT_TRUE(ScriveAtomico(legame, "nuovo"));
+    EXPECT_TRUE(fs::is_symlink(legame));
+    EXPECT_EQ(LeggeByte(percorso), "nuovo");
+}
+
+TEST_F(FileAtomicoTest, RefusesWhatIsNoFileToWrite) {
+    FileAtomico file;
+    EXPECT_FALSE(file.Apre(cartella.percorso));                     // a folder
+    EXPECT_FALSE(file.Apre(cartella.percorso / "manca" / "x.txt")); // no such folder
+    EXPECT_FALSE(file.Apre("/dev/null"));                           // a device must not be replaced
+    EXPECT_FALSE(file.Apre(""));
+    EXPECT_FALSE(file.Conferma("byte"));
+    EXPECT_EQ(cartella.Voci(), 0);
+}
+
+TEST_F(FileAtomicoTest, RefusesAReadOnlyFile) {
+    if (geteuid() == 0)
+        GTEST_SKIP() << "root writes everything";
+    ScriveByte(percorso, "vecchio");
+    fs::permissions(percorso, fs::perms::owner_read);
+    EXPECT_FALSE(ScriveAtomico(percorso, "nuovo"));
+}
+
+TEST_F(FileAtomicoTest, CanBeMoved) {
+    FileAtomico primo;
+    ASSERT_TRUE(primo.Apre(percorso));
+    FileAtomico secondo(std::move(primo));
+    FileAtomico terzo;
+    ASSERT_TRUE(terzo.Apre(cartella.percorso / "altro.txt"));
+    terzo = std::move(secondo); // gives up its own file
+    EXPECT_TRUE(terzo.Conferma("nuovo"));
+    EXPECT_EQ(LeggeByte(percorso), "nuovo");
+    EXPECT_EQ(cartella.Voci(), 1);
+}
+
+} // namespace
