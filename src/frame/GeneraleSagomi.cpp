@@ -65,6 +65,7 @@ void RipristinaGenerale() {
     ImpostazioniPredefinite();
     ImpostaGamma();
     PathProgramma.clear();
+    PathLavoro.clear();
     SezioneCorrente = {};
     Versione.clear();
     ScreenAttivo.clear();

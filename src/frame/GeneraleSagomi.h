@@ -36,14 +36,15 @@ Tabella1<Singolo> fyPredefinite();
 Tabella1<Singolo> fuPredefinite();
 Tabella1<Singolo> ClassiBulloniPredefinite();
 
-inline std::filesystem::path PathProgramma;   ///< folder of the program and of its files
-inline RiferimentoSezione SezioneCorrente;    ///< what every detail screen reads
-inline std::int16_t NumAcciai = 3;            ///< number of steel grades
+inline std::filesystem::path PathProgramma; ///< folder of the program and of its files
+inline std::filesystem::path PathLavoro;    ///< folder of the file last opened or saved
+inline RiferimentoSezione SezioneCorrente;  ///< what every detail screen reads
+inline std::int16_t NumAcciai = 3;          ///< number of steel grades
 inline Tabella1<std::string> NomeAcciaio = NomiAcciaiPredefiniti(); ///< 1..NumAcciai
-inline Tabella1<Singolo> fyAcciaio = fyPredefinite();     ///< yield strength [N/mm2], 1..NumAcciai
-inline Tabella1<Singolo> fuAcciaio = fuPredefinite();     ///< ultimate strength [N/mm2], 1..NumAcciai
-inline std::int16_t IndiceAcciaio = 0;        ///< list index of the grade in use, from 0
-inline std::int16_t NumClassiBulloni = 7;     ///< number of bolt classes
+inline Tabella1<Singolo> fyAcciaio = fyPredefinite();               ///< yield strength [N/mm2], 1..NumAcciai
+inline Tabella1<Singolo> fuAcciaio = fuPredefinite(); ///< ultimate strength [N/mm2], 1..NumAcciai
+inline std::int16_t IndiceAcciaio = 0;                ///< list index of the grade in use, from 0
+inline std::int16_t NumClassiBulloni = 7;             ///< number of bolt classes
 inline Tabella1<Singolo> ClasseBullone = ClassiBulloniPredefinite(); ///< 4.6 to 10.9, 1..NumClassiBulloni
 inline std::int16_t IndiceClasseBullone = 0;  ///< list index of the bolt class in use, from 0
 inline Singolo fck = 25;                      ///< concrete strength of composite beams [N/mm2]
@@ -56,8 +57,8 @@ inline Singolo GammaM2 = 1.25;                ///< divides resistances of connec
 inline Singolo GammaM0Altro;                  ///< the user's own factors, kept under every code
 inline Singolo GammaM1Altro;
 inline Singolo GammaM2Altro;
-inline std::string Versione;     ///< of the settings file that was read
-inline std::string ScreenAttivo; ///< name of the screen last activated
+inline std::string Versione;            ///< of the settings file that was read
+inline std::string ScreenAttivo;        ///< name of the screen last activated
 inline bool SceltaSagomoGiunto = false; ///< a section screen was reached from the joint screen, to pick
 inline bool ServerAttivo = false;       ///< driven by an automation client
 inline OsservatoreSezione* OggettoServer = nullptr;

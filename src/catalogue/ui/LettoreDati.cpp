@@ -1,0 +1,31 @@
+#include "catalogue/ui/LettoreDati.h"
+
+#include <QScopeGuard>
+
+namespace sagomi {
+
+LettoreDati::LettoreDati(QObject* parent) : QObject(parent), modello_(lettore_) {
+    lettore_.rigaCambiata = [this] {
+        if (inCambio_)
+            annuncio_ = true; // the views must know the new rows before anybody asks them
+        else
+            emit rigaCambiata();
+    };
+}
+
+void LettoreDati::Refresh() {
+    annuncio_ = false;
+    {
+        inCambio_ = true;
+        modello_.CominciaCambio();
+        const auto done = qScopeGuard([this] {
+            inCambio_ = false;
+            modello_.FinisceCambio();
+        });
+        lettore_.Refresh();
+    }
+    if (annuncio_)
+        emit rigaCambiata();
+}
+
+} // namespace sagomi

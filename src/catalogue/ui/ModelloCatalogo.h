@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include <vector>
+
+#include "catalogue/Lettore.h"
+
+namespace sagomi {
+
+/// The rows of a reader as a table model: every row, with numbers in the picture of their column.
+class ModelloCatalogo : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit ModelloCatalogo(const Lettore& lettore, QObject* parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    /// Picture of a column's numbers ("#,##0.00"); an empty one shows the text of the field.
+    void ImpostaFigura(int column, const std::string& figura);
+
+    /// A field with all its figures, for other programs to read: no grouping, the decimal separator in use.
+    [[nodiscard]] QString TestoIntero(int row, int column) const;
+
+    /// To be called around a change of the rows.
+    void CominciaCambio() { beginResetModel(); }
+    void FinisceCambio() { endResetModel(); }
+
+private:
+    const Lettore& lettore_;
+    std::vector<std::string> figure_;
+};
+
+} // namespace sagomi

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QObject>
+
+#include <functional>
+#include <string_view>
+
+namespace sagomi {
+
+/// Moves the focus to the next control in tab order that takes it, and selects its text. Controls that refuse
+/// are skipped; at the end of the order the focus stays.
+void FuocoSuccessivo(QWidget* maschera);
+
+/// Selects a text box's whole contents.
+void SelezionaTesto(QLineEdit* casella);
+
+/// Gives the focus to a box and selects its text.
+void FuocoSu(QLineEdit* casella);
+
+/// Number of a box by the tolerant rule of the screens: empty and text are 0.
+double NumeroIn(const QLineEdit* casella);
+
+/// Moves a number between a box and a variable: "L" reads the box, any other mode writes the plain number.
+void LeggeScriveTesto(std::string_view modo, QLineEdit* controllo, double& valore);
+
+/// The same for a text, without conversion.
+void LeggeScriveTesto(std::string_view modo, QLineEdit* controllo, std::string& valore);
+
+/// The manners of an entry box: entering it selects its text (by mouse too), Enter goes on, and the keypad's
+/// decimal key types the decimal separator in use. Every other character passes.
+class FiltroCampi : public QObject {
+    Q_OBJECT
+public:
+    /// What Enter does in a box; false leaves it to FuocoSuccessivo.
+    using RegolaInvio = std::function<bool(QLineEdit*)>;
+
+    /// @param maschera the screen whose tab order Enter follows; owns the filter
+    explicit FiltroCampi(QWidget* maschera, RegolaInvio invio = {});
+
+    void Osserva(QLineEdit* casella);
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    QWidget* maschera_;
+    RegolaInvio invio_;
+};
+
+/// Checks the separators of the system's locale with a hidden box, once at the start, and takes them over.
+/// @param silenzioso leaves the warning about comma and point out
+/// @param esito receives whether the check passed
+void SeparatoriControlla(QLineEdit* casella, bool silenzioso = false, bool* esito = nullptr);
+
+} // namespace sagomi

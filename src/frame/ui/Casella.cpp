@@ -1,0 +1,44 @@
+#include "frame/ui/Casella.h"
+
+#include <QApplication>
+#include <QEvent>
+
+namespace sagomi {
+
+Casella::Casella(QWidget* parent) : QLineEdit(parent) {
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void Casella::ImpostaCaratteri(int n) {
+    caratteri_ = n;
+    updateGeometry();
+}
+
+void Casella::ImpostaRisultato(bool risultato) {
+    setReadOnly(risultato);
+    setFocusPolicy(risultato ? Qt::ClickFocus : Qt::StrongFocus);
+    Colora();
+}
+
+QSize Casella::sizeHint() const {
+    const QSize line = QLineEdit::sizeHint();
+    return {fontMetrics().horizontalAdvance(u'0') * caratteri_ + 14, line.height()};
+}
+
+void Casella::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        updateGeometry();
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        Colora();
+}
+
+void Casella::Colora() {
+    QPalette colours;
+    if (isReadOnly())
+        colours.setBrush(QPalette::Base, QApplication::palette().brush(QPalette::Window));
+    setPalette(colours);
+}
+
+} // namespace sagomi

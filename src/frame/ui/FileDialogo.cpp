@@ -1,0 +1,88 @@
+#include "frame/ui/FileDialogo.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "frame/FileDati.h"
+#include "frame/GeneraleSagomi.h"
+#include "frame/Messaggi.h"
+
+namespace sagomi {
+
+namespace {
+
+QString Utf8(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// "Text|*.a|Text|*.b" as the toolkit wants it; the lower case pattern goes along, for systems that tell
+/// capitals apart.
+QStringList FiltriQt(const QString& filter) {
+    QStringList result;
+    const QStringList pieces = filter.split(u'|');
+    for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
+        const QString bare = pieces[i].section(QLatin1String(" (*."), 0, 0);
+        const QString pattern = pieces[i + 1];
+        QStringList patterns{pattern == QLatin1String("*.*") ? QStringLiteral("*") : pattern};
+        for (const QString& variant : {pattern.toLower(), pattern.toUpper()})
+            if (pattern != QLatin1String("*.*") && !patterns.contains(variant))
+                patterns << variant;
+        result << bare + QLatin1String(" (") + patterns.join(u' ') + u')';
+    }
+    return result;
+}
+
+QString ScegliColDialogo(QWidget* parent, std::string_view mode, const QString& filter, int index,
+                         const QString& proposal) {
+    QFileDialog dialog(parent);
+    const bool open = mode == "L";
+    dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    const QStringList filters = FiltriQt(filter);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(index - 1));
+    if (!PathLavoro.empty())
+        dialog.setDirectory(QString::fromStdString(PathLavoro.string()));
+    if (!proposal.contains(u'*'))
+        dialog.selectFile(proposal);
+    if (!open)
+        dialog.setDefaultSuffix(proposal.section(u'.', -1));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+SceltaFile& Scelta() {
+    static SceltaFile chosen = ScegliColDialogo;
+    return chosen;
+}
+
+} // namespace
+
+void ImpostaSceltaFile(SceltaFile scelta) { Scelta() = scelta ? std::move(scelta) : ScegliColDialogo; }
+
+bool FileDialogo(SchermoConFile& schermo, std::string_view modo, std::string_view descrizione,
+                 std::string_view estensione, QString& file) {
+    const QString extension = Utf8(estensione);
+    const QString proposal = file.isEmpty() ? QLatin1String("*.") + extension : file;
+    QString chosen = Scelta()(schermo.Finestra(), modo, Utf8(FiltroFileDialogo(descrizione, estensione)),
+                              indiceFiltroFileDialogo, proposal);
+    if (chosen.isEmpty())
+        return false;
+    if (modo == "S" && QFileInfo(chosen).suffix().isEmpty())
+        chosen += u'.' + extension;
+    const std::int16_t number = ApreFile(chosen.toStdString(), modo);
+    if (number == 0) {
+        Avvisa(std::string(modo == "S" ? "Non è possibile scrivere il file "
+                                       : "Non è possibile leggere il file ") +
+               chosen.toStdString());
+        return false;
+    }
+    schermo.FileLeggeScrive(modo, number);
+    if (!ChiudeFile(number))
+        return false;
+    file = chosen;
+    schermo.Finestra()->setWindowTitle(schermo.PrefissoTitolo() + QFileInfo(chosen).fileName());
+    PathLavoro = QFileInfo(chosen).absolutePath().toStdString();
+    return true;
+}
+
+} // namespace sagomi

@@ -1,0 +1,97 @@
+#include "frame/ui/Guida.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QKeyEvent>
+#include <QTextBrowser>
+
+#include "frame/GeneraleSagomi.h"
+#include "frame/Messaggi.h"
+#include "frame/ui/NavigaSchermi.h"
+
+namespace sagomi {
+
+namespace {
+
+QString fileInForce; // NOLINT: the help file set by the active screen
+
+/// A window of its own, above whatever asked for it; Esc closes it.
+class FinestraGuida : public QTextBrowser {
+public:
+    FinestraGuida() {
+        setObjectName(QStringLiteral("FinestraGuida"));
+        setWindowTitle(QObject::tr("Guida"));
+        setOpenExternalLinks(false);
+        resize(640, 560);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Escape)
+            hide();
+        else
+            QTextBrowser::keyPressEvent(event);
+    }
+};
+
+QString AccantoAlProgramma(const QString& file) {
+    const QDir folder(QString::fromStdString(PathProgramma.string()));
+    const QStringList names = folder.entryList(QDir::Files);
+    for (const QString& name : names)
+        if (name.compare(file, Qt::CaseInsensitive) == 0)
+            return folder.filePath(name);
+    return {};
+}
+
+QTextBrowser& Finestra() {
+    static auto* window = new FinestraGuida; // lives to the end of the run, like every screen
+    return *window;
+}
+
+/// Name of the control in hand, without the index of its array.
+QString ArgomentoInMano() {
+    const QWidget* w = QApplication::focusWidget();
+    while (w != nullptr && w->objectName().isEmpty())
+        w = w->parentWidget();
+    if (w == nullptr)
+        return {};
+    return w->objectName().section(u'_', 0, -2).isEmpty() || !w->objectName().back().isDigit()
+               ? w->objectName()
+               : w->objectName().section(u'_', 0, -2);
+}
+
+} // namespace
+
+void Guida::Installa() {
+    static Guida filter;
+    qApp->installEventFilter(&filter);
+}
+
+void Guida::ImpostaFile(const QString& file) { fileInForce = file; }
+
+QString Guida::File() { return fileInForce; }
+
+void Guida::Apri(const QString& file, const QString& argomento) {
+    const QString path = AccantoAlProgramma(file);
+    QFile help(path);
+    if (path.isEmpty() || !help.open(QIODevice::ReadOnly)) {
+        Avvisa("Il file della guida " + file.toStdString() + " non è accanto al programma.");
+        return;
+    }
+    QTextBrowser& window = Finestra();
+    window.setHtml(QString::fromUtf8(help.readAll()));
+    window.show();
+    window.raise();
+    window.activateWindow();
+    window.scrollToAnchor(argomento);
+}
+
+bool Guida::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1)
+        return QObject::eventFilter(object, event);
+    Apri(fileInForce.isEmpty() ? QStringLiteral("Sagomi.hlp") : fileInForce, ArgomentoInMano());
+    return true;
+}
+
+} // namespace sagomi

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace sagomi {
+
+/// Plugs message boxes into the message port: each stands at the place where it happens and the caller goes
+/// on after it. Boxes are children of the active window, their texts plain.
+void CollegaMessaggiQt();
+
+/// One kind of line break: CR, LF and CR LF become LF; trailing breaks go.
+QString ConAcapi(QString testo);
+
+} // namespace sagomi

@@ -1,0 +1,26 @@
+#include "frame/ui/Protetto.h"
+
+#include <exception>
+#include <system_error>
+
+#include "frame/Messaggi.h"
+
+namespace sagomi {
+
+DescrizioneErrore ErroreInVolo() {
+    try {
+        throw;
+    } catch (const std::system_error& e) {
+        return {e.code().value(), e.what()};
+    } catch (const std::exception& e) {
+        return {0, e.what()};
+    } catch (...) {
+        return {0, "errore sconosciuto"};
+    }
+}
+
+void AvvisaErrore(const std::string& prefisso, const DescrizioneErrore& e) {
+    Avvisa(prefisso + " n° " + QString::number(e.numero).toStdString() + " - " + e.testo);
+}
+
+} // namespace sagomi

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QList>
+#include <QMainWindow>
+
+namespace sagomi {
+
+/// A window of the program. It is created on first use, lives to the end of the run and keeps its entries
+/// while it is hidden. NavigaSchermi alone shows screens and tells them that they have become active.
+class Schermo : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit Schermo(const QString& nome);
+
+    /// What the screen does each time it becomes the active one.
+    virtual void AllAttivazione() {}
+
+    /// Help file of the screen, looked up beside the program.
+    [[nodiscard]] virtual QString FileGuida() const { return QStringLiteral("Sagomi.hlp"); }
+
+    /// The screen that opened this one; closing goes back to it.
+    Schermo* origine = nullptr;
+
+    /// The controls Nome_0, Nome_1, ... in order, up to the first index that is missing.
+    template <typename T> [[nodiscard]] QList<T*> Vettore(const QString& nome) const {
+        QList<T*> controls;
+        while (auto* control = findChild<T*>(nome + u'_' + QString::number(controls.size())))
+            controls.append(control);
+        return controls;
+    }
+
+    /// Size that shows the whole content, with menus and status bar.
+    [[nodiscard]] QSize DimensioneContenuto() const;
+
+protected:
+    /// To be called once the controls stand: where the window is smaller than its content, the content
+    /// scrolls; labels show plain text; Enter presses the button that has the focus.
+    void PreparaContenuto();
+    /// Sizes the window to its content, and to the given size where that is larger, inside the screen.
+    void DimensionaIniziale(QSize almeno);
+
+    /// Hides the screen and goes back to the one that it came from.
+    void closeEvent(QCloseEvent* event) override;
+    /// Esc leaves a screen that was opened from another.
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace sagomi

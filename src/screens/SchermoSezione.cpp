@@ -1,0 +1,223 @@
+#include "screens/SchermoSezione.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+
+#include "frame/GeneraleSagomi.h"
+#include "frame/Messaggi.h"
+#include "frame/Numeri.h"
+#include "frame/ui/Guida.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "screens/FrmInform.h"
+#include "screens/GeneraleSchermi.h"
+#include "screens/frmGamma.h"
+#include "sections/SezioneDoppioT.h"
+
+namespace sagomi {
+
+namespace {
+
+/// Fonts of old screens that are drawn for small sizes only.
+double CorpoScalato(const QFont& font, double ratio) {
+    const double size = font.pointSizeF() * ratio;
+    const bool small =
+        font.family() == QLatin1String("Small Fonts") || font.family() == QLatin1String("ScriptS");
+    return small ? std::clamp(size, 2.0, 7.0) : size;
+}
+
+QString Conta(qsizetype n, const char* one, const char* many) {
+    return QString::number(n) + u' ' + QString::fromLatin1(n == 1 ? one : many);
+}
+
+} // namespace
+
+SchermoSezione::SchermoSezione(const QString& nome) : Schermo(nome), Data1(new LettoreDati(this)) {
+    Data1->setObjectName(QStringLiteral("Data1"));
+}
+
+void SchermoSezione::CollegaControlli() {
+    DBGrid1 = findChild<GrigliaCatalogo*>(QStringLiteral("DBGrid1"));
+    TxtProf = Vettore<QLineEdit>(QStringLiteral("TxtProf"));
+    ComboTipoAcciaio = findChild<QComboBox*>(QStringLiteral("ComboTipoAcciaio"));
+    Txt_fy = findChild<QLineEdit*>(QStringLiteral("Txt_fy"));
+    Txt_fu = findChild<QLineEdit*>(QStringLiteral("Txt_fu"));
+    Txt_L0 = Vettore<QLineEdit>(QStringLiteral("Txt_L0"));
+    TxtNsd = findChild<QLineEdit*>(QStringLiteral("TxtNsd"));
+    ChkTipo = Vettore<QCheckBox>(QStringLiteral("ChkTipo"));
+    OptionOrdina = Vettore<QRadioButton>(QStringLiteral("OptionOrdina"));
+    cmdSceltaSagomoGiunto = findChild<QPushButton*>(QStringLiteral("cmdSceltaSagomoGiunto"));
+    NormativaMain = findChild<QAction*>(QStringLiteral("NormativaMain"));
+    barra_ = new QLabel(this);
+    barra_->setObjectName(QStringLiteral("LblBarra"));
+    statusBar()->addWidget(barra_);
+    DBGrid1->Collega(Data1);
+    CollegaMenu();
+    CollegaTabella();
+    CollegaDati();
+    PreparaContenuto();
+    for (QAbstractButton* button : findChildren<QAbstractButton*>())
+        if (qobject_cast<QRadioButton*>(button) == nullptr)
+            button->installEventFilter(this); // their arrow keys belong to the rows
+}
+
+void SchermoSezione::CollegaMenu() {
+    if (auto* quit = findChild<QAction*>(QStringLiteral("mnuFileItem_0")))
+        Collega(quit, &QAction::triggered, this, [] { ChiudiProgramma(); });
+    Collega(NormativaMain, &QAction::triggered, this,
+            [this] { NavigaSchermi::Unico().Prendi<frmGamma>().Apri(*this); });
+    Collega(findChild<QAction*>(QStringLiteral("mnuHelp_0")), &QAction::triggered, this,
+            [this] { Guida::Apri(FileGuida()); });
+    Collega(findChild<QAction*>(QStringLiteral("mnuHelp_1")), &QAction::triggered, this,
+            [this] { NavigaSchermi::Unico().Prendi<FrmInform>().Apri(*this); });
+}
+
+void SchermoSezione::CollegaTabella() {
+    Collega(Pulsante("AggiornaTabella"), &QPushButton::clicked, this, [this] { CambioFamiglia(*this); });
+    for (QRadioButton* option : OptionOrdina)
+        Collega(option, &QRadioButton::toggled, this, [this](bool on) {
+            if (on && !CaricaForm)
+                CambioFamiglia(*this);
+        });
+}
+
+void SchermoSezione::CollegaDati() {
+    Collega(ComboTipoAcciaio, &QComboBox::activated, this, [this] { AcciaioScelto(); });
+    Collega(Txt_fy, &QLineEdit::textChanged, this, [this] { AcciaioCambiato(*this); });
+    Collega(Txt_fu, &QLineEdit::textChanged, this, [this] {
+        const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
+        if (!CaricaForm && RigaInMano() && section != nullptr)
+            (*section)->fu = NumeroIn(Txt_fu);
+    });
+    for (int i = 0; i < Txt_L0.size(); ++i)
+        Collega(Txt_L0[i], &QLineEdit::textChanged, this, [this, i] { LunghezzaCambiata(i); });
+    auto* entries = new FiltroCampi(this, [this](QLineEdit* box) { return Invio(box); });
+    for (QLineEdit* box : findChildren<QLineEdit*>())
+        if (!box->isReadOnly() && box->parentWidget() != ComboTipoAcciaio)
+            entries->Osserva(box);
+}
+
+QPushButton* SchermoSezione::Pulsante(const char* nome) const {
+    return findChild<QPushButton*>(QString::fromLatin1(nome));
+}
+
+void SchermoSezione::LegaRiga() {
+    Collega(Data1, &LettoreDati::rigaCambiata, this, [this] { RigaNuova(); });
+    if (RigaInMano())
+        RigaNuova();
+}
+
+void SchermoSezione::RigaNuova() {
+    TxtProf[0]->setText(QString::fromStdString(Data1->Recordset().Testo(0)));
+    RecordCambiato(*this, 0);
+}
+
+void SchermoSezione::AcciaioScelto() {
+    IndiceAcciaio = static_cast<std::int16_t>(ComboTipoAcciaio->currentIndex());
+    const QString fy = QString::fromStdString(TestoPiano(fyAcciaio[IndiceAcciaio + 1]));
+    const bool same = Txt_fy->text() == fy; // an equal text tells nobody that it has changed
+    Txt_fy->setText(fy);
+    Txt_fu->setText(QString::fromStdString(TestoPiano(fuAcciaio[IndiceAcciaio + 1])));
+    if (same)
+        AcciaioCambiato(*this);
+}
+
+void SchermoSezione::DatiRisultati() {
+    Leggedati();
+    Risultati();
+}
+
+bool SchermoSezione::RigaInMano() const { return !Data1->BOF() && !Data1->EOF_(); }
+
+void SchermoSezione::SvuotaRisultati() {}
+
+void SchermoSezione::LunghezzaCambiata(int index) {
+    if (CaricaForm || !RigaInMano())
+        return;
+    if (index != 0 && index != 1) {
+        Avvisa("Errore in L0");
+        return;
+    }
+    constexpr double m_a_mm = 1000;
+    if (const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente))
+        (index == 0 ? (*section)->L0y : (*section)->L0z) = NumeroIn(Txt_L0[index]) * m_a_mm;
+    Risultati();
+}
+
+void SchermoSezione::AllAttivazione() { AttivaForm(*this); }
+
+void SchermoSezione::lblVplRd(bool visibile) { Pulsante("lblVplRd")->setVisible(visibile); }
+
+bool SchermoSezione::Invio(QLineEdit* /*casella*/) { return false; }
+
+void SchermoSezione::AggiornaBarraDiStato() {
+    const auto families = QString::fromStdString(Data1->RecordSource()).count(QLatin1String("FROM ["));
+    const int rows = Data1->Recordset().Righe();
+    barra_->setText(rows == 0 ? tr("Nessun sagomo")
+                              : Conta(rows, "sagomo", "sagomi") + tr(" di ") +
+                                    Conta(families, "famiglia", "famiglie"));
+}
+
+void SchermoSezione::ScalaControlli(double larghezza, double altezza) {
+    if (caratteriIniziali_.empty())
+        for (QWidget* w : findChildren<QWidget*>())
+            if (!qobject_cast<QMenu*>(w) && !qobject_cast<QMenuBar*>(w) && w->window() == this)
+                caratteriIniziali_.emplace(w, w->font());
+    ComboTipoAcciaio->setFixedHeight(ComboTipoAcciaio->height());
+    for (const auto& [widget, initial] : caratteriIniziali_) {
+        QFont font = initial;
+        if (altezza != 1)
+            font.setPointSizeF(CorpoScalato(initial, altezza));
+        widget->setFont(font);
+    }
+    DBGrid1->Scala(larghezza, altezza);
+}
+
+void SchermoSezione::closeEvent(QCloseEvent* event) {
+    event->accept();
+    ChiudiProgramma();
+}
+
+bool SchermoSezione::FrecciaDiRiga(int key) {
+    if (key != Qt::Key_Up && key != Qt::Key_Down)
+        return false;
+    MuoviRecord(Data1->Recordset(), key == Qt::Key_Down);
+    return true;
+}
+
+void SchermoSezione::keyPressEvent(QKeyEvent* event) {
+    if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier)
+        if (FrecciaDiRiga(event->key()))
+            return;
+    Schermo::keyPressEvent(event);
+}
+
+bool SchermoSezione::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && FrecciaDiRiga(static_cast<QKeyEvent*>(event)->key()))
+        return true;
+    return Schermo::eventFilter(object, event);
+}
+
+void SchermoSezione::changeEvent(QEvent* event) {
+    Schermo::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange)
+        return;
+    attendeMisura_ = isMaximized() && !isMinimized(); // the new size arrives after the new state
+    if (!attendeMisura_ || ridimensiona.minimizzata)
+        Protetto("Errore", [this] { RidimensionaForm(*this); });
+}
+
+void SchermoSezione::resizeEvent(QResizeEvent* event) {
+    Schermo::resizeEvent(event);
+    if (!attendeMisura_ || !isMaximized())
+        return;
+    attendeMisura_ = false;
+    Protetto("Errore", [this] { RidimensionaForm(*this); });
+}
+
+} // namespace sagomi

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <map>
+#include <string>
+
+#include "catalogue/ui/GrigliaCatalogo.h"
+#include "catalogue/ui/LettoreDati.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/Schermo.h"
+#include "sections/MostraVplRd.h"
+
+class QAction;
+class QLabel;
+
+namespace sagomi {
+
+/// A main screen: the catalogue table of a family of sections, what the user types, what the section answers.
+/// The routines of GeneraleSchermi work on these members; a screen fills them by CollegaControlli from the
+/// controls of its form and adds what is its own.
+class SchermoSezione : public Schermo, public MostraVplRd {
+    Q_OBJECT
+public:
+    explicit SchermoSezione(const QString& nome);
+
+    bool CaricaForm = false; ///< from the load to the first activation: nothing recalculates
+    std::string SQLstring;   ///< query of the load
+    int WidthIni = 0;        ///< starting size [twips]
+    int HeightIni = 0;
+
+    LettoreDati* Data1;
+    GrigliaCatalogo* DBGrid1 = nullptr;
+    QList<QLineEdit*> TxtProf;
+    QComboBox* ComboTipoAcciaio = nullptr;
+    QLineEdit* Txt_fy = nullptr;
+    QLineEdit* Txt_fu = nullptr;
+    QList<QLineEdit*> Txt_L0;
+    QLineEdit* TxtNsd = nullptr;
+    QList<QCheckBox*> ChkTipo;
+    QList<QRadioButton*> OptionOrdina;
+    QPushButton* cmdSceltaSagomoGiunto = nullptr;
+    QAction* NormativaMain = nullptr;
+
+    /// Builds a new section from the row in hand and the entries; it becomes SezioneCorrente.
+    virtual void Leggedati() = 0;
+    /// Computes SezioneCorrente and shows its results.
+    virtual void Risultati() = 0;
+    /// Holds the row's values against its geometry.
+    virtual void ControlloDati() = 0;
+    /// Leggedati, then Risultati.
+    void DatiRisultati();
+
+    /// The reader has a row: there is something to compute.
+    [[nodiscard]] bool RigaInMano() const;
+    /// Empties every result, where there is no row.
+    virtual void SvuotaRisultati();
+    /// A buckling length has been typed: index 0 about y-y, 1 about z-z.
+    virtual void LunghezzaCambiata(int index);
+
+    void AllAttivazione() override;
+    void lblVplRd(bool visibile) override;
+
+    /// How many sections of how many families are listed, in the status bar.
+    void AggiornaBarraDiStato();
+
+    /// State of the resize: ratios to the starting size, 0 before the first maximise.
+    struct StatoRidimensiona {
+        double altezza = 0;
+        double larghezza = 0;
+        bool minimizzata = false; ///< the next restore changes nothing
+        bool scalata = false;
+    };
+    StatoRidimensiona ridimensiona;
+
+    /// Binds the display fields to the reader: from now on every new row is taken over, the first at once.
+    void LegaRiga();
+    /// A click on the steel list: fy and fu of the grade go into their boxes.
+    void AcciaioScelto();
+
+    /// Scales fonts and grid; 1, 1 puts everything back exactly.
+    void ScalaControlli(double larghezza, double altezza);
+
+protected:
+    /// Finds the members above by their names and connects what all main screens have in common.
+    void CollegaControlli();
+    /// What Enter does in the entry boxes; false leaves it to the tab order.
+    virtual bool Invio(QLineEdit* casella);
+    [[nodiscard]] QPushButton* Pulsante(const char* nome) const;
+
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void CollegaMenu();
+    void CollegaDati();
+    void CollegaTabella();
+    void RigaNuova();
+    bool FrecciaDiRiga(int key);
+
+    QLabel* barra_ = nullptr;
+    std::map<QWidget*, QFont> caratteriIniziali_;
+    bool attendeMisura_ = false; ///< maximised, the new size has not arrived yet
+};
+
+} // namespace sagomi

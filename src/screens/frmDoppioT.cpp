@@ -1,0 +1,160 @@
+#include "screens/frmDoppioT.h"
+
+#include "catalogue/Catalogo.h"
+#include "catalogue/ControlloDati.h"
+#include "catalogue/Famiglie.h"
+#include "catalogue/RigaDoppioT.h"
+#include "frame/GeneraleSagomi.h"
+#include "frame/Messaggi.h"
+#include "frame/Numeri.h"
+#include "frame/ui/Protetto.h"
+#include "geometry/SezioneGenerica.h"
+#include "screens/GeneraleSchermi.h"
+#include "sections/SezioneDoppioT.h"
+#include "ui_frmDoppioT.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr double m_a_mm = 1000;
+constexpr double kN_a_N = 1000;
+constexpr double N_a_kN = 1e-3;
+constexpr double Nmm_a_kNm = 1e-6;
+constexpr int twipsAPixel = 15;
+constexpr int larghezzaInizialeTwips = 9600;
+constexpr int altezzaInizialeTwips = 7680;
+
+SezioneDoppioT* Sezione() {
+    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
+    return section == nullptr ? nullptr : section->get();
+}
+
+void Mostra(QLineEdit* box, double value) { box->setText(QString::fromStdString(FormatoCifre(4, value))); }
+
+} // namespace
+
+frmDoppioT::frmDoppioT() : SchermoSezione(QStringLiteral("frmDoppioT")), ui_(new Ui::frmDoppioT) {
+    ui_->setupUi(this);
+    CollegaControlli();
+    Collega(TxtNsd, &QLineEdit::textChanged, this, [this] {
+        if (CaricaForm || !RigaInMano())
+            return;
+        Sezione()->NSd = NumeroIn(TxtNsd) * kN_a_N;
+        Risultati();
+    });
+    Collega(ui_->lblVplRd, &QPushButton::clicked, this,
+            [] { Avvisa("d/tw > 69 epsilon. Verificare instabilità per taglio EC3 #5.4.6.(7)"); });
+    ui_->lblVplRd->hide();
+    Carica();
+}
+
+frmDoppioT::~frmDoppioT() = default;
+
+void frmDoppioT::Carica() {
+    SeparatoriControlla(ui_->txtNascosto);
+    const auto workbook = FileAccanto(PathProgramma, "Sagomi.xls");
+    RendiSolaLettura(workbook);
+    Data1->DatabaseName(workbook);
+    SQLstring = FamigliaDi("frmDoppioT").primaQuery;
+    DimensionaIniziale(QSize(larghezzaInizialeTwips, altezzaInizialeTwips) / twipsAPixel);
+    WidthIni = width() * twipsAPixel;
+    HeightIni = height() * twipsAPixel;
+    CaricaFormComune(*this);
+    AggiornaCaptionNormativa(*this);
+}
+
+void frmDoppioT::Leggedati() {
+    if (!RigaInMano())
+        return;
+    auto section = std::make_shared<SezioneDoppioT>();
+    LeggeRiga(Data1->Recordset(), *section);
+    section->TipoAcciaio = ComboTipoAcciaio->currentText().toStdString();
+    section->L0y = NumeroIn(Txt_L0[0]) * m_a_mm;
+    section->L0z = NumeroIn(Txt_L0[1]) * m_a_mm;
+    section->fy = NumeroIn(Txt_fy);
+    section->fu = NumeroIn(Txt_fu);
+    section->NSd = NumeroIn(TxtNsd) * kN_a_N;
+    SezioneCorrente = std::move(section);
+}
+
+void frmDoppioT::Risultati() {
+    if (!RigaInMano()) {
+        SvuotaRisultati();
+        return;
+    }
+    Sezione()->Saldata = false;
+    Sezione()->InizializzaSezione(this);
+    MostraClassi();
+    MostraResistenze();
+    DisegnaSezione();
+}
+
+void frmDoppioT::MostraClassi() {
+    const SezioneDoppioT& s = *Sezione();
+    ui_->TxtClasseCompressione->setText(QString::number(s.ClasseCompressione));
+    ui_->TxtClasseFlessioneY->setText(QString::number(s.ClasseFlessioneY));
+    ui_->TxtClasseFlessioneZ->setText(QString::number(s.ClasseFlessioneZ));
+    ui_->TxtClassePressFless->setText(QString::number(s.ClassePressoFlessione));
+}
+
+void frmDoppioT::MostraResistenze() {
+    const SezioneDoppioT& s = *Sezione();
+    Mostra(ui_->TxtNbRd_0, s.NbyRd * N_a_kN);
+    Mostra(ui_->TxtNbRd_1, s.NbzRd * N_a_kN);
+    Mostra(ui_->TxtMcRd_0, s.McyRd * Nmm_a_kNm);
+    Mostra(ui_->TxtMcRd_1, s.MczRd * Nmm_a_kNm);
+    Mostra(ui_->TxtVplRd_0, s.VplyRd * N_a_kN);
+    Mostra(ui_->TxtVplRd_1, s.VplzRd * N_a_kN);
+    if (!s.ErroreDatiDatabase)
+        return;
+    // A row whose data do not compute has no buckling resistance, and what follows from it was not reached.
+    for (QLineEdit* box : {ui_->TxtNbRd_0, ui_->TxtNbRd_1, ui_->TxtVplRd_0, ui_->TxtVplRd_1})
+        box->clear();
+}
+
+void frmDoppioT::DisegnaSezione() {
+    const SezioneDoppioT& s = *Sezione();
+    SagomaDisegnata picture;
+    const auto& outline = *s.SezioneGenericaCorrente->Poligono;
+    for (int i = 1; i <= outline.nVertici(); ++i)
+        picture.contorno << QPointF(outline.xi(i), outline.yi(i));
+    picture.h = s.h;
+    picture.b = s.b;
+    picture.tw = s.tw;
+    picture.tf = s.tf;
+    picture.raggio = s.r1;
+    picture.yG = s.yG;
+    picture.nomeRaggio = QStringLiteral("r1");
+    ui_->Picture1->Mostra(picture);
+}
+
+void frmDoppioT::SvuotaRisultati() {
+    for (QLineEdit* box : {ui_->TxtClasseCompressione, ui_->TxtClasseFlessioneY, ui_->TxtClasseFlessioneZ,
+                           ui_->TxtClassePressFless, ui_->TxtNbRd_0, ui_->TxtNbRd_1, ui_->TxtMcRd_0,
+                           ui_->TxtMcRd_1, ui_->TxtVplRd_0, ui_->TxtVplRd_1})
+        box->clear();
+    ui_->lblVplRd->hide();
+    ui_->Picture1->Mostra({});
+}
+
+void frmDoppioT::ControlloDati() {
+    if (RigaInMano())
+        ControlloDatiLaminati(Data1->Recordset(), *Sezione());
+}
+
+bool frmDoppioT::Invio(QLineEdit* casella) {
+    if (casella == Txt_fy)
+        FuocoSu(Txt_L0[0]);
+    else if (casella == Txt_L0[0])
+        FuocoSu(Txt_L0[1]);
+    else if (casella == Txt_L0[1])
+        FuocoSu(TxtNsd);
+    else if (casella == TxtNsd)
+        ui_->Command1->setFocus(Qt::TabFocusReason); // a disabled button refuses and the focus stays
+    else
+        return false;
+    return true;
+}
+
+} // namespace sagomi

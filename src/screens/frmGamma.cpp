@@ -1,0 +1,96 @@
+#include "screens/frmGamma.h"
+
+#include <QCloseEvent>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+
+#include <array>
+
+#include "frame/GeneraleSagomi.h"
+#include "frame/Messaggi.h"
+#include "frame/Numeri.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/Casella.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "ui_frmGamma.h"
+
+namespace sagomi {
+
+frmGamma::frmGamma() : Schermo(QStringLiteral("frmGamma")), ui_(new Ui::frmGamma) {
+    ui_->setupUi(this);
+    PreparaContenuto();
+    DimensionaIniziale({});
+    optNormativa_ = Vettore<QRadioButton>(QStringLiteral("optNormativa"));
+    txtGamma_ = Vettore<QLineEdit>(QStringLiteral("txtGamma"));
+    auto* entries = new FiltroCampi(this);
+    for (QLineEdit* box : txtGamma_)
+        entries->Osserva(box);
+    for (int i = 0; i < optNormativa_.size(); ++i)
+        Collega(optNormativa_[i], &QRadioButton::toggled, this, [this, i](bool on) {
+            if (on && !riempiendo_)
+                Scelta(static_cast<std::int16_t>(i));
+        });
+    Collega(ui_->cmdOK_0, &QPushButton::clicked, this, [this] { Accetta(); });
+    Collega(ui_->cmdOK_1, &QPushButton::clicked, this, [this] { Annulla(); });
+}
+
+frmGamma::~frmGamma() = default;
+
+void frmGamma::Apri(Schermo& chiamante) {
+    normativaPrima_ = Normativa;
+    {
+        const QScopedValueRollback guard(riempiendo_, true);
+        optNormativa_[Normativa]->setChecked(true);
+    }
+    Riempi();
+    NavigaSchermi::Unico().ApriDialogo(*this, chiamante);
+    optNormativa_[Normativa]->setFocus();
+}
+
+void frmGamma::Riempi() {
+    const std::array<Singolo, 3> factors{GammaM0, GammaM1, GammaM2};
+    for (int i = 0; i < txtGamma_.size(); ++i) {
+        txtGamma_[i]->setText(QString::fromStdString(TestoPiano(factors[static_cast<std::size_t>(i)])));
+        static_cast<Casella*>(txtGamma_[i])->ImpostaRisultato(Normativa != normativaAltro);
+    }
+}
+
+void frmGamma::Scelta(std::int16_t normativa) {
+    Normativa = normativa;
+    ImpostaGamma();
+    Riempi();
+}
+
+void frmGamma::Accetta() {
+    if (Normativa == normativaAltro) {
+        for (QLineEdit* box : txtGamma_)
+            if (NumeroIn(box) < 0) {
+                Avvisa("Il coefficiente parziale di sicurezza deve essere > 0");
+                FuocoSu(box);
+                return;
+            }
+        GammaM0 = GammaM0Altro = NumeroIn(txtGamma_[0]);
+        GammaM1 = GammaM1Altro = NumeroIn(txtGamma_[1]);
+        GammaM2 = GammaM2Altro = NumeroIn(txtGamma_[2]);
+        ImpostaGamma(); // a factor of 0 counts as 1
+    }
+    NavigaSchermi::Unico().Lascia(*this);
+}
+
+void frmGamma::Annulla() {
+    // Only the code goes back: the factors of the option last clicked stay until they are set again.
+    Normativa = normativaPrima_;
+    NavigaSchermi::Unico().Lascia(*this);
+}
+
+void frmGamma::closeEvent(QCloseEvent* event) {
+    if (ChiusuraInCorso) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    Annulla();
+}
+
+} // namespace sagomi
