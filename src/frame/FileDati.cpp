@@ -314,6 +314,7 @@ bool FileInOut(std::string_view modo, std::int16_t nFile, const std::vector<Camp
     if (Scrittura(modo))
         return Esegue(false, [&] {
             std::vector<std::string> testi;
+            testi.reserve(campi.size());
             for (const Campo& campo : campi)
                 testi.push_back(std::visit(Testo{}, campo));
             ScriveUnita(Aperto(nFile, false), testi);
@@ -331,6 +332,7 @@ bool FileInOutStringColl(std::string_view modo, std::int16_t nFile, std::vector<
     if (Scrittura(modo))
         return Esegue(false, [&] {
             std::vector<std::string> testi;
+            testi.reserve(coll.size());
             for (const std::string& testo : coll)
                 testi.push_back(TraVirgolette(NascondeACapo(testo)));
             ScriveUnita(Aperto(nFile, false), testi);
