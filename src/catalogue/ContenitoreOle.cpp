@@ -21,15 +21,15 @@ void Riuscito(bool esito) {
         throw std::runtime_error("il contenitore OLE2 non si lascia comporre");
 }
 
-void AvviaLibreria() {
+} // namespace
+
+void AvviaLibreriaOle() {
     static const bool avviata = (gsf_init(), true);
     static_cast<void>(avviata);
 }
 
-} // namespace
-
 std::string ContenitoreOle(std::string_view nome, const std::vector<std::uint8_t>& dati) {
-    AvviaLibreria();
+    AvviaLibreriaOle();
     const Oggetto<GsfOutput> memoria(gsf_output_memory_new());
     const Oggetto<GsfOutfile> contenitore(gsf_outfile_msole_new(memoria.get()));
     const Oggetto<GsfOutput> flusso(

@@ -7,6 +7,9 @@
 
 namespace sagomi {
 
+/// Starts the library for compound documents, once; who uses it calls this first.
+void AvviaLibreriaOle();
+
 /// A compound document (OLE2) with one stream, byte for byte as it goes into a file.
 /// @param nome  name of the stream ("Workbook" for a workbook)
 /// @param dati  its contents

@@ -1,6 +1,6 @@
 #include "catalogue/LettoreXls.h"
 
-#include <array>
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <freexl.h>
@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "catalogue/ErroreCatalogo.h"
+#include "catalogue/VerificaXls.h"
 
 namespace sagomi {
 
@@ -97,7 +98,8 @@ int PrendiNumero(std::string_view& testo) {
     return n;
 }
 
-/// Days from 30 December 1899, of which spreadsheet programs count their dates.
+/// Days from 30 December 1899, of which spreadsheet programs count their dates. They take 1900 for a leap
+/// year: before its March the count is one less.
 double Giorni(std::string_view& testo) {
     using namespace std::chrono;
     const int anno = PrendiNumero(testo);
@@ -105,7 +107,8 @@ double Giorni(std::string_view& testo) {
     const int giorno = PrendiNumero(testo);
     const sys_days data =
         year(anno) / month(static_cast<unsigned>(mese)) / day(static_cast<unsigned>(giorno));
-    return static_cast<double>((data - sys_days(1899y / December / 30)).count());
+    const auto giorni = (data - sys_days(1899y / December / 30)).count();
+    return static_cast<double>(anno == 1900 && mese < 3 ? giorni - 1 : giorni);
 }
 
 double FrazioneDiGiorno(std::string_view& testo) {
@@ -169,9 +172,12 @@ CartellaDati LeggiXls(const std::filesystem::path& file) {
     std::error_code errore;
     if (!std::filesystem::is_regular_file(file, errore))
         throw ErroreCatalogo("Errore nella lettura di \"" + file.string() + "\": il file non esiste.");
+    try {
+        VerificaXls(file);
+    } catch (const std::exception& e) {
+        throw ErroreCatalogo("Errore nella lettura di \"" + file.string() + "\": " + e.what() + ".");
+    }
     const CartellaAperta aperta(file);
-    if (aperta.Info(FREEXL_BIFF_PASSWORD) == FREEXL_BIFF_OBFUSCATED)
-        aperta.Fallisce("il file è protetto da una parola d'ordine");
     CartellaDati cartella;
     const unsigned fogli = aperta.Info(FREEXL_BIFF_SHEET_COUNT);
     for (unsigned i = 0; i < fogli; ++i)
