@@ -66,7 +66,7 @@ void RipristinaGenerale() {
     ImpostaGamma();
     PathProgramma.clear();
     PathLavoro.clear();
-    SezioneCorrente = {};
+    SezioneCorrente.emplace<std::monostate>();
     Versione.clear();
     ScreenAttivo.clear();
     SceltaSagomoGiunto = false;

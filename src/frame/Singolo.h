@@ -8,8 +8,9 @@ namespace sagomi {
 class Singolo {
 public:
     constexpr Singolo() = default;
-    constexpr Singolo(double valore) : valore_(static_cast<float>(valore)) {} // NOLINT: conversion is the point
-    constexpr operator double() const { return valore_; }                     // NOLINT: conversion is the point
+    constexpr Singolo(double valore)
+        : valore_(static_cast<float>(valore)) {}          // NOLINT: conversion is the point
+    constexpr operator double() const { return valore_; } // NOLINT: conversion is the point
 
     /// The stored 32 bits, for comparisons that the rules make in single precision.
     [[nodiscard]] constexpr float Stretto() const { return valore_; }
