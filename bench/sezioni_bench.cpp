@@ -1,0 +1,97 @@
+// How many sections a second the initialiser computes: the rows of the IPE and HE families as a whole-sheet
+// search meets them, and welded ones whose plates are of class 4, with two or three outlines each.
+
+#include <charconv>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "sections/SezioneDoppioT.h"
+
+using namespace sagomi;
+
+namespace {
+
+using Riga = std::map<std::string, double>;
+
+std::vector<std::string> Campi(const std::string& linea) {
+    std::vector<std::string> campi;
+    std::istringstream testo(linea);
+    for (std::string campo; std::getline(testo, campo, ',');)
+        campi.push_back(campo);
+    return campi;
+}
+
+std::vector<Riga> LeggeFamiglia(const std::string& file) {
+    std::ifstream testo(SAGOMI_CATALOGUE_DATA "/" + file + ".csv");
+    std::string linea;
+    std::getline(testo, linea);
+    const auto colonne = Campi(linea);
+    std::vector<Riga> righe;
+    while (std::getline(testo, linea)) {
+        const auto campi = Campi(linea);
+        Riga riga;
+        for (std::size_t i = 1; i < campi.size(); ++i)
+            std::from_chars(campi[i].data(), campi[i].data() + campi[i].size(), riga[colonne[i]]);
+        righe.push_back(riga);
+    }
+    return righe;
+}
+
+SezioneDoppioT Sezione(Riga v, double fy) {
+    SezioneDoppioT s;
+    s.fy = fy;
+    s.TipoAcciaio = "S355 (Fe510)";
+    s.Saldata = v.contains("r_mm");
+    s.h = v["h_mm"];
+    s.b = v["b_mm"];
+    s.tw = v["tw_mm"];
+    s.tf = v["tf_mm"];
+    s.r1 = v["r1_mm"];
+    s.r2 = v["r2_mm"];
+    s.r = v["r_mm"];
+    s.Area = v["A_cm2"] * 100;
+    s.Wely = v["Wy_cm3"] * 1000;
+    s.Wply = v["Wply_cm3"] * 1000;
+    s.iY = v["iy_cm"] * 10;
+    s.Jz = v["Iz_cm4"] * 1e4;
+    s.Welz = v["Wz_cm3"] * 1000;
+    s.Wplz = v["Wplz_cm3"] * 1000;
+    s.iZ = v["iz_cm"] * 10;
+    s.L0y = 6000;
+    s.L0z = 3000;
+    s.NSd = 200000;
+    return s;
+}
+
+void Inizializza(benchmark::State& stato, const std::vector<std::string>& famiglie, double fy) {
+    std::vector<SezioneDoppioT> sezioni;
+    for (const auto& famiglia : famiglie)
+        for (const Riga& riga : LeggeFamiglia(famiglia))
+            sezioni.push_back(Sezione(riga, fy));
+    if (sezioni.empty()) {
+        stato.SkipWithError("no catalogue");
+        return;
+    }
+    for (auto _ : stato) {
+        for (const SezioneDoppioT& modello : sezioni) {
+            SezioneDoppioT s = modello; // a new row is a new object, without outlines
+            s.InizializzaSezione();
+            benchmark::DoNotOptimize(s.NbzRd);
+        }
+    }
+    stato.SetItemsProcessed(stato.iterations() * static_cast<std::int64_t>(sezioni.size()));
+}
+
+BENCHMARK_CAPTURE(Inizializza, IPE_HE_S235, {"IPE", "IPEA", "IPEO", "HEA", "HEB", "HEM", "HEAA"}, 235);
+BENCHMARK_CAPTURE(Inizializza, IPE_HE_S355, {"IPE", "IPEA", "IPEO", "HEA", "HEB", "HEM", "HEAA"}, 355);
+BENCHMARK_CAPTURE(Inizializza, IPN_tapered, {"IPN"}, 235);
+BENCHMARK_CAPTURE(Inizializza, HSL_HSA_class4, {"HSL", "HSA"}, 355);
+
+} // namespace
+
+BENCHMARK_MAIN();
