@@ -29,7 +29,8 @@ double Illinois(const std::function<double(double)>& f, double& x1, double f1, d
                 double tolleranza) {
     int limite = iterazioniPerDomanda;
     double x3 = x2;
-    for (int contatore = 1; f2 != f1; ++contatore) {
+    // Equal values give the line no zero, undefined ones no line.
+    for (int contatore = 1; f2 != f1 && std::isfinite(f2); ++contatore) {
         x3 = x2 - f2 * (x2 - x1) / (f2 - f1);
         const double f3 = f(x3);
         if (std::abs(f3) < tolleranza)

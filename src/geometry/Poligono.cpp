@@ -78,8 +78,10 @@ void Poligono::Coordinate(const std::vector<double>& x, const std::vector<double
     if (x.size() < static_cast<std::size_t>(n) || y.size() < static_cast<std::size_t>(n))
         return;
     // New arrays, since x and y may be those of this polygon.
-    x_ = std::vector<double>(x.begin(), x.begin() + n);
-    y_ = std::vector<double>(y.begin(), y.begin() + n);
+    std::vector<double> ascisse(x.begin(), x.begin() + n);
+    std::vector<double> ordinate(y.begin(), y.begin() + n);
+    x_ = std::move(ascisse);
+    y_ = std::move(ordinate);
     n_ = n;
 }
 

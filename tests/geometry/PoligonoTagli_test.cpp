@@ -1,0 +1,336 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "Casi.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+/// Crossings with a line, as the polygon gives them.
+struct Incontri {
+    std::vector<double> x, y;
+    std::vector<std::int16_t> lato;
+    std::int16_t n = -1;
+    std::int16_t tolti = -1;
+};
+
+Incontri Taglia(const Poligono& p, double a, double b, double c, bool togli = false) {
+    Incontri i;
+    p.IntersezioneConRetta(a, b, c, i.x, i.y, i.lato, i.n, togli ? &i.tolti : nullptr);
+    return i;
+}
+
+void Uguale(const std::shared_ptr<Poligono>& p, const ParteAttesa& attesa, double zero, double estensione) {
+    if (attesa.Area == 0) {
+        EXPECT_TRUE(!p || p->Area <= zero);
+        return;
+    }
+    ASSERT_TRUE(p);
+    p->CaratteristicheStatiche();
+    EXPECT_NEAR(p->Area, attesa.Area, zero);
+    EXPECT_NEAR(p->xG, attesa.xG, 1e-8 * estensione);
+    EXPECT_NEAR(p->yG, attesa.yG, 1e-8 * estensione);
+}
+
+std::vector<CasoPoligono> CasiTagliati() {
+    std::vector<CasoPoligono> casi;
+    for (const char* file :
+         {"a_mano.txt", "convessi.txt", "concavi.txt", "stellati.txt", "profili.txt", "doppi.txt"})
+        for (CasoPoligono& c : LeggeCasi(file))
+            if (!c.tagli.empty())
+                casi.push_back(std::move(c));
+    return casi;
+}
+
+class TagliTest : public testing::TestWithParam<CasoPoligono> {};
+
+TEST_P(TagliTest, PartsOfTheCut) {
+    const CasoPoligono& c = GetParam();
+    Poligono p = PoligonoDelCaso(c);
+    p.AreaCalcola();
+    for (const TaglioAtteso& t : c.tagli) {
+        SCOPED_TRACE((t.lungoX ? "x " : "y ") + std::to_string(t.livello));
+        std::shared_ptr<Poligono> sopra;
+        std::shared_ptr<Poligono> sotto;
+        p.DividiY(t.livello, sopra, sotto, t.lungoX);
+        Uguale(sopra, t.sopra, 1e-9 * p.Area, p.MaxDimensione());
+        Uguale(sotto, t.sotto, 1e-9 * p.Area, p.MaxDimensione());
+    }
+}
+
+// The parts of any cut, also of one through vertices, add up to the whole: area and moments.
+TEST_P(TagliTest, PartsAddUp) {
+    Poligono p = PoligonoDelCaso(GetParam());
+    p.CaratteristicheStatiche();
+    const Poligono intero = p.Copia();
+    const auto [xMin, xMax, yMin, yMax] = p.BoundingBox();
+    // An outline with loops of both turns has parts of either sign, which lose it in the calculation.
+    const std::string& titolo = GetParam().titolo;
+    if (titolo.find("wings") != std::string::npos || titolo.find("loop") != std::string::npos)
+        return;
+    for (int k = 0; k < 24; ++k) {
+        const bool lungoX = k % 2 != 0;
+        const double q = (k / 2 + 0.5) / 12;
+        const double livello = lungoX ? xMin + q * (xMax - xMin) : yMin + q * (yMax - yMin);
+        std::shared_ptr<Poligono> sopra;
+        std::shared_ptr<Poligono> sotto;
+        p.DividiY(livello, sopra, sotto, lungoX);
+        ASSERT_TRUE(sopra && sotto) << livello;
+        double area = 0;
+        double Ix = 0;
+        double Sy = 0;
+        for (Poligono* parte : {sopra.get(), sotto.get()}) {
+            parte->CaratteristicheStatiche();
+            area += parte->Area;
+            Ix += parte->Ix;
+            Sy += parte->Sy;
+        }
+        EXPECT_NEAR(area, intero.Area, 1e-9 * intero.Area) << livello;
+        EXPECT_NEAR(Ix, intero.Ix, 1e-9 * std::abs(intero.Ix)) << livello;
+        EXPECT_NEAR(Sy, intero.Sy, 1e-9 * intero.Area * p.MaxDimensione() + 1e-9 * std::abs(intero.Sy))
+            << livello;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Contorni, TagliTest, testing::ValuesIn(CasiTagliati()),
+                         [](const auto& i) { return std::to_string(i.index) + "_" + NomeCaso(i.param); });
+
+TEST(IntersezioneConRetta, LineThroughARectangle) {
+    const Poligono p = PoligonoDaTesto("0 0, 40 0, 40 20, 0 20");
+    // y = 5 as -y + 5 = 0
+    const Incontri i = Taglia(p, 0, -1, 5);
+    ASSERT_EQ(i.n, 2);
+    EXPECT_EQ(i.x, (std::vector<double>{40, 0}));
+    EXPECT_EQ(i.y, (std::vector<double>{5, 5}));
+    EXPECT_EQ(i.lato, (std::vector<std::int16_t>{2, 4}));
+    EXPECT_EQ(Taglia(p, 0, -1, 25).n, 0);
+    // The line x + y = 30 meets the lower and the upper side at x 30 and 10.
+    const Incontri d = Taglia(p, 1, 1, -30);
+    EXPECT_EQ(d.x, (std::vector<double>{30, 10}));
+    EXPECT_EQ(d.lato, (std::vector<std::int16_t>{1, 3}));
+}
+
+TEST(IntersezioneConRetta, VertexIsFoundTwiceAndTakenOutOnRequest) {
+    const Poligono p = PoligonoDaTesto("30 0, 60 50, 30 100, 0 50");
+    const Incontri doppi = Taglia(p, 0, -1, 50);
+    EXPECT_EQ(doppi.n, 4);
+    EXPECT_EQ(doppi.tolti, -1);
+    const Incontri semplici = Taglia(p, 0, -1, 50, true);
+    EXPECT_EQ(semplici.n, 2);
+    EXPECT_EQ(semplici.tolti, 2);
+    EXPECT_EQ(semplici.lato, (std::vector<std::int16_t>{1, 3}));
+    EXPECT_EQ(semplici.x, (std::vector<double>{60, 0}));
+    // The first and the last side share vertex 1.
+    EXPECT_EQ(Taglia(p, 0, -1, 0, true).n, 1);
+    EXPECT_EQ(Taglia(p, 0, -1, 25, true).tolti, 0);
+}
+
+TEST(IntersezioneConRetta, SideOnTheLineCountsByItsNeighbours) {
+    const Poligono p = PoligonoDaTesto("0 0, 40 0, 40 20, 0 20");
+    const Incontri i = Taglia(p, 0, -1, 20);
+    EXPECT_EQ(i.n, 2);
+    EXPECT_EQ(i.lato, (std::vector<std::int16_t>{2, 4}));
+}
+
+TEST(IntersezioneConRetta, ParallelByTheSineOfTheAngle) {
+    // A side of 1000 that rises by 0.0005 (sine 5e-7) is parallel to a level line, one that rises by 0.002 is
+    // not; so it is with a line of coefficients a million times larger.
+    const Poligono piano = PoligonoDaTesto("0 0, 1000 0.0005, 1000 500, 0 500");
+    const Poligono inclinato = PoligonoDaTesto("0 0, 1000 0.002, 1000 500, 0 500");
+    for (const double k : {1.0, 1e6, 1e-6}) {
+        const Incontri p = Taglia(piano, 0, -k, k * 0.00025);
+        EXPECT_EQ(std::count(p.lato.begin(), p.lato.end(), 1), 0) << k;
+        const Incontri q = Taglia(inclinato, 0, -k, k * 0.001);
+        EXPECT_EQ(std::count(q.lato.begin(), q.lato.end(), 1), 1) << k;
+    }
+}
+
+TEST(IntersezioneConRetta, ToleranceOfTheBox) {
+    // Extent 100: tolerance 0.001. A level just above the top is still met, further up it is not.
+    const Poligono p = PoligonoDaTesto("0 0, 100 0, 50 100");
+    EXPECT_EQ(Taglia(p, 0, -1, 100.0009).n, 2);
+    EXPECT_EQ(Taglia(p, 0, -1, 100.0011).n, 0);
+}
+
+TEST(IntersezioneConRetta, SidesWithoutLengthDoNotUpset) {
+    // A welded double T without fillets keeps doubled points at the roots of the web.
+    const Poligono p =
+        PoligonoDaTesto("50 0, 50 10, 3 10, 3 10, 3 190, 3 190, 50 190, 50 200, -50 200, -50 190, "
+                        "-3 190, -3 190, -3 10, -3 10, -50 10, -50 0");
+    const Incontri i = Taglia(p, 0, -1, 100);
+    EXPECT_EQ(i.n, 2);
+    EXPECT_EQ(i.x, (std::vector<double>{3, -3}));
+    EXPECT_EQ(i.lato, (std::vector<std::int16_t>{4, 12}));
+}
+
+TEST(IntersezioneConRetta, EmptyPolygonHasNone) { EXPECT_EQ(Taglia(Poligono(), 0, -1, 0, true).n, 0); }
+
+TEST(IntersezioneConSegmento, OnlyWithinTheSegment) {
+    const Poligono p = PoligonoDaTesto("0 0, 40 0, 40 20, 0 20");
+    Incontri i;
+    p.IntersezioneConSegmento(20, 5, 60, 5, i.x, i.y, i.n, i.lato);
+    ASSERT_EQ(i.n, 1);
+    EXPECT_EQ(i.x[0], 40);
+    EXPECT_EQ(i.lato[0], 2);
+    p.IntersezioneConSegmento(-10, -10, 50, 30, i.x, i.y, i.n, i.lato);
+    EXPECT_EQ(i.n, 2);
+    p.IntersezioneConSegmento(10, 5, 30, 15, i.x, i.y, i.n, i.lato);
+    EXPECT_EQ(i.n, 0);
+    p.IntersezioneConSegmento(10, 0, 10, 0, i.x, i.y, i.n, i.lato);
+    EXPECT_EQ(i.n, 0);
+    EXPECT_TRUE(i.x.empty());
+}
+
+TEST(PoligonoConIntersezioni, PointsFollowTheStartOfTheirSide) {
+    const Poligono p = PoligonoDaTesto("0 0, 40 0, 40 20, 0 20");
+    std::vector<bool> nuovo;
+    const auto q = p.PoligonoConIntersezioni({10, 30, 40, 0}, {0, 0, 5, 5}, {1, 1, 2, 4}, 4, nuovo);
+    EXPECT_EQ(q->nVertici(), 8);
+    EXPECT_EQ(q->CoordX(), (std::vector<double>{0, 10, 30, 40, 40, 40, 0, 0}));
+    EXPECT_EQ(q->CoordY(), (std::vector<double>{0, 0, 0, 0, 5, 20, 20, 5}));
+    EXPECT_EQ(nuovo, (std::vector<bool>{false, true, true, false, true, false, false, true}));
+    EXPECT_THROW((void)p.PoligonoConIntersezioni({1}, {1}, {1}, 2, nuovo), std::out_of_range);
+}
+
+TEST(PoligonoSenzaPuntiOpposti, KeepsOneSideAndTheCut) {
+    const Poligono p = PoligonoDaTesto("0 -5, 10 -5, 10 0, 10 5, 0 5, 0 0");
+    const std::vector<bool> taglio{false, false, true, false, false, true};
+    EXPECT_EQ(p.PoligonoSenzaPuntiOpposti(1, taglio)->CoordY(), (std::vector<double>{0, 5, 5, 0}));
+    EXPECT_EQ(p.PoligonoSenzaPuntiOpposti(-1, taglio)->CoordY(), (std::vector<double>{-5, -5, 0, 0}));
+    const std::vector<bool> uno{true, false, false, false, false, false};
+    EXPECT_EQ(p.PoligonoSenzaPuntiOpposti(-1, uno, true)->nVertici(), 3); // x = 0 counts on both sides
+    EXPECT_THROW((void)p.PoligonoSenzaPuntiOpposti(1, {true}), std::out_of_range);
+}
+
+TEST(DividiY, NoCutHandsOutThePolygonItself) {
+    const auto p = std::make_shared<Poligono>(PoligonoDaTesto("0 0, 40 0, 40 20, 0 20"));
+    std::shared_ptr<Poligono> sopra;
+    std::shared_ptr<Poligono> sotto;
+    for (const double y : {20.0, 21.0}) {
+        p->DividiY(y, sopra, sotto);
+        EXPECT_FALSE(sopra);
+        EXPECT_EQ(sotto, p);
+    }
+    for (const double y : {0.0, -3.0}) {
+        p->DividiY(y, sopra, sotto);
+        EXPECT_EQ(sopra, p);
+        EXPECT_FALSE(sotto);
+    }
+    p->DividiY(40, sopra, sotto, true);
+    EXPECT_FALSE(sopra);
+    EXPECT_EQ(sotto, p);
+    p->DividiY(0, sopra, sotto, true);
+    EXPECT_EQ(sopra, p);
+    EXPECT_FALSE(sotto);
+}
+
+TEST(DividiY, AnObjectThatNobodySharesIsHandedOutToo) {
+    Poligono p = PoligonoDaTesto("0 0, 40 0, 40 20, 0 20");
+    std::shared_ptr<Poligono> sopra;
+    std::shared_ptr<Poligono> sotto;
+    p.DividiY(20, sopra, sotto);
+    EXPECT_EQ(sotto.get(), &p);
+    EXPECT_FALSE(sopra);
+}
+
+TEST(DividiY, TheLevelCountsInSinglePrecision) {
+    // 0.7 in single precision is 0.699999988: below a top at 0.7, so there is a sliver; 0.3 becomes
+    // 0.300000012, above a top at 0.3.
+    Poligono p = PoligonoDaTesto("0 0, 1 0, 1 0.7, 0 0.7");
+    std::shared_ptr<Poligono> sopra;
+    std::shared_ptr<Poligono> sotto;
+    p.DividiY(0.7, sopra, sotto);
+    ASSERT_TRUE(sopra);
+    sopra->CaratteristicheStatiche();
+    EXPECT_NEAR(sopra->Area, 1.19e-8, 1e-10);
+    EXPECT_TRUE(std::isfinite(sopra->Rho2));
+    p = PoligonoDaTesto("0 0, 1 0, 1 0.3, 0 0.3");
+    p.DividiY(0.3, sopra, sotto);
+    EXPECT_FALSE(sopra);
+    EXPECT_EQ(sotto.get(), &p);
+}
+
+TEST(DividiY, ThePolygonMayBeHeldByTheResult) {
+    auto p = std::make_shared<Poligono>(PoligonoDaTesto("0 0, 40 0, 40 20, 0 20"));
+    Poligono* oggetto = p.get();
+    std::shared_ptr<Poligono> altro;
+    oggetto->DividiY(5, p, altro);
+    p->AreaCalcola();
+    altro->AreaCalcola();
+    EXPECT_EQ(p->Area, 600);
+    EXPECT_EQ(altro->Area, 200);
+}
+
+TEST(DividiY, EmptyPolygon) {
+    Poligono p;
+    std::shared_ptr<Poligono> sopra;
+    std::shared_ptr<Poligono> sotto;
+    p.DividiY(0, sopra, sotto);
+    EXPECT_NE(bool(sopra), bool(sotto));
+}
+
+TEST(PoligonoReagente, ThePartOnThePointsSide) {
+    const Poligono p = PoligonoDaTesto("0 0, 40 0, 40 20, 0 20");
+    std::int16_t segno = 0;
+    // x + y = 30 cuts a trapezium of parallel sides 30 and 10 off the left.
+    const auto sinistra = p.PoligonoReagente(0, 0, segno, 1, 1, -30);
+    ASSERT_TRUE(sinistra);
+    EXPECT_EQ(segno, 1);
+    EXPECT_NEAR(sinistra->Area, 400, 1e-9);
+    EXPECT_NEAR(sinistra->yG, 20.0 / 3 * (30 + 2 * 10) / (30 + 10), 1e-9);
+    EXPECT_NEAR(sinistra->Sx, 400 * sinistra->yG, 1e-6);
+    const auto destra = p.PoligonoReagente(40, 20, segno, 1, 1, -30);
+    EXPECT_NEAR(destra->Area, 400, 1e-9);
+    EXPECT_GT(destra->xG, sinistra->xG);
+    // The signs of the line do not matter, the place of the point does.
+    EXPECT_NEAR(p.PoligonoReagente(0, 0, segno, -1, -1, 30)->xG, sinistra->xG, 1e-9);
+}
+
+TEST(PoligonoReagente, WithoutACut) {
+    const Poligono p = PoligonoDaTesto("0 0, 40 0, 40 20, 0 20");
+    std::int16_t segno = 0;
+    const auto tutto = p.PoligonoReagente(5, 5, segno, 0, 1, -30);
+    ASSERT_TRUE(tutto);
+    EXPECT_EQ(segno, 1);
+    EXPECT_EQ(tutto->CoordX(), p.CoordX());
+    EXPECT_EQ(tutto->Area, 800);
+    EXPECT_FALSE(p.PoligonoReagente(5, 50, segno, 0, 1, -30));
+    EXPECT_EQ(segno, -1);
+    EXPECT_FALSE(p.PoligonoIntersezione(0, 1, -30, 5, 5));
+}
+
+TEST(PoligonoReagente, IntersectionHasNoProperties) {
+    const Poligono p = PoligonoDaTesto("0 0, 40 0, 40 20, 0 20");
+    const auto parte = p.PoligonoIntersezione(0, 1, -15, 5, 19);
+    ASSERT_TRUE(parte);
+    EXPECT_EQ(parte->Area, 0);
+    parte->CaratteristicheStatiche();
+    EXPECT_NEAR(parte->Area, 200, 1e-9);
+    EXPECT_NEAR(parte->yG, 17.5, 1e-9);
+}
+
+// Sloping cuts of a concave outline: both sides add up whatever the slope.
+TEST(PoligonoReagente, BothSidesAddUp) {
+    Poligono p = ContornoDoppioT(200, 100, 5.6, 8.5, 12);
+    p.CaratteristicheStatiche();
+    for (int k = 0; k < 36; ++k) {
+        const double angolo = k * std::numbers::pi / 18 + 0.01;
+        const double a = std::cos(angolo);
+        const double b = std::sin(angolo);
+        const double c = -a * 4 - b * 80;
+        std::int16_t segno = 0;
+        const auto qui = p.PoligonoReagente(4 + a, 80 + b, segno, a, b, c);
+        const auto la = p.PoligonoReagente(4 - a, 80 - b, segno, a, b, c);
+        ASSERT_TRUE(qui && la);
+        EXPECT_NEAR(qui->Area + la->Area, p.Area, 1e-9 * p.Area) << k;
+        EXPECT_NEAR(qui->Ix + la->Ix, p.Ix, 1e-9 * p.Ix) << k;
+        EXPECT_GT(a * qui->xG + b * qui->yG + c, a * la->xG + b * la->yG + c) << k;
+    }
+}
+
+} // namespace
