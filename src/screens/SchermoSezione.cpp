@@ -61,6 +61,7 @@ void SchermoSezione::CollegaControlli() {
     CollegaTabella();
     CollegaDati();
     PreparaContenuto();
+    centralWidget()->installEventFilter(this); // else it would scroll by the arrow keys
     for (QAbstractButton* button : findChildren<QAbstractButton*>())
         if (qobject_cast<QRadioButton*>(button) == nullptr)
             button->installEventFilter(this); // their arrow keys belong to the rows
@@ -185,6 +186,9 @@ void SchermoSezione::closeEvent(QCloseEvent* event) {
 
 bool SchermoSezione::FrecciaDiRiga(int key) {
     if (key != Qt::Key_Up && key != Qt::Key_Down)
+        return false;
+    const QWidget* focus = focusWidget(); // these three have arrow keys of their own
+    if (focus == DBGrid1 || focus == ComboTipoAcciaio || qobject_cast<const QRadioButton*>(focus) != nullptr)
         return false;
     MuoviRecord(Data1->Recordset(), key == Qt::Key_Down);
     return true;

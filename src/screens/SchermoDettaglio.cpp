@@ -1,0 +1,98 @@
+#include "screens/SchermoDettaglio.h"
+
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+
+#include "frame/GeneraleSagomi.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "frame/ui/UpDown.h"
+#include "screens/SchermoSezione.h"
+#include "sections/SezioneDoppioT.h"
+
+namespace sagomi {
+
+SchermoDettaglio::SchermoDettaglio(const QString& nome) : Schermo(nome) {}
+
+void SchermoDettaglio::ApriDa(SchermoSezione& chiamante, Schermo& da) {
+    chiamante_ = &chiamante;
+    {
+        const QScopedValueRollback guard(inCalcolo_, true);
+        CopiaIntestazione();
+        RiempiDati();
+    }
+    NavigaSchermi::Unico().Apri(*this, da);
+}
+
+void SchermoDettaglio::AllAttivazione() {
+    if (chiamante_ != nullptr)
+        Ricalcola();
+}
+
+void SchermoDettaglio::CollegaControlli(std::function<bool(QLineEdit*)> invio) {
+    PreparaContenuto();
+    auto* entries = new FiltroCampi(this, std::move(invio));
+    for (QLineEdit* box : findChildren<QLineEdit*>())
+        if (!box->isReadOnly())
+            entries->Osserva(box);
+    if (auto* rows = findChild<UpDown*>(QStringLiteral("UpDown1")))
+        Collega(rows, &UpDown::passo, this, [this](bool su) { PassoDiRiga(su); });
+    if (auto* steel = findChild<UpDown*>(QStringLiteral("UpDown2")))
+        Collega(steel, &UpDown::passo, this, [this](bool su) { PassoDiAcciaio(su); });
+}
+
+void SchermoDettaglio::Ricalcola() {
+    if (inCalcolo_ || chiamante_ == nullptr || !chiamante_->RigaInMano())
+        return;
+    const QScopedValueRollback guard(inCalcolo_, true);
+    CopiaIntestazione();
+    CompletaForm(*chiamante_);
+}
+
+void SchermoDettaglio::CopiaIntestazione() {
+    const auto copy = [this](const char* name, const QString& text) {
+        if (auto* box = findChild<QLineEdit*>(QString::fromLatin1(name)))
+            box->setText(text);
+    };
+    copy("Txt_Prof", chiamante_->TxtProf[0]->text());
+    copy("Txt_TipoAcciaio", chiamante_->ComboTipoAcciaio->currentText());
+    copy("Txt_fy", chiamante_->Txt_fy->text());
+}
+
+void SchermoDettaglio::PassoDiRiga(bool su) {
+    const auto old = SezioneCorrente; // keeps the old section alive while the new one takes its place
+    MuoviRecord(chiamante_->Data1->Recordset(), su);
+    QCoreApplication::processEvents();
+    const auto* before = std::get_if<std::shared_ptr<SezioneDoppioT>>(&old);
+    if (before != nullptr && *before && Sezione() != nullptr && before->get() != Sezione())
+        RiportaValori(**before, *Sezione());
+    Ricalcola();
+}
+
+void SchermoDettaglio::PassoDiAcciaio(bool su) {
+    MuoviAcciaio(su, *chiamante_, findChild<QLineEdit*>(QStringLiteral("Txt_TipoAcciaio")),
+                 findChild<QLineEdit*>(QStringLiteral("Txt_fy")));
+    Ricalcola();
+}
+
+void SchermoDettaglio::RiportaValori(const SezioneDoppioT& /*vecchia*/, SezioneDoppioT& /*nuova*/) {}
+
+SezioneDoppioT* SchermoDettaglio::Sezione() {
+    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
+    return section == nullptr ? nullptr : section->get();
+}
+
+void MuoviAcciaio(bool su, SchermoSezione& chiamante, QLineEdit* tipo, QLineEdit* fy) {
+    const int index = chiamante.ComboTipoAcciaio->currentIndex() + (su ? 1 : -1);
+    if (index >= 0 && index < chiamante.ComboTipoAcciaio->count()) {
+        chiamante.ComboTipoAcciaio->setCurrentIndex(index);
+        chiamante.AcciaioScelto();
+    }
+    if (tipo != nullptr)
+        tipo->setText(chiamante.ComboTipoAcciaio->currentText());
+    if (fy != nullptr)
+        fy->setText(chiamante.Txt_fy->text());
+}
+
+} // namespace sagomi

@@ -1,0 +1,50 @@
+#include "frame/ui/Guida.h"
+
+#include <QApplication>
+#include <QTextBrowser>
+
+#include "screens/Ambiente.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class GuidaTest : public AmbienteSchermi {
+protected:
+    static QTextBrowser* Finestra() {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == "FinestraGuida" && w->isVisible())
+                return qobject_cast<QTextBrowser*>(w);
+        return nullptr;
+    }
+    void TearDown() override {
+        if (auto* window = Finestra())
+            window->hide();
+        AmbienteSchermi::TearDown();
+    }
+};
+
+TEST_F(GuidaTest, F1OpensTheHelpOfTheProgram) {
+    auto& s = Avvia();
+    QTest::keyClick(Trova<QLineEdit>(&s, "Txt_L0_1"), Qt::Key_F1);
+    ASSERT_NE(Finestra(), nullptr);
+    EXPECT_TRUE(Finestra()->toPlainText().contains("Lunghezze di libera inflessione", Qt::CaseInsensitive));
+    QTest::keyClick(Finestra(), Qt::Key_Escape);
+    EXPECT_EQ(Finestra(), nullptr);
+}
+
+TEST_F(GuidaTest, FileIsFoundWhateverTheCaseOfItsLetters) {
+    Guida::Apri(QStringLiteral("SAGOMI.HLP"));
+    EXPECT_NE(Finestra(), nullptr);
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(GuidaTest, MissingFileIsToldByName) {
+    Guida::Apri(QStringLiteral("Manca.hlp"));
+    ASSERT_EQ(registratore.testi.size(), 1U);
+    EXPECT_NE(registratore.testi[0].find("Manca.hlp"), std::string::npos);
+    EXPECT_EQ(Finestra(), nullptr);
+}
+
+} // namespace

@@ -1,0 +1,100 @@
+#include "frame/ui/NavigaSchermi.h"
+
+#include <QMessageBox>
+#include <QTimer>
+
+#include "frame/ui/MessaggiQt.h"
+#include "frame/ui/Protetto.h"
+#include "screens/Ambiente.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+struct Primo : Schermo {
+    int attivazioni = 0;
+    Primo() : Schermo(QStringLiteral("Primo")) {}
+    void AllAttivazione() override { ++attivazioni; }
+};
+struct Secondo : Primo {
+    Secondo() { setObjectName("Secondo"); }
+    bool visibileIlPrimo = false;
+    void AllAttivazione() override {
+        ++attivazioni;
+        visibileIlPrimo = NavigaSchermi::Unico().Trova("Primo")->isVisible();
+    }
+};
+
+class NavigaSchermiTest : public AmbienteSchermi {};
+
+TEST_F(NavigaSchermiTest, PassingShowsActivatesOnceThenHidesTheOrigin) {
+    auto& n = NavigaSchermi::Unico();
+    auto& a = n.Prendi<Primo>();
+    n.Passa(a, nullptr);
+    auto& b = n.Prendi<Secondo>();
+    n.Passa(b, &a);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(a.attivazioni, 1);
+    EXPECT_EQ(b.attivazioni, 1);
+    EXPECT_TRUE(b.visibileIlPrimo) << "the origin is hidden after the activation";
+    EXPECT_FALSE(a.isVisible());
+    EXPECT_EQ(&n.Prendi<Secondo>(), &b) << "a screen is created once";
+}
+
+TEST_F(NavigaSchermiTest, ClosingADetailGoesBackAndActivatesItsOpener) {
+    auto& n = NavigaSchermi::Unico();
+    auto& a = n.Prendi<Primo>();
+    n.Passa(a, nullptr);
+    auto& b = n.Prendi<Secondo>();
+    n.Apri(b, a);
+    EXPECT_TRUE(a.isVisible()) << "the opener stays behind";
+    QTest::keyClick(&b, Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(b.isVisible());
+    EXPECT_EQ(a.attivazioni, 2);
+    EXPECT_EQ(n.Attivo(), &a);
+}
+
+TEST_F(NavigaSchermiTest, MinimisingAndHidingActivateNothing) {
+    auto& n = NavigaSchermi::Unico();
+    auto& a = n.Prendi<Primo>();
+    n.Passa(a, nullptr);
+    a.showMinimized();
+    QCoreApplication::processEvents();
+    a.showNormal();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(a.attivazioni, 1);
+}
+
+TEST_F(NavigaSchermiTest, MessageBoxDoesNotReactivateTheScreenBehind) {
+    auto& n = NavigaSchermi::Unico();
+    auto& a = n.Prendi<Primo>();
+    n.Passa(a, nullptr);
+    const auto recorder = CollegaMessaggi({});
+    CollegaMessaggiQt();
+    QString shown, title;
+    QTimer::singleShot(0, [&shown, &title] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr)
+            return;
+        shown = box->text();
+        title = box->windowTitle();
+        box->buttons().front()->click();
+    });
+    Avvisa("una riga\raltra riga\r\nterza\r");
+    CollegaMessaggi(recorder);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shown, "una riga\naltra riga\nterza");
+    EXPECT_EQ(title, "Sagomi");
+    EXPECT_EQ(a.attivazioni, 1);
+}
+
+TEST_F(NavigaSchermiTest, ExceptionInAHandlerBecomesABox) {
+    QObject sender;
+    Collega(&sender, &QObject::objectNameChanged, &sender, [] { throw std::out_of_range("indice 9"); });
+    sender.setObjectName("x");
+    EXPECT_EQ(registratore.testi, std::vector<std::string>{"Errore n° 0 - indice 9"});
+}
+
+} // namespace
