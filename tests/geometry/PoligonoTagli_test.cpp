@@ -97,6 +97,47 @@ TEST_P(TagliTest, PartsAddUp) {
     }
 }
 
+/// Area above a level by clipping side by side, as a second method: every side gives the part of it that lies
+/// above.
+double AreaSopra(const Poligono& p, double livello) {
+    std::vector<double> x;
+    std::vector<double> y;
+    for (int i = 1; i <= p.nVertici(); ++i) {
+        const int j = i % p.nVertici() + 1;
+        if (p.yi(i) >= livello) {
+            x.push_back(p.xi(i));
+            y.push_back(p.yi(i));
+        }
+        if ((p.yi(i) >= livello) == (p.yi(j) >= livello))
+            continue;
+        x.push_back(p.xi(i) + (livello - p.yi(i)) / (p.yi(j) - p.yi(i)) * (p.xi(j) - p.xi(i)));
+        y.push_back(livello);
+    }
+    double area = 0;
+    AreaConSegno(static_cast<std::int16_t>(x.size()), x, y, area);
+    return std::abs(area);
+}
+
+// Levels that nearly meet a vertex: within the tolerance of a side, a crossing may lie beyond its end.
+TEST_P(TagliTest, LevelsBesideVertices) {
+    Poligono p = PoligonoDelCaso(GetParam());
+    p.AreaCalcola();
+    // The tolerance of side and box is 1e-5 of the extent; what lies beyond an end has no more than its
+    // square.
+    const double zero = 1e-9 * p.Area + 1e-10 * p.MaxDimensione() * p.MaxDimensione();
+    const double passo = p.MaxDimensione();
+    for (int i = 1; i <= p.nVertici(); ++i)
+        for (const double scarto : {0.0, 1e-7, -1e-7, 4e-6, -4e-6, 1.1e-5, -1.1e-5, 3e-5}) {
+            const double livello = Singolo(p.yi(i) + scarto * passo);
+            std::shared_ptr<Poligono> sopra;
+            std::shared_ptr<Poligono> sotto;
+            p.DividiY(livello, sopra, sotto);
+            if (sopra)
+                sopra->AreaCalcola();
+            EXPECT_NEAR(sopra ? sopra->Area : 0, AreaSopra(p, livello), zero) << i << " " << scarto;
+        }
+}
+
 INSTANTIATE_TEST_SUITE_P(Contorni, TagliTest, testing::ValuesIn(CasiTagliati()),
                          [](const auto& i) { return std::to_string(i.index) + "_" + NomeCaso(i.param); });
 
