@@ -62,6 +62,7 @@ void frmDoppioT::Carica() {
     HeightIni = height() * twipsAPixel;
     CaricaFormComune(*this);
     AggiornaCaptionNormativa(*this);
+    DBGrid1->setFocus();
 }
 
 void frmDoppioT::Leggedati() {
