@@ -1,0 +1,11 @@
+#pragma once
+
+namespace sagomi {
+
+class Schermo;
+
+/// Opens the preview on the current section. The screen's own name goes along: called from
+/// "FrmClasseDoppioTU" the effective outline is drawn that SezioneEfficaceDaPlottare names.
+void PlottaSezioneCorrente(Schermo& da);
+
+} // namespace sagomi
