@@ -1,6 +1,8 @@
 #include "catalogue/ContenitoreOle.h"
 
 #include <cstddef>
+#include <gsf/gsf-infile-msole.h>
+#include <gsf/gsf-input-stdio.h>
 #include <gsf/gsf-outfile-msole.h>
 #include <gsf/gsf-output-memory.h>
 #include <gsf/gsf-utils.h>
@@ -16,20 +18,45 @@ struct RilasciaOggetto {
 };
 template <typename T> using Oggetto = std::unique_ptr<T, RilasciaOggetto>;
 
+void AvviaLibreria() {
+    static const bool avviata = (gsf_init(), true);
+    static_cast<void>(avviata);
+}
+
 void Riuscito(bool esito) {
     if (!esito)
         throw std::runtime_error("il contenitore OLE2 non si lascia comporre");
 }
 
+/// Keeps the library from writing its own findings to the terminal while it lives. It speaks under its own
+/// name and, of the streams, under none.
+class Silenzio {
+public:
+    Silenzio() : proprio_(Zittisce(dominio)), anonimo_(Zittisce(nullptr)) {}
+    ~Silenzio() {
+        g_log_remove_handler(dominio, proprio_);
+        g_log_remove_handler(nullptr, anonimo_);
+    }
+    Silenzio(const Silenzio&) = delete;
+    Silenzio& operator=(const Silenzio&) = delete;
+
+private:
+    static constexpr const char* dominio = "libgsf:msole";
+
+    static guint Zittisce(const char* nome) {
+        return g_log_set_handler(
+            nome, static_cast<GLogLevelFlags>(G_LOG_LEVEL_MASK | G_LOG_FLAG_RECURSION),
+            [](const gchar*, GLogLevelFlags, const gchar*, gpointer) {}, nullptr);
+    }
+
+    guint proprio_;
+    guint anonimo_;
+};
+
 } // namespace
 
-void AvviaLibreriaOle() {
-    static const bool avviata = (gsf_init(), true);
-    static_cast<void>(avviata);
-}
-
 std::string ContenitoreOle(std::string_view nome, const std::vector<std::uint8_t>& dati) {
-    AvviaLibreriaOle();
+    AvviaLibreria();
     const Oggetto<GsfOutput> memoria(gsf_output_memory_new());
     const Oggetto<GsfOutfile> contenitore(gsf_outfile_msole_new(memoria.get()));
     const Oggetto<GsfOutput> flusso(
@@ -41,6 +68,28 @@ std::string ContenitoreOle(std::string_view nome, const std::vector<std::uint8_t
     const guint8* byte = gsf_output_memory_get_bytes(GSF_OUTPUT_MEMORY(memoria.get()));
     Riuscito(byte != nullptr);
     return {byte, byte + gsf_output_size(memoria.get())};
+}
+
+std::vector<std::uint8_t> LeggiFlussoOle(const std::filesystem::path& file,
+                                         std::initializer_list<const char*> nomi) {
+    AvviaLibreria();
+    const Silenzio silenzio;
+    const Oggetto<GsfInput> ingresso(gsf_input_stdio_new(file.c_str(), nullptr));
+    if (!ingresso)
+        throw std::runtime_error("il file non si apre");
+    const Oggetto<GsfInfile> contenitore(gsf_infile_msole_new(ingresso.get(), nullptr));
+    if (!contenitore)
+        throw std::runtime_error("il file non è una cartella di lavoro .xls");
+    for (const char* nome : nomi) {
+        const Oggetto<GsfInput> flusso(gsf_infile_child_by_name(contenitore.get(), nome));
+        if (!flusso)
+            continue;
+        std::vector<std::uint8_t> dati(static_cast<std::size_t>(gsf_input_size(flusso.get())));
+        if (!dati.empty() && gsf_input_read(flusso.get(), dati.size(), dati.data()) == nullptr)
+            throw std::runtime_error("la cartella di lavoro è danneggiata (contenitore)");
+        return dati;
+    }
+    throw std::runtime_error("il file non contiene una cartella di lavoro");
 }
 
 } // namespace sagomi

@@ -7,13 +7,22 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
+#include <vector>
 
+#include "catalogue/CelleCalcolate.h"
+#include "catalogue/ContenitoreOle.h"
 #include "catalogue/ErroreCatalogo.h"
+#include "catalogue/LetturaBiff.h"
 #include "catalogue/VerificaXls.h"
 
 namespace sagomi {
 
 namespace {
+
+[[noreturn]] void Fallisce(const std::filesystem::path& file, const std::string& causa) {
+    throw ErroreCatalogo("Errore nella lettura di \"" + file.string() + "\": " + causa + ".");
+}
 
 std::string CausaInParole(int codice) {
     switch (codice) {
@@ -41,17 +50,28 @@ std::string CausaInParole(int codice) {
 /// A workbook open in freexl. The handle is to be closed after a failed opening too.
 class CartellaAperta {
 public:
-    explicit CartellaAperta(const std::filesystem::path& file) : nome_(file.string()) {
+    explicit CartellaAperta(const std::filesystem::path& file) : file_(file) {
         const int esito = freexl_open(file.c_str(), &maniglia_);
         if (esito != FREEXL_OK) {
             freexl_close(maniglia_);
-            Fallisce(CausaInParole(esito));
+            Fallisce(file_, CausaInParole(esito));
         }
     }
     ~CartellaAperta() { freexl_close(maniglia_); }
     CartellaAperta(const CartellaAperta&) = delete;
     CartellaAperta& operator=(const CartellaAperta&) = delete;
 
+    [[nodiscard]] CartellaDati LeggiFogli() const {
+        CartellaDati cartella;
+        const unsigned fogli = Info(FREEXL_BIFF_SHEET_COUNT);
+        for (unsigned i = 0; i < fogli; ++i)
+            cartella.fogli.push_back(Leggi(static_cast<unsigned short>(i)));
+        if (cartella.fogli.empty())
+            Fallisce(file_, "la cartella di lavoro non ha fogli");
+        return cartella;
+    }
+
+private:
     [[nodiscard]] unsigned Info(unsigned short cosa) const {
         unsigned valore = 0;
         Riuscito(freexl_get_info(maniglia_, cosa, &valore));
@@ -73,19 +93,14 @@ public:
         return foglio;
     }
 
-    [[noreturn]] void Fallisce(const std::string& causa) const {
-        throw ErroreCatalogo("Errore nella lettura di \"" + nome_ + "\": " + causa + ".");
-    }
-
-private:
     void Riuscito(int esito) const {
         if (esito != FREEXL_OK)
-            Fallisce(CausaInParole(esito));
+            Fallisce(file_, CausaInParole(esito));
     }
 
     void LeggiCella(Foglio& foglio, unsigned r, unsigned short c) const;
 
-    std::string nome_;
+    std::filesystem::path file_;
     const void* maniglia_ = nullptr;
 };
 
@@ -166,24 +181,34 @@ void CartellaAperta::LeggiCella(Foglio& foglio, unsigned r, unsigned short c) co
     foglio.righe[r][c] = std::move(cella);
 }
 
+/// Puts in what the library does not give.
+void Completa(CartellaDati& cartella, std::vector<CellaCalcolata> calcolate) {
+    for (CellaCalcolata& cella : calcolate) {
+        const auto foglio = std::ranges::find(cartella.fogli, cella.foglio, &Foglio::nome);
+        const bool daScrivere = foglio != cartella.fogli.end() &&
+                                (!Vuoto(cella.valore) || !Vuoto(foglio->Leggi(cella.riga, cella.colonna)));
+        if (daScrivere)
+            foglio->Scrivi(cella.riga, cella.colonna, std::move(cella.valore));
+    }
+}
+
 } // namespace
 
 CartellaDati LeggiXls(const std::filesystem::path& file) {
     std::error_code errore;
     if (!std::filesystem::is_regular_file(file, errore))
-        throw ErroreCatalogo("Errore nella lettura di \"" + file.string() + "\": il file non esiste.");
+        Fallisce(file, "il file non esiste");
+    std::vector<CellaCalcolata> calcolate;
     try {
-        VerificaXls(file);
+        const std::vector<std::uint8_t> flusso = LeggiFlussoOle(file, {"Workbook", "Book"});
+        const std::vector<RecordLetto> record = LeggiRecord(flusso);
+        VerificaXls(record);
+        calcolate = CelleCalcolate(record);
     } catch (const std::exception& e) {
-        throw ErroreCatalogo("Errore nella lettura di \"" + file.string() + "\": " + e.what() + ".");
+        Fallisce(file, e.what());
     }
-    const CartellaAperta aperta(file);
-    CartellaDati cartella;
-    const unsigned fogli = aperta.Info(FREEXL_BIFF_SHEET_COUNT);
-    for (unsigned i = 0; i < fogli; ++i)
-        cartella.fogli.push_back(aperta.Leggi(static_cast<unsigned short>(i)));
-    if (cartella.fogli.empty())
-        aperta.Fallisce("la cartella di lavoro non ha fogli");
+    CartellaDati cartella = CartellaAperta(file).LeggiFogli();
+    Completa(cartella, std::move(calcolate));
     return cartella;
 }
 

@@ -49,6 +49,27 @@ char32_t ProssimoCarattere(std::string_view testo, std::size_t& i) {
     return c;
 }
 
+void AggiungiUtf8(std::string& utf8, char32_t c) {
+    const auto seguito = [&utf8, c](unsigned spostamento) {
+        utf8.push_back(static_cast<char>(0x80U | ((c >> spostamento) & 0x3FU)));
+    };
+    if (c < 0x80) {
+        utf8.push_back(static_cast<char>(c));
+    } else if (c < 0x800) {
+        utf8.push_back(static_cast<char>(0xC0U | (c >> 6U)));
+        seguito(0);
+    } else if (c < 0x10000) {
+        utf8.push_back(static_cast<char>(0xE0U | (c >> 12U)));
+        seguito(6);
+        seguito(0);
+    } else {
+        utf8.push_back(static_cast<char>(0xF0U | (c >> 18U)));
+        seguito(12);
+        seguito(6);
+        seguito(0);
+    }
+}
+
 /// An integer that 30 bits with sign hold. A negative zero is none: its sign would be lost.
 bool InteroDaRk(double v) {
     return std::trunc(v) == v && v >= -536870912.0 && v <= 536870911.0 && !(v == 0 && std::signbit(v));
@@ -125,6 +146,21 @@ std::u16string Utf16DaUtf8(std::string_view testo) {
         }
     }
     return u;
+}
+
+std::string Utf8DaUtf16(std::u16string_view testo) {
+    std::string utf8;
+    for (std::size_t i = 0; i < testo.size(); ++i) {
+        char32_t c = testo[i];
+        const bool coppia =
+            (c & 0xFC00) == 0xD800 && i + 1 < testo.size() && (testo[i + 1] & 0xFC00) == 0xDC00;
+        if (coppia)
+            c = 0x10000 + ((c & 0x3FFU) << 10U) + (testo[++i] & 0x3FFU);
+        else if (c >= 0xD800 && c < 0xE000)
+            c = sostituto;
+        AggiungiUtf8(utf8, c);
+    }
+    return utf8;
 }
 
 bool EntraInUnByte(std::u16string_view testo) {

@@ -9,8 +9,9 @@
 
 namespace sagomi {
 
-/// Kinds of the BIFF8 records that the writer uses.
+/// Kinds of the BIFF8 records that are written, and of those that are looked at when reading.
 enum class Biff : std::uint16_t {
+    Formula = 0x0006,
     CalcCount = 0x000C,
     CalcMode = 0x000D,
     Precision = 0x000E,
@@ -48,6 +49,8 @@ enum class Biff : std::uint16_t {
     UseSelfs = 0x0160,
     Dimensions = 0x0200,
     Number = 0x0203,
+    BoolErr = 0x0205,
+    String = 0x0207,
     Row = 0x0208,
     Index = 0x020B,
     DefaultRowHeight = 0x0225,
@@ -102,6 +105,9 @@ private:
 
 /// UTF-8 to UTF-16. What is no valid UTF-8 becomes U+FFFD.
 std::u16string Utf16DaUtf8(std::string_view testo);
+
+/// UTF-16 to UTF-8. Half a character beyond U+FFFF becomes U+FFFD.
+std::string Utf8DaUtf16(std::u16string_view testo);
 
 /// All characters fit one byte: the format then stores the low bytes only.
 bool EntraInUnByte(std::u16string_view testo);
