@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+
+#include "screens/SchermoDettaglio.h"
+
+class QLabel;
+
+namespace Ui {
+class FrmVerifiche;
+}
+
+namespace sagomi {
+
+/// Resistance of the section to axial force and bending about both axes, EC3 6.2.9: the terms of the
+/// interaction and its verdict, laid out by the class in compression with bending.
+class FrmVerifiche : public SchermoDettaglio {
+    Q_OBJECT
+public:
+    FrmVerifiche();
+    ~FrmVerifiche() override;
+
+    /// Writes the entries (kN, kNm) into the section, computes its class anew and shows the interaction.
+    void CompletaForm(SchermoSezione& chiamante) override;
+
+protected:
+    /// The actions of the section go into the entries.
+    void RiempiDati() override;
+
+private:
+    void ScegliQuadro(int classe);
+    void MostraPlastica(const SezioneDoppioT& s);
+    void MostraElastica(const SezioneDoppioT& s);
+    void MostraEfficace(const SezioneDoppioT& s);
+
+    std::unique_ptr<Ui::FrmVerifiche> ui_;
+};
+
+} // namespace sagomi
