@@ -179,6 +179,23 @@ public:
     /// xMin, xMax, yMin, yMax.
     [[nodiscard]] std::array<double, 4> BoundingBox() const;
 
+    // Drawing, on the device in force
+    // -------------------------------------------------------------------------
+
+    /// Draws the closed outline, moved by x0y0. With doppio the list holds two contours of equal length: the
+    /// first n/2 - 1 vertices are one closed line, those from n/2 + 1 on another.
+    void Plotta(const std::array<double, 2>& x0y0 = {}, bool doppio = false) const;
+
+    /// Hatches the inside, see TratteggioPlt.
+    /// @param angolo      [degrees]
+    /// @param tratteggio  lines, or below 0 minus their spacing
+    /// @return lines laid
+    int Tratteggia(double angolo, double tratteggio, std::int16_t colore,
+                   const std::array<double, 2>& x0y0 = {}) const;
+
+    /// Writes each vertex's number at the vertex, in texts of that height.
+    void NumeraVertici(double altezza, const std::array<double, 2>& x0y0 = {}) const;
+
     // Splits and plastic moduli -----------------------------------------------------------------------------
 
     /// Splits at the level y (at the abscissa y with lungoX) into the part above and the part below (right
@@ -231,6 +248,9 @@ public:
     [[nodiscard]] std::int16_t nRett(int i) const { return Striscia(i).nRett; } ///< its rectangles
     [[nodiscard]] Singolo bRett(int k, int i) const { return Striscia(i).b[PostoRett(k, i)]; } ///< width
     [[nodiscard]] Singolo xRett(int k, int i) const { return Striscia(i).x[PostoRett(k, i)]; } ///< centre
+
+    /// Draws the rectangles of the strip tables, moved by x0y0.
+    void PlottaRettangolini(const std::array<double, 2>& x0y0 = {}) const;
 
     /// Area of the part of strip i that lies between the levels yInf and ySup.
     [[nodiscard]] double RettangolinoArea(int i, double yInf, double ySup) const;
