@@ -267,7 +267,7 @@ EsitoQuery Catalogo::Esegui(std::string_view query) const {
 
 std::filesystem::path FileAccanto(const std::filesystem::path& cartella, std::string_view nome) {
     std::error_code errore;
-    const std::filesystem::path esatto = cartella / nome;
+    std::filesystem::path esatto = cartella / nome;
     if (std::filesystem::exists(esatto, errore))
         return esatto;
     std::vector<std::filesystem::path> trovati;

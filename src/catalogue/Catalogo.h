@@ -4,12 +4,19 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "catalogue/Lettore.h"
+#include "catalogue/Valore.h"
 
 struct sqlite3;
 
 namespace sagomi {
+
+/// Rows and field names that a query gave.
+struct EsitoQuery {
+    std::vector<std::string> campi;
+    std::vector<std::vector<Valore>> righe; ///< each as long as campi
+};
 
 /// A workbook read once into an in-memory database: a table a sheet, named so that the queries run as they
 /// are written ([IPE$], ['L Uguali'$]). The first row gives the names of the fields, which are found without

@@ -3,15 +3,11 @@
 #include <cstddef>
 #include <string>
 #include <utility>
-#include <variant>
 #include <vector>
 
+#include "catalogue/Valore.h"
+
 namespace sagomi {
-
-/// What a cell or a field holds: nothing, a number or a text in UTF-8.
-using Valore = std::variant<std::monostate, double, std::string>;
-
-inline bool Vuoto(const Valore& v) { return std::holds_alternative<std::monostate>(v); }
 
 /// How a number is meant to be shown where it is not a plain one. A date is the number of days from
 /// 30 December 1899, its fraction is the time of day.

@@ -3,9 +3,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "catalogue/Catalogo.h"
-#include "frame/Numeri.h"
-
 namespace sagomi {
 
 namespace {
@@ -94,20 +91,6 @@ const Valore& Lettore::Campo(int campo) const {
 double Lettore::Numero(int campo) const { return NumeroDi(Campo(campo)); }
 
 std::string Lettore::Testo(int campo) const { return TestoDi(Campo(campo)); }
-
-double NumeroDi(const Valore& v) {
-    if (const auto* numero = std::get_if<double>(&v))
-        return *numero;
-    const auto* testo = std::get_if<std::string>(&v);
-    return testo == nullptr ? 0 : ValoreNumerico(*testo);
-}
-
-std::string TestoDi(const Valore& v) {
-    if (const auto* testo = std::get_if<std::string>(&v))
-        return *testo;
-    const auto* numero = std::get_if<double>(&v);
-    return numero == nullptr ? std::string() : TestoPiano(*numero);
-}
 
 void MuoviRecord(Lettore& lettore, bool avanti) {
     if (avanti) {

@@ -1,22 +1,13 @@
 #pragma once
 
-#include <cstddef>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "catalogue/FoglioDati.h"
+#include "catalogue/Catalogo.h"
 
 namespace sagomi {
-
-/// Rows and field names that a query gave.
-struct EsitoQuery {
-    std::vector<std::string> campi;
-    std::vector<std::vector<Valore>> righe; ///< each as long as campi
-};
 
 /// The reader behind a main screen (its Data1): a workbook, a query, all the rows that it gives and the row
 /// in hand. Rows and fields are counted from 0.
@@ -87,13 +78,6 @@ private:
     EsitoQuery esito_;
     int riga_ = -1;
 };
-
-/// A value as a number: a text by the rule of the entry boxes, nothing as 0.
-double NumeroDi(const Valore& v);
-
-/// A value as plain text: a number in its shortest form with the system's decimal character, without
-/// grouping.
-std::string TestoDi(const Valore& v);
 
 /// One step of the arrow keys and of the little move buttons: forward stays at the last row, back at the
 /// first. The caller then shows field 0 and lets events through.

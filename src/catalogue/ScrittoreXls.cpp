@@ -20,6 +20,7 @@ namespace sagomi {
 
 namespace {
 
+constexpr unsigned italia = 39; ///< country of the program that writes, and of the system
 constexpr std::size_t massimoNomeFoglio = 31;
 constexpr std::size_t minimoFlusso = 4096; ///< below, the container would use its small sectors
 
@@ -70,7 +71,6 @@ TabellaStringhe RaccogliStringhe(const CartellaDati& cartella) {
 /// The head of the workbook up to the list of the sheets.
 void ScriviTesta(FlussoBiff& flusso) {
     constexpr unsigned utf16 = 0x04B0;
-    constexpr unsigned italia = 39;
     flusso.Record(Biff::Bof, Ottetti().U16(0x0600).U16(0x0005).U16(0x0DBB).U16(0x07CC).U32(0x41).U32(0x06));
     flusso.Record(Biff::CodePage, Ottetti().U16(utf16));
     // place and size of the window in twips, scroll bars and tabs shown, first sheet in front
@@ -80,7 +80,6 @@ void ScriviTesta(FlussoBiff& flusso) {
     flusso.Record(Biff::Precision, Ottetti().U16(1));
     ScriviStili(flusso);
     flusso.Record(Biff::UseSelfs, Ottetti().U16(0));
-    flusso.Record(Biff::Country, Ottetti().U16(italia).U16(italia));
 }
 
 /// Enters a sheet into the list. Returns where its position is to be filled in.
@@ -116,6 +115,7 @@ std::vector<std::uint8_t> ComponiBiff(const CartellaDati& cartella) {
     std::vector<std::uint32_t> posti;
     for (const Foglio& foglio : cartella.fogli)
         posti.push_back(ScriviVoceFoglio(flusso, foglio.nome));
+    flusso.Record(Biff::Country, Ottetti().U16(italia).U16(italia));
     stringhe.Scrivi(flusso);
     flusso.Record(Biff::Eof);
     for (std::size_t i = 0; i < cartella.fogli.size(); ++i)

@@ -12,10 +12,11 @@ int main(int argc, char** argv) {
         std::cerr << "crea_sagomi_xls <cartella delle tabelle> <file .xls>\n";
         return 2;
     }
-    std::error_code errore;
-    std::filesystem::remove(argv[2], errore); // an older one may have been made read-only
     try {
-        sagomi::ScriviXls(sagomi::CatalogoDaCsv(argv[1]), argv[2]);
+        const sagomi::CartellaDati catalogo = sagomi::CatalogoDaCsv(argv[1]);
+        std::error_code errore;
+        std::filesystem::remove(argv[2], errore); // an older one may have been made read-only
+        sagomi::ScriviXls(catalogo, argv[2]);
     } catch (const std::exception& e) {
         std::cerr << e.what() << '\n';
         return 1;

@@ -228,17 +228,4 @@ TEST_F(LettoreTest, ReceiverMayMoveAndReplaceItself) {
     EXPECT_EQ(annunci, 1);
 }
 
-TEST(NumeroDi, NothingTextNumber) {
-    EXPECT_EQ(NumeroDi({}), 0);
-    EXPECT_EQ(NumeroDi(S("12.5 mm")), 12.5);
-    EXPECT_EQ(NumeroDi(7.25), 7.25);
-}
-
-TEST(TestoDi, NothingTextNumber) {
-    EXPECT_EQ(TestoDi({}), "");
-    EXPECT_EQ(TestoDi(S("HEA 100")), "HEA 100");
-    EXPECT_EQ(TestoDi(1943.0), "1943");
-    EXPECT_EQ(TestoDi(0.6977), "0.6977");
-}
-
 } // namespace
