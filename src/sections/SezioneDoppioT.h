@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,7 +12,9 @@
 
 namespace sagomi {
 
+class CampiMaschera;
 class SezioneGenerica;
+class Superficie;
 
 /// A double-T section: rolled, welded with equal flanges, welded with different flanges. Geometry, material,
 /// actions, classes and resistances after Eurocode 3 (ENV 1993-1-1 where the clause is of the 1992 edition).
@@ -127,6 +130,18 @@ public:
     bool ErroreDatiDatabase = false; ///< the data of the row do not compute: a slenderness or betaA failed
     std::int16_t Stato1 = 0, Stato2 = 0; ///< kept by the caller
     Singolo Stato3;                      ///< kept by the caller
+
+    /// Makes a welded section of plain dimensions [mm]: stores them, takes the constants from the outline and
+    /// runs InizializzaSezione. With bAlaInf or tAlaInf the flanges differ; the one that is missing is as the
+    /// upper flange's.
+    /// @param schermo  handed on to InizializzaSezione; may be null
+    void InizializzaSezioneUtente(MostraVplRd* schermo, double h_, double b_, double tw_, double tf_,
+                                  double r_, std::optional<double> bAlaInf_ = {},
+                                  std::optional<double> tAlaInf_ = {});
+
+    /// Takes the constants from the outline of the stored dimensions, as the steel of a composite beam needs
+    /// them, sets MplyRd and McyRd to the plastic moment, then runs InizializzaSezione without a screen.
+    void InizializzaSezioneAcciaioCls();
 
     /// Computes everything that follows from the stored data. Without a screen it does no screen work at all.
     /// @param schermo  receives the visibility of lblVplRd; may be null
@@ -244,6 +259,15 @@ public:
     /// Builds SezioneWz4: class 4 flanges cut at the right tip.
     void CoordinateWz4();
 
+    /// Draws the section to scale with hatching, axes, dimensions and the lines of its data. Called from
+    /// "FrmClasseDoppioTU", the effective outline that SezioneEfficaceDaPlottare names is drawn inside the
+    /// thin line of the whole one: 0 compression, 1 bending about y-y, 2 about z-z; the whole section where
+    /// that outline has not been built. Before InizializzaSezione nothing is drawn.
+    /// @param oggetto      target of "VIDEO" and "STAMPANTE"; null for "DXF", "DWG" and "BLOCCO"
+    /// @param maschera     name of the screen that asks
+    /// @param dispositivo  device, put in force
+    void PlottaSezione(Superficie* oggetto, std::string_view maschera, std::string_view dispositivo) const;
+
     [[nodiscard]] double tf1() const; ///< thickness of the flange at its sharp tip [mm]
     [[nodiscard]] double tf2() const; ///< thickness of the flange where the root fillet begins [mm]
     [[nodiscard]] double pf() const;  ///< slope of a tapered flange, 0.14, else 0 [-]
@@ -284,6 +308,17 @@ public:
     double kZ();            ///< factor of Mz in the interaction, at most 1.5 [-]
     double kYfunz();        ///< the same as kY
     double kZfunz();        ///< the same as kZ
+
+    /// The full record in a data file: 65 fields, one a line, in the direction of the mode. Stops at the
+    /// first field that fails, which is told; false then.
+    bool FileSagomoInOut(std::string_view modo, std::int16_t nFile);
+
+    /// The short record: name, grade and fy; the nine dimensions; the kind. As FileSagomoInOut.
+    bool LeggeScrive(std::string_view modo, std::int16_t nFile);
+
+    /// Moves name, grade, fy and the nine dimensions between the section and the fields of the composite
+    /// screen: "L" reads the screen, any other mode writes it.
+    void DatiAcciaioClsLeggeScrive(std::string_view modo, CampiMaschera& maschera);
 };
 
 } // namespace sagomi
