@@ -1,0 +1,63 @@
+#include "screens/ColonnaInstabilita.h"
+
+#include <array>
+
+#include "frame/ui/Schermo.h"
+#include "screens/Mostra.h"
+#include "screens/SezioneInUso.h"
+#include "screens/Unita.h"
+#include "sections/ColonnaInstabilita.h"
+#include "sections/Eurocod3.h"
+#include "sections/SezioneDoppioT.h"
+
+namespace sagomi {
+
+namespace {
+
+/// Writes labels of one screen by their names.
+class Scrittore {
+public:
+    Scrittore(Schermo& screen, int axis) : schermo_(screen), asse_(axis) {}
+
+    void Comune(const char* name, const std::string& text) const { Scrivi(QString::fromLatin1(name), text); }
+
+    void Colonna(const char* name, const std::string& text) const {
+        Scrivi(QString::fromLatin1(name) + u'_' + QString::number(asse_), text);
+    }
+
+private:
+    void Scrivi(const QString& name, const std::string& text) const {
+        if (auto* label = schermo_.findChild<QLabel*>(name))
+            Mostra(label, text);
+    }
+
+    Schermo& schermo_;
+    int asse_;
+};
+
+void ScriviColonna(const Scrittore& su, double lamda, const std::string& curva, const ColonnaCalcolata& c) {
+    su.Colonna("Lbl_Lamda", Formato("0.0#", lamda));
+    su.Colonna("Lbl_LamdaS", Formato("0.0###", c.lamdaSegnato));
+    su.Colonna("Lbl_Curva", curva);
+    su.Colonna("Lbl_Alfa", Formato("0.0#", c.alfa));
+    su.Colonna("Lbl_Fi", Formato("0.0###", c.fi));
+    su.Colonna("Lbl_chi", Formato("0.0###", c.chi));
+    su.Colonna("Lbl_Ncr", lamda == 0 ? std::string(limiteInfinito) : Formato("0.0##", c.Ncr / NInkN));
+    su.Colonna("Lbl_NbRd", Formato("0.0##", c.NbRd / NInkN));
+}
+
+} // namespace
+
+void ColonnaInstabilita(double lamda, int asse, Schermo& schermo) {
+    constexpr std::array<const char*, 3> assi{"yy", "zz", "vv"};
+    SullaSezioneInUso([&](auto& section) {
+        const double betaA = section.betaA();
+        const Scrittore su(schermo, asse);
+        su.Comune("lblGM1", TestoPiano(GammaM1));
+        su.Comune("Lbl_betaA", Formato("0.0##", betaA));
+        const std::string curva = section.CurvaInstabilita(assi.at(static_cast<std::size_t>(asse)));
+        ScriviColonna(su, lamda, curva, CalcolaColonna(lamda, section.fy, betaA, section.Area, curva));
+    });
+}
+
+} // namespace sagomi

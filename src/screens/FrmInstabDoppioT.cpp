@@ -1,0 +1,126 @@
+#include "screens/FrmInstabDoppioT.h"
+
+#include <QRadioButton>
+#include <QScopedValueRollback>
+
+#include <limits>
+
+#include "frame/Messaggi.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/Protetto.h"
+#include "screens/ColonnaInstabilita.h"
+#include "screens/Mostra.h"
+#include "sections/ColonnaInstabilita.h"
+#include "sections/Eurocod3.h"
+#include "sections/SezioneDoppioT.h"
+#include "ui_FrmInstabDoppioT.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr double nessunNumero = std::numeric_limits<double>::quiet_NaN();
+constexpr const char* nomeLamda = "lamda";
+constexpr const char* nomeLamdaSegnato = "lamda segnato";
+
+/// A row without a radius of gyration has no slenderness about that axis.
+bool Calcolabile(const SezioneDoppioT& s, int axis) { return (axis == 0 ? s.iY : s.iZ) != 0; }
+
+void SpiegaFreccia() {
+    Avvisa("Imperfezione di freccia iniziale equivalente\n"
+           "per la verifica all'instabilità usando l'analisi del secondo ordine\n"
+           "EC3 # 5.5.1. figura 5.5.1.\n"
+           "Deve essere inclusa nell'analisi globale del secondo ordine del telaio quando\n"
+           "il moltiplicatore critico è minore di 4 [#5.2.4.2. (4)].\n"
+           "Valore da adottare con analisi globale elastica e verifica di resistenza elastica.");
+}
+
+} // namespace
+
+FrmInstabDoppioT::FrmInstabDoppioT()
+    : SchermoDettaglio(QStringLiteral("FrmInstabDoppioT")), ui_(new Ui::FrmInstabDoppioT) {
+    ui_->setupUi(this);
+    CollegaControlli();
+    optChi_ = Vettore<QRadioButton>(QStringLiteral("optChi"));
+    optE0_ = Vettore<QRadioButton>(QStringLiteral("optE0"));
+    txtChi_ = Vettore<QLineEdit>(QStringLiteral("txtChi"));
+    CollegaCalcolo();
+    DimensionaIniziale({});
+}
+
+FrmInstabDoppioT::~FrmInstabDoppioT() = default;
+
+void FrmInstabDoppioT::CollegaCalcolo() {
+    for (QRadioButton* option : optChi_)
+        Collega(option, &QRadioButton::toggled, this, [this](bool on) {
+            if (on)
+                CalcolaChi();
+        });
+    for (QRadioButton* option : optE0_)
+        Collega(option, &QRadioButton::toggled, this, [this](bool on) {
+            if (on)
+                MostraFreccia();
+        });
+    Collega(txtChi_[0], &QLineEdit::textChanged, this, [this] { CalcolaChi(); });
+    Collega(txtChi_[1], &QLineEdit::textChanged, this, [this] { CalcolaChi(); });
+    Collega(ui_->ComboChi, &QComboBox::currentIndexChanged, this, [this] { CalcolaChi(); });
+    Collega(ui_->LblNbRd, &QPushButton::clicked, this, [] { SpiegaFreccia(); });
+}
+
+void FrmInstabDoppioT::CompletaForm(SchermoSezione& /*chiamante*/) {
+    const SezioneDoppioT* s = Sezione();
+    if (s == nullptr)
+        return;
+    Mostra(ui_->Lbl_eps, "0.0#", Epsilon(s->fy));
+    Mostra(ui_->Lbl_Lamda1, "0.0#", Lamda1(Epsilon(s->fy)));
+    CompletaForm1(0);
+    CompletaForm1(1);
+    CalcolaChi();
+    MostraFreccia();
+}
+
+void FrmInstabDoppioT::CompletaForm1(int asse) {
+    SezioneDoppioT* s = Sezione();
+    if (s == nullptr)
+        return;
+    const double lamda = asse == 0 ? s->LamdaY() : s->LamdaZ();
+    ColonnaInstabilita(Calcolabile(*s, asse) ? lamda : nessunNumero, asse, *this);
+}
+
+void FrmInstabDoppioT::CorreggiBetaA() {
+    if (!(NumeroIn(txtChi_[1]) > 1))
+        return;
+    Avvisa("BetaA deve essere <=1");
+    txtChi_[1]->setText(QStringLiteral("1"));
+}
+
+void FrmInstabDoppioT::CalcolaChi() {
+    const SezioneDoppioT* s = Sezione();
+    if (s == nullptr || correggendo_)
+        return;
+    const QScopedValueRollback guard(correggendo_, true);
+    CorreggiBetaA();
+    const bool relativa = optChi_[1]->isChecked();
+    ui_->LblChi_0->setText(QString::fromLatin1(relativa ? nomeLamdaSegnato : nomeLamda));
+    ui_->LblChi_2->setText(QString::fromLatin1(relativa ? nomeLamda : nomeLamdaSegnato));
+    const auto r = CalcolaRiduzione(NumeroIn(txtChi_[0]), relativa, s->fy, NumeroIn(txtChi_[1]),
+                                    ui_->ComboChi->currentText().toStdString());
+    const auto show = [this](int i, std::string_view picture, double value) {
+        txtChi_[i]->setText(QString::fromStdString(Formato(picture, value)));
+    };
+    show(2, relativa ? "0.0#" : "0.0###", r.altra);
+    show(3, "0.0#", r.alfa);
+    show(4, "0.0###", r.fi);
+    show(5, "0.0###", r.chi);
+}
+
+void FrmInstabDoppioT::MostraFreccia() {
+    SezioneDoppioT* s = Sezione();
+    if (s == nullptr)
+        return;
+    const int axis = optE0_[0]->isChecked() ? 0 : 1;
+    const double bow = Calcolabile(*s, axis) ? FrecciaIniziale(*s, axis == 0 ? "yy" : "zz") : nessunNumero;
+    ui_->txtE0->setText(QString::fromStdString(FormatoCifre(4, bow)));
+}
+
+} // namespace sagomi

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QList>
+
+#include <memory>
+
+#include "screens/SchermoDettaglio.h"
+
+class QRadioButton;
+
+namespace Ui {
+class FrmInstabDoppioT;
+}
+
+namespace sagomi {
+
+/// How the buckling resistances of a double-T come about, EC3 6.3.1, a calculator of the reduction factor,
+/// and the equivalent initial bow.
+class FrmInstabDoppioT : public SchermoDettaglio {
+    Q_OBJECT
+public:
+    FrmInstabDoppioT();
+    ~FrmInstabDoppioT() override;
+
+    /// Shows the derivation about both axes, the calculator's results and the bow.
+    void CompletaForm(SchermoSezione& chiamante) override;
+
+    /// The column of one axis: 0 y-y, 1 z-z.
+    void CompletaForm1(int asse);
+
+private:
+    void CollegaCalcolo();
+    void CalcolaChi();
+    void CorreggiBetaA();
+    void MostraFreccia();
+
+    std::unique_ptr<Ui::FrmInstabDoppioT> ui_;
+    QList<QRadioButton*> optChi_;
+    QList<QRadioButton*> optE0_;
+    QList<QLineEdit*> txtChi_;
+    bool correggendo_ = false; ///< the calculator rewrites its own box
+};
+
+} // namespace sagomi
