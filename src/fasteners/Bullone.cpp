@@ -1,0 +1,146 @@
+#include "fasteners/Bullone.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "fasteners/Rapporto.h"
+#include "frame/GeneraleSagomi.h"
+#include "frame/Messaggi.h"
+#include "frame/Numeri.h"
+#include "geometry/Matematica.h"
+
+namespace sagomi {
+
+namespace {
+
+// Classes by their shear coefficient on the thread, table 6.5.3. They are compared as they are stored.
+constexpr std::array classi06{4.6F, 5.6F, 8.8F};
+constexpr std::array classi05{4.8F, 5.8F, 6.8F, 10.9F};
+
+constexpr double giocoRidotto = 0.85;        ///< shear through M12 and M14 in holes of larger play, 6.5.5 (8)
+constexpr double riduzioneMassima = 2.0 / 3; ///< bearing at the least distance across the load, 6.5.5 (10)
+
+// Diameters that part the standard plays of 1, 2 and 3 mm [mm].
+constexpr int diametroMedio = 15;
+constexpr int diametroGrande = 24;
+
+template <std::size_t n> bool Contiene(const std::array<float, n>& classi, Singolo classe) {
+    return std::ranges::find(classi, classe.Stretto()) != classi.end();
+}
+
+/// On the straight line from the least distance, where bearing is reduced most, to the one that leaves it
+/// whole. The two differ wherever there is a hole.
+double Riduzione(double distanza, double minima, double intera) {
+    return yInterpola(minima, riduzioneMassima, intera, 1, distanza).value_or(1);
+}
+
+} // namespace
+
+const Tabella1<DimensioneBullone>& TabellaBulloni() {
+    // clang-format off
+    static const Tabella1<DimensioneBullone> tabella{
+        { 8,  38.6}, {10,   58}, {12,  84.3}, {14,  115}, {16,  157}, {18,  192}, {20,  245}, {22,  303},
+        {24,   353}, {27,  459}, {30,   581}, {33,  694}, {36,  817}, {39,  976}, {42, 1120}, {45, 1310},
+        {48,  1470}, {52, 1760}, {56,  2030}, {60, 2360}, {64, 2680}, {68, 3060}};
+    // clang-format on
+    return tabella;
+}
+
+double Bullone::InterazioneTaglioTrazione() const {
+    return Rapporto(FtSd / 1.4, FtRd) + Rapporto(FvSd, FvRd);
+}
+
+void Bullone::Classe(Singolo classe) {
+    Classe_ = classe;
+    const double n = std::floor(classe);
+    const Singolo f = classe - n; // not rounded to one decimal: 8.8 is 8.80000019 in 32 bits
+    fub = n * 100;
+    fyb = n * f * 100;
+}
+
+void Bullone::d(std::int16_t posizione) {
+    const DimensioneBullone& riga = TabellaBulloni()[posizione];
+    d_ = riga.d;
+    Ares = riga.Ares;
+    Alorda = double(d_) * d_ * std::numbers::pi / 4;
+    Ataglio = Gambo ? Alorda : Ares;
+    do_ = DiametroForoStandard();
+}
+
+void Bullone::CalcolaResistenzaTaglio() {
+    FtRd = 0.9 * fub * Ares / GammaM2;
+    FvRdGambo = 0.6 * fub * Alorda / GammaM2;
+    if (Contiene(classi06, Classe_)) {
+        FvRdFilettata = 0.6 * fub * Ares / GammaM2;
+    } else if (Contiene(classi05, Classe_)) {
+        FvRdFilettata = 0.5 * fub * Ares / GammaM2;
+        if (d_ < diametroMedio && do_ - d_ > 1)
+            FvRdFilettata *= giocoRidotto;
+    } else {
+        Avvisa("Classe bullone non implementata");
+    }
+    Ataglio = Gambo ? Alorda : Ares;
+    FvRd = Gambo ? FvRdGambo : FvRdFilettata;
+}
+
+Singolo Bullone::DiametroForoStandard() const {
+    if (d_ < diametroMedio)
+        return d_ + 1;
+    return d_ > diametroGrande ? d_ + 3 : d_ + 2;
+}
+
+void Bullone::AlfaCalcola() {
+    const std::array<Singolo, 3> rapporti{Rapporto(e1 / 3, do_), Rapporto(p1 / 3, do_) - 0.25,
+                                          Rapporto(fub, fu)};
+    alfa = 1;
+    for (const Singolo& r : rapporti)
+        if (r.Stretto() < alfa.Stretto())
+            alfa = r;
+}
+
+double Bullone::RiduzioneBordo() const { return Riduzione(e2, MultiploForo(1.2), MultiploForo(1.5)); }
+
+double Bullone::RiduzionePasso() const { return Riduzione(p2, MultiploForo(2.4), MultiploForo(3)); }
+
+bool Bullone::DistanzeControlla() {
+    struct Controllo {
+        Singolo distanza;
+        Singolo minima;
+        const char* testo;
+        const char* articolo;
+    };
+    const std::array<Controllo, 5> controlli{
+        {{do_, d_, "do deve essere > d = ", ""},
+         {e1, MultiploForo(1.2), "e1 deve essere > 1.2 do = ", " - EC3 #6.5.1.2. (1)"},
+         {p1, MultiploForo(2.2), "p1 deve essere > 2.2 do = ", " - EC3 #6.5.1.5. (1)"},
+         {e2, MultiploForo(1.2), "e2 deve essere > 1.2 do = ", " - EC3 #6.5.1.3. (2)"},
+         {p2, MultiploForo(2.4), "p2 deve essere > 2.4 do = ", " - EC3 #6.5.1.5. (2)"}}};
+    bool bastano = true;
+    int i = 0;
+    for (const Controllo& c : controlli) {
+        std::string& messaggio = messaggi_[++i];
+        messaggio.clear();
+        if (c.distanza.Stretto() >= c.minima.Stretto())
+            continue;
+        messaggio = c.testo + Formato("0.0", c.minima) + c.articolo;
+        bastano = false;
+    }
+    return bastano;
+}
+
+void Bullone::RifollamentoCalcola() {
+    AlfaCalcola();
+    FbRd = 2.5 * alfa * fu * d_ * t / GammaM2;
+    if (!DistanzeControlla()) {
+        FbRd = 0;
+        return;
+    }
+    if (e2.Stretto() < MultiploForo(1.5).Stretto())
+        FbRd *= RiduzioneBordo();
+    if (p2.Stretto() < MultiploForo(3).Stretto())
+        FbRd *= RiduzionePasso();
+}
+
+} // namespace sagomi
