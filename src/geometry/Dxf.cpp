@@ -87,6 +87,11 @@ bool DxfChiude() {
     return riuscito;
 }
 
+void DxfAbbandona() {
+    AbbandonaFile(nFileDxf);
+    nFileDxf = 0;
+}
+
 void DxfLinea(double x1, double y1, double x2, double y2) {
     Inizio("LINE");
     Colore();

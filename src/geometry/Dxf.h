@@ -23,6 +23,9 @@ bool DxfApre(const std::filesystem::path& nomeFile, std::int16_t& nFile);
 /// file of that name from before is then as it was.
 bool DxfChiude();
 
+/// Drops what was written; a file of that name from before stays as it was.
+void DxfAbbandona();
+
 void DxfLinea(double x1, double y1, double x2, double y2);
 void DxfCerchio(double x, double y, double r);
 /// Open line of the first n points; fewer than 2 write nothing.

@@ -1,6 +1,7 @@
 #include "geometry/Plottaggio.h"
 
 #include <cmath>
+#include <utility>
 
 #include "frame/Messaggi.h"
 #include "geometry/Grafica.h"
@@ -34,12 +35,13 @@ void Plottaggio::Bordi(double sx, double su, double dx, double giu) { bordi_ = {
 void Plottaggio::EstremiFinestra(double x, double y, double l, double h) { estremi_ = {x, y, l, h}; }
 
 void Plottaggio::Inizializza(Superficie* oggetto, std::string_view dispositivo, bool proporzionale) {
+    std::string nome(dispositivo); // it may be a view of the one in force
     *this = Plottaggio();
     oggetto_ = oggetto;
-    dispositivo_ = dispositivo;
+    dispositivo_ = std::move(nome);
     proporzionale_ = proporzionale;
     OggettoGrafico = oggetto;
-    Dispositivo = dispositivo;
+    Dispositivo = dispositivo_;
 }
 
 void Plottaggio::AdattaAfinestra() {

@@ -16,6 +16,7 @@
 #include "frame/ui/MessaggiQt.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "geometry/ui/FrmPltSezione.h"
 #include "screens/SchermoSezione.h"
 #include "screens/frmDoppioT.h"
 #include "sections/SezioneDoppioT.h"
@@ -109,6 +110,7 @@ void AttivaForm(SchermoSezione& schermo) {
         Guida::ImpostaFile(schermo.FileGuida());
         if (schermo.cmdSceltaSagomoGiunto != nullptr)
             schermo.cmdSceltaSagomoGiunto->setVisible(SceltaSagomoGiunto);
+        NavigaSchermi::Unico().Prendi<FrmPltSezione>(); // stands ready behind every main screen
         IndiceAcciaio = static_cast<std::int16_t>(schermo.ComboTipoAcciaio->currentIndex());
         AggiornaCaptionNormativa(schermo);
         schermo.CaricaForm = false;

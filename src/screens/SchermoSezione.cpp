@@ -16,6 +16,7 @@
 #include "frame/ui/Protetto.h"
 #include "screens/FrmInform.h"
 #include "screens/GeneraleSchermi.h"
+#include "screens/PlottaSezioneCorrente.h"
 #include "screens/frmGamma.h"
 #include "sections/SezioneDoppioT.h"
 
@@ -80,6 +81,11 @@ void SchermoSezione::CollegaMenu() {
 
 void SchermoSezione::CollegaTabella() {
     Collega(Pulsante("AggiornaTabella"), &QPushButton::clicked, this, [this] { CambioFamiglia(*this); });
+    if (QPushButton* plot = Pulsante("CmdPlotta"))
+        Collega(plot, &QPushButton::clicked, this, [this] {
+            if (RigaInMano())
+                PlottaSezioneCorrente(*this);
+        });
     for (QRadioButton* option : OptionOrdina)
         Collega(option, &QRadioButton::toggled, this, [this](bool on) {
             if (on && !CaricaForm)

@@ -232,7 +232,8 @@ void SezioneDoppioT::PlottaSezione(Superficie* oggetto, std::string_view mascher
     if (!SezioneGenericaCorrente || !SezioneGenericaCorrente->Poligono ||
         SezioneGenericaCorrente->Poligono->nVertici() < 3)
         return;
-    DisegnoDoppioT(*this, oggetto, dispositivo, SezioneEfficace(*this, maschera)).Traccia();
+    const std::string uscita(dispositivo); // it may be a view of the one in force
+    DisegnoDoppioT(*this, oggetto, uscita, SezioneEfficace(*this, maschera)).Traccia();
 }
 
 } // namespace sagomi

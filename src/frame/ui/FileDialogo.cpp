@@ -59,6 +59,11 @@ SceltaFile& Scelta() {
 
 void ImpostaSceltaFile(SceltaFile scelta) { Scelta() = scelta ? std::move(scelta) : ScegliColDialogo; }
 
+QString ScegliFile(QWidget* sopra, std::string_view modo, const QString& filtro, int indiceFiltro,
+                   const QString& proposto) {
+    return Scelta()(sopra, modo, filtro, indiceFiltro, proposto);
+}
+
 bool FileDialogo(SchermoConFile& schermo, std::string_view modo, std::string_view descrizione,
                  std::string_view estensione, QString& file) {
     const QString extension = Utf8(estensione);
