@@ -7,9 +7,13 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
+#include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "geometry/SezioneGenerica.h"
+#include "screens/FrmClasseDoppioTU.h"
+#include "screens/FrmInstabDoppioT.h"
+#include "screens/FrmMcRd.h"
 #include "screens/GeneraleSchermi.h"
+#include "screens/SagomaDi.h"
 #include "sections/SezioneDoppioT.h"
 #include "ui_frmDoppioT.h"
 
@@ -46,10 +50,22 @@ frmDoppioT::frmDoppioT() : SchermoSezione(QStringLiteral("frmDoppioT")), ui_(new
     Collega(ui_->lblVplRd, &QPushButton::clicked, this,
             [] { Avvisa("d/tw > 69 epsilon. Verificare instabilità per taglio EC3 #5.4.6.(7)"); });
     ui_->lblVplRd->hide();
+    CollegaDettagli();
     Carica();
 }
 
 frmDoppioT::~frmDoppioT() = default;
+
+void frmDoppioT::CollegaDettagli() {
+    Collega(ui_->LblClasse, &QPushButton::clicked, this, [this] { Apri<FrmClasseDoppioTU>(); });
+    Collega(ui_->LblNbRd, &QPushButton::clicked, this, [this] { Apri<FrmInstabDoppioT>(); });
+    Collega(ui_->LblMcRd, &QPushButton::clicked, this, [this] { Apri<FrmMcRd>(); });
+}
+
+template <typename T> void frmDoppioT::Apri() {
+    if (RigaInMano())
+        NavigaSchermi::Unico().Prendi<T>().ApriDa(*this, *this);
+}
 
 void frmDoppioT::Carica() {
     SeparatoriControlla(ui_->txtNascosto);
@@ -88,7 +104,7 @@ void frmDoppioT::Risultati() {
     Sezione()->InizializzaSezione(this);
     MostraClassi();
     MostraResistenze();
-    DisegnaSezione();
+    ui_->Picture1->Mostra(SagomaDi(*Sezione()));
 }
 
 void frmDoppioT::MostraClassi() {
@@ -112,22 +128,6 @@ void frmDoppioT::MostraResistenze() {
     // A row whose data do not compute has no buckling resistance, and what follows from it was not reached.
     for (QLineEdit* box : {ui_->TxtNbRd_0, ui_->TxtNbRd_1, ui_->TxtVplRd_0, ui_->TxtVplRd_1})
         box->clear();
-}
-
-void frmDoppioT::DisegnaSezione() {
-    const SezioneDoppioT& s = *Sezione();
-    SagomaDisegnata picture;
-    const auto& outline = *s.SezioneGenericaCorrente->Poligono;
-    for (int i = 1; i <= outline.nVertici(); ++i)
-        picture.contorno << QPointF(outline.xi(i), outline.yi(i));
-    picture.h = s.h;
-    picture.b = s.b;
-    picture.tw = s.tw;
-    picture.tf = s.tf;
-    picture.raggio = s.r1;
-    picture.yG = s.yG;
-    picture.nomeRaggio = QStringLiteral("r1");
-    ui_->Picture1->Mostra(picture);
 }
 
 void frmDoppioT::SvuotaRisultati() {

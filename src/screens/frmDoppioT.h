@@ -27,9 +27,10 @@ protected:
 
 private:
     void Carica();
+    void CollegaDettagli();
+    template <typename T> void Apri(); ///< opens a detail screen
     void MostraClassi();
     void MostraResistenze();
-    void DisegnaSezione();
 
     std::unique_ptr<Ui::frmDoppioT> ui_;
 };

@@ -1,0 +1,145 @@
+#include "screens/FrmClasseDoppioTU.h"
+
+#include <array>
+
+#include "frame/Messaggi.h"
+#include "frame/ui/Protetto.h"
+#include "screens/Mostra.h"
+#include "screens/PlottaSezioneCorrente.h"
+#include "screens/SezioneInUso.h"
+#include "screens/Unita.h"
+#include "sections/Eurocod3.h"
+#include "sections/SezioneDoppioT.h"
+#include "ui_FrmClasseDoppioTU.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr int cifre = 4;
+
+/// Double-T and channels have a web and flanges; angles do not.
+template <typename S>
+concept ConAnimaEAli = requires(S& s) {
+    s.SnellWeb();
+};
+
+void MostraClasse(QLabel* label, int section_class) { label->setText(QString::number(section_class)); }
+
+/// The lower and upper limits in bending, then those in compression.
+void MostraLimiti(const QList<QLabel*>& labels, const std::array<std::string, 4>& limits) {
+    for (int i = 0; i < labels.size(); ++i)
+        Mostra(labels[i], limits.at(static_cast<std::size_t>(i)));
+}
+
+} // namespace
+
+FrmClasseDoppioTU::FrmClasseDoppioTU()
+    : SchermoDettaglio(QStringLiteral("FrmClasseDoppioTU")), ui_(new Ui::FrmClasseDoppioTU) {
+    ui_->setupUi(this);
+    CollegaControlli();
+    limitiWeb_ = Vettore<QLabel>(QStringLiteral("Lbl_LimiteWeb"));
+    limitiAla_ = Vettore<QLabel>(QStringLiteral("Lbl_LimiteAla"));
+    pltAeff_ = Vettore<QPushButton>(QStringLiteral("pltAeff"));
+    Collega(ui_->LblClasse, &QPushButton::clicked, this, [this] { SpiegaClasse(); });
+    for (int i = 0; i < pltAeff_.size(); ++i)
+        Collega(pltAeff_[i], &QPushButton::clicked, this, [this, i] { PlottaEfficace(i); });
+    DimensionaIniziale({});
+}
+
+FrmClasseDoppioTU::~FrmClasseDoppioTU() = default;
+
+void FrmClasseDoppioTU::CompletaForm(SchermoSezione& /*chiamante*/) {
+    SullaSezioneInUso([this](const auto& s) {
+        if constexpr (ConAnimaEAli<std::decay_t<decltype(s)>>) {
+            MostraMateriale(s);
+            MostraAnima(s);
+            MostraAla(s);
+            MostraEfficaci(s);
+        }
+    });
+    const SezioneDoppioT* s = Sezione();
+    const bool different = s != nullptr && s->SaldataAsimm;
+    MostraAlaInferiore(different);
+    if (different)
+        CompletaFormAsimmetrici();
+}
+
+template <typename S> void FrmClasseDoppioTU::MostraMateriale(const S& s) {
+    Mostra(ui_->Lbl_fy, TestoPiano(s.fy));
+    Mostra(ui_->Lbl_eps, "0.00#", Epsilon(s.fy));
+    MostraClasse(ui_->Lbl_ClasseC, s.ClassePressoFlessione);
+}
+
+template <typename S> void FrmClasseDoppioTU::MostraAnima(const S& s) {
+    Mostra(ui_->Lbl_d, "0.0#", s.d);
+    Mostra(ui_->Lbl_tw, "0.0#", s.tw);
+    Mostra(ui_->Lbl_SnellWeb, "0.0#", s.SnellWeb());
+    MostraLimiti(limitiWeb_, {s.Limite0WebF, s.Limite1WebF, s.Limite0WebC, s.Limite1WebC});
+    MostraClasse(ui_->Lbl_ClasseWebF, s.ClasseWebF);
+    MostraClasse(ui_->Lbl_ClasseWebC, s.ClasseWebC);
+}
+
+// Of different flanges the limits are those of the lower one, which is classified last.
+template <typename S> void FrmClasseDoppioTU::MostraAla(const S& s) {
+    Mostra(ui_->Lbl_c, "0.00", s.c);
+    Mostra(ui_->Lbl_tf, "0.00", s.tf);
+    Mostra(ui_->Lbl_SnellAla, "0.0#", s.SnellAla());
+    MostraLimiti(limitiAla_, {s.Limite0AlaF, s.Limite1AlaF, s.Limite0AlaC, s.Limite1AlaC});
+    MostraClasse(ui_->Lbl_ClasseAlaF, s.ClasseAlaF);
+    MostraClasse(ui_->Lbl_ClasseAlaC, s.ClasseAlaC);
+}
+
+template <typename S> void FrmClasseDoppioTU::MostraEfficaci(const S& s) {
+    pltAeff_[0]->setVisible(s.ClasseCompressione == 4 && s.SezioneComp4);
+    pltAeff_[1]->setVisible(s.ClasseFlessioneY == 4 && s.SezioneWy4);
+    pltAeff_[2]->setVisible(s.ClasseFlessioneZ == 4 && s.SezioneWz4);
+}
+
+void FrmClasseDoppioTU::CompletaFormAsimmetrici() {
+    const SezioneDoppioT* s = Sezione();
+    if (s == nullptr)
+        return;
+    Mostra(ui_->Lbl_cInf, "0.00", s->cAlaInf);
+    Mostra(ui_->Lbl_tfInf, "0.00", s->tAlaInf);
+    Mostra(ui_->Lbl_SnellAlaInf, "0.0#", s->SnellAlaInf());
+    Mostra(ui_->Lbl_LimiteAlaInf_0, s->Limite0AlaC);
+    Mostra(ui_->Lbl_LimiteAlaInf_1, s->Limite1AlaC);
+    MostraClasse(ui_->Lbl_ClasseAlaInfF, s->ClasseAlaInfF);
+    MostraClasse(ui_->Lbl_ClasseAlaInfC, s->ClasseAlaInfC);
+}
+
+void FrmClasseDoppioTU::MostraAlaInferiore(bool visibile) {
+    for (QLabel* label :
+         {ui_->lblAlaInf, ui_->lblAlaInfDim1, ui_->lblAlaInfDim2, ui_->lblAlaInfSn, ui_->lblAlaInfPer,
+          static_cast<QLabel*>(ui_->Lbl_cInf), static_cast<QLabel*>(ui_->Lbl_tfInf),
+          static_cast<QLabel*>(ui_->Lbl_SnellAlaInf), static_cast<QLabel*>(ui_->Lbl_LimiteAlaInf_0),
+          static_cast<QLabel*>(ui_->Lbl_LimiteAlaInf_1), static_cast<QLabel*>(ui_->Lbl_ClasseAlaInfF),
+          static_cast<QLabel*>(ui_->Lbl_ClasseAlaInfC)})
+        label->setVisible(visibile);
+}
+
+void FrmClasseDoppioTU::SpiegaClasse() const {
+    SullaSezioneInUso([](const auto& s) {
+        if constexpr (ConAnimaEAli<std::decay_t<decltype(s)>>)
+            Avvisa("Poiché non è logico penalizzare la resistenza a presso-flessione della sezione,\n"
+                   "classificandola in base alla classe a compressione dell'anima\n"
+                   "anche in presenza di azioni assiali modeste,\n"
+                   "si adotta un criterio mutuato dalla regola EC3 #6.2.9.1 (4)\n"
+                   "Se Nsd < " +
+                   FormatoCifre(cifre, s.Ntrascurabile / NInkN) +
+                   " kN\n"
+                   "(valore minore fra la metà della resistenza plastica dell'anima\n"
+                   " ed un quarto della resistenza plastica della sezione)\n"
+                   "si assume la classe a flessione.\n"
+                   "Altrimenti si assume la classe a compressione.");
+    });
+}
+
+void FrmClasseDoppioTU::PlottaEfficace(int indice) {
+    if (SezioneDoppioT* s = Sezione())
+        s->SezioneEfficaceDaPlottare = static_cast<std::int16_t>(indice);
+    PlottaSezioneCorrente(*this);
+}
+
+} // namespace sagomi

@@ -1,0 +1,108 @@
+#include "screens/FrmMcRd.h"
+
+#include <cmath>
+
+#include "frame/ui/Campi.h"
+#include "frame/ui/Protetto.h"
+#include "screens/Mostra.h"
+#include "screens/SagomaDi.h"
+#include "screens/SezioneInUso.h"
+#include "screens/Unita.h"
+#include "sections/Duttilita.h"
+#include "sections/SezioneDoppioT.h"
+#include "ui_FrmMcRd.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr int cifre = 4;
+constexpr int cifreLimite = 3;
+
+/// Double-T and channels have bending resistances; angles do not.
+template <typename S>
+concept ConMomenti = requires(S& s) {
+    s.McyRd;
+};
+
+/// The moduli among which a class chooses.
+struct Moduli {
+    double plastico, elastico, efficace;
+};
+
+std::string Modulo(int classe, const Moduli& w) {
+    if (classe < 3)
+        return "Plastico " + FormatoCifreEsp(cifre, Singolo(w.plastico));
+    if (classe == 3)
+        return "Elastico " + FormatoCifreEsp(cifre, Singolo(w.elastico));
+    return "Effettivo " + FormatoCifreEsp(cifre, w.efficace);
+}
+
+std::string Momento(double m) { return FormatoCifreEsp(cifre, m / NmmInkNm); }
+
+/// The value that governs stands out.
+void Evidenzia(QLabel* label, bool governs) {
+    QPalette colours;
+    if (governs)
+        colours.setColor(QPalette::WindowText, QColor(255, 0, 0));
+    label->setPalette(colours);
+    QFont font = label->font();
+    font.setBold(governs);
+    label->setFont(font);
+}
+
+std::string Uguale(int figures, double value) {
+    return std::isfinite(value) ? "=" + FormatoCifreEsp(figures, value) : std::string();
+}
+
+} // namespace
+
+FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::FrmMcRd) {
+    ui_->setupUi(this);
+    CollegaControlli();
+    for (QLineEdit* box : {ui_->TxtNsd, ui_->txtLstar})
+        Collega(box, &QLineEdit::textChanged, this, [this] { Duttilita(); });
+    DimensionaIniziale({});
+}
+
+FrmMcRd::~FrmMcRd() = default;
+
+void FrmMcRd::RiempiDati() {
+    SullaSezioneInUso([this](const auto& s) {
+        ui_->TxtNsd->setText(QString::fromStdString(TestoPiano(Singolo(s.NSd / NInkN))));
+    });
+    FuocoSu(ui_->TxtNsd);
+}
+
+void FrmMcRd::CompletaForm(SchermoSezione& /*chiamante*/) {
+    SullaSezioneInUso([this](const auto& s) {
+        if constexpr (ConMomenti<std::decay_t<decltype(s)>>) {
+            ui_->Lbl_Classe_0->setText(QString::number(s.ClasseFlessioneY));
+            ui_->Lbl_Classe_1->setText(QString::number(s.ClasseFlessioneZ));
+            Mostra(ui_->Lbl_W_0, Modulo(s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}));
+            Mostra(ui_->Lbl_W_1, Modulo(s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}));
+            Mostra(ui_->Lbl_McRd_0, Momento(s.McyRd));
+            Mostra(ui_->Lbl_McRd_1, Momento(s.MczRd));
+            if constexpr (requires { SagomaDi(s); })
+                ui_->Picture1->Mostra(SagomaDi(s));
+        }
+    });
+    Duttilita();
+}
+
+void FrmMcRd::Duttilita() { CalcolaDuttilita(NumeroIn(ui_->TxtNsd) * NInkN, NumeroIn(ui_->txtLstar)); }
+
+void FrmMcRd::CalcolaDuttilita(double N, double Lstar) {
+    SullaSezioneInUso([&](const auto& s) {
+        if constexpr (ConMomenti<std::decay_t<decltype(s)>>) {
+            const SezioneDuttile section{s.h, s.b, s.tw, s.tf, s.Area, s.fy, s.fu};
+            const DuttilitaCalcolata r = sagomi::CalcolaDuttilita(section, N, Lstar);
+            Mostra(ui_->Lbl_s_0, Lstar > 0 ? Uguale(cifre, r.s) : "L* ?");
+            Mostra(ui_->Lbl_s_1, Uguale(cifreLimite, r.limite));
+            Evidenzia(ui_->Lbl_s_0, r.s <= r.limite);
+            Evidenzia(ui_->Lbl_s_1, r.s > r.limite);
+        }
+    });
+}
+
+} // namespace sagomi
