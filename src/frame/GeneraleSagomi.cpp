@@ -69,6 +69,7 @@ void RipristinaGenerale() {
     SezioneCorrente.emplace<std::monostate>();
     Versione.clear();
     ScreenAttivo.clear();
+    SuggerimentoBulloni = true;
     SceltaSagomoGiunto = false;
     ServerAttivo = false;
     OggettoServer = nullptr;

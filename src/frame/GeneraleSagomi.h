@@ -59,6 +59,7 @@ inline Singolo GammaM1Altro;
 inline Singolo GammaM2Altro;
 inline std::string Versione;            ///< of the settings file that was read
 inline std::string ScreenAttivo;        ///< name of the screen last activated
+inline bool SuggerimentoBulloni = true; ///< once in a run, advice on a bolt says how its box closes
 inline bool SceltaSagomoGiunto = false; ///< a section screen was reached from the joint screen, to pick
 inline bool ServerAttivo = false;       ///< driven by an automation client
 inline OsservatoreSezione* OggettoServer = nullptr;

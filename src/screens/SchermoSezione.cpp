@@ -8,6 +8,8 @@
 #include <QMenuBar>
 #include <QStatusBar>
 
+#include "fasteners/ui/frmBulloni.h"
+#include "fasteners/ui/frmSaldature.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
@@ -77,6 +79,16 @@ void SchermoSezione::CollegaMenu() {
             [this] { Guida::Apri(FileGuida()); });
     Collega(findChild<QAction*>(QStringLiteral("mnuHelp_1")), &QAction::triggered, this,
             [this] { NavigaSchermi::Unico().Prendi<FrmInform>().Apri(*this); });
+    CollegaVoce("mnuCollegamenti_0", [this] { NavigaSchermi::Unico().Prendi<frmBulloni>().Apri(*this); });
+    CollegaVoce("mnuCollegamenti_1", [this] { NavigaSchermi::Unico().Prendi<frmSaldature>().Apri(*this); });
+}
+
+void SchermoSezione::CollegaVoce(const char* nome, std::function<void()> apre) {
+    auto* entry = findChild<QAction*>(QString::fromLatin1(nome));
+    if (entry == nullptr)
+        return;
+    entry->setEnabled(true);
+    Collega(entry, &QAction::triggered, this, [apre = std::move(apre)] { apre(); });
 }
 
 void SchermoSezione::CollegaTabella() {

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -99,6 +100,8 @@ protected:
 
 private:
     void CollegaMenu();
+    /// Enables a menu entry and gives it its screen; a family of sections without that entry goes without.
+    void CollegaVoce(const char* nome, std::function<void()> apre);
     void CollegaDati();
     void CollegaTabella();
     void RigaNuova();

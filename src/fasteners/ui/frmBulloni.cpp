@@ -1,0 +1,299 @@
+#include "fasteners/ui/frmBulloni.h"
+
+#include <QCloseEvent>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+#include <limits>
+
+#include "fasteners/ui/GeneraleCollegamenti.h"
+#include "frame/GeneraleSagomi.h"
+#include "frame/Numeri.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/Esito.h"
+#include "frame/ui/Guida.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "ui_frmBulloni.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr double kN_a_N = 1000;
+constexpr double N_a_kN = 1e-3;
+constexpr int cifreRisultati = 4;
+constexpr int ultimaEntrata = 5; ///< Txt_Rif up to here is typed, beyond it computed
+constexpr int nMessaggi = 5;
+
+/// Places of Txt_Rif.
+enum { rifSpessore, rifForo, rif_e1, rif_p1, rif_e2, rif_p2, rifAlfa, rifResistenza };
+
+/// Boxes of the hole and the distances with what they hold.
+constexpr std::pair<int, Singolo Bullone::*> misure[] = {{rifForo, &Bullone::do_},
+                                                         {rif_e1, &Bullone::e1},
+                                                         {rif_p1, &Bullone::p1},
+                                                         {rif_e2, &Bullone::e2},
+                                                         {rif_p2, &Bullone::p2}};
+
+/// Writes a text without telling the box's own handler.
+void Scrive(QLineEdit* box, const std::string& text) {
+    const QSignalBlocker quiet(box);
+    box->setText(QString::fromStdString(text));
+}
+
+void MostraForza(QLineEdit* box, Singolo force) {
+    Scrive(box, FormatoCifre(cifreRisultati, Singolo(force * N_a_kN)));
+}
+
+} // namespace
+
+frmBulloni::frmBulloni() : Schermo(QStringLiteral("frmBulloni")), ui_(new Ui::frmBulloni) {
+    ui_->setupUi(this);
+    Txt_Rif_ = Vettore<QLineEdit>(QStringLiteral("Txt_Rif"));
+    Txt_FSd_ = Vettore<QLineEdit>(QStringLiteral("Txt_FSd"));
+    QSizePolicy place = ui_->List1->sizePolicy(); // keeps its place: nothing jumps when a message comes
+    place.setRetainSizeWhenHidden(true);
+    ui_->List1->setSizePolicy(place);
+    ui_->List1->setFixedHeight(nMessaggi * (ui_->List1->fontMetrics().height() + 3) +
+                               2 * ui_->List1->frameWidth());
+    PreparaContenuto();
+    DimensionaIniziale({});
+    CollegaScelte();
+    CollegaCaselle();
+}
+
+frmBulloni::~frmBulloni() = default;
+
+void frmBulloni::CollegaScelte() {
+    // Choosing the same item again counts: it brings the class's fub, or the usual distances, back.
+    Collega(ui_->ComboClassiBulloni, &QComboBox::activated, this, [this] { SceglieClasse(); });
+    Collega(ui_->ComboDiametriBulloni, &QComboBox::activated, this, [this] { SceglieDiametro(); });
+    Collega(ui_->optFilettata_1, &QRadioButton::toggled, this, [this] { SceglieSezione(); });
+    Collega(ui_->UpDown2, &UpDown::passo, this, [this](bool su) {
+        PassoAcciaioCorrente(su);
+        MostraAcciaioCorrente(ui_->Txt_TipoAcciaio, ui_->Txt_fu);
+    });
+    Collega(ui_->Command1, &QPushButton::clicked, this, [this] { ApreChiudeOsservazioni(); });
+}
+
+void frmBulloni::CollegaCaselle() {
+    Collega(ui_->Txt_fub, &QLineEdit::textChanged, this, [this] { ScriveFub(); });
+    Collega(ui_->Txt_fu, &QLineEdit::textChanged, this, [this] { ScriveFu(); });
+    for (int i = 0; i <= ultimaEntrata; ++i)
+        Collega(Txt_Rif_[i], &QLineEdit::textChanged, this, [this, i] { ScriveRif(i); });
+    for (QLineEdit* box : Txt_FSd_)
+        Collega(box, &QLineEdit::textChanged, this, [this] {
+            if (!Caricamento && bullone_)
+                Interazione();
+        });
+    auto* entries = new FiltroCampi(this, [this](QLineEdit* box) { return Invio(box); });
+    for (QLineEdit* box : findChildren<QLineEdit*>())
+        if (!box->isReadOnly())
+            entries->Osserva(box);
+}
+
+bool frmBulloni::Invio(QLineEdit* casella) {
+    const auto i = Txt_Rif_.indexOf(casella);
+    if (i >= 0)
+        FuocoSu(i < ultimaEntrata ? Txt_Rif_[i + 1] : Txt_FSd_[0]);
+    else if (casella == Txt_FSd_[0])
+        FuocoSu(Txt_FSd_[1]);
+    else if (casella == Txt_FSd_[1])
+        ui_->Command1->setFocus(Qt::TabFocusReason);
+    else
+        return false;
+    return true;
+}
+
+void frmBulloni::Apri(Schermo& chiamante) {
+    origine = &chiamante;
+    NavigaSchermi::Unico().Passa(*this, &chiamante);
+    ui_->ComboClassiBulloni->setFocus();
+}
+
+void frmBulloni::AllAttivazione() {
+    Guida::ImpostaFile(FileGuida());
+    if (!bullone_)
+        Carica();
+}
+
+void frmBulloni::closeEvent(QCloseEvent* event) {
+    bullone_.reset();
+    Schermo::closeEvent(event);
+}
+
+void frmBulloni::Carica() {
+    const QScopedValueRollback loading(Caricamento, true);
+    bullone_.emplace();
+    DisponiInAlto(this);
+    ui_->Txt_Osservazioni->hide();
+    for (QLineEdit* box : {Txt_Rif_[rifSpessore], Txt_FSd_[0], Txt_FSd_[1]})
+        box->clear();
+    ComboClassiBulloniCarica(ui_->ComboClassiBulloni);
+    ComboDiametriBulloniCarica(ui_->ComboDiametriBulloni);
+    SceglieClasse();
+    ui_->optFilettata_0->setChecked(true);
+    bullone_->Gambo = false;
+    SceglieDiametro();
+    MostraAcciaioCorrente(ui_->Txt_TipoAcciaio, ui_->Txt_fu);
+    ClasseCambiata();
+    DiametroCambiato();
+    Interazione();
+}
+
+void frmBulloni::SceglieClasse() {
+    if (!bullone_ || ui_->ComboClassiBulloni->currentIndex() < 0)
+        return;
+    IndiceClasseBullone = static_cast<std::int16_t>(ui_->ComboClassiBulloni->currentIndex());
+    bullone_->Classe(ClasseScelta(ui_->ComboClassiBulloni));
+    if (!Caricamento)
+        ClasseCambiata();
+}
+
+void frmBulloni::SceglieDiametro() {
+    if (!bullone_)
+        return;
+    bullone_->d(static_cast<std::int16_t>(ui_->ComboDiametriBulloni->currentIndex() + 1));
+    if (!Caricamento)
+        DiametroCambiato();
+}
+
+void frmBulloni::SceglieSezione() {
+    if (Caricamento || !bullone_)
+        return;
+    bullone_->Gambo = ui_->optFilettata_1->isChecked();
+    DiametroCambiato();
+}
+
+void frmBulloni::ScriveFub() {
+    const double fub = NumeroIn(ui_->Txt_fub);
+    if (Caricamento || !bullone_ || !(fub > 0))
+        return;
+    bullone_->fub = fub;
+    bullone_->CalcolaResistenzaTaglio();
+    MostraTaglioTrazione();
+    RifollamentoAggiorna();
+    Interazione();
+}
+
+void frmBulloni::ScriveFu() {
+    if (!Caricamento && bullone_ && NumeroIn(ui_->Txt_fu) > 0)
+        RifollamentoAggiorna();
+}
+
+void frmBulloni::ScriveRif(int i) {
+    if (Caricamento || !bullone_ || (i != rifSpessore && !(NumeroIn(Txt_Rif_[i]) > 0)))
+        return;
+    RifollamentoAggiorna();
+    if (i != rifForo)
+        return;
+    bullone_->CalcolaResistenzaTaglio(); // the play of the hole may reduce it
+    MostraTaglioTrazione();
+    Interazione();
+}
+
+void frmBulloni::ClasseCambiata() {
+    bullone_->CalcolaResistenzaTaglio();
+    Scrive(ui_->Txt_fub, Formato("0", bullone_->fub));
+    Scrive(ui_->Txt_fyb, TestoPiano(bullone_->fyb));
+    MostraTaglioTrazione(); // 4.6 and 4.8 share fub, but not the shear resistance
+    if (Caricamento)
+        return;
+    RifollamentoAggiorna();
+    Interazione();
+}
+
+void frmBulloni::DiametroCambiato() {
+    bullone_->do_ = bullone_->DiametroForoStandard();
+    bullone_->CalcolaResistenzaTaglio();
+    MostraTaglioTrazione();
+    // Distances that lower nothing: alfa is 1 and no reduction across the load applies.
+    const Singolo hole = bullone_->do_;
+    Scrive(Txt_Rif_[rifForo], TestoPiano(hole));
+    Scrive(Txt_Rif_[rif_e1], TestoPiano(Singolo(3 * hole)));
+    Scrive(Txt_Rif_[rif_p1], TestoPiano(Singolo(3.75 * hole)));
+    Scrive(Txt_Rif_[rif_e2], TestoPiano(Singolo(1.5 * hole)));
+    Scrive(Txt_Rif_[rif_p2], TestoPiano(Singolo(3 * hole)));
+    RifollamentoAggiorna();
+    Interazione();
+}
+
+void frmBulloni::MostraTaglioTrazione() {
+    Scrive(ui_->Txt_A, Formato("0.0", bullone_->Ataglio));
+    MostraForza(ui_->Txt_FVRd, bullone_->FvRd);
+    MostraForza(ui_->Txt_FtRd, bullone_->FtRd);
+}
+
+void frmBulloni::RifollamentoAggiorna() {
+    // Of what divides, and of the distances, nothing but a positive value reaches the bolt.
+    if (const double fu = NumeroIn(ui_->Txt_fu); fu > 0)
+        bullone_->fu = fu;
+    bullone_->t = NumeroIn(Txt_Rif_[rifSpessore]);
+    for (const auto& [place, member] : misure)
+        if (const double v = NumeroIn(Txt_Rif_[place]); v > 0)
+            (*bullone_).*member = v;
+    bullone_->RifollamentoCalcola();
+    Scrive(Txt_Rif_[rifAlfa], FormatoCifre(cifreRisultati, bullone_->alfa));
+    MostraForza(Txt_Rif_[rifResistenza], bullone_->FbRd);
+    Messaggi();
+    Disegna();
+    if (ui_->Txt_Osservazioni->isVisible())
+        MostraOsservazioni();
+}
+
+void frmBulloni::Messaggi() {
+    ui_->List1->hide();
+    ui_->List1->clear();
+    for (std::int16_t i = 1; i <= nMessaggi; ++i) {
+        const std::string text = bullone_->Messaggio(i);
+        if (text.empty())
+            continue;
+        ui_->List1->show();
+        ui_->List1->addItem(QString::fromStdString(text));
+    }
+}
+
+void frmBulloni::Interazione() {
+    bullone_->FvSd = NumeroIn(Txt_FSd_[0]) * kN_a_N;
+    bullone_->FtSd = NumeroIn(Txt_FSd_[1]) * kN_a_N;
+    if (bullone_->FvRd == 0 || bullone_->FtRd == 0) {
+        ui_->Lbl_Risultato_0->clear();
+        MostraEsito(ui_->Lbl_Risultato_1, std::numeric_limits<double>::quiet_NaN());
+        return;
+    }
+    const auto text = [](double v) { return FormatoCifre(cifreRisultati, v); };
+    const double sum = bullone_->InterazioneTaglioTrazione();
+    ui_->Lbl_Risultato_0->setText(QString::fromStdString(text(bullone_->FvSd / bullone_->FvRd) + " + " +
+                                                         text(bullone_->FtSd / 1.4 / bullone_->FtRd) + " = " +
+                                                         text(sum)));
+    MostraEsito(ui_->Lbl_Risultato_1, sum);
+}
+
+void frmBulloni::Disegna() {
+    const Bullone& b = *bullone_;
+    ui_->Picture1->Mostra({double(b.d()), b.do_, b.e1, b.p1, b.e2, b.p2});
+}
+
+void frmBulloni::ApreChiudeOsservazioni() {
+    if (ui_->Txt_Osservazioni->isVisible()) {
+        ui_->Txt_Osservazioni->hide();
+        return;
+    }
+    conSuggerimento_ = SuggerimentoBulloni;
+    SuggerimentoBulloni = false;
+    ui_->Txt_Osservazioni->show();
+    ui_->Txt_Osservazioni->raise();
+    MostraOsservazioni();
+}
+
+void frmBulloni::MostraOsservazioni() {
+    std::string text;
+    bullone_->Osservazioni(text);
+    if (conSuggerimento_)
+        text += "\r\n\r\nCliccare nuovamente sul comando Osservazioni per chiudere la casella";
+    ui_->Txt_Osservazioni->setPlainText(QString::fromStdString(text));
+}
+
+} // namespace sagomi

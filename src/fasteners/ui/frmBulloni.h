@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QList>
+
+#include <memory>
+#include <optional>
+
+#include "fasteners/Bullone.h"
+#include "frame/ui/Schermo.h"
+
+class QLineEdit;
+
+namespace Ui {
+class frmBulloni;
+}
+
+namespace sagomi {
+
+/// One bolt in one plate: class, diameter, hole and distances, and its resistances as they are typed. Closing
+/// drops the bolt; the next opening begins with a new one, of the class last chosen.
+class frmBulloni : public Schermo {
+    Q_OBJECT
+public:
+    frmBulloni();
+    ~frmBulloni() override;
+
+    /// Shows the screen in the place of the one that opens it, where closing goes back to.
+    void Apri(Schermo& chiamante);
+
+    void AllAttivazione() override;
+
+    bool Caricamento = false; ///< the screen is loading: change handlers do nothing
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void CollegaScelte();
+    void CollegaCaselle();
+    bool Invio(QLineEdit* casella);
+
+    void Carica();
+    void SceglieClasse();
+    void SceglieDiametro();
+    void SceglieSezione();
+    void ScriveFub();
+    void ScriveFu();
+    void ScriveRif(int i);
+
+    void ClasseCambiata();
+    void DiametroCambiato();
+    void RifollamentoAggiorna();
+    void Messaggi();
+    void Interazione();
+    void MostraTaglioTrazione();
+    void Disegna();
+
+    void ApreChiudeOsservazioni();
+    void MostraOsservazioni();
+
+    std::unique_ptr<Ui::frmBulloni> ui_;
+    QList<QLineEdit*> Txt_Rif_;
+    QList<QLineEdit*> Txt_FSd_;
+    std::optional<Bullone> bullone_;
+    bool conSuggerimento_ = false; ///< the advice in view also tells how to close it
+};
+
+} // namespace sagomi

@@ -1,0 +1,62 @@
+#include "fasteners/ui/frmSaldature.h"
+
+#include "fasteners/ui/GeneraleCollegamenti.h"
+#include "frame/Errori.h"
+#include "frame/Numeri.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/Guida.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "ui_frmSaldature.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr int cifreRisultati = 4;
+constexpr int larghezzaTitolo = 640; ///< shows the whole caption [px]
+
+} // namespace
+
+frmSaldature::frmSaldature() : Schermo(QStringLiteral("frmSaldature")), ui_(new Ui::frmSaldature) {
+    ui_->setupUi(this);
+    PreparaContenuto();
+    DimensionaIniziale({larghezzaTitolo, 0});
+    DisponiInAlto(this);
+    Collega(ui_->UpDown2, &UpDown::passo, this, [this](bool su) {
+        PassoAcciaioCorrente(su);
+        MostraAcciaio();
+    });
+}
+
+frmSaldature::~frmSaldature() = default;
+
+void frmSaldature::Apri(Schermo& chiamante) {
+    origine = &chiamante;
+    NavigaSchermi::Unico().Passa(*this, &chiamante);
+    ui_->UpDown2->setFocus();
+}
+
+void frmSaldature::AllAttivazione() {
+    Guida::ImpostaFile(FileGuida());
+    MostraAcciaio();
+}
+
+void frmSaldature::MostraAcciaio() {
+    MostraAcciaioCorrente(ui_->Txt_TipoAcciaio, ui_->Txt_fu);
+    Aggiorna();
+}
+
+void frmSaldature::Aggiorna() {
+    if (!saldatura_)
+        saldatura_.emplace();
+    saldatura_->fu = NumeroIn(ui_->Txt_fu);
+    ui_->Txt_betaw->setText(QString::fromStdString(TestoPiano(saldatura_->betaW())));
+    try {
+        ui_->Txt_fvwd->setText(QString::fromStdString(FormatoCifre(cifreRisultati, saldatura_->fvwd())));
+    } catch (const ErroreAritmetico&) { // no correlation factor, as the message has just said
+        ui_->Txt_fvwd->clear();
+    }
+}
+
+} // namespace sagomi
