@@ -112,7 +112,7 @@ void SezioneDoppioT::InizializzaSezione(MostraVplRd* schermo) {
     Piatti(*this);
     Contorno(*this);
     NplRd = NplRdFunz();
-    Ntrascurabile = NtrascurabileFunz();
+    NtrascurabileFunz();
     Classi(*this);
     if (ClasseCompressione == 4)
         CoordinateComp4();

@@ -147,9 +147,9 @@ public:
     /// @param schermo  receives the visibility of lblVplRd; may be null
     void InizializzaSezione(MostraVplRd* schermo = nullptr);
 
-    /// The smaller of half the web's plastic resistance and a quarter of the section's [N], after EC3
-    /// 6.2.9.1 (4). Reads d and NplRd.
-    [[nodiscard]] double NtrascurabileFunz() const;
+    /// Writes Ntrascurabile, the smaller of half the web's plastic resistance and a quarter of the section's
+    /// [N], after EC3 6.2.9.1 (4). Reads d and NplRd.
+    double NtrascurabileFunz();
 
     /// Writes Mcr, ENV 1993-1-1 annex F.1.2; leaves it as it was when LLT is not above 0. Returns Mcr [N mm].
     double McrFunz();

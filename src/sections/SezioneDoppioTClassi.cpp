@@ -84,9 +84,10 @@ std::int16_t SezioneDoppioT::ClasseAlaFlessione(double s, double l1, double l2, 
     return classe;
 }
 
-double SezioneDoppioT::NtrascurabileFunz() const {
+double SezioneDoppioT::NtrascurabileFunz() {
     const double Nw = tw * fy * d / GammaM0;
-    return std::min(Nw / 2, NplRd / 4);
+    Ntrascurabile = std::min(Nw / 2, NplRd / 4);
+    return Ntrascurabile;
 }
 
 void SezioneDoppioT::ClassePressoFlessioneCalcola() {

@@ -1,6 +1,7 @@
 #include "sections/SezioneDoppioT.h"
 
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 #include "frame/GeneraleSagomi.h"
@@ -48,7 +49,9 @@ double SezioneDoppioT::McrFunz() {
     const double kL2 = std::pow(LLT * k, 2);
     const double T = std::pow(k / Kw, 2) * Jw / Jz + kL2 * G_acciaio * JT / (pi2 * E_acciaio * Jz);
     const double S = std::sqrt(D * D + T) - D;
-    Mcr = S * pi2 * C1 * E_acciaio * Jz / kL2;
+    const double critical = S * pi2 * C1 * E_acciaio * Jz / kL2;
+    // Kw or k of 0 would make an infinite moment, and that a resistance without any reduction.
+    Mcr = std::isfinite(critical) ? critical : std::numeric_limits<double>::quiet_NaN();
     return Mcr;
 }
 

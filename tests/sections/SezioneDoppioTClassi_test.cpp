@@ -202,6 +202,7 @@ TEST_F(SezioneDoppioTClassi, NtrascurabileIsTheSmallerShare) {
     EXPECT_DOUBLE_EQ(s.NtrascurabileFunz(), 7500); // web: 1 235 100 / 1.25 / 2 = 9400
     s.NplRd = 80000;
     EXPECT_DOUBLE_EQ(s.NtrascurabileFunz(), 9400);
+    EXPECT_DOUBLE_EQ(s.Ntrascurabile, 9400) << "the threshold is kept";
 }
 
 TEST_F(SezioneDoppioTClassi, CompressionWithBendingTurnsAtNtrascurabile) {

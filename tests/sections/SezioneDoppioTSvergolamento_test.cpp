@@ -131,6 +131,23 @@ TEST_F(SezioneDoppioTSvergolamento, AMomentThatIsNoNumberGivesNoResistance) {
     EXPECT_EQ(s.ChiLTfunz(), 0);
 }
 
+// A restraint factor of 0 divides by nothing: no moment, no resistance, and never one without reduction.
+TEST_F(SezioneDoppioTSvergolamento, RestraintFactorOfZeroGivesNoResistance) {
+    SezioneDoppioT s = Ipe200Trave(3000);
+    s.Kw = 0;
+    s.McrFunz();
+    s.MbRdSub();
+    EXPECT_TRUE(std::isnan(double(s.Mcr)));
+    EXPECT_TRUE(std::isnan(double(s.MbRd)));
+    s.Kw = 1;
+    s.k = 0;
+    s.c2 = 1;
+    s.za = -100;
+    s.McrFunz();
+    s.MbRdSub();
+    EXPECT_TRUE(std::isnan(double(s.MbRd)));
+}
+
 TEST_F(SezioneDoppioTSvergolamento, FactorsOfTheInteractionAreLimited) {
     GammaM1 = 1;
     SezioneDoppioT s;
