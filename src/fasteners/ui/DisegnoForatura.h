@@ -25,8 +25,8 @@ public:
     void Mostra(const ForaturaDisegnata& foratura);
     [[nodiscard]] const ForaturaDisegnata& Mostrata() const { return foratura_; }
 
-    [[nodiscard]] QSize sizeHint() const override { return {260, 220}; }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {180, 170}; }
+    [[nodiscard]] QSize sizeHint() const override { return {260, 150}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {180, 130}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
