@@ -63,6 +63,8 @@ void FrmClasseDoppioTU::CompletaForm(SchermoSezione& /*chiamante*/) {
     MostraAlaInferiore(different);
     if (different)
         CompletaFormAsimmetrici();
+    if (!isMaximized())
+        DimensionaIniziale(size()); // more rows and buttons ask for more room
 }
 
 template <typename S> void FrmClasseDoppioTU::MostraMateriale(const S& s) {
