@@ -202,11 +202,9 @@ void SchermoSezione::closeEvent(QCloseEvent* event) {
     ChiudiProgramma();
 }
 
+// The table, the steel list and the sort options keep their arrow keys to themselves: these never get here.
 bool SchermoSezione::FrecciaDiRiga(int key) {
     if (key != Qt::Key_Up && key != Qt::Key_Down)
-        return false;
-    const QWidget* focus = focusWidget(); // these three have arrow keys of their own
-    if (focus == DBGrid1 || focus == ComboTipoAcciaio || qobject_cast<const QRadioButton*>(focus) != nullptr)
         return false;
     MuoviRecord(Data1->Recordset(), key == Qt::Key_Down);
     return true;

@@ -148,6 +148,8 @@ void GrigliaCatalogo::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QTableView::keyPressEvent(event);
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
+        event->accept(); // at the first and last row too: nobody else shall move it
 }
 
 QString GrigliaCatalogo::RigheSelezionate() const {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QPushButton>
+#include <QSignalSpy>
 
 #include "screens/Ambiente.h"
 
@@ -73,6 +74,9 @@ TEST_F(GrigliaCatalogoTest, RowInHandFollowsMouseAndKeys) {
     EXPECT_EQ(Testo(&s, "TxtProf_0"), "IPE 140");
     QTest::keyClick(s.DBGrid1, Qt::Key_End, Qt::ControlModifier);
     EXPECT_EQ(Testo(&s, "TxtProf_0"), "IPE 600");
+    QSignalSpy rows(s.Data1, &LettoreDati::rigaCambiata);
+    QTest::keyClick(s.DBGrid1, Qt::Key_Down);
+    EXPECT_EQ(rows.count(), 0) << "the last row stays, without being taken over again";
 }
 
 } // namespace
