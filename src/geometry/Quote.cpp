@@ -1,6 +1,5 @@
 #include "geometry/Quote.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "geometry/Grafica.h"
@@ -43,16 +42,33 @@ void Quote::Orizzontale(double x1, double x2, double yPezzo, double y, std::stri
     TestoPlt((x1 + x2) / 2, y + (verso > 0 ? stacco : -1 - stacco) * a_, a_, testo, Allinea::Centro);
 }
 
-void Quote::Verticale(double y1, double y2, double xPezzo, double x, std::string_view testo) const {
-    const double verso = Verso(xPezzo, x);
-    Linea(x, y1, x, y2);
-    for (const double y : {y1, y2}) {
-        Linea(xPezzo + verso * stacco * a_, y, x + verso * sporgenza * a_, y);
-        Tacca(x, y);
-    }
+void Quote::Riferimento(const Estremo& punto, double x) const {
+    const double verso = Verso(punto.x, x);
+    Linea(punto.x + verso * stacco * a_, punto.y, x + verso * sporgenza * a_, punto.y);
+    Tacca(x, punto.y);
+}
+
+void Quote::TestoAccanto(const Estremo& basso, const Estremo& alto, double x, std::string_view testo) const {
+    const double verso = Verso(basso.x, x);
     PennaPlt(pennaInchiostro);
-    TestoPlt(x + verso * 2 * stacco * a_, (y1 + y2 - a_) / 2, a_, testo,
+    TestoPlt(x + verso * 2 * stacco * a_, (basso.y + alto.y - a_) / 2, a_, testo,
              verso > 0 ? Allinea::Sinistra : Allinea::Destra);
+}
+
+void Quote::Verticale(const Estremo& basso, const Estremo& alto, double x, std::string_view testo) const {
+    Linea(x, basso.y, x, alto.y);
+    Riferimento(basso, x);
+    Riferimento(alto, x);
+    TestoAccanto(basso, alto, x, testo);
+}
+
+void Quote::SpessoreVerticale(const Estremo& basso, const Estremo& alto, double x,
+                              std::string_view testo) const {
+    Riferimento(basso, x);
+    Riferimento(alto, x);
+    Linea(x, alto.y, x, alto.y + codolo * a_);
+    Linea(x, basso.y, x, basso.y - codolo * a_);
+    TestoAccanto(basso, alto, x, testo);
 }
 
 void Quote::SpessoreOrizzontale(double x1, double x2, double y, std::string_view testo) const {
@@ -62,21 +78,6 @@ void Quote::SpessoreOrizzontale(double x1, double x2, double y, std::string_view
     Tacca(x2, y);
     PennaPlt(pennaInchiostro);
     TestoPlt(x2 + (codolo + stacco) * a_, y - a_ / 2, a_, testo);
-}
-
-void Quote::SpessoreVerticale(double y1, double y2, double xPezzo, double x, std::string_view testo) const {
-    const double verso = Verso(xPezzo, x);
-    for (const double y : {y1, y2}) {
-        Linea(xPezzo + verso * stacco * a_, y, x + verso * sporgenza * a_, y);
-        Tacca(x, y);
-    }
-    const double basso = std::min(y1, y2);
-    const double alto = std::max(y1, y2);
-    Linea(x, alto, x, alto + codolo * a_);
-    Linea(x, basso, x, basso - codolo * a_);
-    PennaPlt(pennaInchiostro);
-    TestoPlt(x + verso * 2 * stacco * a_, (y1 + y2 - a_) / 2, a_, testo,
-             verso > 0 ? Allinea::Sinistra : Allinea::Destra);
 }
 
 void Quote::Richiamo(double x, double y, double xTesto, double yTesto, std::string_view testo) const {

@@ -139,7 +139,7 @@ private:
         const double altezza = (static_cast<double>(righe_.size()) + 1 + ingrandimentoTitolo) * interlinea;
         const double sopra = s_.SaldataAsimm ? quotaOltreAsse + 2 : quotaEsterna + 0.5;
         const Margini accanto{8, sopra, colonnaTesti + larghezza + 1, 5.5};
-        return {accanto, Margini{8, sopra + altezza, colonnaTesti, 5.5}};
+        return {accanto, Margini{8, sopra + altezza + 1, colonnaTesti, 5.5}};
     }
 
     [[nodiscard]] const SezioneGenerica& Disegnata() const {
@@ -176,14 +176,17 @@ private:
 
     void Quotatura() const {
         const auto [xMin, xMax, yMin, yMax] = riquadro_;
-        quote_.Verticale(yMin, yMax, xMax, xMax + quotaEsterna * a_, TestoPiano(s_.h));
         const double bInf = s_.SaldataAsimm ? s_.bAlaInf : s_.b;
+        quote_.Verticale({bInf / 2, yMin}, {s_.b / 2, yMax}, xMax + quotaEsterna * a_, TestoPiano(s_.h));
         quote_.Orizzontale(-bInf / 2, bInf / 2, yMin, yMin - quotaEsterna * a_, TestoPiano(Singolo(bInf)));
-        quote_.SpessoreVerticale(yMax - s_.tf, yMax, -s_.b / 2, xMin - quotaSpessore * a_, TestoPiano(s_.tf));
+        const double xSpessore = xMin - quotaSpessore * a_;
+        // The thickness of a tapered flange counts at a quarter of its width.
+        const double xTf = s_.r2 > 0 ? -s_.b / 4 : -s_.b / 2;
+        quote_.SpessoreVerticale({xTf, yMax - s_.tf}, {-s_.b / 2, yMax}, xSpessore, TestoPiano(s_.tf));
         quote_.SpessoreOrizzontale(-s_.tw / 2, s_.tw / 2, 0.3 * s_.h, TestoPiano(s_.tw));
         if (s_.SaldataAsimm) {
             quote_.Orizzontale(-s_.b / 2, s_.b / 2, yMax, yMax + quotaOltreAsse * a_, TestoPiano(s_.b));
-            quote_.SpessoreVerticale(yMin, yMin + s_.tAlaInf, -s_.bAlaInf / 2, xMin - quotaSpessore * a_,
+            quote_.SpessoreVerticale({-bInf / 2, yMin}, {-bInf / 2, yMin + s_.tAlaInf}, xSpessore,
                                      TestoPiano(s_.tAlaInf));
         }
         if (Raccordo(s_) > 0)
@@ -202,7 +205,7 @@ private:
         const Margini& m = margini_[tavola_.Disposizione()];
         const bool accanto = tavola_.Disposizione() == testiAccanto;
         const double x = accanto ? riquadro_[1] + colonnaTesti * a_ : riquadro_[0] - m.sx * a_;
-        double y = accanto ? riquadro_[3] : riquadro_[3] + (m.su - ingrandimentoTitolo) * a_;
+        double y = accanto ? riquadro_[3] : riquadro_[3] + (m.su - ingrandimentoTitolo - 1) * a_;
         PennaPlt(pennaInchiostro);
         TestoPlt(x, y, ingrandimentoTitolo * a_, s_.Designation);
         y -= ingrandimentoTitolo * interlinea * a_;

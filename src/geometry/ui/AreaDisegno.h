@@ -29,7 +29,7 @@ public:
     [[nodiscard]] const VistaSchermo& Vista() const { return vista_; }
 
     [[nodiscard]] QSize sizeHint() const override { return {640, 520}; }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {320, 260}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {240, 200}; }
 
 signals:
     void vistaCambiata(double zoom);
