@@ -12,7 +12,6 @@ pacchetti_prove=(
   libgtest-dev libgmock-dev
   python3 python3-xlrd
   clang clang-format clang-tidy
-  locales
 )
 
 # installa PACKAGE...: installs those that are missing, with sudo when not root.

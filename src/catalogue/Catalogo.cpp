@@ -133,7 +133,7 @@ public:
     void Riavvolgi() { sqlite3_reset(nodo_); }
 
 private:
-    [[noreturn]] void Fallisce() const { throw ErroreCatalogo(sqlite3_errmsg(db_)); }
+    [[noreturn]] void Fallisce() const { throw ErroreCatalogo(sqlite3_errmsg(db_), sqlite3_errcode(db_)); }
 
     sqlite3* db_;
     sqlite3_stmt* nodo_ = nullptr;
@@ -238,11 +238,11 @@ Catalogo::Catalogo(const std::filesystem::path& file) : nome_(file.string()) {
     db_.reset(db);
     try {
         if (esito != SQLITE_OK)
-            throw ErroreCatalogo("memoria insufficiente");
+            throw ErroreCatalogo("memoria insufficiente", esito);
         for (const Foglio& foglio : cartella.fogli)
             CaricaFoglio(db, foglio);
     } catch (const ErroreCatalogo& e) {
-        throw ErroreCatalogo("Errore nella lettura di \"" + nome_ + "\": " + e.what() + ".");
+        throw ErroreCatalogo("Errore nella lettura di \"" + nome_ + "\": " + e.what() + ".", e.Numero());
     }
 }
 
@@ -260,7 +260,8 @@ EsitoQuery Catalogo::Esegui(std::string_view query) const {
                 riga.push_back(istruzione.Leggi(c));
         }
     } catch (const ErroreCatalogo& e) {
-        throw ErroreCatalogo("Errore nella lettura di \"" + nome_ + "\": " + InItaliano(e.what()) + ".");
+        throw ErroreCatalogo("Errore nella lettura di \"" + nome_ + "\": " + InItaliano(e.what()) + ".",
+                             e.Numero());
     }
     return esito;
 }

@@ -3,6 +3,9 @@
 #include <stdexcept>
 #include <utility>
 
+#include "catalogue/Catalogo.h"
+#include "catalogue/ErroreCatalogo.h"
+
 namespace sagomi {
 
 namespace {
@@ -18,6 +21,10 @@ void Lettore::Refresh() {
     EsitoQuery nuovo;
     try {
         nuovo = Catalogo::Apri(chiesta_.cartella)->Esegui(chiesta_.query);
+        if (static_cast<int>(nuovo.campi.size()) < campiAttesi_)
+            throw ErroreCatalogo("Errore nella lettura di \"" + chiesta_.cartella.filename().string() +
+                                 "\": la tabella ha " + std::to_string(nuovo.campi.size()) +
+                                 " colonne invece di " + std::to_string(campiAttesi_) + ".");
     } catch (...) {
         if (letto_)
             chiesta_ = inVigore_;

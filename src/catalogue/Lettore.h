@@ -29,6 +29,9 @@ public:
     void RecordSource(std::string_view query) { chiesta_.query = query; }
     [[nodiscard]] const std::string& RecordSource() const { return chiesta_.query; }
 
+    /// Fields that a row must have for its screen to work with it; a query that gives fewer fails.
+    void CampiAttesi(int n) { campiAttesi_ = n; }
+
     /// Runs the query and goes to the first row. The workbook is read anew when its file has changed.
     /// Throws ErroreCatalogo when the workbook or the query fails; the rows, the row in hand, the workbook
     /// and the query of the last Refresh that succeeded are then in force again.
@@ -74,6 +77,7 @@ private:
 
     Fonte chiesta_;
     Fonte inVigore_;
+    int campiAttesi_ = 0;
     bool letto_ = false; ///< a Refresh has succeeded
     EsitoQuery esito_;
     int riga_ = -1;

@@ -20,8 +20,8 @@ namespace sagomi {
 
 namespace {
 
-[[noreturn]] void Fallisce(const std::filesystem::path& file, const std::string& causa) {
-    throw ErroreCatalogo("Errore nella lettura di \"" + file.string() + "\": " + causa + ".");
+[[noreturn]] void Fallisce(const std::filesystem::path& file, const std::string& causa, int numero = 0) {
+    throw ErroreCatalogo("Errore nella lettura di \"" + file.string() + "\": " + causa + ".", numero);
 }
 
 std::string CausaInParole(int codice) {
@@ -54,7 +54,7 @@ public:
         const int esito = freexl_open(file.c_str(), &maniglia_);
         if (esito != FREEXL_OK) {
             freexl_close(maniglia_);
-            Fallisce(file_, CausaInParole(esito));
+            Fallisce(file_, CausaInParole(esito), esito);
         }
     }
     ~CartellaAperta() { freexl_close(maniglia_); }
@@ -95,7 +95,7 @@ private:
 
     void Riuscito(int esito) const {
         if (esito != FREEXL_OK)
-            Fallisce(file_, CausaInParole(esito));
+            Fallisce(file_, CausaInParole(esito), esito);
     }
 
     void LeggiCella(Foglio& foglio, unsigned r, unsigned short c) const;

@@ -52,7 +52,7 @@ char32_t PrendeCodice(std::string_view& testo) {
     }
     constexpr std::array<char32_t, 4> minimo = {0, 0x80, 0x800,
                                                 0x10000}; // no character in more bytes than due
-    buono = buono && codice >= minimo[seguito];
+    buono = buono && seguito < minimo.size() && codice >= minimo[seguito];
     testo.remove_prefix(buono ? seguito + 1 : 1);
     return buono ? codice : nessuno;
 }

@@ -91,14 +91,16 @@ void InizializzaProgramma() {
 
 void CaricaFormComune(SchermoSezione& schermo) {
     schermo.CaricaForm = true;
+    schermo.Data1->Recordset().CampiAttesi(
+        static_cast<int>(Intestazioni(schermo.objectName().toStdString()).size()));
     Protetto("Errore in form_load", [&schermo] {
         schermo.Data1->RecordSource(schermo.SQLstring);
         LeggeTabella(schermo);
         schermo.DBGrid1->FormatoGriglia(schermo.Data1->Recordset().Campi() - 1);
     });
     // Whatever became of the table, the rest of the screen stands.
+    Protetto("Errore in form_load", [&schermo] { schermo.LegaRiga(); });
     Protetto("Errore in form_load", [&schermo] {
-        schermo.LegaRiga();
         RiempieAcciai(schermo);
         schermo.AcciaioScelto();
         schermo.AggiornaBarraDiStato();
@@ -108,10 +110,11 @@ void CaricaFormComune(SchermoSezione& schermo) {
 void AttivaForm(SchermoSezione& schermo) {
     Protetto("Errore in AttivaForm " + schermo.objectName().toStdString(), [&schermo] {
         Guida::ImpostaFile(schermo.FileGuida());
-        if (schermo.cmdSceltaSagomoGiunto != nullptr)
+        // Columns and beams of a joint are picked from these two alone.
+        if (schermo.objectName() == u"frmDoppioT" || schermo.objectName() == u"frmSaldati")
             schermo.cmdSceltaSagomoGiunto->setVisible(SceltaSagomoGiunto);
         NavigaSchermi::Unico().Prendi<FrmPltSezione>(); // stands ready behind every main screen
-        IndiceAcciaio = static_cast<std::int16_t>(schermo.ComboTipoAcciaio->currentIndex());
+        IndiceAcciaio = static_cast<std::int16_t>(std::max(0, schermo.ComboTipoAcciaio->currentIndex()));
         AggiornaCaptionNormativa(schermo);
         schermo.CaricaForm = false;
         schermo.DatiRisultati();

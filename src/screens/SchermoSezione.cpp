@@ -99,8 +99,8 @@ void SchermoSezione::CollegaTabella() {
                 PlottaSezioneCorrente(*this);
         });
     for (QRadioButton* option : OptionOrdina)
-        Collega(option, &QRadioButton::toggled, this, [this](bool on) {
-            if (on && !CaricaForm)
+        Collega(option, &QRadioButton::clicked, this, [this] {
+            if (!CaricaForm)
                 CambioFamiglia(*this);
         });
 }

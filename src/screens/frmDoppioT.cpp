@@ -42,7 +42,7 @@ frmDoppioT::frmDoppioT() : SchermoSezione(QStringLiteral("frmDoppioT")), ui_(new
     ui_->setupUi(this);
     CollegaControlli();
     Collega(TxtNsd, &QLineEdit::textChanged, this, [this] {
-        if (CaricaForm || !RigaInMano())
+        if (CaricaForm || !RigaInMano() || Sezione() == nullptr)
             return;
         Sezione()->NSd = NumeroIn(TxtNsd) * kN_a_N;
         Risultati();
@@ -96,7 +96,7 @@ void frmDoppioT::Leggedati() {
 }
 
 void frmDoppioT::Risultati() {
-    if (!RigaInMano()) {
+    if (!RigaInMano() || Sezione() == nullptr) {
         SvuotaRisultati();
         return;
     }
@@ -140,7 +140,7 @@ void frmDoppioT::SvuotaRisultati() {
 }
 
 void frmDoppioT::ControlloDati() {
-    if (RigaInMano())
+    if (RigaInMano() && Sezione() != nullptr)
         ControlloDatiLaminati(Data1->Recordset(), *Sezione());
 }
 

@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QRadioButton>
-#include <QScopedValueRollback>
 
 #include <array>
 
@@ -27,10 +26,8 @@ frmGamma::frmGamma() : Schermo(QStringLiteral("frmGamma")), ui_(new Ui::frmGamma
     for (QLineEdit* box : txtGamma_)
         entries->Osserva(box);
     for (int i = 0; i < optNormativa_.size(); ++i)
-        Collega(optNormativa_[i], &QRadioButton::toggled, this, [this, i](bool on) {
-            if (on && !riempiendo_)
-                Scelta(static_cast<std::int16_t>(i));
-        });
+        Collega(optNormativa_[i], &QRadioButton::clicked, this,
+                [this, i] { Scelta(static_cast<std::int16_t>(i)); });
     Collega(ui_->cmdOK_0, &QPushButton::clicked, this, [this] { Accetta(); });
     Collega(ui_->cmdOK_1, &QPushButton::clicked, this, [this] { Annulla(); });
 }
@@ -39,10 +36,7 @@ frmGamma::~frmGamma() = default;
 
 void frmGamma::Apri(Schermo& chiamante) {
     normativaPrima_ = Normativa;
-    {
-        const QScopedValueRollback guard(riempiendo_, true);
-        optNormativa_[Normativa]->setChecked(true);
-    }
+    optNormativa_[Normativa]->setChecked(true);
     Riempi();
     NavigaSchermi::Unico().ApriDialogo(*this, chiamante);
     optNormativa_[Normativa]->setFocus();
@@ -66,7 +60,7 @@ void frmGamma::Accetta() {
     if (Normativa == normativaAltro) {
         for (QLineEdit* box : txtGamma_)
             if (NumeroIn(box) < 0) {
-                Avvisa("Il coefficiente parziale di sicurezza deve essere > 0");
+                Avvisa("I coefficienti parziali di sicurezza non possono essere negativi");
                 FuocoSu(box);
                 return;
             }

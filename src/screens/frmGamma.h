@@ -40,7 +40,6 @@ private:
     QList<QRadioButton*> optNormativa_;
     QList<QLineEdit*> txtGamma_;
     std::int16_t normativaPrima_ = 0; ///< put back by "Annulla"
-    bool riempiendo_ = false;
 };
 
 } // namespace sagomi

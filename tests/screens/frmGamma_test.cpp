@@ -74,7 +74,7 @@ TEST_F(FrmGammaTest, NegativeFactorIsRefusedInPlace) {
     Trova<QLineEdit>(&d, "txtGamma_1")->setText("-1");
     Trova<QPushButton>(&d, "cmdOK_0")->click();
     EXPECT_EQ(registratore.testi,
-              std::vector<std::string>{"Il coefficiente parziale di sicurezza deve essere > 0"});
+              std::vector<std::string>{"I coefficienti parziali di sicurezza non possono essere negativi"});
     EXPECT_TRUE(d.isVisible());
     EXPECT_EQ(GammaM1.Stretto(), 1.F);
 }

@@ -85,11 +85,19 @@ bool FiltroCampi::eventFilter(QObject* object, QEvent* event) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason)
             return false;
-        // After the mouse release, else the click would take the selection away again.
+        entrataColMouse_ = reason == Qt::MouseFocusReason ? box : nullptr;
         QTimer::singleShot(0, box, [box] {
             if (box->hasFocus())
                 SelezionaTesto(box);
         });
+        return false;
+    }
+    // The click that brings the focus neither places the cursor nor drags a selection: it selects all.
+    if (box == entrataColMouse_ && event->type() == QEvent::MouseMove)
+        return true;
+    if (box == entrataColMouse_ && event->type() == QEvent::MouseButtonRelease) {
+        entrataColMouse_ = nullptr;
+        QTimer::singleShot(0, box, [box] { SelezionaTesto(box); });
         return false;
     }
     if (event->type() != QEvent::KeyPress)
@@ -100,7 +108,7 @@ bool FiltroCampi::eventFilter(QObject* object, QEvent* event) {
             FuocoSuccessivo(maschera_);
         return true;
     }
-    const bool keypad = (key->modifiers() & Qt::KeypadModifier) != 0;
+    const bool keypad = (key->modifiers() & Qt::KeypadModifier) != 0 && !box->isReadOnly();
     if (keypad && (key->key() == Qt::Key_Period || key->key() == Qt::Key_Comma)) {
         box->insert(QString(QChar(CarDecimale)));
         return true;

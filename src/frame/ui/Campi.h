@@ -46,6 +46,7 @@ protected:
 private:
     QWidget* maschera_;
     RegolaInvio invio_;
+    QLineEdit* entrataColMouse_ = nullptr; ///< got the focus by a click that is not over yet
 };
 
 /// Checks the separators of the system's locale with a hidden box, once at the start, and takes them over.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QScopedValueRollback>
 
 namespace sagomi {
 
@@ -30,11 +31,15 @@ void Casella::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         updateGeometry();
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::PaletteChange)
         Colora();
 }
 
 void Casella::Colora() {
+    if (colorando_)
+        return; // setting the palette announces a change of palette
+    const QScopedValueRollback guard(colorando_, true);
     QPalette colours;
     if (isReadOnly())
         colours.setBrush(QPalette::Base, QApplication::palette().brush(QPalette::Window));

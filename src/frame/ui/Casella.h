@@ -29,6 +29,7 @@ protected:
 private:
     void Colora();
     int caratteri_ = 7;
+    bool colorando_ = false;
 };
 
 } // namespace sagomi

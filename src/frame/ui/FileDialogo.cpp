@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include "frame/FileDati.h"
 #include "frame/GeneraleSagomi.h"
@@ -21,13 +22,12 @@ QStringList FiltriQt(const QString& filter) {
     QStringList result;
     const QStringList pieces = filter.split(u'|');
     for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
-        const QString bare = pieces[i].section(QLatin1String(" (*."), 0, 0);
         const QString pattern = pieces[i + 1];
         QStringList patterns{pattern == QLatin1String("*.*") ? QStringLiteral("*") : pattern};
         for (const QString& variant : {pattern.toLower(), pattern.toUpper()})
             if (pattern != QLatin1String("*.*") && !patterns.contains(variant))
                 patterns << variant;
-        result << bare + QLatin1String(" (") + patterns.join(u' ') + u')';
+        result << pieces[i] + QLatin1String(" (") + patterns.join(u' ') + u')';
     }
     return result;
 }
@@ -39,6 +39,7 @@ QString ScegliColDialogo(QWidget* parent, std::string_view mode, const QString& 
     dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     const QStringList filters = FiltriQt(filter);
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // the text in front says what there is to say
     dialog.setNameFilters(filters);
     dialog.selectNameFilter(filters.value(index - 1));
     if (!PathLavoro.empty())
@@ -46,7 +47,7 @@ QString ScegliColDialogo(QWidget* parent, std::string_view mode, const QString& 
     if (!proposal.contains(u'*'))
         dialog.selectFile(proposal);
     if (!open)
-        dialog.setDefaultSuffix(proposal.section(u'.', -1));
+        dialog.setDefaultSuffix(filter.section(u'.', -1));
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
@@ -81,7 +82,11 @@ bool FileDialogo(SchermoConFile& schermo, std::string_view modo, std::string_vie
                chosen.toStdString());
         return false;
     }
-    schermo.FileLeggeScrive(modo, number);
+    {
+        auto abandon = qScopeGuard([number] { AbbandonaFile(number); });
+        schermo.FileLeggeScrive(modo, number);
+        abandon.dismiss();
+    }
     if (!ChiudeFile(number))
         return false;
     file = chosen;

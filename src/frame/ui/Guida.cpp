@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
+#include <QMainWindow>
 #include <QTextBrowser>
 
 #include "frame/GeneraleSagomi.h"
@@ -90,6 +91,9 @@ void Guida::Apri(const QString& file, const QString& argomento) {
 bool Guida::eventFilter(QObject* object, QEvent* event) {
     if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1)
         return QObject::eventFilter(object, event);
+    if (QApplication::activeModalWidget() != nullptr &&
+        qobject_cast<QMainWindow*>(QApplication::activeModalWidget()) == nullptr)
+        return true; // a message box would keep the help from being used
     Apri(fileInForce.isEmpty() ? QStringLiteral("Sagomi.hlp") : fileInForce, ArgomentoInMano());
     return true;
 }

@@ -26,11 +26,14 @@ Schermo* NavigaSchermi::Trova(const QString& nome) const {
 }
 
 void NavigaSchermi::Mostra(Schermo& s) {
-    schermi_.removeOne(&s);
-    schermi_.append(&s);
     s.show();
     s.raise();
     s.activateWindow();
+}
+
+void NavigaSchermi::ApertaPerUltima(Schermo& s) {
+    schermi_.removeOne(&s);
+    schermi_.append(&s);
 }
 
 void NavigaSchermi::Attiva(Schermo& s) {
@@ -40,6 +43,7 @@ void NavigaSchermi::Attiva(Schermo& s) {
 
 void NavigaSchermi::Passa(Schermo& a, Schermo* da) {
     const QScopedValueRollback guard(inNavigazione_, true);
+    ApertaPerUltima(a);
     Mostra(a);
     Attiva(a);
     if (da != nullptr && da != &a)
@@ -50,6 +54,7 @@ void NavigaSchermi::Apri(Schermo& a, Schermo& da) {
     const QScopedValueRollback guard(inNavigazione_, true);
     if (&a != &da)
         a.origine = &da;
+    ApertaPerUltima(a);
     Mostra(a);
     Attiva(a);
 }

@@ -2,7 +2,11 @@
 
 #include <QList>
 #include <QObject>
+#include <QScopedValueRollback>
 
+#include <stdexcept>
+
+#include "frame/GeneraleSagomi.h"
 #include "frame/ui/Schermo.h"
 
 class QWindow;
@@ -22,7 +26,10 @@ public:
         for (Schermo* s : schermi_)
             if (auto* found = dynamic_cast<T*>(s))
                 return *found;
-        auto* s = new T;
+        if (ChiusuraInCorso || inCreazione_)
+            throw std::logic_error("un altro schermo si sta aprendo o il programma si chiude");
+        const QScopedValueRollback guard(inCreazione_, true);
+        auto* s = new T; // its load lets events through
         schermi_.append(s);
         return *s;
     }
@@ -53,6 +60,7 @@ signals:
 
 private:
     NavigaSchermi();
+    void ApertaPerUltima(Schermo& s);
     void Mostra(Schermo& s);
     void Attiva(Schermo& s);
     void FinestraInPrimoPiano(QWindow* window);
@@ -60,6 +68,7 @@ private:
     QList<Schermo*> schermi_; ///< in the order of their last opening
     Schermo* attivo_ = nullptr;
     bool inNavigazione_ = false;
+    bool inCreazione_ = false;
 };
 
 } // namespace sagomi

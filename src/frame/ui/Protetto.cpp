@@ -3,6 +3,7 @@
 #include <exception>
 #include <system_error>
 
+#include "frame/Errori.h"
 #include "frame/Messaggi.h"
 
 namespace sagomi {
@@ -10,6 +11,8 @@ namespace sagomi {
 DescrizioneErrore ErroreInVolo() {
     try {
         throw;
+    } catch (const ErroreNumerato& e) {
+        return {e.Numero(), e.what()};
     } catch (const std::system_error& e) {
         return {e.code().value(), e.what()};
     } catch (const std::exception& e) {
