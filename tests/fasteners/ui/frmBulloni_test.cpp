@@ -1,0 +1,576 @@
+#include "fasteners/ui/frmBulloni.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "fasteners/ui/DisegnoForatura.h"
+#include "frame/ui/UpDown.h"
+#include "screens/Ambiente.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+constexpr const char* suggerimento = "Cliccare nuovamente sul comando Osservazioni per chiudere la casella";
+
+// Expected figures by hand, gamma M2 1.25. M16, As 157: 8.8 in shear 0.6 · 800 · 157 / 1.25 = 60.288 kN, in
+// tension 0.9 · 800 · 157 / 1.25 = 90.432 kN; 4.6 30.144 and 45.216 kN. Bearing of M16 in 10 mm of S235 with
+// full distances 2.5 · 360 · 16 · 10 / 1.25 = 115.2 kN.
+class FrmBulloniTest : public AmbienteSchermi {
+protected:
+    frmBulloni& Apre() {
+        partenza = &Avvia();
+        return Riapre();
+    }
+    frmBulloni& Riapre() {
+        Trova<QAction>(partenza, "mnuCollegamenti_0")->trigger();
+        b = dynamic_cast<frmBulloni*>(NavigaSchermi::Unico().Trova(QStringLiteral("frmBulloni")));
+        if (b == nullptr || !b->isVisible())
+            throw std::runtime_error("the screen did not open");
+        return *b;
+    }
+    /// As the user chooses an item of a list.
+    void Sceglie(const char* elenco, int indice) const {
+        auto* list = Trova<QComboBox>(b, elenco);
+        list->setCurrentIndex(indice);
+        emit list->activated(indice);
+    }
+    void Classe(const char* testo) const {
+        Sceglie("ComboClassiBulloni", Trova<QComboBox>(b, "ComboClassiBulloni")->findText(testo));
+    }
+    void Diametro(const char* testo) const {
+        Sceglie("ComboDiametriBulloni", Trova<QComboBox>(b, "ComboDiametriBulloni")->findText(testo));
+    }
+    void Scrive(const char* casella, const std::string& testo) const {
+        Trova<QLineEdit>(b, casella)->setText(QString::fromStdString(Locale(testo)));
+    }
+    void M16() const {
+        Classe("8.8");
+        Diametro("16");
+        Scrive("Txt_Rif_0", "10");
+    }
+    [[nodiscard]] std::string Legge(const char* casella) const { return Testo(b, casella); }
+    [[nodiscard]] std::string Somma() const {
+        return Trova<QLabel>(b, "Lbl_Risultato_0")->text().toStdString();
+    }
+    [[nodiscard]] QString Verdetto() const { return Trova<QLabel>(b, "Lbl_Risultato_1")->text(); }
+    [[nodiscard]] std::vector<std::string> Elenco() const {
+        const auto* list = Trova<QListWidget>(b, "List1");
+        std::vector<std::string> rows;
+        for (int i = 0; i < list->count(); ++i)
+            rows.push_back(list->item(i)->text().toStdString());
+        EXPECT_EQ(list->isVisible(), !rows.empty());
+        return rows;
+    }
+    [[nodiscard]] QPlainTextEdit* Osservazioni() const {
+        return Trova<QPlainTextEdit>(b, "Txt_Osservazioni");
+    }
+
+    frmDoppioT* partenza = nullptr;
+    frmBulloni* b = nullptr;
+};
+
+TEST_F(FrmBulloniTest, TextsOfTheScreen) {
+    Apre();
+    EXPECT_EQ(b->windowTitle(), "Resistenza di progetto dei bulloni - EC5 1-8 #3.6.1  NTC2018 #4.2.8.1.1");
+    EXPECT_EQ(Trova<QGroupBox>(b, "frmTaglioTraz")->title(), "Taglio e Trazione - EC3 #6.5.5.(5)");
+    EXPECT_EQ(Trova<QRadioButton>(b, "optFilettata_0")->text(), "Sezione filettata");
+    EXPECT_EQ(Trova<QRadioButton>(b, "optFilettata_1")->text(), "Sezione lorda");
+    EXPECT_EQ(Trova<QPushButton>(b, "Command1")->text(), "Osservazioni");
+    const std::pair<const char*, const char*> etichette[] = {
+        {"ComboClassiBulloni", "Classe bullone"},
+        {"Txt_fub", "fub"},
+        {"Txt_fyb", "fyb"},
+        {"ComboDiametriBulloni", "diametro"},
+        {"Txt_A", "A (mm2)"},
+        {"Txt_FVRd", "Resistenza a taglio (per piano di taglio)"},
+        {"Txt_FtRd", "Resistenza a trazione"},
+        {"Txt_fu", "fu"},
+        {"Txt_Rif_0", "spessore"},
+        {"Txt_Rif_1", "diametro foro"},
+        {"Txt_Rif_2", "e1"},
+        {"Txt_Rif_3", "p1"},
+        {"Txt_Rif_4", "e2"},
+        {"Txt_Rif_5", "p2"},
+        {"Txt_Rif_6", "alfa"},
+        {"Txt_Rif_7", "Resistenza a rifollamento"},
+        {"Txt_FSd_0", "Fv,Sd [kN]"},
+        {"Txt_FSd_1", "Ft,Sd [kN]"},
+        {"UpDown2", "Acciaio"}};
+    for (const auto& [controllo, testo] : etichette) {
+        const auto* w = Trova<QWidget>(b, controllo);
+        EXPECT_FALSE(w->toolTip().isEmpty()) << controllo;
+        EXPECT_FALSE(w->accessibleName().isEmpty()) << controllo;
+        bool named = false;
+        for (const QLabel* label : b->findChildren<QLabel*>())
+            named = named || (label->buddy() == w && label->text() == testo);
+        EXPECT_TRUE(named) << controllo;
+    }
+    EXPECT_EQ(Trova<QLabel>(b, "LblDistanze")->text(), "distanze bordo");
+    for (const char* risultato :
+         {"Txt_fyb", "Txt_A", "Txt_FVRd", "Txt_FtRd", "Txt_TipoAcciaio", "Txt_Rif_6", "Txt_Rif_7"})
+        EXPECT_TRUE(Trova<QLineEdit>(b, risultato)->isReadOnly()) << risultato;
+    EXPECT_TRUE(Osservazioni()->isReadOnly());
+}
+
+TEST_F(FrmBulloniTest, OpensInThePlaceOfTheSectionScreen) {
+    Apre();
+    EXPECT_FALSE(partenza->isVisible());
+    EXPECT_EQ(b->origine, partenza);
+    EXPECT_EQ(b->pos(), QPoint(8, 53));
+    EXPECT_FALSE(b->Caricamento);
+}
+
+// M8 4.6: 0.6 · 400 · 38.6 / 1.25 = 7.4112 kN, 0.9 · 400 · 38.6 / 1.25 = 11.1168 kN; hole 9.
+TEST_F(FrmBulloniTest, LoadsTheFirstClassAndTheFirstDiameter) {
+    Apre();
+    const auto* classi = Trova<QComboBox>(b, "ComboClassiBulloni");
+    QStringList nomi;
+    for (int i = 0; i < classi->count(); ++i)
+        nomi << classi->itemText(i);
+    EXPECT_EQ(nomi, (QStringList{"4.6", "4.8", "5.6", "5.8", "6.8", "8.8", "10.9"}));
+    EXPECT_EQ(classi->currentIndex(), 0);
+    const auto* diametri = Trova<QComboBox>(b, "ComboDiametriBulloni");
+    EXPECT_EQ(diametri->count(), 22);
+    EXPECT_EQ(diametri->currentText(), "8");
+    EXPECT_EQ(diametri->itemText(21), "68");
+    EXPECT_TRUE(Trova<QRadioButton>(b, "optFilettata_0")->isChecked());
+    EXPECT_EQ(Legge("Txt_fub"), "400");
+    EXPECT_EQ(Legge("Txt_fyb"), "240");
+    EXPECT_EQ(Legge("Txt_A"), Locale("38.6"));
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 7.411"));
+    EXPECT_EQ(Legge("Txt_FtRd"), Locale(" 11.12"));
+    EXPECT_EQ(Legge("Txt_TipoAcciaio"), "S235 (Fe360)");
+    EXPECT_EQ(Legge("Txt_fu"), "360");
+    EXPECT_EQ(Legge("Txt_Rif_0"), "");
+    EXPECT_EQ(Legge("Txt_Rif_1"), "9");
+    EXPECT_EQ(Legge("Txt_Rif_2"), "27");
+    EXPECT_EQ(Legge("Txt_Rif_3"), Locale("33.75"));
+    EXPECT_EQ(Legge("Txt_Rif_4"), Locale("13.5"));
+    EXPECT_EQ(Legge("Txt_Rif_5"), "27");
+    EXPECT_EQ(Legge("Txt_Rif_6"), " 1");
+    EXPECT_EQ(Legge("Txt_Rif_7"), " 0") << "bearing starts with no thickness";
+    EXPECT_EQ(Somma(), " 0 +  0 =  0");
+    EXPECT_EQ(Verdetto(), "OK");
+    EXPECT_EQ(Elenco(), std::vector<std::string>{});
+    EXPECT_FALSE(Osservazioni()->isVisible());
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(FrmBulloniTest, LoadsTheClassInUse) {
+    partenza = &Avvia();
+    IndiceClasseBullone = 5;
+    Riapre();
+    EXPECT_EQ(Trova<QComboBox>(b, "ComboClassiBulloni")->currentText(), "8.8");
+    EXPECT_EQ(Legge("Txt_fub"), "800");
+    EXPECT_EQ(Legge("Txt_fyb"), Locale("640.0001")) << "as single precision gives it";
+}
+
+TEST_F(FrmBulloniTest, ClassGivesStrengthsAndResistancesAtOnce) {
+    Apre();
+    M16();
+    EXPECT_EQ(IndiceClasseBullone, 5);
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 60.29"));
+    EXPECT_EQ(Legge("Txt_FtRd"), Locale(" 90.43"));
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 115.2"));
+    Classe("10.9"); // 0.5 · 1000 · 157 / 1.25
+    EXPECT_EQ(Legge("Txt_fub"), "1000");
+    EXPECT_EQ(Legge("Txt_fyb"), Locale("899.9996"));
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 62.8"));
+}
+
+TEST_F(FrmBulloniTest, ClassOfTheSameStrengthStillChangesShearAndSum) {
+    Apre();
+    Classe("4.6");
+    Diametro("16");
+    Scrive("Txt_FSd_0", "20");
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 30.14"));
+    EXPECT_EQ(Somma(), Locale(" 0.6635 +  0 =  0.6635")); // 20 / 30.144
+    Classe("4.8");
+    EXPECT_EQ(Legge("Txt_fub"), "400");
+    EXPECT_EQ(Legge("Txt_fyb"), Locale("320.0001"));
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 25.12"));
+    EXPECT_EQ(Somma(), Locale(" 0.7962 +  0 =  0.7962")); // 20 / 25.12
+}
+
+TEST_F(FrmBulloniTest, DiameterWritesHoleAndDistancesThatLowerNothing) {
+    Apre();
+    M16();
+    Scrive("Txt_Rif_1", "20");
+    Scrive("Txt_Rif_2", "25");
+    Scrive("Txt_Rif_5", "30");
+    EXPECT_NE(Elenco(), std::vector<std::string>{});
+    Diametro("27");
+    EXPECT_EQ(Legge("Txt_Rif_0"), "10") << "the thickness stays";
+    EXPECT_EQ(Legge("Txt_Rif_1"), "30");
+    EXPECT_EQ(Legge("Txt_Rif_2"), "90");
+    EXPECT_EQ(Legge("Txt_Rif_3"), Locale("112.5"));
+    EXPECT_EQ(Legge("Txt_Rif_4"), "45");
+    EXPECT_EQ(Legge("Txt_Rif_5"), "90");
+    EXPECT_EQ(Legge("Txt_Rif_6"), " 1");
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 194.4")); // 2.5 · 360 · 27 · 10 / 1.25
+    EXPECT_EQ(Legge("Txt_A"), Locale("459.0"));
+    EXPECT_EQ(Elenco(), std::vector<std::string>{});
+}
+
+TEST_F(FrmBulloniTest, NoDiameterEverFailsWithItsOwnDistances) {
+    Apre();
+    Scrive("Txt_Rif_0", "10");
+    for (int i = 0; i < 22; ++i) {
+        Sceglie("ComboDiametriBulloni", i);
+        EXPECT_EQ(Elenco(), std::vector<std::string>{}) << i;
+        EXPECT_EQ(Legge("Txt_Rif_6"), " 1") << i;
+        EXPECT_NE(Legge("Txt_Rif_7"), " 0") << i;
+    }
+}
+
+TEST_F(FrmBulloniTest, GrossSectionTakesTheShankAndResetsHoleAndDistances) {
+    Apre();
+    M16();
+    Scrive("Txt_Rif_1", "19");
+    Scrive("Txt_Rif_2", "40");
+    Trova<QRadioButton>(b, "optFilettata_1")->click();
+    EXPECT_EQ(Legge("Txt_A"), Locale("201.1"));     // pi 16² / 4 = 201.062
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 77.21")); // 0.6 · 800 · 201.062 / 1.25 = 77.208
+    EXPECT_EQ(Legge("Txt_FtRd"), Locale(" 90.43"));
+    EXPECT_EQ(Legge("Txt_Rif_1"), "18");
+    EXPECT_EQ(Legge("Txt_Rif_2"), "54");
+    Trova<QRadioButton>(b, "optFilettata_0")->click();
+    EXPECT_EQ(Legge("Txt_A"), Locale("157.0"));
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 60.29"));
+}
+
+TEST_F(FrmBulloniTest, TypedStrengthOfTheBoltSurvivesADiameterButNotAClass) {
+    Apre();
+    M16();
+    Scrive("Txt_FSd_0", "20");
+    Scrive("Txt_fub", "900");
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 67.82")); // 0.6 · 900 · 157 / 1.25 = 67.824
+    EXPECT_EQ(Legge("Txt_FtRd"), Locale(" 101.7"));
+    EXPECT_EQ(Somma(), Locale(" 0.2949 +  0 =  0.2949")) << "20 / 67.824";
+    Diametro("20");
+    EXPECT_EQ(Legge("Txt_fub"), "900");
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 105.8")); // 0.6 · 900 · 245 / 1.25 = 105.84
+    Classe("8.8");
+    EXPECT_EQ(Legge("Txt_fub"), "800");
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 94.08"));
+}
+
+TEST_F(FrmBulloniTest, TypedStrengthOfTheBoltLowersAlfa) {
+    Apre();
+    M16();
+    Scrive("Txt_fub", "270"); // 270 / 360
+    EXPECT_EQ(Legge("Txt_Rif_6"), Locale(" 0.75"));
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 86.4"));
+}
+
+TEST_F(FrmBulloniTest, StrengthsThatAreNoneAreIgnored) {
+    Apre();
+    M16();
+    Scrive("Txt_FSd_0", "20");
+    const std::string somma = Somma();
+    for (const char* nessuna : {"0", "", "abc", "-5"}) {
+        Scrive("Txt_fub", nessuna);
+        EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 60.29")) << nessuna;
+        EXPECT_EQ(Somma(), somma) << nessuna;
+        Scrive("Txt_fu", nessuna);
+        EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 115.2")) << nessuna;
+    }
+    Scrive("Txt_Rif_0", "20");
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 230.4")) << "the last good strength still counts";
+    Scrive("Txt_fu", "430");
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 275.2")); // 2.5 · 430 · 16 · 20 / 1.25
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(FrmBulloniTest, DistancesNotAboveZeroNeverReachTheBolt) {
+    Apre();
+    M16();
+    for (const char* box : {"Txt_Rif_1", "Txt_Rif_2", "Txt_Rif_3", "Txt_Rif_4", "Txt_Rif_5"}) {
+        Scrive(box, "0");
+        EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 115.2")) << box;
+        Scrive(box, "");
+        EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 115.2")) << box;
+    }
+    Scrive("Txt_Rif_0", "20"); // with all the others empty
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 230.4"));
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(FrmBulloniTest, ClearingTheThicknessZeroesTheResistance) {
+    Apre();
+    M16();
+    Scrive("Txt_Rif_0", "");
+    EXPECT_EQ(Legge("Txt_Rif_7"), " 0");
+    EXPECT_EQ(Elenco(), std::vector<std::string>{}) << "no message tells it";
+}
+
+// M14 10.9, As 115: 0.5 · 1000 · 115 / 1.25 = 46 kN; with a play above 1 mm 0.85 of it.
+TEST_F(FrmBulloniTest, HoleChangesTheShearResistanceOfSmallBolts) {
+    Apre();
+    Classe("10.9");
+    Diametro("14");
+    Scrive("Txt_FSd_0", "23");
+    EXPECT_EQ(Legge("Txt_FVRd"), " 46");
+    EXPECT_EQ(Somma(), Locale(" 0.5 +  0 =  0.5"));
+    Scrive("Txt_Rif_1", "16");
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 39.1"));
+    EXPECT_EQ(Somma(), Locale(" 0.5882 +  0 =  0.5882")) << "23 / 39.1";
+    Scrive("Txt_Rif_1", "15");
+    EXPECT_EQ(Legge("Txt_FVRd"), " 46");
+}
+
+TEST_F(FrmBulloniTest, BearingFollowsTheDistances) {
+    Apre();
+    M16();
+    Scrive("Txt_Rif_2", "27"); // 27 / 54
+    EXPECT_EQ(Legge("Txt_Rif_6"), Locale(" 0.5"));
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 57.6"));
+    Scrive("Txt_Rif_4", "24.3"); // 1.35 do: 5/6
+    EXPECT_EQ(Legge("Txt_Rif_7"), " 48");
+}
+
+TEST_F(FrmBulloniTest, ListShowsWhatIsTooSmallAndHidesOtherwise) {
+    Apre();
+    M16();
+    Scrive("Txt_Rif_2", "21");
+    EXPECT_EQ(Elenco(), std::vector<std::string>{"e1 deve essere > 1.2 do = " + Locale("21.6") +
+                                                 " - EC3 #6.5.1.2. (1)"});
+    EXPECT_EQ(Legge("Txt_Rif_7"), " 0");
+    Scrive("Txt_Rif_5", "43");
+    ASSERT_EQ(Elenco().size(), 2U);
+    EXPECT_EQ(Elenco()[1].substr(0, 19), "p2 deve essere > 2.");
+    Scrive("Txt_Rif_1", "15");
+    ASSERT_EQ(Elenco().size(), 1U) << "with the smaller hole the distances suffice";
+    EXPECT_EQ(Elenco()[0], "do deve essere > d = " + Locale("16.0"));
+    Scrive("Txt_Rif_1", "16");
+    EXPECT_EQ(Elenco(), std::vector<std::string>{});
+}
+
+TEST_F(FrmBulloniTest, SumAndVerdictOfShearAndTension) {
+    Apre();
+    M16();
+    Scrive("Txt_FSd_0", "20");
+    Scrive("Txt_FSd_1", "50");
+    // 20 / 60.288 + 50 / 1.4 / 90.432
+    EXPECT_EQ(Somma(), Locale(" 0.3317 +  0.3949 =  0.7267"));
+    EXPECT_EQ(Verdetto(), "OK");
+    Scrive("Txt_FSd_0", "60");
+    EXPECT_EQ(Somma(), Locale(" 0.9952 +  0.3949 =  1.390"));
+    EXPECT_EQ(Verdetto(), "NO");
+    EXPECT_EQ(Trova<QLabel>(b, "Lbl_Risultato_1")->palette().color(QPalette::WindowText), QColor(255, 0, 0));
+    Scrive("Txt_FSd_0", "");
+    EXPECT_EQ(Somma(), Locale(" 0 +  0.3949 =  0.3949"));
+    EXPECT_EQ(Verdetto(), "OK");
+}
+
+TEST_F(FrmBulloniTest, ZeroResistanceHasNeitherSumNorVerdict) {
+    partenza = &Avvia();
+    ClasseBullone[1] = 12.9; // a settings file may hold any
+    Riapre();
+    EXPECT_FALSE(registratore.testi.empty());
+    for (const std::string& testo : registratore.testi)
+        EXPECT_EQ(testo, "Classe bullone non implementata");
+    EXPECT_EQ(Legge("Txt_FVRd"), " 0");
+    EXPECT_EQ(Legge("Txt_FtRd"), Locale(" 33.35")) << "0.9 · 1200 · 38.6 / 1.25";
+    EXPECT_EQ(Somma(), "");
+    EXPECT_EQ(Verdetto(), "");
+    registratore.testi.clear();
+    Classe("8.8");
+    EXPECT_EQ(Somma(), " 0 +  0 =  0");
+    EXPECT_TRUE(registratore.testi.empty());
+    Classe("12.9");
+    EXPECT_EQ(registratore.testi.size(), 1U);
+}
+
+TEST_F(FrmBulloniTest, SpinnerStepsTheSteelInUseAndStopsAtBothEnds) {
+    Apre();
+    M16();
+    auto* steel = Trova<UpDown>(b, "UpDown2");
+    steel->stepDown();
+    EXPECT_EQ(IndiceAcciaio, 0);
+    steel->stepUp();
+    EXPECT_EQ(IndiceAcciaio, 1);
+    EXPECT_EQ(Legge("Txt_TipoAcciaio"), "S275 (Fe430)");
+    EXPECT_EQ(Legge("Txt_fu"), "430");
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 137.6")); // 2.5 · 430 · 16 · 10 / 1.25
+    steel->stepUp();
+    steel->stepUp();
+    EXPECT_EQ(IndiceAcciaio, 2);
+    EXPECT_EQ(Legge("Txt_fu"), "510");
+}
+
+TEST_F(FrmBulloniTest, EnterGoesFromTheThicknessToTheCommand) {
+    Apre();
+    b->activateWindow();
+    Trova<QLineEdit>(b, "Txt_Rif_0")->setFocus();
+    for (const char* seguente : {"Txt_Rif_1", "Txt_Rif_2", "Txt_Rif_3", "Txt_Rif_4", "Txt_Rif_5", "Txt_FSd_0",
+                                 "Txt_FSd_1", "Command1"}) {
+        QTest::keyClick(b->focusWidget(), Qt::Key_Return);
+        ASSERT_EQ(b->focusWidget()->objectName(), seguente);
+        if (auto* box = qobject_cast<QLineEdit*>(b->focusWidget())) {
+            EXPECT_EQ(box->selectedText(), box->text());
+        }
+    }
+}
+
+TEST_F(FrmBulloniTest, CommandOpensAndClosesTheAdvice) {
+    Apre();
+    M16();
+    Scrive("Txt_Rif_2", "27");
+    auto* command = Trova<QPushButton>(b, "Command1");
+    command->click();
+    EXPECT_TRUE(Osservazioni()->isVisible());
+    EXPECT_EQ(Osservazioni()->geometry(), QRect(56, 52, 380, 187));
+    EXPECT_FALSE(Osservazioni()->geometry().intersects(
+        QRect(command->mapTo(Osservazioni()->parentWidget(), QPoint()), command->size())));
+    const std::string testo = "La resistenza a rifollamento è penalizzata (alfa = " + Locale(" 0.5") +
+                              " < 1) perchè:\n   e1 < 3 do = 54\n\n";
+    EXPECT_EQ(Osservazioni()->toPlainText().toStdString(), testo + "\n\n" + suggerimento);
+    command->click();
+    EXPECT_FALSE(Osservazioni()->isVisible());
+    command->click();
+    EXPECT_EQ(Osservazioni()->toPlainText().toStdString(), testo) << "the hint comes once in a run";
+}
+
+TEST_F(FrmBulloniTest, HintComesOnceInARunWhateverBecomesOfTheScreen) {
+    EXPECT_TRUE(SuggerimentoBulloni);
+    Apre();
+    Trova<QPushButton>(b, "Command1")->click();
+    EXPECT_EQ(Osservazioni()->toPlainText().toStdString(),
+              std::string("Spessore piastra = 0 !!!!\n\n") + suggerimento);
+    b->close();
+    Riapre();
+    EXPECT_FALSE(Osservazioni()->isVisible());
+    Trova<QPushButton>(b, "Command1")->click();
+    EXPECT_EQ(Osservazioni()->toPlainText(), "Spessore piastra = 0 !!!!");
+}
+
+TEST_F(FrmBulloniTest, AdviceInViewIsNeverOld) {
+    Apre();
+    M16();
+    Trova<QPushButton>(b, "Command1")->click();
+    EXPECT_EQ(Osservazioni()->toPlainText().toStdString(), std::string("\n\n") + suggerimento);
+    Scrive("Txt_Rif_1", "15");
+    EXPECT_EQ(Osservazioni()->toPlainText().toStdString(),
+              std::string("B E S T I A !!!  Il diametro del foro è inferiore al diametro del bullone.\n\n") +
+                  suggerimento);
+}
+
+TEST_F(FrmBulloniTest, ClosingGoesBackAndDropsTheBolt) {
+    Apre();
+    M16();
+    Scrive("Txt_FSd_0", "20");
+    Scrive("Txt_fub", "900");
+    Trova<UpDown>(b, "UpDown2")->stepUp();
+    b->close();
+    EXPECT_FALSE(b->isVisible());
+    EXPECT_TRUE(partenza->isVisible());
+    EXPECT_EQ(NavigaSchermi::Unico().Attivo(), partenza);
+    EXPECT_FALSE(ChiusuraInCorso);
+    const frmBulloni* prima = b;
+    Riapre();
+    EXPECT_EQ(b, prima) << "the window is kept";
+    EXPECT_EQ(Trova<QComboBox>(b, "ComboClassiBulloni")->currentText(), "8.8");
+    EXPECT_EQ(Trova<QComboBox>(b, "ComboDiametriBulloni")->currentText(), "8");
+    EXPECT_EQ(Legge("Txt_fub"), "800");
+    EXPECT_EQ(Legge("Txt_Rif_0"), "");
+    EXPECT_EQ(Legge("Txt_FSd_0"), "");
+    EXPECT_EQ(Legge("Txt_fu"), "360") << "the section screen has brought its own steel back";
+}
+
+TEST_F(FrmBulloniTest, ComingToTheFrontAgainKeepsTheEntries) {
+    Apre();
+    M16();
+    b->AllAttivazione();
+    EXPECT_EQ(Legge("Txt_Rif_0"), "10");
+    EXPECT_EQ(Trova<QComboBox>(b, "ComboDiametriBulloni")->currentText(), "16");
+}
+
+TEST_F(FrmBulloniTest, PictureFollowsTheDistances) {
+    Apre();
+    M16();
+    Scrive("Txt_Rif_2", "40");
+    Scrive("Txt_Rif_5", "70");
+    const ForaturaDisegnata& f = Trova<DisegnoForatura>(b, "Picture1")->Mostrata();
+    EXPECT_EQ(f.d, 16);
+    EXPECT_EQ(f.do_, 18);
+    EXPECT_EQ(f.e1, 40);
+    EXPECT_EQ(f.p1, 67.5);
+    EXPECT_EQ(f.e2, 27);
+    EXPECT_EQ(f.p2, 70);
+    EXPECT_FALSE(b->grab().isNull());
+}
+
+// The whole screen without a mouse, from the menu to the way back.
+TEST_F(FrmBulloniTest, WorksByKeyboardAlone) {
+    partenza = &Avvia();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(partenza));
+    QTest::keyClick(partenza, Qt::Key_C, Qt::AltModifier);
+    auto* menu = Trova<QMenu>(partenza, "mnuCollegamenti1");
+    ASSERT_TRUE(menu->isVisible());
+    QTest::keyClick(menu, Qt::Key_B);
+    b = dynamic_cast<frmBulloni*>(NavigaSchermi::Unico().Trova(QStringLiteral("frmBulloni")));
+    ASSERT_NE(b, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(b));
+    const auto fuoco = [this](const char* nome) { EXPECT_EQ(b->focusWidget()->objectName(), nome); };
+    const auto tasto = [this](Qt::Key key) { QTest::keyClick(b->focusWidget(), key); };
+    const auto tab = [this] { QTest::keyClick(b->focusWidget(), Qt::Key_Tab); };
+
+    fuoco("ComboClassiBulloni");
+    QTest::keyClicks(b->focusWidget(), "8");
+    EXPECT_EQ(Legge("Txt_fub"), "800");
+    tab();
+    fuoco("Txt_fub");
+    tab();
+    fuoco("ComboDiametriBulloni");
+    for (int i = 0; i < 4; ++i)
+        tasto(Qt::Key_Down);
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 60.29"));
+    tab();
+    fuoco("optFilettata_0");
+    tasto(Qt::Key_Right);
+    EXPECT_TRUE(Trova<QRadioButton>(b, "optFilettata_1")->isChecked());
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 77.21"));
+    tab();
+    fuoco("UpDown2");
+    tasto(Qt::Key_Up);
+    EXPECT_EQ(Legge("Txt_fu"), "430");
+    tab();
+    fuoco("Txt_fu");
+    tab();
+    fuoco("Txt_Rif_0");
+    QTest::keyClicks(b->focusWidget(), "10");
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 137.6"));
+    tasto(Qt::Key_Return);
+    tasto(Qt::Key_Return);
+    fuoco("Txt_Rif_2");
+    QTest::keyClicks(b->focusWidget(), "27"); // over what is selected
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 68.8"));
+    for (int i = 0; i < 4; ++i)
+        tasto(Qt::Key_Enter);
+    fuoco("Txt_FSd_0");
+    QTest::keyClicks(b->focusWidget(), "20");
+    tasto(Qt::Key_Return);
+    QTest::keyClicks(b->focusWidget(), "50");
+    EXPECT_EQ(Somma(), Locale(" 0.2590 +  0.3949 =  0.6540")); // 20 / 77.208
+    tasto(Qt::Key_Return);
+    fuoco("Command1");
+    tasto(Qt::Key_Return);
+    EXPECT_TRUE(Osservazioni()->isVisible());
+    QTest::keyClick(b, Qt::Key_O, Qt::AltModifier); // the button is seen to go down first
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !Osservazioni()->isVisible(); }));
+    QTest::keyClick(b, Qt::Key_Escape);
+    EXPECT_FALSE(b->isVisible());
+    EXPECT_TRUE(partenza->isVisible());
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+} // namespace
