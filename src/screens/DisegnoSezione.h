@@ -27,8 +27,8 @@ public:
     /// An empty outline clears the picture.
     void Mostra(const SagomaDisegnata& sagoma);
 
-    [[nodiscard]] QSize sizeHint() const override { return {230, 230}; }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {150, 170}; }
+    [[nodiscard]] QSize sizeHint() const override { return {200, 230}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {125, 170}; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
