@@ -226,7 +226,7 @@ void frmBulloni::MostraTaglioTrazione() {
     MostraForza(ui_->Txt_FtRd, bullone_->FtRd);
 }
 
-void frmBulloni::RifollamentoAggiorna() {
+void frmBulloni::LeggePiastra() {
     // Of what divides, and of the distances, nothing but a positive value reaches the bolt.
     if (const double fu = NumeroIn(ui_->Txt_fu); fu > 0)
         bullone_->fu = fu;
@@ -234,6 +234,15 @@ void frmBulloni::RifollamentoAggiorna() {
     for (const auto& [place, member] : misure)
         if (const double v = NumeroIn(Txt_Rif_[place]); v > 0)
             (*bullone_).*member = v;
+}
+
+void frmBulloni::RifollamentoAggiorna() {
+    LeggePiastra();
+    if (bullone_->fu == 0) { // a steel without a strength: nothing to compute yet
+        Txt_Rif_[rifAlfa]->clear();
+        Txt_Rif_[rifResistenza]->clear();
+        return;
+    }
     bullone_->RifollamentoCalcola();
     Scrive(Txt_Rif_[rifAlfa], FormatoCifre(cifreRisultati, bullone_->alfa));
     MostraForza(Txt_Rif_[rifResistenza], bullone_->FbRd);

@@ -49,6 +49,7 @@ private:
 
     void ClasseCambiata();
     void DiametroCambiato();
+    void LeggePiastra();
     void RifollamentoAggiorna();
     void Messaggi();
     void Interazione();

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QFile>
 #include <QGroupBox>
 #include <QListWidget>
 #include <QMenu>
@@ -290,6 +291,19 @@ TEST_F(FrmBulloniTest, StrengthsThatAreNoneAreIgnored) {
     EXPECT_TRUE(registratore.testi.empty());
 }
 
+TEST_F(FrmBulloniTest, SteelWithoutAStrengthLeavesBearingEmptyUntilOneIsTyped) {
+    partenza = &Avvia();
+    fuAcciaio[1] = 0; // a settings file may hold any
+    Riapre();
+    M16();
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 60.29"));
+    EXPECT_EQ(Legge("Txt_Rif_6"), "");
+    EXPECT_EQ(Legge("Txt_Rif_7"), "");
+    Scrive("Txt_fu", "360");
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 115.2"));
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
 TEST_F(FrmBulloniTest, DistancesNotAboveZeroNeverReachTheBolt) {
     Apre();
     M16();
@@ -507,6 +521,18 @@ TEST_F(FrmBulloniTest, PictureFollowsTheDistances) {
     EXPECT_EQ(f.e2, 27);
     EXPECT_EQ(f.p2, 70);
     EXPECT_FALSE(b->grab().isNull());
+}
+
+TEST_F(FrmBulloniTest, HelpExplainsTheControls) {
+    Apre();
+    QFile help(cartella.filePath(QStringLiteral("Sagomi.hlp")));
+    ASSERT_TRUE(help.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(help.readAll());
+    for (const char* argomento :
+         {"frmBulloni", "ComboClassiBulloni", "Txt_fub", "ComboDiametriBulloni", "optFilettata", "Txt_FVRd",
+          "Txt_FtRd", "Txt_Rif", "Txt_FSd", "Txt_Osservazioni", "frmSaldature", "Txt_betaw", "Txt_fvwd"})
+        EXPECT_TRUE(text.contains(QStringLiteral("<a name=\"%1\">").arg(QLatin1String(argomento))))
+            << argomento;
 }
 
 // The whole screen without a mouse, from the menu to the way back.
