@@ -1,11 +1,15 @@
 #include "screens/GeneraleSchermi.h"
 
 #include <QAction>
+#include <QMessageBox>
 #include <QSignalSpy>
+#include <QTimer>
 
 #include <fstream>
 
 #include "frame/Impostazioni.h"
+#include "frame/ui/Guida.h"
+#include "frame/ui/MessaggiQt.h"
 #include "screens/Ambiente.h"
 
 using namespace sagomi;
@@ -82,7 +86,7 @@ struct Osservatore : OsservatoreSezione {
         const auto& section = *std::get<std::shared_ptr<SezioneDoppioT>>(SezioneCorrente);
         eventi.push_back("cambiato " + section.Designation + " classe " +
                          std::to_string(section.ClasseCompressione) + " campo " +
-                         schermo->TxtProf[2]->text().toStdString());
+                         (schermo == nullptr ? "" : schermo->TxtProf[2]->text().toStdString()));
     }
     void SagomiQuittato() override { eventi.emplace_back("quittato"); }
 };
@@ -193,6 +197,126 @@ TEST_F(GeneraleSchermiTest, ClosingRunsOnceAndUnloadsTheLastOpenedFirst) {
     std::filesystem::remove(PathProgramma / "Sagomi.ini");
     ChiudiProgramma();
     EXPECT_FALSE(std::filesystem::exists(PathProgramma / "Sagomi.ini")) << "a second time does nothing";
+}
+
+TEST_F(GeneraleSchermiTest, SettingsThatCannotBeWrittenAreToldOnceAndClosingGoesOn) {
+    Avvia();
+    std::filesystem::create_directory(PathProgramma / "Sagomi.ini"); // nothing can be renamed over a folder
+    ChiudiProgramma();
+    EXPECT_EQ(registratore.testi, std::vector<std::string>{"Scrittura incompleta del file"});
+    EXPECT_EQ(NavigaSchermi::Unico().Trova(QStringLiteral("frmDoppioT")), nullptr);
+}
+
+/// A main screen whose reading fails.
+struct SchermoRotto : frmDoppioT {
+    void Leggedati() override { throw std::out_of_range("campo 9"); }
+};
+
+TEST_F(GeneraleSchermiTest, FailureOfAnActivationNamesTheScreen) {
+    Avvia();
+    auto& broken = NavigaSchermi::Unico().Prendi<SchermoRotto>();
+    registratore.testi.clear();
+    AttivaForm(broken);
+    EXPECT_EQ(registratore.testi, std::vector<std::string>{"Errore in AttivaForm frmDoppioT n° 0 - campo 9"});
+}
+
+TEST_F(GeneraleSchermiTest, LoadReadsTheFirstRowWithoutComputingOrChecking) {
+    Osservatore client;
+    OggettoServer = &client;
+    ServerAttivo = true; // the client hears of the row that the load takes over
+    Avvia();
+    frmDoppioT loading; // constructed, not shown yet
+    client.schermo = &loading;
+    EXPECT_TRUE(loading.CaricaForm);
+    EXPECT_EQ(Testo(&loading, "TxtProf_0"), "IPE 80");
+    EXPECT_EQ(Sezione().ClasseCompressione, 0);
+    EXPECT_EQ(Testo(&loading, "TxtNbRd_0"), "");
+    EXPECT_EQ(Testo(&loading, "Txt_fy"), "235");
+    EXPECT_TRUE(registratore.testi.empty() || registratore.messaggi.front().titolo == "ATTENZIONE ");
+}
+
+TEST_F(GeneraleSchermiTest, ActivationTellsNoClientAndChecksNothing) {
+    auto& s = Avvia();
+    Osservatore client;
+    client.schermo = &s;
+    ServerAttivo = true;
+    OggettoServer = &client;
+    Normativa = normativaEC3;
+    AttivaForm(s);
+    EXPECT_TRUE(client.eventi.empty());
+    EXPECT_TRUE(registratore.testi.empty());
+    EXPECT_EQ(s.NormativaMain->text(), "Normativa: EC3");
+    EXPECT_EQ(Guida::File(), "Sagomi.hlp");
+}
+
+TEST_F(GeneraleSchermiTest, EachWrongValueHasItsOwnBox) {
+    auto& s = Avvia();
+    s.Data1->RecordSource("SELECT designation, 1 AS g, [h (mm)], [b (mm)], [tw (mm)], [tf (mm)], [r1 (mm)], "
+                          "[r2 (mm)], [A (cm2)] * 1.5, [Iy (cm4)], [Wy (cm3)], [Wpl,y (cm3)], [iy (cm)], "
+                          "[Iz (cm4)], [Wz (cm3)] * 1.5, [Wpl,z (cm3)], [iz (cm)], [IT (cm4)], [Iw (cm6)] "
+                          "FROM [IPE$] WHERE designation = 'IPE 200'");
+    s.Data1->Refresh();
+    EXPECT_EQ(registratore.testi.size(), 2U);
+    EXPECT_EQ(Testo(&s, "TxtProf_14"), Locale(" 42.71")) << "the row stays, with the values of the table";
+}
+
+TEST_F(GeneraleSchermiTest, TableWithTooFewColumnsIsRefusedByName) {
+    auto& s = Avvia();
+    s.Data1->RecordSource("SELECT designation, [h (mm)] FROM [IPE$]");
+    try {
+        s.Data1->Refresh();
+        ADD_FAILURE() << "a table of two columns was taken";
+    } catch (const std::exception& e) {
+        EXPECT_NE(std::string(e.what()).find("Sagomi.xls"), std::string::npos) << e.what();
+        EXPECT_NE(std::string(e.what()).find("2 colonne"), std::string::npos) << e.what();
+    }
+    EXPECT_EQ(s.Data1->Recordset().Righe(), 18) << "the old table stays";
+}
+
+TEST_F(GeneraleSchermiTest, MessageBoxOnTheScreenLeavesItsSection) {
+    auto& s = Avvia();
+    const auto before = SezioneCorrente;
+    const auto recorder = CollegaMessaggi({});
+    CollegaMessaggiQt();
+    int boxes = 0;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, [&boxes] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            ++boxes;
+            box->buttons().front()->click();
+        }
+    });
+    closer.start(5);
+    s.Txt_fy->clear();
+    CollegaMessaggi(recorder);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(boxes, 1);
+    EXPECT_EQ(SezioneCorrente, before);
+}
+
+TEST_F(GeneraleSchermiTest, TableScalesAndComesBackExactly) {
+    auto& s = Avvia();
+    const int column = s.DBGrid1->columnWidth(0);
+    const int row = s.DBGrid1->rowHeight(0);
+    s.ScalaControlli(1.5, 1.25);
+    EXPECT_GT(s.DBGrid1->columnWidth(0), column);
+    EXPECT_NEAR(s.DBGrid1->rowHeight(0), row * 1.25, 1);
+    s.ScalaControlli(1, 1);
+    EXPECT_EQ(s.DBGrid1->columnWidth(0), column);
+    EXPECT_EQ(s.DBGrid1->rowHeight(0), row);
+}
+
+TEST_F(GeneraleSchermiTest, SmallFontsStaySmall) {
+    auto& s = Avvia();
+    auto* label = Trova<QLabel>(&s, "LblAcciaio");
+    QFont small = label->font();
+    small.setFamily(QStringLiteral("Small Fonts"));
+    small.setPointSizeF(6);
+    label->setFont(small);
+    s.ScalaControlli(2, 2);
+    EXPECT_DOUBLE_EQ(label->font().pointSizeF(), 7);
+    s.ScalaControlli(1, 1);
+    EXPECT_DOUBLE_EQ(label->font().pointSizeF(), 6);
 }
 
 TEST_F(GeneraleSchermiTest, LeaveByTheFileMenu) {

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 
 #include "screens/Ambiente.h"
+#include "sections/Eurocod3.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -177,6 +178,36 @@ TEST_F(FrmDoppioTTest, RefusesAStrengthThatIsNone) {
     Trova<QLineEdit>(&s, "Txt_fy")->setText("abc");
     EXPECT_EQ(registratore.testi.size(), 2U);
     EXPECT_EQ(Sezione().fy.Stretto(), 235.F);
+}
+
+TEST_F(FrmDoppioTTest, SmallestStrengthIsJustAboveTheLimit) {
+    auto& s = Avvia();
+    Trova<QLineEdit>(&s, "Txt_fy")->setText(QString::fromStdString(Locale("0.001")));
+    EXPECT_EQ(registratore.testi.size(), 1U);
+    Trova<QLineEdit>(&s, "Txt_fy")->setText(QString::fromStdString(Locale("0.0011")));
+    EXPECT_EQ(registratore.testi.size(), 1U);
+    EXPECT_FLOAT_EQ(Sezione().fy.Stretto(), 0.0011F);
+}
+
+TEST_F(FrmDoppioTTest, EmptyLengthIsNoSlenderness) {
+    Avvia();
+    EXPECT_EQ(Sezione().L0y.Stretto(), 0.F);
+    EXPECT_EQ(Sezione().LamdaY(), 0);
+    EXPECT_EQ(Chi(0.21, Sezione().LamdaSegnatoY()), 1);
+}
+
+TEST_F(FrmDoppioTTest, RowThatDoesNotComputeHasNoOldResults) {
+    auto& s = Avvia();
+    s.Data1->RecordSource("SELECT designation, 1 AS g, [h (mm)], [b (mm)], [tw (mm)], [tf (mm)], [r1 (mm)], "
+                          "[r2 (mm)], [A (cm2)], [Iy (cm4)], [Wy (cm3)], [Wpl,y (cm3)], NULL AS iy, "
+                          "[Iz (cm4)], [Wz (cm3)], [Wpl,z (cm3)], [iz (cm)], [IT (cm4)], [Iw (cm6)] "
+                          "FROM [IPE$] WHERE designation = 'IPE 200'");
+    s.Data1->Refresh();
+    EXPECT_TRUE(Sezione().ErroreDatiDatabase);
+    EXPECT_EQ(Testo(&s, "TxtProf_12"), " 0") << "an empty field counts as 0";
+    EXPECT_EQ(Testo(&s, "TxtNbRd_0"), "");
+    EXPECT_EQ(Testo(&s, "TxtVplRd_1"), "");
+    EXPECT_EQ(Testo(&s, "TxtMcRd_0"), Locale(" 49.37"));
 }
 
 TEST_F(FrmDoppioTTest, LengthOfAnUnknownAxisIsAnError) {

@@ -92,6 +92,19 @@ TEST_F(FrmGammaTest, CancelPutsBackTheCodeButNotTheFactors) {
     EXPECT_EQ(GammaM0.Stretto(), 1.05F);
 }
 
+TEST_F(FrmGammaTest, ReopenedAfterCancelTheOldOptionSetsItsFactorsAgain) {
+    auto& s = Avvia();
+    auto& d = ApreDialogo(s);
+    Trova<QRadioButton>(&d, "optNormativa_1")->click();
+    d.close(); // the window's own button cancels too
+    EXPECT_EQ(GammaM0.Stretto(), 1.F);
+    ApreDialogo(s);
+    EXPECT_TRUE(Trova<QRadioButton>(&d, "optNormativa_0")->isChecked());
+    EXPECT_EQ(Testo(&d, "txtGamma_0"), "1") << "the factors in force";
+    Trova<QRadioButton>(&d, "optNormativa_0")->click();
+    EXPECT_EQ(GammaM0.Stretto(), 1.05F);
+}
+
 TEST_F(FrmGammaTest, EscapeIsCancel) {
     auto& s = Avvia();
     auto& d = ApreDialogo(s);

@@ -15,7 +15,14 @@ NavigaSchermi& NavigaSchermi::Unico() {
 }
 
 NavigaSchermi::NavigaSchermi() {
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, &NavigaSchermi::FinestraInPrimoPiano);
+    // A navigation sends the focus through several windows; only where it comes to rest counts.
+    riposo_.setSingleShot(true);
+    riposo_.setInterval(0);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* window) {
+        inPrimoPiano_ = window;
+        riposo_.start();
+    });
+    connect(&riposo_, &QTimer::timeout, this, &NavigaSchermi::FinestraInPrimoPiano);
 }
 
 Schermo* NavigaSchermi::Trova(const QString& nome) const {
@@ -88,11 +95,11 @@ void NavigaSchermi::ScaricaTutti() {
     }
 }
 
-void NavigaSchermi::FinestraInPrimoPiano(QWindow* window) {
-    if (window == nullptr || inNavigazione_ || ChiusuraInCorso)
+void NavigaSchermi::FinestraInPrimoPiano() {
+    if (inPrimoPiano_ == nullptr || inNavigazione_ || ChiusuraInCorso)
         return;
     for (Schermo* s : schermi_)
-        if (s->windowHandle() == window && s->isVisible() && s != attivo_) {
+        if (s->windowHandle() == inPrimoPiano_ && s->isVisible() && s != attivo_) {
             const QScopedValueRollback guard(inNavigazione_, true);
             Attiva(*s);
             return;

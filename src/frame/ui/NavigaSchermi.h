@@ -2,14 +2,15 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QScopedValueRollback>
+#include <QTimer>
+#include <QWindow>
 
 #include <stdexcept>
 
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/Schermo.h"
-
-class QWindow;
 
 namespace sagomi {
 
@@ -63,10 +64,12 @@ private:
     void ApertaPerUltima(Schermo& s);
     void Mostra(Schermo& s);
     void Attiva(Schermo& s);
-    void FinestraInPrimoPiano(QWindow* window);
+    void FinestraInPrimoPiano();
 
     QList<Schermo*> schermi_; ///< in the order of their last opening
     Schermo* attivo_ = nullptr;
+    QPointer<QWindow> inPrimoPiano_; ///< has the focus since the last change
+    QTimer riposo_;
     bool inNavigazione_ = false;
     bool inCreazione_ = false;
 };

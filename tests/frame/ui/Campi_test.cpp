@@ -48,6 +48,30 @@ TEST_F(CampiTest, EnteringABoxByMouseSelectsItsText) {
     EXPECT_EQ(seconda.selectedText(), "12345");
 }
 
+TEST_F(CampiTest, SlowClickThatMovesSelectsAllTheSame) {
+    seconda.setText("360");
+    FiltroCampi filter(&finestra);
+    filter.Osserva(&seconda);
+    prima.setFocus();
+    QTest::mousePress(&seconda, Qt::LeftButton, {}, QPoint(4, 8));
+    QCoreApplication::processEvents();
+    QTest::mouseMove(&seconda, QPoint(12, 8));
+    QCoreApplication::processEvents();
+    QTest::mouseRelease(&seconda, Qt::LeftButton, {}, QPoint(12, 8));
+    QCoreApplication::processEvents();
+    QTest::keyClicks(&seconda, "7");
+    EXPECT_EQ(seconda.text(), "7");
+}
+
+TEST_F(CampiTest, KeypadWritesIntoNothingThatIsReadOnly) {
+    FiltroCampi filter(&finestra);
+    filter.Osserva(&prima);
+    prima.setText("1");
+    prima.setReadOnly(true);
+    QTest::keyClick(&prima, Qt::Key_Period, Qt::KeypadModifier);
+    EXPECT_EQ(prima.text(), "1");
+}
+
 TEST_F(CampiTest, KeypadTypesTheSeparatorInUse) {
     FiltroCampi filter(&finestra);
     filter.Osserva(&prima);

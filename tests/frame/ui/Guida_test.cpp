@@ -1,6 +1,7 @@
 #include "frame/ui/Guida.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QTextBrowser>
 
 #include "screens/Ambiente.h"
@@ -38,6 +39,16 @@ TEST_F(GuidaTest, FileIsFoundWhateverTheCaseOfItsLetters) {
     Guida::Apri(QStringLiteral("SAGOMI.HLP"));
     EXPECT_NE(Finestra(), nullptr);
     EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(GuidaTest, MessageBoxGetsNoHelpBehindIt) {
+    Avvia();
+    QMessageBox box;
+    box.setModal(true);
+    box.show();
+    QCoreApplication::processEvents();
+    QTest::keyClick(&box, Qt::Key_F1);
+    EXPECT_EQ(Finestra(), nullptr);
 }
 
 TEST_F(GuidaTest, MissingFileIsToldByName) {

@@ -56,6 +56,25 @@ TEST_F(NavigaSchermiTest, ClosingADetailGoesBackAndActivatesItsOpener) {
     EXPECT_EQ(n.Attivo(), &a);
 }
 
+TEST_F(NavigaSchermiTest, ScreenBroughtToTheFrontByTheUserIsActivatedOnce) {
+    auto& n = NavigaSchermi::Unico();
+    auto& a = n.Prendi<Primo>();
+    n.Passa(a, nullptr);
+    auto& b = n.Prendi<Secondo>();
+    n.Apri(b, a);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(a.attivazioni, 1);
+    emit qApp->focusWindowChanged(a.windowHandle());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(a.attivazioni, 2);
+    emit qApp->focusWindowChanged(nullptr); // the user leaves the program
+    QCoreApplication::processEvents();
+    emit qApp->focusWindowChanged(a.windowHandle());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(a.attivazioni, 2) << "coming back activates nothing";
+    EXPECT_EQ(b.attivazioni, 1);
+}
+
 TEST_F(NavigaSchermiTest, MinimisingAndHidingActivateNothing) {
     auto& n = NavigaSchermi::Unico();
     auto& a = n.Prendi<Primo>();

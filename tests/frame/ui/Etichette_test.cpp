@@ -1,0 +1,92 @@
+#include <QLabel>
+#include <QSignalSpy>
+
+#include <cmath>
+
+#include "frame/ui/Casella.h"
+#include "frame/ui/Esito.h"
+#include "frame/ui/EtichettaPedice.h"
+#include "frame/ui/EtichettaSimbolo.h"
+#include "frame/ui/UpDown.h"
+#include "screens/Ambiente.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class EtichetteTest : public AmbienteSchermi {};
+
+TEST_F(EtichetteTest, VerdictIsAWordAndAColour) {
+    QLabel label;
+    MostraEsito(&label, 0);
+    EXPECT_EQ(label.text(), "OK");
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::black));
+    MostraEsito(&label, 1);
+    EXPECT_EQ(label.text(), "OK");
+    MostraEsito(&label, 1.001);
+    EXPECT_EQ(label.text(), "NO");
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(255, 0, 0));
+    EXPECT_EQ(label.palette().color(QPalette::Window), QColor(255, 255, 255));
+    MostraEsito(&label, std::nan(""));
+    EXPECT_EQ(label.text(), "");
+    MostraEsito(&label, HUGE_VAL);
+    EXPECT_EQ(label.text(), "NO");
+}
+
+TEST_F(EtichetteTest, MarkForNoLimitIsHeldAsTextAndPaintedAsInfinity) {
+    EtichettaSimbolo mark;
+    mark.setText(QStringLiteral("¥"));
+    EtichettaSimbolo infinity;
+    infinity.setText(QString(QChar(0x221E)));
+    mark.resize(40, 24);
+    infinity.resize(40, 24);
+    EXPECT_EQ(mark.text(), "¥");
+    EXPECT_EQ(mark.grab().toImage(), infinity.grab().toImage());
+}
+
+TEST_F(EtichetteTest, SubscriptStandsOverTheGapOfTheText) {
+    EtichettaPedice label;
+    label.setText(QStringLiteral("N         [kN]"));
+    label.ImpostaPedice(QStringLiteral("by,Rd"));
+    label.resize(label.sizeHint());
+    EXPECT_EQ(label.text(), "N         [kN]");
+    const auto* small = label.findChild<QLabel*>();
+    ASSERT_NE(small, nullptr);
+    EXPECT_EQ(small->text(), "by,Rd");
+    const QFontMetrics f = label.fontMetrics();
+    EXPECT_GE(small->x(), f.horizontalAdvance(u'N') - 1);
+    EXPECT_LE(small->x() + small->fontMetrics().horizontalAdvance("by,Rd"),
+              f.horizontalAdvance("N         [") + 1);
+}
+
+TEST_F(EtichetteTest, StepButtonsTellUpFromDown) {
+    UpDown steps;
+    QSignalSpy spy(&steps, &UpDown::passo);
+    steps.stepUp();
+    steps.stepDown();
+    ASSERT_EQ(spy.count(), 2);
+    EXPECT_TRUE(spy[0][0].toBool());
+    EXPECT_FALSE(spy[1][0].toBool());
+    QTest::keyClick(&steps, Qt::Key_Up);
+    ASSERT_EQ(spy.count(), 3);
+    EXPECT_TRUE(spy[2][0].toBool());
+}
+
+TEST_F(EtichetteTest, ResultsFollowALiveChangeOfThePalette) {
+    QWidget window;
+    Casella result(&window);
+    result.ImpostaRisultato(true);
+    const QPalette light = QApplication::palette();
+    QPalette dark = light;
+    dark.setColor(QPalette::Window, QColor(40, 40, 40));
+    dark.setColor(QPalette::Base, QColor(20, 20, 20));
+    QApplication::setPalette(dark);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(result.palette().color(QPalette::Base), QColor(40, 40, 40));
+    QApplication::setPalette(light);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(result.palette().color(QPalette::Base), light.color(QPalette::Window));
+}
+
+} // namespace
