@@ -69,7 +69,8 @@ FrmMcRd::~FrmMcRd() = default;
 
 void FrmMcRd::RiempiDati() {
     SullaSezioneInUso([this](const auto& s) {
-        ui_->TxtNsd->setText(QString::fromStdString(TestoPiano(Singolo(s.NSd / NInkN))));
+        if constexpr (ConMomenti<std::decay_t<decltype(s)>>)
+            ui_->TxtNsd->setText(QString::fromStdString(TestoPiano(Singolo(s.NSd / NInkN))));
     });
     FuocoSu(ui_->TxtNsd);
 }

@@ -18,6 +18,7 @@
 #include "frame/ui/Protetto.h"
 #include "geometry/ui/FrmPltSezione.h"
 #include "screens/SchermoSezione.h"
+#include "screens/SezioneInUso.h"
 #include "screens/frmDoppioT.h"
 #include "sections/SezioneDoppioT.h"
 
@@ -47,16 +48,6 @@ void RiempieAcciai(SchermoSezione& schermo) {
     for (const std::string& name : NomeAcciaio)
         schermo.ComboTipoAcciaio->addItem(QString::fromStdString(name));
     schermo.ComboTipoAcciaio->setCurrentIndex(IndiceAcciaio);
-}
-
-template <typename F> void SullaSezioneCorrente(F f) {
-    std::visit(
-        [&f](auto& section) {
-            if constexpr (!std::is_same_v<std::decay_t<decltype(section)>, std::monostate>)
-                if (section)
-                    f(*section);
-        },
-        SezioneCorrente);
 }
 
 } // namespace
@@ -176,7 +167,7 @@ void AcciaioCambiato(SchermoSezione& schermo) {
     }
     if (!schermo.RigaInMano())
         return;
-    SullaSezioneCorrente([fy](auto& section) {
+    SullaSezioneInUso([fy](auto& section) {
         section.fy = fy;
         section.TipoAcciaio = NomeAcciaio[IndiceAcciaio + 1];
     });
