@@ -50,16 +50,29 @@ QTextBrowser& Finestra() {
     return *window;
 }
 
-/// Name of the control in hand, without the index of its array.
+/// Screen and name of the control in hand, without the index of its array.
 QString ArgomentoInMano() {
     const QWidget* w = QApplication::focusWidget();
     while (w != nullptr && w->objectName().isEmpty())
         w = w->parentWidget();
     if (w == nullptr)
         return {};
-    return w->objectName().section(u'_', 0, -2).isEmpty() || !w->objectName().back().isDigit()
-               ? w->objectName()
-               : w->objectName().section(u'_', 0, -2);
+    const QString bare = w->objectName().section(u'_', 0, -2).isEmpty() || !w->objectName().back().isDigit()
+                             ? w->objectName()
+                             : w->objectName().section(u'_', 0, -2);
+    return w->window()->objectName() + u'.' + bare;
+}
+
+/// The place of a topic "screen.control": the control's own paragraph where it stands in the part about the
+/// screen, or later; else the screen's. A name of a control is often shared by several screens.
+QString Ancora(const QString& text, const QString& topic) {
+    const auto place = [&text](const QString& name) { return text.indexOf(QLatin1String("name=\"") + name + u'"'); };
+    const QString screen = topic.section(u'.', 0, -2);
+    const QString control = topic.section(u'.', -1);
+    const auto screenPlace = screen.isEmpty() ? -1 : place(screen);
+    if (place(topic) >= 0)
+        return topic;
+    return place(control) > screenPlace || screenPlace < 0 ? control : screen;
 }
 
 } // namespace
@@ -81,11 +94,12 @@ void Guida::Apri(const QString& file, const QString& argomento) {
         return;
     }
     QTextBrowser& window = Finestra();
-    window.setHtml(QString::fromUtf8(help.readAll()));
+    const QString text = QString::fromUtf8(help.readAll());
+    window.setHtml(text);
     window.show();
     window.raise();
     window.activateWindow();
-    window.scrollToAnchor(argomento);
+    window.scrollToAnchor(Ancora(text, argomento));
 }
 
 bool Guida::eventFilter(QObject* object, QEvent* event) {
