@@ -70,7 +70,7 @@ FrmMcRd::~FrmMcRd() = default;
 void FrmMcRd::RiempiDati() {
     SullaSezioneInUso([this](const auto& s) {
         if constexpr (ConMomenti<std::decay_t<decltype(s)>>)
-            ui_->TxtNsd->setText(QString::fromStdString(TestoPiano(Singolo(s.NSd / NInkN))));
+            Riempi(ui_->TxtNsd, s.NSd / NInkN);
     });
     FuocoSu(ui_->TxtNsd);
 }

@@ -21,11 +21,6 @@ void MostraSomma(QLabel* sum, QLabel* verdict, double value) {
     MostraEsito(verdict, value);
 }
 
-/// A value of the section, with the figures that it is kept with.
-void Riempi(QLineEdit* box, double value) {
-    box->setText(QString::fromStdString(TestoPiano(Singolo(value))));
-}
-
 } // namespace
 
 FrmVerifiche::FrmVerifiche() : SchermoDettaglio(QStringLiteral("FrmVerifiche")), ui_(new Ui::FrmVerifiche) {

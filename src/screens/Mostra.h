@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QString>
 
 #include <string>
@@ -18,6 +19,11 @@ inline void Mostra(QLabel* etichetta, const std::string& testo) {
 /// Shows a number by a picture such as "0.0##"; one that is none leaves the label empty.
 inline void Mostra(QLabel* etichetta, std::string_view figura, const NumeroMostrato& valore) {
     Mostra(etichetta, Formato(figura, valore));
+}
+
+/// Refills an entry with a value of the section, in the figures that sections keep.
+inline void Riempi(QLineEdit* casella, double valore) {
+    casella->setText(QString::fromStdString(TestoPiano(Singolo(valore))));
 }
 
 } // namespace sagomi
