@@ -66,7 +66,9 @@ QString ArgomentoInMano() {
 /// The place of a topic "screen.control": the control's own paragraph where it stands in the part about the
 /// screen, or later; else the screen's. A name of a control is often shared by several screens.
 QString Ancora(const QString& text, const QString& topic) {
-    const auto place = [&text](const QString& name) { return text.indexOf(QLatin1String("name=\"") + name + u'"'); };
+    const auto place = [&text](const QString& name) {
+        return text.indexOf(QLatin1String("name=\"") + name + u'"');
+    };
     const QString screen = topic.section(u'.', 0, -2);
     const QString control = topic.section(u'.', -1);
     const auto screenPlace = screen.isEmpty() ? -1 : place(screen);
