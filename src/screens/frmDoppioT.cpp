@@ -12,6 +12,8 @@
 #include "screens/FrmClasseDoppioTU.h"
 #include "screens/FrmInstabDoppioT.h"
 #include "screens/FrmMcRd.h"
+#include "screens/FrmMsverg.h"
+#include "screens/FrmPresFless.h"
 #include "screens/GeneraleSchermi.h"
 #include "screens/SagomaDi.h"
 #include "sections/SezioneDoppioT.h"
@@ -60,6 +62,15 @@ void frmDoppioT::CollegaDettagli() {
     Collega(ui_->LblClasse, &QPushButton::clicked, this, [this] { Apri<FrmClasseDoppioTU>(); });
     Collega(ui_->LblNbRd, &QPushButton::clicked, this, [this] { Apri<FrmInstabDoppioT>(); });
     Collega(ui_->LblMcRd, &QPushButton::clicked, this, [this] { Apri<FrmMcRd>(); });
+    Collega(ui_->Command1, &QPushButton::clicked, this, [this] { Apri<FrmPresFless>(); });
+    Collega(ui_->Command2, &QPushButton::clicked, this, [this] {
+        if (SezioneDoppioT* s = Sezione()) {
+            s->k = 1;
+            s->Kw = 1;
+            s->C1 = 1;
+        }
+        Apri<FrmMsverg>();
+    });
 }
 
 template <typename T> void frmDoppioT::Apri() {

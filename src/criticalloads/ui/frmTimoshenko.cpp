@@ -1,0 +1,160 @@
+#include "criticalloads/ui/frmTimoshenko.h"
+
+#include <QRadioButton>
+
+#include <memory>
+
+#include "frame/GeneraleSagomi.h"
+#include "frame/Numeri.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "sections/Eurocod3.h"
+#include "sections/SezioneDoppioT.h"
+#include "ui_frmTimoshenko.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr double mmInMetro = 1000;
+constexpr double mm4InCm4 = 1e4;
+constexpr double mm6InCm6 = 1e6;
+constexpr double NmmInkNm = 1e6;
+
+const SezioneDoppioT* Sezione() {
+    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
+    return section == nullptr ? nullptr : section->get();
+}
+
+/// A value of the section, with the figures that it is kept with.
+void Riempi(QLineEdit* box, double value) {
+    box->setText(QString::fromStdString(TestoPiano(Singolo(value))));
+}
+
+} // namespace
+
+frmTimoshenko::frmTimoshenko() : Schermo(QStringLiteral("frmTimoshenko")), ui_(new Ui::frmTimoshenko) {
+    ui_->setupUi(this);
+    PreparaContenuto();
+    E = E_acciaio;
+    G = G_acciaio;
+    ui_->Lbl_E->setText(QString::fromStdString(TestoPiano(E)));
+    ui_->Lbl_G->setText(QString::fromStdString(TestoPiano(G)));
+    Option1_ = Vettore<QRadioButton>(QStringLiteral("Option1"));
+    optTipoCarico_ = Vettore<QRadioButton>(QStringLiteral("optTipoCarico"));
+    optQuotaCarico_ = Vettore<QRadioButton>(QStringLiteral("optQuotaCarico"));
+    auto* entries = new FiltroCampi(this, [this](QLineEdit* /*box*/) {
+        Protetto("Errore", [this] { Calcolo(); });
+        return true;
+    });
+    for (QLineEdit* box : {ui_->Txt_L, ui_->TxtIz, ui_->TxtIT, ui_->TxtIw})
+        entries->Osserva(box);
+    CollegaOpzioni();
+    Collega(ui_->Command1, &QPushButton::clicked, this, [this] { Calcolo(); });
+    DimensionaIniziale({});
+}
+
+frmTimoshenko::~frmTimoshenko() = default;
+
+void frmTimoshenko::CollegaOpzioni() {
+    Collega(Option1_[0], &QRadioButton::clicked, this, [this] {
+        optTipoCarico_[1]->setEnabled(true);
+        optQuotaCarico_[0]->setEnabled(true);
+        optQuotaCarico_[2]->setEnabled(true);
+        Calcolo();
+    });
+    Collega(Option1_[1], &QRadioButton::clicked, this, [this] {
+        OpzioniMensola();
+        Calcolo();
+    });
+    for (QRadioButton* option : optTipoCarico_)
+        Collega(option, &QRadioButton::clicked, this, [this] {
+            if (Mensola())
+                OpzioniMensola();
+            Calcolo();
+        });
+    for (QRadioButton* option : optQuotaCarico_)
+        Collega(option, &QRadioButton::clicked, this, [this] { Calcolo(); });
+    // Unticking leaves the options of a cantilever as they are.
+    Collega(ui_->chkNoIw, &QCheckBox::clicked, this, [this](bool on) {
+        NoIw = on;
+        if (on && Mensola())
+            OpzioniMensola();
+        Calcolo();
+    });
+    for (const auto* group : {&Option1_, &optTipoCarico_, &optQuotaCarico_})
+        for (QRadioButton* option : *group)
+            Collega(option, &QRadioButton::toggled, this, [this] { Disegna(); });
+}
+
+bool frmTimoshenko::Mensola() const { return Option1_[1]->isChecked(); }
+
+std::int16_t frmTimoshenko::TipoCarico() const {
+    return optTipoCarico_[1]->isChecked() ? caricoDistribuito : caricoConcentrato;
+}
+
+std::int16_t frmTimoshenko::QuotaCarico() const {
+    for (int i = 0; i < optQuotaCarico_.size(); ++i)
+        if (optQuotaCarico_[i]->isChecked())
+            return static_cast<std::int16_t>(i);
+    return quotaEstradosso;
+}
+
+void frmTimoshenko::OpzioniMensola() {
+    if (!NoIw)
+        optTipoCarico_[0]->setChecked(true);
+    const bool estremita = optTipoCarico_[0]->isChecked();
+    if (estremita)
+        optTipoCarico_[1]->setEnabled(NoIw);
+    const bool ali = NoIw && estremita;
+    optQuotaCarico_[0]->setEnabled(ali);
+    optQuotaCarico_[2]->setEnabled(ali);
+    if (!ali)
+        optQuotaCarico_[1]->setChecked(true);
+}
+
+void frmTimoshenko::Carica() {
+    const SezioneDoppioT* s = Sezione();
+    if (s == nullptr)
+        return;
+    Iz = s->Jz;
+    IT = s->JT;
+    Iw = s->Jw;
+    ui_->Txt_Prof->setText(QString::fromStdString(s->Designation));
+    Riempi(ui_->TxtIz, Iz / mm4InCm4);
+    Riempi(ui_->TxtIT, IT / mm4InCm4);
+    Riempi(ui_->TxtIw, Iw / mm6InCm6);
+    ui_->Lbl_Mcr->clear(); // it was another section's
+}
+
+void frmTimoshenko::Apri(Schermo& da) {
+    Carica();
+    Disegna();
+    NavigaSchermi::Unico().Apri(*this, da);
+}
+
+void frmTimoshenko::AllAttivazione() {
+    if (const SezioneDoppioT* s = Sezione()) {
+        L = s->LLT;
+        Riempi(ui_->Txt_L, L / mmInMetro);
+    }
+    FuocoSu(ui_->Txt_L);
+}
+
+void frmTimoshenko::Calcolo() {
+    L = NumeroIn(ui_->Txt_L) * mmInMetro;
+    Iz = NumeroIn(ui_->TxtIz) * mm4InCm4;
+    IT = NumeroIn(ui_->TxtIT) * mm4InCm4;
+    Iw = NumeroIn(ui_->TxtIw) * mm6InCm6;
+    const auto Mcr =
+        Mensola() ? McrMensola(TipoCarico(), QuotaCarico()) : McrAppoggiata(TipoCarico(), QuotaCarico());
+    if (Mcr)
+        ui_->Lbl_Mcr->setText(QString::fromStdString(FormatoCifre(4, *Mcr / NmmInkNm)));
+}
+
+void frmTimoshenko::Disegna() {
+    ui_->Picture1->Mostra(Mensola(), TipoCarico() == caricoDistribuito, QuotaCarico());
+}
+
+} // namespace sagomi

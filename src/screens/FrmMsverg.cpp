@@ -1,0 +1,197 @@
+#include "screens/FrmMsverg.h"
+
+#include <QScopedValueRollback>
+
+#include "criticalloads/ui/frmTimoshenko.h"
+#include "frame/GeneraleSagomi.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/Esito.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "screens/FrmVerifiche.h"
+#include "screens/InvioFra.h"
+#include "screens/Mostra.h"
+#include "screens/SchermoSezione.h"
+#include "screens/Unita.h"
+#include "screens/frmMsvergH1.h"
+#include "screens/frmMsvergH2.h"
+#include "sections/Eurocod3.h"
+#include "sections/SezioneDoppioT.h"
+#include "ui_FrmMsverg.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr auto figura = "0.0##";
+
+/// A value of the section, with the figures that it is kept with.
+void Riempi(QLineEdit* box, double value) {
+    box->setText(QString::fromStdString(TestoPiano(Singolo(value))));
+}
+
+void Scrive(QLineEdit* box, double value) { box->setText(QString::fromStdString(TestoPiano(value))); }
+
+/// Factor times moment [N mm].
+std::string Prodotto(double k, double M) {
+    return Formato(figura, k) + " x " + Formato(figura, M / NmmInkNm);
+}
+
+/// The same with the moment of the shifted centroid.
+std::string Prodotto(double k, double M, double NeN) {
+    return Formato(figura, k) + " x (" + Formato(figura, M / NmmInkNm) + " + " +
+           Formato(figura, NeN / NmmInkNm) + ")";
+}
+
+QString Titolo(int classe) {
+    const QString resistenza = QStringLiteral("Resistenza all'instabilità flesso torsionale ");
+    if (classe > 3)
+        return resistenza + QStringLiteral("(flessione e compressione)- Classe 4 - EC3 #5.5.4. (6)");
+    return resistenza + (classe == 3
+                             ? QStringLiteral("(flessione e compressione)- Classe 3 - EC3 #5.5.4. (4)")
+                             : QStringLiteral("(flessione e compressione)- Classe 1/2 - EC3 #5.5.4. (2)"));
+}
+
+std::shared_ptr<SezioneDoppioT> InUso() {
+    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
+    return section == nullptr ? nullptr : *section;
+}
+
+} // namespace
+
+FrmMsverg::FrmMsverg() : SchermoDettaglio(QStringLiteral("FrmMsverg")), ui_(new Ui::FrmMsverg) {
+    ui_->setupUi(this);
+    ScegliRiga(1);
+    CollegaControlli(InvioFra({ui_->Txt_fy, ui_->TxtNsd, ui_->TxtMysd, ui_->TxtMzsd, ui_->Txt_L, ui_->Txt_k,
+                               ui_->Txt_Kw, ui_->Txt_Zg, ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3}));
+    CollegaEventi();
+    DimensionaIniziale({});
+}
+
+FrmMsverg::~FrmMsverg() = default;
+
+void FrmMsverg::CollegaEventi() {
+    for (QLineEdit* box : {ui_->TxtNsd, ui_->TxtMysd, ui_->TxtMzsd, ui_->Txt_L, ui_->Txt_k, ui_->Txt_Kw,
+                           ui_->Txt_Zg, ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3})
+        Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
+    Collega(ui_->Txt_fy, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (inCalcolo_ || chiamante_ == nullptr || chiamante_->Txt_fy->text() == text)
+            return;
+        chiamante_->Txt_fy->setText(text); // its reaction puts the strength into the section
+        Ricalcola();
+    });
+    Collega(ui_->LblVerifiche, &QPushButton::clicked, this,
+            [this] { NavigaSchermi::Unico().Prendi<FrmVerifiche>().ApriDa(*chiamante_, *this); });
+    Collega(ui_->CmdH1, &QPushButton::clicked, this,
+            [this] { NavigaSchermi::Unico().Prendi<frmMsvergH1>().Apri(*this); });
+    Collega(ui_->CmdH2, &QPushButton::clicked, this,
+            [this] { NavigaSchermi::Unico().Prendi<frmMsvergH2>().Apri(*this); });
+    Collega(ui_->Command1, &QPushButton::clicked, this,
+            [this] { NavigaSchermi::Unico().Prendi<frmTimoshenko>().Apri(*this); });
+}
+
+void FrmMsverg::RiempiDati() {
+    if (const SezioneDoppioT* s = Sezione()) {
+        Riempi(ui_->TxtNsd, s->NSd / NInkN);
+        Riempi(ui_->TxtMysd, s->Mysd / NmmInkNm);
+        Riempi(ui_->TxtMzsd, s->Mzsd / NmmInkNm);
+        Riempi(ui_->Txt_k, s->k);
+        Riempi(ui_->Txt_Kw, s->Kw);
+        Riempi(ui_->Txt_C1, s->C1);
+        Riempi(ui_->Txt_C2, s->c2);
+        Riempi(ui_->Txt_C3, s->c3);
+        Riempi(ui_->Txt_Zg, s->za);
+        if (s->LLT > 0)
+            Riempi(ui_->Txt_L, s->LLT / mmInMetro);
+    }
+    sezione_ = InUso();
+    FuocoSu(ui_->TxtNsd);
+}
+
+void FrmMsverg::RiportaValori(const SezioneDoppioT& vecchia, SezioneDoppioT& nuova) {
+    nuova.BetaMy = vecchia.BetaMy;
+    nuova.BetaMz = vecchia.BetaMz;
+    nuova.BetaMLT = vecchia.BetaMLT;
+    nuova.C1 = vecchia.C1;
+}
+
+void FrmMsverg::CompletaForm(SchermoSezione& chiamante) {
+    chiamante_ = &chiamante;
+    const QScopedValueRollback guard(inCalcolo_, true);
+    const auto section = InUso();
+    if (section == nullptr)
+        return;
+    if (sezione_ != nullptr && sezione_ != section)
+        RiportaValori(*sezione_, *section); // the caller has read its row anew
+    sezione_ = section;
+    ScriveDati();
+    section->ClassePressoFlessioneCalcola();
+    section->McrFunz();
+    section->MbRdSub();
+    MostraResistenza();
+    MostraInterazione();
+}
+
+void FrmMsverg::ScriveDati() {
+    SezioneDoppioT& s = *Sezione();
+    s.NSd = NumeroIn(ui_->TxtNsd) * NInkN;
+    s.Mysd = NumeroIn(ui_->TxtMysd) * NmmInkNm;
+    s.Mzsd = NumeroIn(ui_->TxtMzsd) * NmmInkNm;
+    s.k = NumeroIn(ui_->Txt_k);
+    s.Kw = NumeroIn(ui_->Txt_Kw);
+    s.C1 = NumeroIn(ui_->Txt_C1);
+    s.c2 = NumeroIn(ui_->Txt_C2);
+    s.c3 = NumeroIn(ui_->Txt_C3);
+    s.za = NumeroIn(ui_->Txt_Zg);
+    s.LLT = NumeroIn(ui_->Txt_L) * mmInMetro;
+}
+
+void FrmMsverg::MostraResistenza() {
+    const SezioneDoppioT& s = *Sezione();
+    Mostra(ui_->Lbl_McRd, figura, s.McyRd / NmmInkNm);
+    if (s.LLT > 0)
+        Mostra(ui_->Lbl_Mcr, figura, s.Mcr / NmmInkNm);
+    else
+        Mostra(ui_->Lbl_Mcr, std::string(limiteInfinito));
+    Mostra(ui_->Lbl_LamdaLT, figura, s.LamdaLT);
+    Mostra(ui_->Lbl_chi, figura, s.ChiLT);
+    Mostra(ui_->Lbl_MbRd, figura, s.MbRd / NmmInkNm);
+}
+
+void FrmMsverg::ScegliRiga(int classe) {
+    const bool classe4 = classe > 3;
+    for (QWidget* part : QList<QWidget*>{ui_->simboliMy4, ui_->simboliMz4, ui_->LakLTMySd4, ui_->LblkzMzSd4})
+        part->setVisible(classe4);
+    for (QWidget* part : QList<QWidget*>{ui_->simboliMy, ui_->simboliMz, ui_->LblKLTMySd, ui_->LblkzMzSd})
+        part->setVisible(!classe4);
+}
+
+void FrmMsverg::MostraInterazione() {
+    SezioneDoppioT& s = *Sezione();
+    ui_->Frame1->setTitle(Titolo(s.ClassePressoFlessione));
+    ScegliRiga(s.ClassePressoFlessione);
+
+    const double kLT = s.kLT();
+    const double kZ = s.kZ();
+    Mostra(ui_->LblNsd, figura, s.NSd / NInkN);
+    Mostra(ui_->LblNbzRd, figura, s.NbzRd / NInkN);
+    Mostra(ui_->LblKLTMySd, Prodotto(kLT, s.Mysd + s.NSd * s.eNy));
+    Mostra(ui_->LakLTMySd4, Prodotto(kLT, s.Mysd, s.NSd * s.eNy));
+    Mostra(ui_->LblMbRd, figura, s.MbRd / NmmInkNm);
+    Mostra(ui_->LblkzMzSd, Prodotto(kZ, s.Mzsd + s.NSd * s.eNz));
+    Mostra(ui_->LblkzMzSd4, Prodotto(kZ, s.Mzsd, s.NSd * s.eNz));
+    Mostra(ui_->LblMczRd, figura, GammaM0 * s.MczRd / GammaM1 / NmmInkNm);
+    const double somma = s.InterazioneFlessoTorsionale();
+    Mostra(ui_->Lbl_Risult, figura, somma);
+    MostraEsito(ui_->Lbl_Risultato, somma);
+}
+
+void FrmMsverg::PrendeFattori(double k, double C1, double C2, double C3) {
+    const QScopedValueRollback guard(inCalcolo_, true);
+    Scrive(ui_->Txt_k, k);
+    Scrive(ui_->Txt_C1, C1);
+    Scrive(ui_->Txt_C2, C2);
+    Scrive(ui_->Txt_C3, C3);
+}
+
+} // namespace sagomi

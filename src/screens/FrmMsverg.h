@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+
+#include "screens/SchermoDettaglio.h"
+
+namespace Ui {
+class FrmMsverg;
+}
+
+namespace sagomi {
+
+/// Lateral-torsional buckling of a member, ENV 1993-1-1 5.5.2 and annex F: critical moment, reduction factor,
+/// resistance, and the interaction with axial force and bending.
+class FrmMsverg : public SchermoDettaglio {
+    Q_OBJECT
+public:
+    FrmMsverg();
+    ~FrmMsverg() override;
+
+    /// Writes the entries into the section, computes and shows.
+    void CompletaForm(SchermoSezione& chiamante) override;
+
+    /// Factors picked from a table; the activation that follows computes with them.
+    void PrendeFattori(double k, double C1, double C2, double C3);
+
+protected:
+    void RiempiDati() override;
+    /// The factors of the moment diagram have no box here: a new section takes them from the old one.
+    void RiportaValori(const SezioneDoppioT& vecchia, SezioneDoppioT& nuova) override;
+
+private:
+    void CollegaEventi();
+    void ScriveDati();
+    void MostraResistenza();
+    /// The terms of class 4 carry the shift of the centroid.
+    void ScegliRiga(int classe);
+    void MostraInterazione();
+
+    std::unique_ptr<Ui::FrmMsverg> ui_;
+    std::shared_ptr<SezioneDoppioT> sezione_; ///< section that was computed last
+};
+
+} // namespace sagomi

@@ -1,0 +1,246 @@
+#include "screens/FrmPresFless.h"
+
+#include <QButtonGroup>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "frame/ui/Campi.h"
+#include "frame/ui/Esito.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "screens/FrmMsverg.h"
+#include "screens/FrmVerifiche.h"
+#include "screens/InvioFra.h"
+#include "screens/Mostra.h"
+#include "screens/PulsanteDiagramma.h"
+#include "screens/SchermoSezione.h"
+#include "screens/Unita.h"
+#include "sections/DiagrammaMomenti.h"
+#include "sections/SezioneDoppioT.h"
+#include "ui_FrmPresFless.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr auto figura = "0.0##";
+
+/// A value of the section, with the figures that it is kept with.
+void Riempi(QLineEdit* box, double value) {
+    box->setText(QString::fromStdString(TestoPiano(Singolo(value))));
+}
+
+/// Writes a corrected number back into its box; a box that holds it already keeps its text.
+void Riscrivi(QLineEdit* box, double value) {
+    if (NumeroIn(box) != value)
+        box->setText(QString::fromStdString(TestoPiano(value)));
+}
+
+/// Hands a number to the calling screen's box, which then reacts; not when it holds it already.
+void RiportaTesto(const QLineEdit* da, QLineEdit* a) {
+    constexpr double cifreSingolo = 5e-7; // the boxes were filled with seven figures
+    const double nuovo = NumeroIn(da);
+    const double vecchio = NumeroIn(a);
+    if (!(std::abs(nuovo - vecchio) <= cifreSingolo * std::max(std::abs(nuovo), std::abs(vecchio))))
+        a->setText(da->text());
+}
+
+QString Titolo(int classe) {
+    if (classe > 3)
+        return QStringLiteral("Flessione e compressione assiale - Classe 4 - EC3 #5.5.4.(5)");
+    return QStringLiteral("Flessione e compressione assiale - Classe ") + QString::number(classe) +
+           (classe == 3 ? QStringLiteral(" - EC3 #5.5.4.(3)") : QStringLiteral(" - EC3 #5.5.4.(1)"));
+}
+
+} // namespace
+
+FrmPresFless::FrmPresFless() : SchermoDettaglio(QStringLiteral("FrmPresFless")), ui_(new Ui::FrmPresFless) {
+    ui_->setupUi(this);
+    ui_->termini4->hide();
+    Txt_L0_ = Vettore<QLineEdit>(QStringLiteral("Txt_L0"));
+    TxtM1_ = Vettore<QLineEdit>(QStringLiteral("TxtM1"));
+    TxtM2_ = Vettore<QLineEdit>(QStringLiteral("TxtM2"));
+    TxtMQ_ = Vettore<QLineEdit>(QStringLiteral("TxtMQ"));
+    OptMomento_ = Vettore<QRadioButton>(QStringLiteral("OptMomento"));
+    for (int i = 1; i <= nPict; ++i)
+        Picture1_ << findChild<PulsanteDiagramma*>(QStringLiteral("Picture1_%1").arg(i));
+    CollegaControlli(InvioFra({ui_->Txt_fy, ui_->TxtNsd, Txt_L0_[0], Txt_L0_[1], TxtM1_[0], TxtM2_[0],
+                               TxtMQ_[0], TxtM1_[1], TxtM2_[1], TxtMQ_[1]}));
+    CollegaEventi();
+    CollegaDiagrammi();
+    VisualizzaPict(IndicePict);
+    DimensionaIniziale({});
+}
+
+FrmPresFless::~FrmPresFless() = default;
+
+void FrmPresFless::CollegaEventi() {
+    for (QLineEdit* box : QList<QLineEdit*>{ui_->TxtNsd} + Txt_L0_ + TxtM1_ + TxtM2_ + TxtMQ_)
+        Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
+    Collega(ui_->Txt_fy, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (inCalcolo_ || chiamante_ == nullptr || chiamante_->Txt_fy->text() == text)
+            return;
+        chiamante_->Txt_fy->setText(text); // its reaction puts the strength into the section
+        Ricalcola();
+    });
+    Collega(ui_->LblVerifiche, &QPushButton::clicked, this,
+            [this] { NavigaSchermi::Unico().Prendi<FrmVerifiche>().ApriDa(*chiamante_, *this); });
+    for (QPushButton* open : {ui_->LblFlessTors, ui_->LbLFlessTorsHelp})
+        Collega(open, &QPushButton::clicked, this,
+                [this] { NavigaSchermi::Unico().Prendi<FrmMsverg>().ApriDa(*chiamante_, *this); });
+}
+
+void FrmPresFless::CollegaDiagrammi() {
+    auto* pictures = new QButtonGroup(this);
+    for (PulsanteDiagramma* picture : Picture1_) {
+        pictures->addButton(picture);
+        Collega(picture, &QAbstractButton::clicked, this,
+                [this, picture] { SelezionaPict(picture->Pict()); });
+    }
+    for (int i = 0; i < OptMomento_.size(); ++i)
+        Collega(OptMomento_[i], &QRadioButton::toggled, this, [this, i](bool on) {
+            if (on && i != TipoDiagramma)
+                SelezionaPict(PrimaPict(static_cast<std::int16_t>(i)));
+        });
+}
+
+void FrmPresFless::RiempiDati() {
+    if (const SezioneDoppioT* s = Sezione()) {
+        Riempi(ui_->TxtNsd, s->NSd / NInkN);
+        Riempi(Txt_L0_[0], s->L0y / mmInMetro);
+        Riempi(Txt_L0_[1], s->L0z / mmInMetro);
+    }
+    FuocoSu(ui_->TxtNsd);
+}
+
+void FrmPresFless::CompletaForm(SchermoSezione& chiamante) {
+    chiamante_ = &chiamante;
+    const QScopedValueRollback guard(inCalcolo_, true); // the corrections write into their boxes
+    Leggedati();
+    SezioneDoppioT* s = Sezione();
+    if (s == nullptr)
+        return;
+    s->k = 1;
+    s->Kw = 1;
+    s->za = 0;
+    s->c2 = 0;
+    s->c3 = 0;
+    double M = 0;
+    double BetaM = 0;
+    double C1 = 0;
+    CompletaForm1(0, M, BetaM, C1);
+    s->C1 = C1;
+    s->Mysd = M;
+    s->BetaMLT = BetaM;
+    s->BetaMy = BetaM;
+    Mostra(ui_->Lbl_C1, figura, C1);
+    CompletaForm1(1, M, BetaM, C1);
+    s->Mzsd = M;
+    s->BetaMz = BetaM;
+    s->McrFunz();
+    s->MbRdSub();
+    MostraAsse(0);
+    MostraAsse(1);
+    MostraInterazione();
+}
+
+void FrmPresFless::CompletaForm1(int asse, double& M, double& BetaM, double& C1) {
+    MomentiMembratura m;
+    inputM1M2(asse, m.M1, m.M2);
+    if (TipoDiagramma == diagrammaCampata)
+        inputMQ(asse, m.MQ);
+    m.M1 *= NmmInkNm;
+    m.M2 *= NmmInkNm;
+    m.MQ *= NmmInkNm;
+    if (const SezioneDoppioT* s = Sezione())
+        m.NeN = s->NSd * (asse == 0 ? s->eNy : s->eNz);
+    const EffettiDiagramma e = EffettiDelDiagramma(m, TipoDiagramma, IndicePict);
+    M = e.M;
+    BetaM = e.BetaM;
+    C1 = e.C1;
+}
+
+void FrmPresFless::inputM1M2(int asse, double& M1, double& M2) {
+    M1 = NumeroIn(TxtM1_[asse]);
+    M2 = NumeroIn(TxtM2_[asse]);
+    CorreggiM1M2(M1, M2);
+    const QScopedValueRollback guard(inCalcolo_, true);
+    Riscrivi(TxtM1_[asse], M1);
+    Riscrivi(TxtM2_[asse], M2);
+}
+
+void FrmPresFless::inputMQ(int asse, double& MQ) {
+    MQ = NumeroIn(TxtMQ_[asse]);
+    CorreggiMQ(MQ);
+    const QScopedValueRollback guard(inCalcolo_, true);
+    Riscrivi(TxtMQ_[asse], MQ);
+}
+
+void FrmPresFless::Leggedati() {
+    RiportaTesto(ui_->TxtNsd, chiamante_->TxtNsd);
+    for (int i = 0; i < Txt_L0_.size(); ++i)
+        RiportaTesto(Txt_L0_[i], chiamante_->Txt_L0[i]);
+    if (SezioneDoppioT* s = Sezione()) {
+        s->NSd = NumeroIn(ui_->TxtNsd) * NInkN; // another detail may have left its own
+        s->ClassePressoFlessioneCalcola();
+    }
+}
+
+void FrmPresFless::VisualizzaPict(int indice) {
+    if (indice < 1 || indice > nPict)
+        return;
+    const std::int16_t type = TipoDiPict(static_cast<std::int16_t>(indice));
+    const QSignalBlocker quiet(OptMomento_[type]);
+    OptMomento_[type]->setChecked(true);
+    Picture1_[indice - 1]->setChecked(true);
+    for (int asse = 0; asse < TxtMQ_.size(); ++asse)
+        TxtMQ_[asse]->setVisible(type == diagrammaCampata);
+    ui_->LblMQ->setVisible(type == diagrammaCampata);
+}
+
+void FrmPresFless::SelezionaPict(int indice) {
+    if (indice < 1 || indice > nPict)
+        return;
+    IndicePict = static_cast<std::int16_t>(indice);
+    TipoDiagramma = TipoDiPict(IndicePict);
+    VisualizzaPict(indice);
+    Ricalcola();
+}
+
+void FrmPresFless::MostraAsse(int asse) {
+    SezioneDoppioT& s = *Sezione();
+    const bool y = asse == 0;
+    Mostra(y ? ui_->Lbl_Lamda_0 : ui_->Lbl_Lamda_1, figura, y ? s.LamdaY() : s.LamdaZ());
+    Mostra(y ? ui_->Lbl_Mu_0 : ui_->Lbl_Mu_1, figura, y ? s.muY() : s.muZ());
+    Mostra(y ? ui_->Lbl_k_0 : ui_->Lbl_k_1, figura, y ? s.kY() : s.kZ());
+    Mostra(y ? ui_->Lbl_McRd_0 : ui_->Lbl_McRd_1, figura, (y ? s.McyRd : s.MczRd) / NmmInkNm);
+    Mostra(y ? ui_->Lbl_MSd_0 : ui_->Lbl_MSd_1, figura, NumeroMostrato((y ? s.Mysd : s.Mzsd) / NmmInkNm));
+    Mostra(y ? ui_->Lbl_BetaM_0 : ui_->Lbl_BetaM_1, figura, y ? s.BetaMy : s.BetaMz);
+    const double N = s.ErroreDatiDatabase ? std::numeric_limits<double>::quiet_NaN() : y ? s.NbyRd : s.NbzRd;
+    Mostra(y ? ui_->Lbl_NbRd_0 : ui_->Lbl_NbRd_1, figura, N / NInkN);
+}
+
+void FrmPresFless::MostraInterazione() {
+    SezioneDoppioT& s = *Sezione();
+    const bool classe4 = s.ClassePressoFlessione > 3;
+    ui_->Frame1->setTitle(Titolo(s.ClassePressoFlessione));
+    ui_->termini->setVisible(!classe4);
+    ui_->termini4->setVisible(classe4);
+
+    double Py = 0;
+    double Pz = 0;
+    const double somma = s.InterazioneMNInstab(Py, Pz);
+    const double N = s.NSd / (s.NbyRd < s.NbzRd ? s.NbyRd : s.NbzRd);
+    Mostra(classe4 ? ui_->LblTermineN4 : ui_->LblTermineN, figura, N);
+    Mostra(classe4 ? ui_->LblTermineMy4 : ui_->LblTermineMy, figura, Py);
+    Mostra(classe4 ? ui_->LblTermineMz4 : ui_->LblTermineMz, figura, Pz);
+    Mostra(classe4 ? ui_->Lbl_Risult4 : ui_->Lbl_Risult, figura, somma);
+    MostraEsito(ui_->Lbl_Risultato, somma);
+}
+
+} // namespace sagomi

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QList>
+
+#include <cstdint>
+#include <memory>
+
+#include "screens/SchermoDettaglio.h"
+
+class QLineEdit;
+class QRadioButton;
+
+namespace Ui {
+class FrmPresFless;
+}
+
+namespace sagomi {
+
+class PulsanteDiagramma;
+
+/// Member under axial force and bending about both axes, ENV 1993-1-1 5.5.4. The moment diagram is chosen
+/// from a picture; its largest moment and its factors go into the section, and the interaction with buckling
+/// is shown term by term.
+class FrmPresFless : public SchermoDettaglio {
+    Q_OBJECT
+public:
+    FrmPresFless();
+    ~FrmPresFless() override;
+
+    std::int16_t TipoDiagramma = 0; ///< 0 end moments alone, 1 with a load in the span
+    std::int16_t IndicePict = 1;    ///< shape of the diagram, 1 to 6
+
+    /// Reads the entries, derives moments and factors, shows the interaction.
+    void CompletaForm(SchermoSezione& chiamante) override;
+
+    /// Largest moment [N mm], equivalent uniform moment factor and C1 of an axis, 0 y-y, 1 z-z.
+    void CompletaForm1(int asse, double& M, double& BetaM, double& C1);
+
+    /// Shows which diagram is chosen and the entries that it has.
+    void VisualizzaPict(int indice);
+    /// Chooses a diagram, 1 to 6, and computes anew.
+    void SelezionaPict(int indice);
+
+    /// The span moment of an axis [kNm]; a negative one is corrected, also in its box.
+    void inputMQ(int asse, double& MQ);
+    /// The end moments of an axis [kNm], corrected in the same way.
+    void inputM1M2(int asse, double& M1, double& M2);
+
+    /// Reads axial force and lengths; where they differ from the calling screen's, it gets them.
+    void Leggedati();
+
+protected:
+    void RiempiDati() override;
+
+private:
+    void CollegaEventi();
+    void CollegaDiagrammi();
+    void MostraAsse(int asse);
+    void MostraInterazione();
+
+    std::unique_ptr<Ui::FrmPresFless> ui_;
+    QList<QLineEdit*> Txt_L0_, TxtM1_, TxtM2_, TxtMQ_;
+    QList<QRadioButton*> OptMomento_;
+    QList<PulsanteDiagramma*> Picture1_; ///< shape i at i - 1
+};
+
+} // namespace sagomi

@@ -1,0 +1,51 @@
+#include "screens/frmMsvergH2.h"
+
+#include <QPushButton>
+
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "screens/FrmMsverg.h"
+#include "screens/Mostra.h"
+#include "sections/FattoriMomento.h"
+#include "ui_frmMsvergH2.h"
+
+namespace sagomi {
+
+frmMsvergH2::frmMsvergH2() : Schermo(QStringLiteral("frmMsvergH2")), ui_(new Ui::frmMsvergH2) {
+    ui_->setupUi(this);
+    RiempiRighe();
+    PreparaContenuto();
+    DimensionaIniziale({});
+}
+
+frmMsvergH2::~frmMsvergH2() = default;
+
+void frmMsvergH2::RiempiRighe() {
+    const auto C1 = Vettore<QPushButton>(QStringLiteral("lblC1"));
+    const auto k = Vettore<QLabel>(QStringLiteral("lblK"));
+    const auto C2 = Vettore<QLabel>(QStringLiteral("lblC2"));
+    const auto C3 = Vettore<QLabel>(QStringLiteral("lblC3"));
+    for (std::size_t i = 0; i < ProspettoF12().size(); ++i) {
+        const RigaF12& row = ProspettoF12()[i];
+        const auto at = static_cast<qsizetype>(i);
+        Mostra(k[at], "0.0", row.k);
+        C1[at]->setText(QString::fromStdString(Formato("0.000", row.C1)));
+        Mostra(C2[at], "0.000", row.C2);
+        Mostra(C3[at], "0.000", row.C3);
+        Collega(C1[at], &QPushButton::clicked, this, [this, i] { Scegli(i); });
+    }
+}
+
+void frmMsvergH2::Apri(FrmMsverg& da) {
+    da_ = &da;
+    NavigaSchermi::Unico().Apri(*this, da);
+}
+
+void frmMsvergH2::Scegli(std::size_t riga) {
+    const RigaF12& row = ProspettoF12()[riga];
+    if (da_ != nullptr)
+        da_->PrendeFattori(row.k, row.C1, row.C2, row.C3);
+    NavigaSchermi::Unico().Lascia(*this);
+}
+
+} // namespace sagomi
