@@ -10,7 +10,8 @@ pacchetti_programma=(
 pacchetti_schermo=(xvfb xauth imagemagick x11-utils)
 pacchetti_prove=(
   libgtest-dev libgmock-dev
-  python3 python3-xlrd
+  python3 python3-xlrd python3-ezdxf
+  poppler-utils
   clang clang-format clang-tidy
 )
 

@@ -81,19 +81,23 @@ struct Contorno {
     [[nodiscard]] std::int16_t Numero() const { return static_cast<std::int16_t>(x.size()); }
 };
 
-/// The parts that an effective outline shows: where a strip of the web is removed, the thread that holds the
-/// outline together is left out and two parts remain, each closed.
+/// A vertex of the thread that holds an effective outline together.
+bool NelFilo(const Poligono& p, int i) { return std::abs(p.xi(i)) < mezzoFilo; }
+
+/// The parts that an effective outline shows: where a strip of the web is removed, the thread is left out and
+/// two parts remain, each closed.
 std::vector<Contorno> PartiVisibili(const Poligono& p) {
     const int n = p.nVertici();
     std::vector<int> fili; // sides along the thread
-    for (int i = 1; i <= n; ++i) {
-        const int j = i % n + 1;
-        if (std::abs(p.xi(i)) < mezzoFilo && std::abs(p.xi(j)) < mezzoFilo)
+    for (int i = 1; i <= n; ++i)
+        if (NelFilo(p, i) && NelFilo(p, i % n + 1) && p.yi(i) != p.yi(i % n + 1))
             fili.push_back(i);
-    }
-    std::vector<Contorno> parti(fili.size() == 2 ? 2 : 1);
+    const bool diviso = fili.size() == 2;
+    std::vector<Contorno> parti(diviso ? 2 : 1);
     for (int i = 1; i <= n; ++i) {
-        Contorno& parte = parti[parti.size() == 2 && i > fili[0] && i <= fili[1] ? 1 : 0];
+        if (diviso && NelFilo(p, i))
+            continue;
+        Contorno& parte = parti[diviso && i > fili[0] && i <= fili[1] ? 1 : 0];
         parte.x.push_back(p.xi(i));
         parte.y.push_back(p.yi(i));
     }
