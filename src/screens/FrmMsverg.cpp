@@ -2,6 +2,9 @@
 
 #include <QScopedValueRollback>
 
+#include <cmath>
+#include <limits>
+
 #include "criticalloads/ui/frmTimoshenko.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/Campi.h"
@@ -25,11 +28,6 @@ namespace {
 
 constexpr auto figura = "0.0##";
 
-/// A value of the section, with the figures that it is kept with.
-void Riempi(QLineEdit* box, double value) {
-    box->setText(QString::fromStdString(TestoPiano(Singolo(value))));
-}
-
 void Scrive(QLineEdit* box, double value) { box->setText(QString::fromStdString(TestoPiano(value))); }
 
 /// Factor times moment [N mm].
@@ -41,6 +39,11 @@ std::string Prodotto(double k, double M) {
 std::string Prodotto(double k, double M, double NeN) {
     return Formato(figura, k) + " x (" + Formato(figura, M / NmmInkNm) + " + " +
            Formato(figura, NeN / NmmInkNm) + ")";
+}
+
+/// What follows from a critical moment that is no number (end factors of 0, say) is none either.
+double Valido(const SezioneDoppioT& s, double value) {
+    return s.LLT > 0 && !std::isfinite(s.Mcr) ? std::numeric_limits<double>::quiet_NaN() : value;
 }
 
 QString Titolo(int classe) {
@@ -153,9 +156,9 @@ void FrmMsverg::MostraResistenza() {
         Mostra(ui_->Lbl_Mcr, figura, s.Mcr / NmmInkNm);
     else
         Mostra(ui_->Lbl_Mcr, std::string(limiteInfinito));
-    Mostra(ui_->Lbl_LamdaLT, figura, s.LamdaLT);
-    Mostra(ui_->Lbl_chi, figura, s.ChiLT);
-    Mostra(ui_->Lbl_MbRd, figura, s.MbRd / NmmInkNm);
+    Mostra(ui_->Lbl_LamdaLT, figura, Valido(s, s.LamdaLT));
+    Mostra(ui_->Lbl_chi, figura, Valido(s, s.ChiLT));
+    Mostra(ui_->Lbl_MbRd, figura, Valido(s, s.MbRd / NmmInkNm));
 }
 
 void FrmMsverg::ScegliRiga(int classe) {
@@ -177,11 +180,11 @@ void FrmMsverg::MostraInterazione() {
     Mostra(ui_->LblNbzRd, figura, s.NbzRd / NInkN);
     Mostra(ui_->LblKLTMySd, Prodotto(kLT, s.Mysd + s.NSd * s.eNy));
     Mostra(ui_->LakLTMySd4, Prodotto(kLT, s.Mysd, s.NSd * s.eNy));
-    Mostra(ui_->LblMbRd, figura, s.MbRd / NmmInkNm);
+    Mostra(ui_->LblMbRd, figura, Valido(s, s.MbRd / NmmInkNm));
     Mostra(ui_->LblkzMzSd, Prodotto(kZ, s.Mzsd + s.NSd * s.eNz));
     Mostra(ui_->LblkzMzSd4, Prodotto(kZ, s.Mzsd, s.NSd * s.eNz));
     Mostra(ui_->LblMczRd, figura, GammaM0 * s.MczRd / GammaM1 / NmmInkNm);
-    const double somma = s.InterazioneFlessoTorsionale();
+    const double somma = Valido(s, s.InterazioneFlessoTorsionale());
     Mostra(ui_->Lbl_Risult, figura, somma);
     MostraEsito(ui_->Lbl_Risultato, somma);
 }

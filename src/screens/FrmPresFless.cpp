@@ -30,11 +30,6 @@ namespace {
 
 constexpr auto figura = "0.0##";
 
-/// A value of the section, with the figures that it is kept with.
-void Riempi(QLineEdit* box, double value) {
-    box->setText(QString::fromStdString(TestoPiano(Singolo(value))));
-}
-
 /// Writes a corrected number back into its box; a box that holds it already keeps its text.
 void Riscrivi(QLineEdit* box, double value) {
     if (NumeroIn(box) != value)

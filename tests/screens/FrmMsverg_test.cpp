@@ -241,9 +241,12 @@ TEST_F(FrmMsvergTest, EndFactorsOfZeroGiveNoNumber) {
     Scrive(&m, "TxtMysd", "60");
     for (const char* name : {"Txt_k", "Txt_Kw"}) {
         Scrive(&m, name, "");
-        EXPECT_EQ(Scritta(&m, "Lbl_Mcr"), "") << name;
+        for (const char* empty :
+             {"Lbl_Mcr", "Lbl_LamdaLT", "Lbl_chi", "Lbl_MbRd", "LblMbRd", "Lbl_Risult", "Lbl_Risultato"})
+            EXPECT_EQ(Scritta(&m, empty), "") << name << ' ' << empty;
         Scrive(&m, name, "1");
         EXPECT_EQ(Scritta(&m, "Lbl_Mcr"), Locale("115.584"));
+        EXPECT_EQ(Scritta(&m, "Lbl_Risultato"), "OK");
     }
 }
 
