@@ -100,9 +100,9 @@ void Bullone::AlfaCalcola() {
             alfa = r;
 }
 
-double Bullone::RiduzioneBordo() const { return Riduzione(e2, MultiploForo(1.2), MultiploForo(1.5)); }
+double Bullone::RiduzioneBordo() const { return Riduzione(e2, 1.2 * do_, 1.5 * do_); }
 
-double Bullone::RiduzionePasso() const { return Riduzione(p2, MultiploForo(2.4), MultiploForo(3)); }
+double Bullone::RiduzionePasso() const { return Riduzione(p2, 2.4 * do_, 3 * do_); }
 
 bool Bullone::DistanzeControlla() {
     struct Controllo {

@@ -21,12 +21,8 @@ void TogliZeri(Decimale& d) {
         d.punto = 0;
 }
 
-template <typename T> Decimale DaNumero(T valore) {
-    std::array<char, 64> spazio{}; // the longest shortest form of a double has 24 characters
-    const auto fine =
-        std::to_chars(spazio.data(), spazio.data() + spazio.size(), valore, std::chars_format::scientific)
-            .ptr;
-    std::string_view testo(spazio.data(), static_cast<std::size_t>(fine - spazio.data()));
+/// Reads the form "-1.2345e+02".
+Decimale DaTesto(std::string_view testo) {
     Decimale d;
     d.negativo = testo.starts_with('-');
     if (d.negativo)
@@ -41,6 +37,14 @@ template <typename T> Decimale DaNumero(T valore) {
     d.punto = esponente + 1;
     TogliZeri(d);
     return d;
+}
+
+template <typename T, typename... Precisione> Decimale DaNumero(T valore, Precisione... cifre) {
+    std::array<char, 96> spazio{}; // the longest shortest form of a double has 24 characters
+    const auto fine = std::to_chars(spazio.data(), spazio.data() + spazio.size(), valore,
+                                    std::chars_format::scientific, cifre...)
+                          .ptr;
+    return DaTesto({spazio.data(), static_cast<std::size_t>(fine - spazio.data())});
 }
 
 /// Adds one in the last place; nines carry over, in front of the first digit if need be.
@@ -60,6 +64,7 @@ void Incrementa(Decimale& d) {
 
 Decimale CifreMinime(double valore) { return DaNumero(valore); }
 Decimale CifreMinime(float valore) { return DaNumero(valore); }
+Decimale CifreEsatte(double valore) { return DaNumero(valore, 60); }
 
 Decimale ArrotondaSignificative(Decimale d, int nCifre) {
     if (nCifre >= static_cast<int>(d.cifre.size()))

@@ -20,6 +20,10 @@ struct Decimale {
 Decimale CifreMinime(double valore);
 Decimale CifreMinime(float valore);
 
+/// So many digits that nothing is lost for rounding to 15 figures or fewer: rounding the fewest digits of a
+/// number a second time could go the wrong way.
+Decimale CifreEsatte(double valore);
+
 /// Rounds half away from zero to `nDec` digits after the separator.
 Decimale ArrotondaDecimali(Decimale d, int nDec);
 

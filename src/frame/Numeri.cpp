@@ -28,7 +28,7 @@ struct TestoContato {
 
 TestoContato Conta(const NumeroMostrato& valore) {
     TestoContato s;
-    s.cifre = ArrotondaSignificative(valore.Cifre(), valore.CifreTipo());
+    s.cifre = valore.CifreTipo();
     s.cifre.negativo = false;
     s.esponente =
         !s.cifre.Zero() && (s.cifre.punto < -3 || s.cifre.punto > 15); // positional from 1E-4 to 1E15
@@ -77,6 +77,10 @@ bool NumeroMostrato::Mostrabile() const { return !nullo_ && std::isfinite(valore
 
 Decimale NumeroMostrato::Cifre() const {
     return singolo_ ? CifreMinime(static_cast<float>(valore_)) : CifreMinime(valore_);
+}
+
+Decimale NumeroMostrato::CifreTipo() const {
+    return ArrotondaSignificative(CifreEsatte(valore_), singolo_ ? 7 : 15);
 }
 
 std::string Utf8DaCodice(std::uint16_t codice) {
@@ -152,7 +156,7 @@ std::string Formato(std::string_view figura, const NumeroMostrato& valore) {
 std::string TestoPiano(const NumeroMostrato& valore) {
     if (!valore.Mostrabile())
         return {};
-    const Decimale cifre = ArrotondaSignificative(valore.Cifre(), valore.CifreTipo());
+    const Decimale cifre = valore.CifreTipo();
     return TestoPosizionale(cifre, Utf8DaCodice(CarDecimale));
 }
 

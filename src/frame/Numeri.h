@@ -36,8 +36,8 @@ public:
     [[nodiscard]] double Valore() const { return valore_; }
     /// The fewest digits that read back to the value in its own width.
     [[nodiscard]] Decimale Cifre() const;
-    /// Figures that the type is worth.
-    [[nodiscard]] int CifreTipo() const { return singolo_ ? 7 : 15; }
+    /// The figures that the type is worth: 7 of a single, 15 of a double.
+    [[nodiscard]] Decimale CifreTipo() const;
 
 private:
     double valore_ = 0;

@@ -426,4 +426,15 @@ TEST(Codice, BecomesUtf8) {
     EXPECT_EQ(Utf8DaCodice(0), "");
 }
 
+// 3 · 32.4 in a single is 97.2000046: seven figures of it are 97.2, though its fewest digits, 97.200005,
+// would round to 97.20001; 1.5 · 65.3 is 97.9500046.
+TEST(TestoPiano, RoundsASingleOnce) {
+    EXPECT_EQ(TestoPiano(Singolo(3.0 * Singolo(32.4))), "97.2");
+    EXPECT_EQ(TestoPiano(Singolo(1.5 * Singolo(65.3))), "97.95");
+    EXPECT_EQ(TestoPiano(1234566.5F), "1234567") << "half away from zero";
+    EXPECT_EQ(TestoPiano(0.7F), "0.7");
+    EXPECT_EQ(TestoPiano(0.1 + 0.2), "0.3");
+    EXPECT_EQ(TestoPiano(0.0), "0");
+}
+
 } // namespace

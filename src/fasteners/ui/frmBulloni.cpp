@@ -168,7 +168,7 @@ void frmBulloni::SceglieSezione() {
 }
 
 void frmBulloni::ScriveFub() {
-    const double fub = NumeroIn(ui_->Txt_fub);
+    const Singolo fub = NumeroIn(ui_->Txt_fub); // too small for a single is 0 too
     if (Caricamento || !bullone_ || !(fub > 0))
         return;
     bullone_->fub = fub;
@@ -179,12 +179,12 @@ void frmBulloni::ScriveFub() {
 }
 
 void frmBulloni::ScriveFu() {
-    if (!Caricamento && bullone_ && NumeroIn(ui_->Txt_fu) > 0)
+    if (!Caricamento && bullone_ && Singolo(NumeroIn(ui_->Txt_fu)) > 0)
         RifollamentoAggiorna();
 }
 
 void frmBulloni::ScriveRif(int i) {
-    if (Caricamento || !bullone_ || (i != rifSpessore && !(NumeroIn(Txt_Rif_[i]) > 0)))
+    if (Caricamento || !bullone_ || (i != rifSpessore && !(Singolo(NumeroIn(Txt_Rif_[i])) > 0)))
         return;
     RifollamentoAggiorna();
     if (i != rifForo)
@@ -228,11 +228,11 @@ void frmBulloni::MostraTaglioTrazione() {
 
 void frmBulloni::LeggePiastra() {
     // Of what divides, and of the distances, nothing but a positive value reaches the bolt.
-    if (const double fu = NumeroIn(ui_->Txt_fu); fu > 0)
+    if (const Singolo fu = NumeroIn(ui_->Txt_fu); fu > 0)
         bullone_->fu = fu;
     bullone_->t = NumeroIn(Txt_Rif_[rifSpessore]);
     for (const auto& [place, member] : misure)
-        if (const double v = NumeroIn(Txt_Rif_[place]); v > 0)
+        if (const Singolo v = NumeroIn(Txt_Rif_[place]); v > 0)
             (*bullone_).*member = v;
 }
 
@@ -241,6 +241,8 @@ void frmBulloni::RifollamentoAggiorna() {
     if (bullone_->fu == 0) { // a steel without a strength: nothing to compute yet
         Txt_Rif_[rifAlfa]->clear();
         Txt_Rif_[rifResistenza]->clear();
+        Messaggi();
+        Disegna();
         return;
     }
     bullone_->RifollamentoCalcola();

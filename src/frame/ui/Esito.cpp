@@ -3,11 +3,12 @@
 #include <QLabel>
 
 #include <cmath>
+#include <limits>
 
 namespace sagomi {
 
 void MostraEsito(QLabel* etichetta, double valore) {
-    if (std::isnan(valore)) {
+    if (std::isnan(valore) || valore == -std::numeric_limits<double>::infinity()) {
         etichetta->clear();
         etichetta->setAutoFillBackground(false);
         return;

@@ -40,6 +40,8 @@ TEST_F(Esito, NoNumberNoVerdict) {
     MostraEsito(&verdetto, std::nan(""));
     EXPECT_EQ(verdetto.text(), "");
     EXPECT_FALSE(verdetto.autoFillBackground());
+    MostraEsito(&verdetto, -HUGE_VAL);
+    EXPECT_EQ(verdetto.text(), "");
     MostraEsito(&verdetto, 0.5);
     EXPECT_EQ(verdetto.text(), "OK");
     EXPECT_EQ(Testo(), QColor(Qt::black));

@@ -1,11 +1,7 @@
 #include <QLabel>
 #include <QSignalSpy>
 
-#include <cmath>
-
 #include "frame/ui/Casella.h"
-#include "frame/ui/Esito.h"
-#include "frame/ui/EtichettaPedice.h"
 #include "frame/ui/EtichettaSimbolo.h"
 #include "frame/ui/UpDown.h"
 #include "screens/Ambiente.h"
@@ -17,23 +13,6 @@ namespace {
 
 class EtichetteTest : public AmbienteSchermi {};
 
-TEST_F(EtichetteTest, VerdictIsAWordAndAColour) {
-    QLabel label;
-    MostraEsito(&label, 0);
-    EXPECT_EQ(label.text(), "OK");
-    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::black));
-    MostraEsito(&label, 1);
-    EXPECT_EQ(label.text(), "OK");
-    MostraEsito(&label, 1.001);
-    EXPECT_EQ(label.text(), "NO");
-    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(255, 0, 0));
-    EXPECT_EQ(label.palette().color(QPalette::Window), QColor(255, 255, 255));
-    MostraEsito(&label, std::nan(""));
-    EXPECT_EQ(label.text(), "");
-    MostraEsito(&label, HUGE_VAL);
-    EXPECT_EQ(label.text(), "NO");
-}
-
 TEST_F(EtichetteTest, MarkForNoLimitIsHeldAsTextAndPaintedAsInfinity) {
     EtichettaSimbolo mark;
     mark.setText(QStringLiteral("¥"));
@@ -43,21 +22,6 @@ TEST_F(EtichetteTest, MarkForNoLimitIsHeldAsTextAndPaintedAsInfinity) {
     infinity.resize(40, 24);
     EXPECT_EQ(mark.text(), "¥");
     EXPECT_EQ(mark.grab().toImage(), infinity.grab().toImage());
-}
-
-TEST_F(EtichetteTest, SubscriptStandsOverTheGapOfTheText) {
-    EtichettaPedice label;
-    label.setText(QStringLiteral("N         [kN]"));
-    label.ImpostaPedice(QStringLiteral("by,Rd"));
-    label.resize(label.sizeHint());
-    EXPECT_EQ(label.text(), "N         [kN]");
-    const auto* small = label.findChild<QLabel*>();
-    ASSERT_NE(small, nullptr);
-    EXPECT_EQ(small->text(), "by,Rd");
-    const QFontMetrics f = label.fontMetrics();
-    EXPECT_GE(small->x(), f.horizontalAdvance(u'N') - 1);
-    EXPECT_LE(small->x() + small->fontMetrics().horizontalAdvance("by,Rd"),
-              f.horizontalAdvance("N         [") + 1);
 }
 
 TEST_F(EtichetteTest, StepButtonsTellUpFromDown) {
