@@ -2,6 +2,7 @@
 
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QScreen>
 
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
@@ -85,6 +86,7 @@ void FrmPltSezione::AnteprimaDiStampa() {
     printer.setDocName(QString::fromStdString(disegno_.nome));
     QPrintPreviewDialog dialog(&printer, this);
     dialog.setObjectName(QStringLiteral("AnteprimaDiStampa"));
+    dialog.resize(QSize(900, 720).boundedTo(screen()->availableGeometry().size() * 0.9));
     Collega(&dialog, &QPrintPreviewDialog::paintRequested, this,
             [this](QPrinter* page) { StampaSu(*page, disegno_, nomeChiamante_); });
     dialog.exec();

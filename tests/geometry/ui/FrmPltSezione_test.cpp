@@ -5,6 +5,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QTextBrowser>
 #include <QTimer>
 
 #include "frame/ui/FileDialogo.h"
@@ -156,6 +157,13 @@ TEST_F(FrmPltSezioneTest, AClassScreenPlotsTheCurrentSectionUnderItsOwnName) {
     EXPECT_EQ(Anteprima()->NomeChiamante(), "FrmClasseDoppioTU");
     EXPECT_EQ(Anteprima()->windowTitle(), "Plotta - IPE 80");
     EXPECT_EQ(Anteprima()->origine, &classi);
+    // The main screen makes a new section of its row; the outline asked for goes along.
+    Sezione().SezioneEfficaceDaPlottare = 2;
+    PlottaSezioneCorrente(classi);
+    s.AllAttivazione();
+    EXPECT_EQ(Sezione().SezioneEfficaceDaPlottare, 0);
+    Anteprima()->AllAttivazione();
+    EXPECT_EQ(Sezione().SezioneEfficaceDaPlottare, 2);
     Anteprima()->origine = &s;
 }
 
@@ -285,6 +293,20 @@ TEST_F(FrmPltSezioneTest, WithoutADrawingNothingCanBeSent) {
     EXPECT_TRUE(Inchiostro(Area(p).grab().toImage()).isEmpty());
     Plotta(s);
     EXPECT_TRUE(Trova<QAction>(&p, "mnuFileItem_1")->isEnabled());
+}
+
+TEST_F(FrmPltSezioneTest, F1ExplainsThePreview) {
+    FrmPltSezione& p = Plotta(Avvia());
+    Area(p).setFocus();
+    QTest::keyClick(&Area(p), Qt::Key_F1);
+    QWidget* help = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->objectName() == "FinestraGuida" && w->isVisible())
+            help = w;
+    ASSERT_NE(help, nullptr);
+    EXPECT_TRUE(
+        qobject_cast<QTextBrowser*>(help)->toPlainText().contains("La rotella del mouse ingrandisce"));
+    help->hide();
 }
 
 TEST_F(FrmPltSezioneTest, WithoutARowPlottaDoesNothing) {
