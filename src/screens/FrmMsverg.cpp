@@ -124,8 +124,10 @@ void FrmMsverg::CompletaForm(SchermoSezione& chiamante) {
     const auto section = InUso();
     if (section == nullptr)
         return;
-    if (sezione_ != nullptr && sezione_ != section)
-        RiportaValori(*sezione_, *section); // the caller has read its row anew
+    // The caller has read its row anew; factors that another screen has given the section are its own.
+    const bool fresh = section->BetaMy == 0 && section->BetaMz == 0 && section->BetaMLT == 0;
+    if (sezione_ != nullptr && sezione_ != section && fresh)
+        RiportaValori(*sezione_, *section);
     sezione_ = section;
     ScriveDati();
     section->ClassePressoFlessioneCalcola();

@@ -177,6 +177,8 @@ void FrmPresFless::inputMQ(int asse, double& MQ) {
 }
 
 void FrmPresFless::Leggedati() {
+    if (chiamante_ == nullptr)
+        return;
     RiportaTesto(ui_->TxtNsd, chiamante_->TxtNsd);
     for (int i = 0; i < Txt_L0_.size(); ++i)
         RiportaTesto(Txt_L0_[i], chiamante_->Txt_L0[i]);

@@ -216,6 +216,18 @@ TEST_F(FrmMsvergTest, FactorsSurviveThatTheCallerReadsItsRowAnew) {
     EXPECT_EQ(Scritta(&m, "Lbl_Risult"), sum);
 }
 
+TEST_F(FrmMsvergTest, FactorsThatTheMemberCheckGaveAnotherRowStay) {
+    auto& m = ApreDaPresFless();
+    main_->Data1->MoveNext();
+    Sezione().BetaMy = 1.25;
+    Sezione().BetaMz = 1.35;
+    Sezione().BetaMLT = 1.45;
+    m.AllAttivazione();
+    EXPECT_EQ(Sezione().BetaMy.Stretto(), 1.25F);
+    EXPECT_EQ(Sezione().BetaMz.Stretto(), 1.35F);
+    EXPECT_EQ(Sezione().BetaMLT.Stretto(), 1.45F);
+}
+
 TEST_F(FrmMsvergTest, StepOfTheSteel) {
     auto& m = ApreDaPresFless();
     Trova<UpDown>(&m, "UpDown2")->stepUp();
