@@ -59,17 +59,18 @@ struct Efficace {
     std::string_view nome;
 };
 
-/// The effective outline that the detail screen of the classes has asked for, if it is there.
+/// The effective outline that the detail screen of the classes has asked for, if it is there. One of an
+/// earlier run is not: the section may have left class 4 since.
 Efficace SezioneEfficace(const SezioneDoppioT& s, std::string_view maschera) {
     if (maschera != "FrmClasseDoppioTU")
         return {};
     switch (s.SezioneEfficaceDaPlottare) {
     case 0:
-        return {s.SezioneComp4.get(), "Aeff Comp."};
+        return s.ClasseCompressione == 4 ? Efficace{s.SezioneComp4.get(), "Aeff Comp."} : Efficace{};
     case 1:
-        return {s.SezioneWy4.get(), "Weff,y"};
+        return s.ClasseFlessioneY == 4 ? Efficace{s.SezioneWy4.get(), "Weff,y"} : Efficace{};
     case 2:
-        return {s.SezioneWz4.get(), "Weff,z"};
+        return s.ClasseFlessioneZ == 4 ? Efficace{s.SezioneWz4.get(), "Weff,z"} : Efficace{};
     default:
         return {};
     }
@@ -185,7 +186,7 @@ private:
         quote_.Orizzontale(-bInf / 2, bInf / 2, yMin, yMin - quotaEsterna * a_, TestoPiano(Singolo(bInf)));
         const double xSpessore = xMin - quotaSpessore * a_;
         // The thickness of a tapered flange counts at a quarter of its width.
-        const double xTf = s_.r2 > 0 ? -s_.b / 4 : -s_.b / 2;
+        const double xTf = !DiLamiere(s_) && s_.r2 > 0 ? -s_.b / 4 : -s_.b / 2;
         quote_.SpessoreVerticale({xTf, yMax - s_.tf}, {-s_.b / 2, yMax}, xSpessore, TestoPiano(s_.tf));
         quote_.SpessoreOrizzontale(-s_.tw / 2, s_.tw / 2, 0.3 * s_.h, TestoPiano(s_.tw));
         if (s_.SaldataAsimm) {

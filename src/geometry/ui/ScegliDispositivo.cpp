@@ -13,6 +13,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/ui/FileDialogo.h"
+#include "frame/ui/Protetto.h"
 #include "geometry/Cad.h"
 #include "geometry/Dxf.h"
 #include "geometry/Grafica.h"
@@ -103,8 +104,10 @@ bool ScriveDxf(const QString& name, const Disegno& drawing, const QString& masch
         DxfAbbandona(); // a file of that name from before is kept
         throw;
     }
+    if (!DxfChiude())
+        return false;
     outcome = QString::fromUtf8(testoFile.data()) + QStringLiteral(": ") + file;
-    return DxfChiude();
+    return true;
 }
 
 bool DisegnaNelCad(const Disegno& drawing, const QString& maschera, QString& outcome) {
@@ -118,6 +121,14 @@ bool DisegnaNelCad(const Disegno& drawing, const QString& maschera, QString& out
     CadZoomExtents();
     outcome = QString::fromUtf8(dispositivoDwg.data());
     return true;
+}
+
+void DisegnaPagina(QPainter& painter, const Disegno& drawing, const std::string& maschera) {
+    SuperficieStampante page(painter);
+    Dispositivo = dispositivoStampante;
+    ColorePenna = pennaInchiostro;
+    OggettoGrafico = &page;
+    drawing.PlottaInOggetto(&page, maschera);
 }
 
 } // namespace
@@ -137,16 +148,13 @@ bool StampaSu(QPrinter& stampante, const Disegno& disegno, const QString& masche
     }
     const StatoUscita before;
     const int copies = stampante.supportsMultipleCopies() ? 1 : std::max(1, stampante.copyCount());
-    for (int i = 0; i < copies; ++i) {
-        if (i > 0)
-            stampante.newPage();
-        SuperficieStampante page(painter);
-        Dispositivo = dispositivoStampante;
-        ColorePenna = pennaInchiostro;
-        OggettoGrafico = &page;
-        disegno.PlottaInOggetto(&page, maschera.toStdString());
-    }
-    return true;
+    return Protetto("Errore", [&] {
+        for (int i = 0; i < copies; ++i) {
+            if (i > 0)
+                stampante.newPage();
+            DisegnaPagina(painter, disegno, maschera.toStdString());
+        }
+    });
 }
 
 bool ScegliDispositivo(int scelta, const QString& nome, const Disegno& disegno, const QString& maschera,
