@@ -20,7 +20,7 @@ inline constexpr std::string_view dispositivoDwg = "DWG";       ///< model space
 inline constexpr std::string_view dispositivoBlocco = "BLOCCO"; ///< its current block
 inline constexpr std::string_view testoFile = "FILE";           ///< how the way to a file is called
 
-// State of the output ------------------------------------------------------------------------------------
+// State of the output -----------------------------------------------------------------------------------
 
 inline std::string Dispositivo{dispositivoVideo};  ///< device in force
 inline std::int16_t ColorePenna = pennaInchiostro; ///< colour of texts, and of all that goes to a file
@@ -46,14 +46,14 @@ private:
 /// True when the device draws on a target: everything but the DXF file and the CAD program.
 bool SulBersaglio();
 
-// Pens ---------------------------------------------------------------------------------------------------
+// Pens --------------------------------------------------------------------------------------------------
 
 /// Takes a pen for lines, circles and texts, on every device.
 void PennaPlt(std::int16_t colore);
 /// Width and style of the lines on the target; files and CAD know neither.
 void LineaStilePlt(double spessore, TipoLinea tipo = TipoLinea::Continua);
 
-// Primitives -----------------------------------------------------------------------------------------------
+// Primitives --------------------------------------------------------------------------------------------
 
 enum class Allinea { Sinistra, Centro, Destra };
 

@@ -187,8 +187,7 @@ TEST_F(GraficaTest, TextsAreAlignedByTheirMeasuredWidth) {
     EXPECT_NEAR(LarghezzaTestoPlt(4, "perché"), 6 * 0.85 * 4, 1e-12) << "characters, not bytes";
 }
 
-// Hatching
-// ---------------------------------------------------------------------------------------------------
+// Hatching ----------------------------------------------------------------------------------------------
 
 // Square of 10, level lines: 5 lines stand at 1, 3, 5, 7, 9, each 10 long.
 TEST_F(GraficaTest, HatchLinesStandInTheMiddleOfTheirStrips) {
@@ -308,8 +307,7 @@ TEST_F(GraficaTest, HatchingSetsTheToleranceFirst) {
     EXPECT_NEAR(ZeroMaxDimen, 10 / 1e6, 1e-15);
 }
 
-// CAD
-// --------------------------------------------------------------------------------------------------------
+// CAD ---------------------------------------------------------------------------------------------------
 
 TEST(GraficaCad, ModelSpaceAndBlockReceiveTheirPrimitives) {
     CadFinto cad("AutoCAD.Application.17");

@@ -194,7 +194,7 @@ TEST_F(DisegnoTest, PaperHasItsScaleAmongTheData) {
     EXPECT_FALSE(Ha(superficie, "Scala 1:1"));
 }
 
-// Effective outlines ---------------------------------------------------------------------------------------
+// Effective outlines ------------------------------------------------------------------------------------
 
 struct Ingombro {
     double xMin = 1e9, xMax = -1e9, yMin = 1e9, yMax = -1e9;
@@ -285,8 +285,7 @@ TEST_F(DisegnoTest, WithoutFilletsNoLeader) {
     EXPECT_EQ(std::count(testi.begin(), testi.end(), "r = 0"), 1) << "among the data only";
 }
 
-// Files
-// ------------------------------------------------------------------------------------------------------
+// Files -------------------------------------------------------------------------------------------------
 
 std::string InDxf(const SezioneDoppioT& s, const char* maschera) {
     const fs::path percorso = fs::temp_directory_path() / ("sagomi_disegno_" + std::to_string(::getpid()));

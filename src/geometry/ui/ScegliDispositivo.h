@@ -28,7 +28,8 @@ void ImpostaSceltaStampante(SceltaStampante scelta);
 bool ScegliDispositivo(int scelta, const QString& nome, const Disegno& disegno, const QString& maschera,
                        QWidget* sopra, QString* esito = nullptr);
 
-/// Draws the pages of a printer that has been chosen. False, with a message, when it cannot be had.
+/// Draws the pages of a printer that has been chosen. False, with a message, when it cannot be had or the
+/// drawing fails.
 bool StampaSu(QPrinter& stampante, const Disegno& disegno, const QString& maschera);
 
 } // namespace sagomi

@@ -73,8 +73,7 @@ protected:
     int indice = 0;
 };
 
-// Printer
-// ----------------------------------------------------------------------------------------------------
+// Printer -----------------------------------------------------------------------------------------------
 
 TEST_F(ScegliDispositivoTest, PrintsToTheFileOfTheDialog) {
     const QString pdf = cartella.filePath(QStringLiteral("foglio.pdf"));
@@ -137,8 +136,15 @@ TEST_F(ScegliDispositivoTest, APdfThatCannotBeWrittenIsTold) {
               std::vector<std::string>{"Non è possibile scrivere il file /manca/foglio.pdf"});
 }
 
-// DXF
-// --------------------------------------------------------------------------------------------------------
+TEST_F(ScegliDispositivoTest, ADrawingThatFailsOnPaperIsTold) {
+    RispondeStampante(cartella.filePath(QStringLiteral("foglio.pdf")));
+    disegno.PlottaInOggetto = [](Superficie*, std::string_view) { throw std::runtime_error("guasto"); };
+    EXPECT_FALSE(Scegli(sceltaStampante));
+    EXPECT_EQ(registratore.testi, std::vector<std::string>{"Errore n° 0 - guasto"});
+    EXPECT_EQ(Dispositivo, "VIDEO");
+}
+
+// DXF ---------------------------------------------------------------------------------------------------
 
 TEST_F(ScegliDispositivoTest, ProposesTheNameAndWritesTheFile) {
     const QString file = cartella.filePath(QStringLiteral("IPE 200.dxf"));
@@ -205,8 +211,7 @@ TEST_F(ScegliDispositivoTest, ADrawingThatFailsLeavesTheOldFile) {
     EXPECT_EQ(Dispositivo, "VIDEO");
 }
 
-// CAD
-// --------------------------------------------------------------------------------------------------------
+// CAD ---------------------------------------------------------------------------------------------------
 
 TEST_F(ScegliDispositivoTest, WithoutACadProgramTheTwoLinesAreShown) {
     EXPECT_FALSE(Scegli(sceltaCad));

@@ -199,8 +199,7 @@ TEST_F(SchermoSuImmagine, AFontGivenInPixelsHasASizeToo) {
     EXPECT_NEAR(s.FontSize, 20 * 72.0 / painter.device()->logicalDpiY(), 1e-9);
 }
 
-// Paper
-// ------------------------------------------------------------------------------------------------------
+// Paper -------------------------------------------------------------------------------------------------
 
 class StampanteTest : public testing::Test {
 protected:
