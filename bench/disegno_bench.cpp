@@ -11,10 +11,10 @@
 
 #include <benchmark/benchmark.h>
 
-#include "geometry/Dxf.h"
-#include "geometry/Grafica.h"
-#include "geometry/SezioneGenerica.h"
+#include "drawing/Dxf.h"
+#include "drawing/Grafica.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 

@@ -6,8 +6,8 @@
 #include "catalogue/Lettore.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
-#include "geometry/SezioneGenerica.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
 
 namespace sagomi {
 

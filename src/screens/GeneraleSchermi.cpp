@@ -8,6 +8,7 @@
 
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/Famiglie.h"
+#include "drawing/ui/FrmPltSezione.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
@@ -16,7 +17,6 @@
 #include "frame/ui/MessaggiQt.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "geometry/ui/FrmPltSezione.h"
 #include "screens/SchermoSezione.h"
 #include "screens/SezioneInUso.h"
 #include "screens/frmDoppioT.h"

@@ -3,9 +3,9 @@
 #include <memory>
 #include <type_traits>
 
+#include "drawing/Grafica.h"
+#include "drawing/ui/FrmPltSezione.h"
 #include "frame/GeneraleSagomi.h"
-#include "geometry/Grafica.h"
-#include "geometry/ui/FrmPltSezione.h"
 #include "sections/SezioneDoppioT.h"
 
 namespace sagomi {

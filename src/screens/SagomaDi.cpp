@@ -1,7 +1,7 @@
 #include "screens/SagomaDi.h"
 
-#include "geometry/SezioneGenerica.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
 
 namespace sagomi {
 

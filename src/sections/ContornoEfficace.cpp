@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "geometry/SezioneGenerica.h"
+#include "sections/SezioneGenerica.h"
 
 namespace sagomi {
 

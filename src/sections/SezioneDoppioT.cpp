@@ -4,9 +4,9 @@
 #include <numbers>
 
 #include "frame/GeneraleSagomi.h"
-#include "geometry/SezioneGenerica.h"
 #include "sections/ContornoEfficace.h"
 #include "sections/Eurocod3.h"
+#include "sections/SezioneGenerica.h"
 
 namespace sagomi {
 

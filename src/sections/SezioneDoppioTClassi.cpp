@@ -7,8 +7,8 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
-#include "geometry/SezioneGenerica.h"
 #include "sections/Eurocod3.h"
+#include "sections/SezioneGenerica.h"
 
 namespace sagomi {
 

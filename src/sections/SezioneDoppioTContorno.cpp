@@ -8,9 +8,9 @@
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "geometry/ForoSezione.h"
-#include "geometry/SezioneGenerica.h"
 #include "sections/ContornoEfficace.h"
 #include "sections/Eurocod3.h"
+#include "sections/SezioneGenerica.h"
 
 namespace sagomi {
 

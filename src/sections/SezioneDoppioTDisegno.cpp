@@ -5,12 +5,12 @@
 #include <utility>
 #include <vector>
 
+#include "drawing/Grafica.h"
+#include "drawing/Quote.h"
+#include "drawing/TavolaDisegno.h"
 #include "frame/Numeri.h"
-#include "geometry/Grafica.h"
-#include "geometry/Quote.h"
-#include "geometry/SezioneGenerica.h"
-#include "geometry/TavolaDisegno.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
 
 namespace sagomi {
 

@@ -1,9 +1,9 @@
 #include <cmath>
 
 #include "frame/GeneraleSagomi.h"
-#include "geometry/SezioneGenerica.h"
 #include "sections/ContornoEfficace.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
 
 namespace sagomi {
 

@@ -13,8 +13,8 @@
 #include "catalogue/RigaDoppioT.h"
 #include "catalogue/ScrittoreXls.h"
 #include "frame/Ambiente.h"
-#include "geometry/SezioneGenerica.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 using testing::ElementsAre;

@@ -73,7 +73,7 @@ void LeggeRiga(std::string_view chiave, std::string_view valore, CasoPoligono& c
 
 void PrintTo(const CasoPoligono& c, std::ostream* os) { *os << c.titolo << " (" << c.fonte << ")"; }
 
-std::vector<CasoPoligono> LeggeCasi(const std::string& file) {
+std::vector<CasoPoligono> LeggeCasiPoligono(const std::string& file) {
     std::ifstream in(std::string(SAGOMI_TEST_DATA) + "/geometry/" + file);
     if (!in)
         throw std::runtime_error("manca " + file);

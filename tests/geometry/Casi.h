@@ -32,7 +32,7 @@ struct CasoPoligono {
 void PrintTo(const CasoPoligono& c, std::ostream* os);
 
 /// All cases of a file of tests/data/geometry; throws std::runtime_error on a line that it cannot read.
-std::vector<CasoPoligono> LeggeCasi(const std::string& file);
+std::vector<CasoPoligono> LeggeCasiPoligono(const std::string& file);
 
 /// A polygon from "0 0, 150 0, 150 10".
 Poligono PoligonoDaTesto(std::string_view testo);

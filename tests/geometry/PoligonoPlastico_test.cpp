@@ -72,7 +72,7 @@ TEST(Dividi, NothingAndEverything) {
 
 TEST(Dividi, RunsOfHalfAndQuarterOnManyOutlines) {
     for (const char* file : {"concavi.txt", "stellati.txt", "profili.txt"})
-        for (const CasoPoligono& c : LeggeCasi(file))
+        for (const CasoPoligono& c : LeggeCasiPoligono(file))
             for (const double rapporto : {0.03, 0.5, 0.8}) {
                 SCOPED_TRACE(c.titolo);
                 Poligono p = PoligonoDelCaso(c);

@@ -14,7 +14,7 @@ std::vector<CasoPoligono> TuttiICasi() {
     std::vector<CasoPoligono> casi;
     for (const char* file : {"a_mano.txt", "convessi.txt", "concavi.txt", "stellati.txt", "profili.txt",
                              "doppi.txt", "degeneri.txt"})
-        for (CasoPoligono& c : LeggeCasi(file))
+        for (CasoPoligono& c : LeggeCasiPoligono(file))
             casi.push_back(std::move(c));
     return casi;
 }

@@ -85,7 +85,7 @@ TEST(DiscretizzaPoligono, CentresThroughVertices) {
 
 TEST(DiscretizzaPoligono, SumsComeNearTheOutline) {
     for (const char* file : {"convessi.txt", "concavi.txt", "stellati.txt", "profili.txt"})
-        for (const CasoPoligono& c : LeggeCasi(file)) {
+        for (const CasoPoligono& c : LeggeCasiPoligono(file)) {
             SCOPED_TRACE(c.titolo);
             // A strip across a flange's edge is off by up to half its height, 0.4 % of the area of a deep I.
             // The tables keep 24 bits, which a place a million away uses up.
@@ -99,7 +99,7 @@ TEST(DiscretizzaPoligono, SumsComeNearTheOutline) {
 }
 
 TEST(DiscretizzaPoligono, AtMostTwentyRectangles) {
-    for (const CasoPoligono& c : LeggeCasi("concavi.txt")) {
+    for (const CasoPoligono& c : LeggeCasiPoligono("concavi.txt")) {
         if (c.titolo != "comb of twenty-five teeth")
             continue;
         Poligono p = PoligonoDelCaso(c);

@@ -41,7 +41,7 @@ std::vector<CasoPoligono> CasiTagliati() {
     std::vector<CasoPoligono> casi;
     for (const char* file :
          {"a_mano.txt", "convessi.txt", "concavi.txt", "stellati.txt", "profili.txt", "doppi.txt"})
-        for (CasoPoligono& c : LeggeCasi(file))
+        for (CasoPoligono& c : LeggeCasiPoligono(file))
             if (!c.tagli.empty())
                 casi.push_back(std::move(c));
     return casi;

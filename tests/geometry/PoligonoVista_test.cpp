@@ -51,7 +51,7 @@ TEST(PuntoInPoligono, RaysThroughVerticesAndAlongSides) {
 }
 
 TEST(PuntoInPoligono, CentroidsOfConvexOutlines) {
-    for (const CasoPoligono& c : LeggeCasi("convessi.txt")) {
+    for (const CasoPoligono& c : LeggeCasiPoligono("convessi.txt")) {
         const Poligono p = PoligonoDelCaso(c);
         EXPECT_EQ(Dentro(p, c.attesi.at("xG"), c.attesi.at("yG")), 1) << c.titolo;
         EXPECT_EQ(Dentro(p, c.attesi.at("xG") + 2 * p.MaxDimensione(), c.attesi.at("yG")), -1) << c.titolo;
@@ -67,7 +67,7 @@ TEST(PoligonoConvesso, StartsLowestThenLeftmostAndDropsAlignedPoints) {
 
 TEST(PoligonoConvesso, HullsOfAllOutlines) {
     for (const char* file : {"convessi.txt", "concavi.txt", "stellati.txt", "profili.txt"})
-        for (const CasoPoligono& c : LeggeCasi(file)) {
+        for (const CasoPoligono& c : LeggeCasiPoligono(file)) {
             SCOPED_TRACE(c.titolo);
             const Poligono p = PoligonoDelCaso(c);
             const auto q = p.PoligonoConvessoCircoscritto();

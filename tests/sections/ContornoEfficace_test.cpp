@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "geometry/SezioneGenerica.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 using Vettore = std::vector<double>;

@@ -12,7 +12,7 @@
 #include "CasiDaFile.h"
 #include "Registratore.h"
 #include "frame/GeneraleSagomi.h"
-#include "geometry/SezioneGenerica.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 

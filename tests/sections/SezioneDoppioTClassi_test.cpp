@@ -6,7 +6,7 @@
 #include "SezioniDiProva.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
-#include "geometry/SezioneGenerica.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 

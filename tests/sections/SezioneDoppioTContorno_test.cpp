@@ -9,7 +9,7 @@
 #include "Registratore.h"
 #include "SezioniDiProva.h"
 #include "frame/GeneraleSagomi.h"
-#include "geometry/SezioneGenerica.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 using prove::Ipe200;

@@ -11,13 +11,13 @@
 #include "Approvato.h"
 #include "Registratore.h"
 #include "SezioniDiProva.h"
+#include "drawing/CadFinto.h"
+#include "drawing/Dxf.h"
+#include "drawing/SuperficieFinta.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
-#include "geometry/CadFinto.h"
-#include "geometry/Dxf.h"
-#include "geometry/SezioneGenerica.h"
-#include "geometry/SuperficieFinta.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -313,7 +313,7 @@ class FileDxfTest : public DisegnoTest, public testing::WithParamInterface<CasoF
 
 TEST_P(FileDxfTest, AlByte) {
     const CasoFile& c = GetParam();
-    ConfrontaApprovato("geometry/" + std::string(c.file) + ".dxf", InDxf(c.sezione(), c.maschera));
+    ConfrontaApprovato("drawing/" + std::string(c.file) + ".dxf", InDxf(c.sezione(), c.maschera));
     EXPECT_TRUE(registratore.testi.empty());
 }
 

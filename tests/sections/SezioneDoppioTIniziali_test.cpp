@@ -5,8 +5,8 @@
 #include "Registratore.h"
 #include "SezioniDiProva.h"
 #include "frame/GeneraleSagomi.h"
-#include "geometry/SezioneGenerica.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 using prove::Ipe200;

@@ -11,8 +11,8 @@
 #include "CasiDaFile.h"
 #include "Registratore.h"
 #include "frame/GeneraleSagomi.h"
-#include "geometry/SezioneGenerica.h"
 #include "sections/Eurocod3.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 using prove::CasoDaFile;

@@ -1,0 +1,137 @@
+#include "drawing/ui/AreaDisegno.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+#include "drawing/Grafica.h"
+#include "frame/ui/Protetto.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr double passoZoom = 1.25; ///< of a notch of the wheel, of a key
+constexpr double zoomMinimo = 0.5;
+constexpr double zoomMassimo = 200;
+constexpr double passoTasto = 40; ///< pixels
+
+} // namespace
+
+AreaDisegno::AreaDisegno(QWidget* parent) : QWidget(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::OpenHandCursor);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+}
+
+void AreaDisegno::Mostra(Pittore pittore) {
+    pittore_ = std::move(pittore);
+    update();
+}
+
+void AreaDisegno::Adatta() {
+    vista_ = {};
+    update();
+    emit vistaCambiata(vista_.zoom);
+}
+
+void AreaDisegno::Ingrandisci(double fattore, const QPointF& intorno) {
+    const double zoom = std::clamp(vista_.zoom * fattore, zoomMinimo, zoomMassimo);
+    const QPointF middle(width() / 2.0, height() / 2.0);
+    const QPointF fromMiddle = intorno - middle;
+    vista_.spostamento = fromMiddle - (fromMiddle - vista_.spostamento) * (zoom / vista_.zoom);
+    vista_.zoom = zoom;
+    update();
+    emit vistaCambiata(vista_.zoom);
+}
+
+void AreaDisegno::Sposta(const QPointF& passo) {
+    vista_.spostamento += passo;
+    update();
+}
+
+void AreaDisegno::paintEvent(QPaintEvent* /*event*/) {
+    if (!pittore_)
+        return;
+    QPainter painter(this);
+    SuperficieSchermo surface(painter, size(), font(), palette().color(QPalette::Text), vista_);
+    const StatoUscita before;
+    try {
+        pittore_(surface);
+    } catch (...) {
+        // No box can be shown in the middle of a painting, and the next one would fail alike.
+        pittore_ = {};
+        const DescrizioneErrore error = ErroreInVolo();
+        QMetaObject::invokeMethod(
+            this, [error] { AvvisaErrore("Errore", error); }, Qt::QueuedConnection);
+    }
+}
+
+void AreaDisegno::wheelEvent(QWheelEvent* event) {
+    constexpr double scatto = 120; // eighths of a degree in a notch
+    const double notches = event->angleDelta().y() / scatto;
+    if (notches != 0)
+        Ingrandisci(std::pow(passoZoom, notches), event->position());
+    event->accept();
+}
+
+void AreaDisegno::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton && event->button() != Qt::MiddleButton)
+        return;
+    trascina_ = true;
+    presa_ = event->position();
+    setCursor(Qt::ClosedHandCursor);
+}
+
+void AreaDisegno::mouseMoveEvent(QMouseEvent* event) {
+    if (!trascina_)
+        return;
+    Sposta(event->position() - presa_);
+    presa_ = event->position();
+}
+
+void AreaDisegno::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    trascina_ = false;
+    setCursor(Qt::OpenHandCursor);
+}
+
+void AreaDisegno::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        Adatta();
+}
+
+void AreaDisegno::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Plus:
+        Ingrandisci(passoZoom);
+        break;
+    case Qt::Key_Minus:
+        Ingrandisci(1 / passoZoom);
+        break;
+    case Qt::Key_Home:
+        Adatta();
+        break;
+    case Qt::Key_Left:
+        Sposta({passoTasto, 0});
+        break;
+    case Qt::Key_Right:
+        Sposta({-passoTasto, 0});
+        break;
+    case Qt::Key_Up:
+        Sposta({0, passoTasto});
+        break;
+    case Qt::Key_Down:
+        Sposta({0, -passoTasto});
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+} // namespace sagomi

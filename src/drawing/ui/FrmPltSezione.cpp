@@ -1,0 +1,95 @@
+#include "drawing/ui/FrmPltSezione.h"
+
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QScreen>
+
+#include "drawing/Grafica.h"
+#include "drawing/ui/ScegliDispositivo.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "ui_FrmPltSezione.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr double passoVista = 1.25;
+
+} // namespace
+
+FrmPltSezione::FrmPltSezione() : Schermo(QStringLiteral("FrmPltSezione")), ui_(new Ui::FrmPltSezione) {
+    ui_->setupUi(this);
+    PreparaContenuto();
+    DimensionaIniziale({});
+    Collega(ui_->CmdPlotta, &QPushButton::clicked, this, [this] { Ridisegna(); });
+    const auto items = Vettore<QAction>(QStringLiteral("mnuFileItem"));
+    for (int i = 0; i < items.size(); ++i)
+        Collega(items[i], &QAction::triggered, this, [this, i] { SceltaMenu(i); });
+    Collega(ui_->mnuAnteprima, &QAction::triggered, this, [this] { AnteprimaDiStampa(); });
+    Collega(ui_->mnuVistaItem_0, &QAction::triggered, this, [this] { ui_->Picture1->Adatta(); });
+    Collega(ui_->mnuVistaItem_1, &QAction::triggered, this,
+            [this] { ui_->Picture1->Ingrandisci(passoVista); });
+    Collega(ui_->mnuVistaItem_2, &QAction::triggered, this,
+            [this] { ui_->Picture1->Ingrandisci(1 / passoVista); });
+    Collega(ui_->Picture1, &AreaDisegno::vistaCambiata, this, [this](double zoom) {
+        ui_->LblZoom->setText(QString::number(qRound(zoom * 100)) + QStringLiteral(" %"));
+    });
+}
+
+FrmPltSezione::~FrmPltSezione() = default;
+
+void FrmPltSezione::Mostra(Schermo& da, const QString& nomeChiamante, SorgenteDisegno sorgente) {
+    auto& preview = NavigaSchermi::Unico().Prendi<FrmPltSezione>();
+    preview.nomeChiamante_ = nomeChiamante;
+    preview.sorgente_ = std::move(sorgente);
+    preview.ui_->LblEsito->clear();
+    preview.ui_->Picture1->Adatta();
+    NavigaSchermi::Unico().Apri(preview, da);
+}
+
+void FrmPltSezione::AllAttivazione() { Ridisegna(); }
+
+void FrmPltSezione::Ridisegna() {
+    disegno_ = sorgente_ ? sorgente_() : Disegno{};
+    const bool something = bool(disegno_.PlottaInOggetto);
+    setWindowTitle(tr("Plotta") +
+                   (something ? QStringLiteral(" - ") + QString::fromStdString(disegno_.nome) : QString()));
+    for (QAction* action : {ui_->mnuFileItem_0, ui_->mnuFileItem_1, ui_->mnuFileItem_2, ui_->mnuAnteprima})
+        action->setEnabled(something);
+    if (!something) {
+        ui_->Picture1->Mostra({});
+        return;
+    }
+    ui_->Picture1->Mostra([drawing = disegno_, caller = nomeChiamante_.toStdString()](Superficie& surface) {
+        Dispositivo = dispositivoVideo;
+        ColorePenna = pennaInchiostro;
+        OggettoGrafico = &surface;
+        drawing.PlottaInOggetto(&surface, caller);
+    });
+}
+
+void FrmPltSezione::SceltaMenu(int indice) {
+    constexpr int chiudi = 3;
+    if (indice == chiudi) {
+        close();
+        return;
+    }
+    QString outcome;
+    ScegliDispositivo(indice, QString::fromStdString(disegno_.nome), disegno_, nomeChiamante_, this,
+                      &outcome);
+    ui_->LblEsito->setText(outcome);
+}
+
+void FrmPltSezione::AnteprimaDiStampa() {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(QString::fromStdString(disegno_.nome));
+    QPrintPreviewDialog dialog(&printer, this);
+    dialog.setObjectName(QStringLiteral("AnteprimaDiStampa"));
+    dialog.resize(QSize(900, 720).boundedTo(screen()->availableGeometry().size() * 0.9));
+    Collega(&dialog, &QPrintPreviewDialog::paintRequested, this,
+            [this](QPrinter* page) { StampaSu(*page, disegno_, nomeChiamante_); });
+    dialog.exec();
+}
+
+} // namespace sagomi

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+#include "drawing/Disegno.h"
+
+class QPrinter;
+class QWidget;
+
+namespace sagomi {
+
+/// Where a drawing goes; also the order of the preview's menu.
+enum SceltaDispositivo : int { sceltaStampante = 0, sceltaDxf = 1, sceltaCad = 2 };
+
+/// Asks the user for the printer and its settings; false when he gives up. The tests put their own in the
+/// place of the print dialog, which also offers a PDF file.
+using SceltaStampante = std::function<bool(QPrinter& stampante, QWidget* sopra)>;
+void ImpostaSceltaStampante(SceltaStampante scelta);
+
+/// Sends a drawing to the device of choice: the print dialog and as many copies as it asks for; the save
+/// dialog and a DXF file; the running CAD program. The folder of a file becomes the working folder.
+/// @param nome      proposed for the file and the print job
+/// @param maschera  name of the screen that asks, handed on to the drawing
+/// @param esito     when given, receives in a few words where the drawing went
+/// @return false when the user gave up or the device could not be had, which is told in a message
+bool ScegliDispositivo(int scelta, const QString& nome, const Disegno& disegno, const QString& maschera,
+                       QWidget* sopra, QString* esito = nullptr);
+
+/// Draws the pages of a printer that has been chosen. False, with a message, when it cannot be had or the
+/// drawing fails.
+bool StampaSu(QPrinter& stampante, const Disegno& disegno, const QString& maschera);
+
+} // namespace sagomi
