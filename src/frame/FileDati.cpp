@@ -124,12 +124,19 @@ std::string_view SenzaBianchi(std::string_view testo) {
     return testo.substr(0, fine == std::string_view::npos ? 0 : fine + 1);
 }
 
+/// "- 3": on the screen a number, in a file damage.
+bool SegnoStaccato(std::string_view testo) {
+    const std::size_t segno = testo.find_first_of("+-");
+    return segno != std::string_view::npos && segno + 1 < testo.size() &&
+           (testo[segno + 1] == ' ' || testo[segno + 1] == '\t');
+}
+
 template <typename T> T NumeroDaCampo(std::string_view campo) {
     const std::string_view testo = SenzaBianchi(campo);
     if (const std::optional<T> valore = ValoreNonFinito<T>(testo))
         return *valore;
     const NumeroLetto<T> letto = LeggeNumero<T>(testo);
-    if (letto.fine == 0 || letto.fine != testo.size())
+    if (letto.fine == 0 || letto.fine != testo.size() || SegnoStaccato(testo))
         throw ErroreFile("Numero errato: \"" + Utf8DaAnsi(campo) + "\"");
     if (letto.troppoGrande)
         throw ErroreFile("Valore fuori dai limiti: " + std::string(testo));

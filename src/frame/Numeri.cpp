@@ -76,7 +76,7 @@ double AIntero(double valore, double minimo, double massimo) {
 bool NumeroMostrato::Mostrabile() const { return !nullo_ && std::isfinite(valore_); }
 
 Decimale NumeroMostrato::Cifre() const {
-    return singolo_ ? CifreMinime(static_cast<float>(valore_)) : CifreMinime(valore_);
+    return singolo_ ? CifreMinime(static_cast<float>(valore_)) : CifreTipo();
 }
 
 Decimale NumeroMostrato::CifreTipo() const {

@@ -34,7 +34,8 @@ public:
     /// False for a null value, an infinity or a NaN: these show as an empty text.
     [[nodiscard]] bool Mostrabile() const;
     [[nodiscard]] double Valore() const { return valore_; }
-    /// The fewest digits that read back to the value in its own width.
+    /// The digits that a picture rounds: 15 figures of a double, which are free of the noise of its binary
+    /// form, of a single the fewest that read back to it.
     [[nodiscard]] Decimale Cifre() const;
     /// The figures that the type is worth: 7 of a single, 15 of a double.
     [[nodiscard]] Decimale CifreTipo() const;

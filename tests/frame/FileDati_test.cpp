@@ -297,6 +297,8 @@ INSTANTIATE_TEST_SUITE_P(Campi, ErroriTest, testing::Values(
     CasoErrore{"Missing",        ",5\r\n",        "Numero errato: \"\"", 0},
     CasoErrore{"EmptyLine",      "\r\n5\r\n",     "Numero errato: \"\"", 1},
     CasoErrore{"TwoPoints",      "1.2.3\r\n",     "Numero errato: \"1.2.3\"", 0},
+    CasoErrore{"BlankBehindSign", "- 3\r\n",       "Numero errato: \"- 3\"", 0},
+    CasoErrore{"TabBehindSign",  "-\t3\r\n",      "Numero errato: \"-\t3\"", 0},
     CasoErrore{"LettersBehind",  "12x\r\n",       "Numero errato: \"12x\"", 2},
     CasoErrore{"Nan",            "nan\r\n",       "Numero errato: \"nan\"", 0},
     CasoErrore{"Infinity",       "inf\r\n",       "Numero errato: \"inf\"", 1},

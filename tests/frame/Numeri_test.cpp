@@ -114,6 +114,8 @@ INSTANTIATE_TEST_SUITE_P(Numeri, FormatoCifreTest, testing::Values(
     CasoFormato{"NoFigure",          0, 0.4,         " 0"},
     CasoFormato{"BinaryNoise",       4, 12.300000000000001, " 12.3"},
     CasoFormato{"SumNoise",          4, 0.1 + 0.2,   " 0.3"},
+    CasoFormato{"ProductHalf",       4, 0.29 * 34.5, " 10.01"}, // 10.005, in binary 10.004999999999999
+    CasoFormato{"ProductHalfBelow",  4, 0.35 * 28.9, " 10.12"}, // 10.115, in binary 10.114999999999998
     CasoFormato{"OneThird",          4, 1.0 / 3,     " 0.3333"},
     CasoFormato{"Single07",          4, 0.7F,        " 0.7"},
     CasoFormato{"Single07Stored",    4, Singolo(0.7), " 0.7"},
@@ -168,6 +170,7 @@ INSTANTIATE_TEST_SUITE_P(Numeri, FormatoCifreEspTest, testing::Values(
     CasoFormato{"Below1Negative",  4, -0.123456,   "-1.235E-01"},
     CasoFormato{"CarryToNextPower", 4, 0.099996,   " 1.000E-01"},
     CasoFormato{"CarryToOne",      4, 0.999996,    " 1.000E+00"},
+    CasoFormato{"ProductHalf",     4, 0.29 * 34.5, " 10.01"},
     CasoFormato{"TinyPower",       4, 0.00001,     " 1.000E-05"},
     CasoFormato{"ThreeDigitPower", 4, 1.5e-120,    " 1.500E-120"},
     CasoFormato{"Above1",          4, 12.3456,     " 12.35"},
@@ -197,6 +200,7 @@ INSTANTIATE_TEST_SUITE_P(Numeri, FormatoDecimaliTest, testing::Values(
     CasoFormato{"NegativeToZero", 2, -0.004,      " 0"},
     CasoFormato{"HalfCent",       2, 0.005,       " 0.01"},
     CasoFormato{"HalfCentNegative", 2, -1.005,    "-1.01"},
+    CasoFormato{"ProductHalf",    2, 0.29 * 34.5, " 10.01"},
     CasoFormato{"SingleHalf",     2, Singolo(2.675), " 2.68"},
     CasoFormato{"Null",           2, std::nullopt, ""},
     CasoFormato{"NotANumber",     2, std::nan(""), ""}),
@@ -206,6 +210,7 @@ INSTANTIATE_TEST_SUITE_P(Numeri, FormatoDecimaliTest, testing::Values(
 TEST(FormatoEsponenziale, FillsItsWidth) {
     EXPECT_EQ(FormatoEsponenziale(9, 12345.6), " 1.235E+04");
     EXPECT_EQ(FormatoEsponenziale(9, -0.00012345), "-1.235E-04");
+    EXPECT_EQ(FormatoEsponenziale(9, 0.29 * 34.5), " 1.001E+01"); // 1.0005E+01 to 15 figures
     EXPECT_EQ(FormatoEsponenziale(9, 0), " 0.000E+00");
     EXPECT_EQ(FormatoEsponenziale(7, 9.96), " 1.0E+01");
     EXPECT_EQ(FormatoEsponenziale(6, 5), " 5.E+00");
@@ -300,15 +305,11 @@ TEST(Formato, SwapsTheSeparators) {
     EXPECT_EQ(Formato("#.000E+00", 0.00123), "1,230E-03");
 }
 
-// A second road to the same text: the shortest digits by trial of the C library, then schoolbook addition of
-// half a unit in a long decimal, cut behind the last place.
+// A second road to the same text: the 15 figures of the C library, then schoolbook addition of half a unit in
+// a long decimal, cut behind the last place.
 std::string FormatoLento(double valore, int nDec) {
     char scientifico[64];
-    for (int p = 0; p < 17; ++p) {
-        std::snprintf(scientifico, sizeof scientifico, "%.*e", p, std::abs(valore));
-        if (std::strtod(scientifico, nullptr) == std::abs(valore))
-            break;
-    }
+    std::snprintf(scientifico, sizeof scientifico, "%.14e", std::abs(valore));
     constexpr int unita = 40; // place of the units in the long decimal
     std::string lungo(100, '0');
     const int esponente = std::atoi(std::strchr(scientifico, 'e') + 1);
@@ -333,7 +334,8 @@ std::string FormatoLento(double valore, int nDec) {
 TEST(Formato, AgreesWithLongArithmetic) {
     std::mt19937_64 caso(20240229);
     std::uniform_real_distribution<double> mantissa(-10, 10);
-    std::uniform_int_distribution<int> potenza(-12, 14);
+    std::uniform_int_distribution<int> potenza(
+        -12, 8); // no exact half in figure 16, where the C library rounds to even
     std::uniform_int_distribution<int> decimali(0, 6);
     std::uniform_int_distribution<int> intero(-2'000'000, 2'000'000);
     for (int i = 0; i < 20000; ++i) {
