@@ -54,7 +54,8 @@ function(sagomi_schermi folder)
   sagomi_precompila(sagomi_${folder}_ui <QtWidgets/QtWidgets>)
 endfunction()
 
-# sagomi_prova(<name> SOURCES ... LINK ...): one test program, its cases known to ctest one by one.
+# sagomi_prova(<name> [SCHERMI] SOURCES ... LINK ...): one test program, its cases known to ctest one by one; with
+# windows it runs once more in an Italian locale.
 function(sagomi_prova name)
   cmake_parse_arguments(A "SCHERMI" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name} ${A_SOURCES})
@@ -78,4 +79,9 @@ function(sagomi_prova name)
     target_link_libraries(${name} PRIVATE GTest::gmock_main)
   endif()
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES ENVIRONMENT "${env}" TIMEOUT 300)
+  if(A_SCHERMI)
+    # The same windows where the comma is the decimal separator.
+    add_test(NAME ${name}_it_IT COMMAND ${name})
+    set_tests_properties(${name}_it_IT PROPERTIES ENVIRONMENT "${env};LC_ALL=it_IT.UTF-8" TIMEOUT 600)
+  endif()
 endfunction()

@@ -9,18 +9,18 @@
 #include "drawing/Dxf.h"
 #include "drawing/Grafica.h"
 #include "drawing/ui/Immagini.h"
+#include "frame/ui/AmbienteFinestre.h"
 #include "frame/ui/FileDialogo.h"
-#include "screens/Ambiente.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
 
 namespace {
 
-class ScegliDispositivoTest : public AmbienteSchermi {
+class ScegliDispositivoTest : public AmbienteFinestre {
 protected:
     void SetUp() override {
-        AmbienteSchermi::SetUp();
+        AmbienteFinestre::SetUp();
         PathLavoro.clear();
         disegno.nome = "IPE 200";
         disegno.PlottaInOggetto = [this](Superficie* target, std::string_view screen) {
@@ -37,7 +37,7 @@ protected:
     void TearDown() override {
         ImpostaSceltaFile({});
         ImpostaSceltaStampante({});
-        AmbienteSchermi::TearDown();
+        AmbienteFinestre::TearDown();
     }
 
     void RispondeFile(const QString& chosen) {

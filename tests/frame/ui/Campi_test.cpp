@@ -3,17 +3,17 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "screens/Ambiente.h"
+#include "frame/ui/AmbienteFinestre.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
 
 namespace {
 
-class CampiTest : public AmbienteSchermi {
+class CampiTest : public AmbienteFinestre {
 protected:
     void SetUp() override {
-        AmbienteSchermi::SetUp();
+        AmbienteFinestre::SetUp();
         auto* rows = new QVBoxLayout(&finestra);
         for (QWidget* w : {static_cast<QWidget*>(&prima), static_cast<QWidget*>(&spenta),
                            static_cast<QWidget*>(&nascosta), static_cast<QWidget*>(&seconda)})

@@ -1,17 +1,17 @@
 #include <QLabel>
 #include <QSignalSpy>
 
+#include "frame/ui/AmbienteFinestre.h"
 #include "frame/ui/Casella.h"
 #include "frame/ui/EtichettaSimbolo.h"
 #include "frame/ui/UpDown.h"
-#include "screens/Ambiente.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
 
 namespace {
 
-class EtichetteTest : public AmbienteSchermi {};
+class EtichetteTest : public AmbienteFinestre {};
 
 TEST_F(EtichetteTest, MarkForNoLimitIsHeldAsTextAndPaintedAsInfinity) {
     EtichettaSimbolo mark;

@@ -3,7 +3,7 @@
 #include <fstream>
 
 #include "frame/FileDati.h"
-#include "screens/Ambiente.h"
+#include "frame/ui/AmbienteFinestre.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -20,11 +20,11 @@ struct SchermoProva : SchermoConFile {
     QWidget* Finestra() override { return &finestra; }
 };
 
-class FileDialogoTest : public AmbienteSchermi {
+class FileDialogoTest : public AmbienteFinestre {
 protected:
     void TearDown() override {
         ImpostaSceltaFile({});
-        AmbienteSchermi::TearDown();
+        AmbienteFinestre::TearDown();
     }
     void Risponde(const QString& chosen) {
         ImpostaSceltaFile(

@@ -4,14 +4,14 @@
 #include <QMessageBox>
 #include <QTextBrowser>
 
-#include "screens/Ambiente.h"
+#include "frame/ui/AmbienteFinestre.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
 
 namespace {
 
-class GuidaTest : public AmbienteSchermi {
+class GuidaTest : public AmbienteFinestre {
 protected:
     static QTextBrowser* Finestra() {
         for (QWidget* w : QApplication::topLevelWidgets())
@@ -22,13 +22,17 @@ protected:
     void TearDown() override {
         if (auto* window = Finestra())
             window->hide();
-        AmbienteSchermi::TearDown();
+        AmbienteFinestre::TearDown();
     }
 };
 
 TEST_F(GuidaTest, F1OpensTheHelpOfTheProgram) {
-    auto& s = Avvia();
-    QTest::keyClick(Trova<QLineEdit>(&s, "Txt_L0_1"), Qt::Key_F1);
+    Schermo first(QStringLiteral("frmDoppioT"));
+    auto* box = new QLineEdit(&first);
+    box->setObjectName("Txt_L0_1");
+    first.show();
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_F1);
     ASSERT_NE(Finestra(), nullptr);
     EXPECT_TRUE(Finestra()->toPlainText().contains("Lunghezze di libera inflessione", Qt::CaseInsensitive));
     QTest::keyClick(Finestra(), Qt::Key_Escape);
@@ -42,7 +46,6 @@ TEST_F(GuidaTest, FileIsFoundWhateverTheCaseOfItsLetters) {
 }
 
 TEST_F(GuidaTest, MessageBoxGetsNoHelpBehindIt) {
-    Avvia();
     QMessageBox box;
     box.setModal(true);
     box.show();

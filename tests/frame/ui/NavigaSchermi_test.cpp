@@ -3,9 +3,9 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include "frame/ui/AmbienteFinestre.h"
 #include "frame/ui/MessaggiQt.h"
 #include "frame/ui/Protetto.h"
-#include "screens/Ambiente.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -26,7 +26,7 @@ struct Secondo : Primo {
     }
 };
 
-class NavigaSchermiTest : public AmbienteSchermi {};
+class NavigaSchermiTest : public AmbienteFinestre {};
 
 TEST_F(NavigaSchermiTest, PassingShowsActivatesOnceThenHidesTheOrigin) {
     auto& n = NavigaSchermi::Unico();
