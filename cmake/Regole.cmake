@@ -18,6 +18,9 @@ if(SAGOMI_SANITIZERS)
                                                  -fno-omit-frame-pointer)
   target_link_options(sagomi_regole INTERFACE -fsanitize=address,undefined)
 endif()
+if(SAGOMI_FUZZ)
+  target_compile_options(sagomi_regole INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # The mechanics also refuse every silent narrowing.
 add_library(sagomi_regole_meccanica INTERFACE)
