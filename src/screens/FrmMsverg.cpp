@@ -65,8 +65,9 @@ std::shared_ptr<SezioneDoppioT> InUso() {
 FrmMsverg::FrmMsverg() : SchermoDettaglio(QStringLiteral("FrmMsverg")), ui_(new Ui::FrmMsverg) {
     ui_->setupUi(this);
     ScegliRiga(1);
-    CollegaControlli(InvioFra({ui_->Txt_fy, ui_->TxtNsd, ui_->TxtMysd, ui_->TxtMzsd, ui_->Txt_L, ui_->Txt_k,
-                               ui_->Txt_Kw, ui_->Txt_Zg, ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3}));
+    CollegaControlli(InvioFra({ui_->fraSezione->Txt_fy, ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd,
+                               ui_->fraAzioni->TxtMzsd, ui_->Txt_L, ui_->Txt_k, ui_->Txt_Kw, ui_->Txt_Zg,
+                               ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3}));
     CollegaEventi();
     DimensionaIniziale({});
 }
@@ -74,10 +75,11 @@ FrmMsverg::FrmMsverg() : SchermoDettaglio(QStringLiteral("FrmMsverg")), ui_(new 
 FrmMsverg::~FrmMsverg() = default;
 
 void FrmMsverg::CollegaEventi() {
-    for (QLineEdit* box : {ui_->TxtNsd, ui_->TxtMysd, ui_->TxtMzsd, ui_->Txt_L, ui_->Txt_k, ui_->Txt_Kw,
-                           ui_->Txt_Zg, ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3})
+    for (QLineEdit* box :
+         {ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd, ui_->Txt_L, ui_->Txt_k,
+          ui_->Txt_Kw, ui_->Txt_Zg, ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3})
         Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
-    Collega(ui_->Txt_fy, &QLineEdit::textChanged, this, [this](const QString& text) {
+    Collega(ui_->fraSezione->Txt_fy, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (inCalcolo_ || chiamante_ == nullptr || chiamante_->Txt_fy->text() == text)
             return;
         chiamante_->Txt_fy->setText(text); // its reaction puts the strength into the section
@@ -95,9 +97,9 @@ void FrmMsverg::CollegaEventi() {
 
 void FrmMsverg::RiempiDati() {
     if (const SezioneDoppioT* s = Sezione()) {
-        Riempi(ui_->TxtNsd, s->NSd / NInkN);
-        Riempi(ui_->TxtMysd, s->Mysd / NmmInkNm);
-        Riempi(ui_->TxtMzsd, s->Mzsd / NmmInkNm);
+        Riempi(ui_->fraAzioni->TxtNsd, s->NSd / NInkN);
+        Riempi(ui_->fraAzioni->TxtMysd, s->Mysd / NmmInkNm);
+        Riempi(ui_->fraAzioni->TxtMzsd, s->Mzsd / NmmInkNm);
         Riempi(ui_->Txt_k, s->k);
         Riempi(ui_->Txt_Kw, s->Kw);
         Riempi(ui_->Txt_C1, s->C1);
@@ -108,7 +110,7 @@ void FrmMsverg::RiempiDati() {
             Riempi(ui_->Txt_L, s->LLT / mmInMetro);
     }
     sezione_ = InUso();
-    FuocoSu(ui_->TxtNsd);
+    FuocoSu(ui_->fraAzioni->TxtNsd);
 }
 
 void FrmMsverg::RiportaValori(const SezioneDoppioT& vecchia, SezioneDoppioT& nuova) {
@@ -139,9 +141,9 @@ void FrmMsverg::CompletaForm(SchermoSezione& chiamante) {
 
 void FrmMsverg::ScriveDati() {
     SezioneDoppioT& s = *Sezione();
-    s.NSd = NumeroIn(ui_->TxtNsd) * NInkN;
-    s.Mysd = NumeroIn(ui_->TxtMysd) * NmmInkNm;
-    s.Mzsd = NumeroIn(ui_->TxtMzsd) * NmmInkNm;
+    s.NSd = NumeroIn(ui_->fraAzioni->TxtNsd) * NInkN;
+    s.Mysd = NumeroIn(ui_->fraAzioni->TxtMysd) * NmmInkNm;
+    s.Mzsd = NumeroIn(ui_->fraAzioni->TxtMzsd) * NmmInkNm;
     s.k = NumeroIn(ui_->Txt_k);
     s.Kw = NumeroIn(ui_->Txt_Kw);
     s.C1 = NumeroIn(ui_->Txt_C1);

@@ -64,8 +64,8 @@ FrmPresFless::FrmPresFless() : SchermoDettaglio(QStringLiteral("FrmPresFless")),
     OptMomento_ = Vettore<QRadioButton>(QStringLiteral("OptMomento"));
     for (int i = 1; i <= nPict; ++i)
         Picture1_ << findChild<PulsanteDiagramma*>(QStringLiteral("Picture1_%1").arg(i));
-    CollegaControlli(InvioFra({ui_->Txt_fy, ui_->TxtNsd, Txt_L0_[0], Txt_L0_[1], TxtM1_[0], TxtM2_[0],
-                               TxtMQ_[0], TxtM1_[1], TxtM2_[1], TxtMQ_[1]}));
+    CollegaControlli(InvioFra({ui_->fraSezione->Txt_fy, ui_->TxtNsd, Txt_L0_[0], Txt_L0_[1], TxtM1_[0],
+                               TxtM2_[0], TxtMQ_[0], TxtM1_[1], TxtM2_[1], TxtMQ_[1]}));
     CollegaEventi();
     CollegaDiagrammi();
     VisualizzaPict(IndicePict);
@@ -77,7 +77,7 @@ FrmPresFless::~FrmPresFless() = default;
 void FrmPresFless::CollegaEventi() {
     for (QLineEdit* box : QList<QLineEdit*>{ui_->TxtNsd} + Txt_L0_ + TxtM1_ + TxtM2_ + TxtMQ_)
         Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
-    Collega(ui_->Txt_fy, &QLineEdit::textChanged, this, [this](const QString& text) {
+    Collega(ui_->fraSezione->Txt_fy, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (inCalcolo_ || chiamante_ == nullptr || chiamante_->Txt_fy->text() == text)
             return;
         chiamante_->Txt_fy->setText(text); // its reaction puts the strength into the section

@@ -1,6 +1,7 @@
 #include "screens/FrmVerifiche.h"
 
 #include "frame/ui/Campi.h"
+#include "frame/ui/Casella.h"
 #include "frame/ui/Esito.h"
 #include "frame/ui/Protetto.h"
 #include "screens/Mostra.h"
@@ -31,7 +32,7 @@ FrmVerifiche::FrmVerifiche() : SchermoDettaglio(QStringLiteral("FrmVerifiche")),
         frame->setSizePolicy(policy);
     }
     CollegaControlli();
-    for (QLineEdit* box : {ui_->TxtNsd, ui_->TxtMysd, ui_->TxtMzsd})
+    for (QLineEdit* box : {ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd})
         Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
     ScegliQuadro(1);
     DimensionaIniziale({});
@@ -41,20 +42,20 @@ FrmVerifiche::~FrmVerifiche() = default;
 
 void FrmVerifiche::RiempiDati() {
     if (const SezioneDoppioT* s = Sezione()) {
-        Riempi(ui_->TxtNsd, s->NSd / NInkN);
-        Riempi(ui_->TxtMysd, s->Mysd / NmmInkNm);
-        Riempi(ui_->TxtMzsd, s->Mzsd / NmmInkNm);
+        Riempi(ui_->fraAzioni->TxtNsd, s->NSd / NInkN);
+        Riempi(ui_->fraAzioni->TxtMysd, s->Mysd / NmmInkNm);
+        Riempi(ui_->fraAzioni->TxtMzsd, s->Mzsd / NmmInkNm);
     }
-    FuocoSu(ui_->TxtNsd);
+    FuocoSu(ui_->fraAzioni->TxtNsd);
 }
 
 void FrmVerifiche::CompletaForm(SchermoSezione& /*chiamante*/) {
     SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;
-    s->NSd = NumeroIn(ui_->TxtNsd) * NInkN;
-    s->Mysd = NumeroIn(ui_->TxtMysd) * NmmInkNm;
-    s->Mzsd = NumeroIn(ui_->TxtMzsd) * NmmInkNm;
+    s->NSd = NumeroIn(ui_->fraAzioni->TxtNsd) * NInkN;
+    s->Mysd = NumeroIn(ui_->fraAzioni->TxtMysd) * NmmInkNm;
+    s->Mzsd = NumeroIn(ui_->fraAzioni->TxtMzsd) * NmmInkNm;
     s->ClassePressoFlessioneCalcola();
     ScegliQuadro(s->ClassePressoFlessione);
     if (s->ClassePressoFlessione < 3)

@@ -1,0 +1,33 @@
+#include "screens/PannelloAzioni.h"
+
+#include "frame/ui/Casella.h"
+#include "screens/Ambiente.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+TEST(PannelloAzioniTest, HoldsThreeEntriesByTheirNamesInReadingOrder) {
+    PannelloAzioni actions;
+    EXPECT_EQ(Trova<QLineEdit>(&actions, "TxtNsd"), actions.TxtNsd);
+    EXPECT_EQ(Trova<QLineEdit>(&actions, "TxtMysd"), actions.TxtMysd);
+    EXPECT_EQ(Trova<QLineEdit>(&actions, "TxtMzsd"), actions.TxtMzsd);
+    QList<QWidget*> order;
+    for (QWidget* w = actions.nextInFocusChain(); w != &actions; w = w->nextInFocusChain())
+        if ((w->focusPolicy() & Qt::TabFocus) == Qt::TabFocus)
+            order << w;
+    EXPECT_EQ(order, (QList<QWidget*>{actions.TxtNsd, actions.TxtMysd, actions.TxtMzsd}));
+}
+
+TEST(PannelloAzioniTest, EachEntryHasItsCaptionAndItsUnit) {
+    const PannelloAzioni actions;
+    EXPECT_EQ(Trova<QLabel>(&actions, "LblTxtNsd")->buddy(), actions.TxtNsd);
+    EXPECT_EQ(Trova<QLabel>(&actions, "LblTxtMysd")->buddy(), actions.TxtMysd);
+    EXPECT_EQ(Trova<QLabel>(&actions, "LblTxtMzsd")->buddy(), actions.TxtMzsd);
+    EXPECT_EQ(actions.TxtNsd->accessibleName(), "NSd [kN]");
+    EXPECT_EQ(actions.TxtMysd->accessibleName(), "My,Sd [kNm]");
+    EXPECT_EQ(actions.TxtMzsd->accessibleName(), "Mz,Sd [kNm]");
+}
+
+} // namespace
