@@ -2,13 +2,10 @@
 
 #include <array>
 #include <cmath>
-#include <memory>
-#include <variant>
 
-#include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "geometry/Matematica.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 
@@ -121,10 +118,12 @@ Singolo Timoshenko::Gamma2AppNoIw(const Singolo& L, const Singolo& E, const Sing
 }
 
 Singolo Timoshenko::a_QuotaCarico(std::int16_t QuotaCarico) {
-    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
-    if (QuotaCarico == quotaBaricentro || section == nullptr || *section == nullptr)
+    if (QuotaCarico == quotaBaricentro)
         return 0;
-    return (QuotaCarico == quotaEstradosso ? 0.5 : -0.5) * (*section)->h;
+    Singolo a = 0;
+    SullaSezioneInUso(
+        [&](const auto& section) { a = (QuotaCarico == quotaEstradosso ? 0.5 : -0.5) * section.h; });
+    return a;
 }
 
 void Timoshenko::TabellaMensola(std::vector<double>& ascisse, std::vector<double>& ordinate) {

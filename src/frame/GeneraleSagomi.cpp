@@ -1,12 +1,26 @@
 #include "frame/GeneraleSagomi.h"
 
+#include <vector>
+
+#include "frame/Ripristino.h"
+
 namespace sagomi {
 
 namespace {
 
 Singolo FattoreAltro(Singolo stored) { return stored == 0 ? Singolo(1) : stored; }
 
+std::vector<void (*)()>& DaSvuotare() {
+    static std::vector<void (*)()> elenco;
+    return elenco;
+}
+
 } // namespace
+
+bool AggiungiRipristino(void (*svuota)()) {
+    DaSvuotare().push_back(svuota);
+    return true;
+}
 
 Tabella1<std::string> NomiAcciaiPredefiniti() { return {"S235 (Fe360)", "S275 (Fe430)", "S355 (Fe510)"}; }
 Tabella1<Singolo> fyPredefinite() { return {235, 275, 355}; }
@@ -66,7 +80,6 @@ void RipristinaGenerale() {
     ImpostaGamma();
     PathProgramma.clear();
     PathLavoro.clear();
-    SezioneCorrente.emplace<std::monostate>();
     Versione.clear();
     ScreenAttivo.clear();
     SuggerimentoBulloni = true;
@@ -75,6 +88,8 @@ void RipristinaGenerale() {
     OggettoServer = nullptr;
     ChiusuraInCorso = false;
     AvvioInCorso = false;
+    for (void (*svuota)() : DaSvuotare())
+        svuota();
 }
 
 } // namespace sagomi

@@ -2,20 +2,13 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <memory>
 #include <string>
-#include <variant>
 
 #include "frame/Singolo.h"
 #include "frame/Tabella1.h"
 
 /// The one block of global settings, alive for the whole run.
 namespace sagomi {
-
-class SezioneDoppioT;
-
-/// The section of the screen in use; empty before the first row.
-using RiferimentoSezione = std::variant<std::monostate, std::shared_ptr<SezioneDoppioT>>;
 
 /// What an automation client is told of.
 class OsservatoreSezione {
@@ -38,7 +31,6 @@ Tabella1<Singolo> ClassiBulloniPredefinite();
 
 inline std::filesystem::path PathProgramma; ///< folder of the program and of its files
 inline std::filesystem::path PathLavoro;    ///< folder of the file last opened or saved
-inline RiferimentoSezione SezioneCorrente;  ///< what every detail screen reads
 inline std::int16_t NumAcciai = 3;          ///< number of steel grades
 inline Tabella1<std::string> NomeAcciaio = NomiAcciaiPredefiniti(); ///< 1..NumAcciai
 inline Tabella1<Singolo> fyAcciaio = fyPredefinite();               ///< yield strength [N/mm2], 1..NumAcciai
@@ -75,7 +67,11 @@ std::string NomeNormativa();
 /// Lays down the defaults of everything that the settings file holds.
 void ImpostazioniPredefinite();
 
-/// Brings the whole block back to its state before the start, for tests.
+/// Brings the whole block back to its state before the start, and with it what AggiungiRipristino was given.
+/// For tests.
 void RipristinaGenerale();
 
 } // namespace sagomi
+
+// The section in use is part of the block for who reads it; it lives in its own layer.
+#include "sections/SezioneCorrente.h" // IWYU pragma: export

@@ -2,13 +2,13 @@
 
 #include <array>
 
+#include "frame/GeneraleSagomi.h"
 #include "frame/ui/Schermo.h"
 #include "screens/Mostra.h"
-#include "screens/SezioneInUso.h"
 #include "screens/Unita.h"
 #include "sections/ColonnaInstabilita.h"
 #include "sections/Eurocod3.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 

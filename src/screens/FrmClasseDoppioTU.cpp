@@ -6,10 +6,9 @@
 #include "frame/ui/Protetto.h"
 #include "screens/Mostra.h"
 #include "screens/PlottaSezioneCorrente.h"
-#include "screens/SezioneInUso.h"
 #include "screens/Unita.h"
 #include "sections/Eurocod3.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 #include "ui_FrmClasseDoppioTU.h"
 
 namespace sagomi {
@@ -17,12 +16,6 @@ namespace sagomi {
 namespace {
 
 constexpr int cifre = 4;
-
-/// Double-T and channels have a web and flanges; angles do not.
-template <typename S>
-concept ConAnimaEAli = requires(S& s) {
-    s.SnellWeb();
-};
 
 void MostraClasse(QLabel* label, int section_class) { label->setText(QString::number(section_class)); }
 
@@ -50,16 +43,14 @@ FrmClasseDoppioTU::FrmClasseDoppioTU()
 FrmClasseDoppioTU::~FrmClasseDoppioTU() = default;
 
 void FrmClasseDoppioTU::CompletaForm(SchermoSezione& /*chiamante*/) {
-    SullaSezioneInUso([this](const auto& s) {
-        if constexpr (ConAnimaEAli<std::decay_t<decltype(s)>>) {
-            MostraMateriale(s);
-            MostraAnima(s);
-            MostraAla(s);
-            MostraEfficaci(s);
-        }
+    SullaSezioneInUso([this](const ConAnimaEAli auto& s) {
+        MostraMateriale(s);
+        MostraAnima(s);
+        MostraAla(s);
     });
-    const SezioneDoppioT* s = Sezione();
-    const bool different = s != nullptr && s->SaldataAsimm;
+    SullaSezioneInUso([this](const ConContorniEfficaci auto& s) { MostraEfficaci(s); });
+    bool different = false;
+    SullaSezioneInUso([&different](const ConAliDiverse auto& s) { different = s.SaldataAsimm; });
     MostraAlaInferiore(different);
     if (different)
         CompletaFormAsimmetrici();
@@ -99,16 +90,15 @@ template <typename S> void FrmClasseDoppioTU::MostraEfficaci(const S& s) {
 }
 
 void FrmClasseDoppioTU::CompletaFormAsimmetrici() {
-    const SezioneDoppioT* s = Sezione();
-    if (s == nullptr)
-        return;
-    Mostra(ui_->Lbl_cInf, "0.00", s->cAlaInf);
-    Mostra(ui_->Lbl_tfInf, "0.00", s->tAlaInf);
-    Mostra(ui_->Lbl_SnellAlaInf, "0.0#", s->SnellAlaInf());
-    Mostra(ui_->Lbl_LimiteAlaInf_0, s->Limite0AlaC);
-    Mostra(ui_->Lbl_LimiteAlaInf_1, s->Limite1AlaC);
-    MostraClasse(ui_->Lbl_ClasseAlaInfF, s->ClasseAlaInfF);
-    MostraClasse(ui_->Lbl_ClasseAlaInfC, s->ClasseAlaInfC);
+    SullaSezioneInUso([this](const ConAliDiverse auto& s) {
+        Mostra(ui_->Lbl_cInf, "0.00", s.cAlaInf);
+        Mostra(ui_->Lbl_tfInf, "0.00", s.tAlaInf);
+        Mostra(ui_->Lbl_SnellAlaInf, "0.0#", s.SnellAlaInf());
+        Mostra(ui_->Lbl_LimiteAlaInf_0, s.Limite0AlaC);
+        Mostra(ui_->Lbl_LimiteAlaInf_1, s.Limite1AlaC);
+        MostraClasse(ui_->Lbl_ClasseAlaInfF, s.ClasseAlaInfF);
+        MostraClasse(ui_->Lbl_ClasseAlaInfC, s.ClasseAlaInfC);
+    });
 }
 
 void FrmClasseDoppioTU::MostraAlaInferiore(bool visibile) {
@@ -122,25 +112,25 @@ void FrmClasseDoppioTU::MostraAlaInferiore(bool visibile) {
 }
 
 void FrmClasseDoppioTU::SpiegaClasse() const {
-    SullaSezioneInUso([](const auto& s) {
-        if constexpr (ConAnimaEAli<std::decay_t<decltype(s)>>)
-            Avvisa("Poiché non è logico penalizzare la resistenza a presso-flessione della sezione,\n"
-                   "classificandola in base alla classe a compressione dell'anima\n"
-                   "anche in presenza di azioni assiali modeste,\n"
-                   "si adotta un criterio mutuato dalla regola EC3 #6.2.9.1 (4)\n"
-                   "Se Nsd < " +
-                   FormatoCifre(cifre, s.Ntrascurabile / NInkN) +
-                   " kN\n"
-                   "(valore minore fra la metà della resistenza plastica dell'anima\n"
-                   " ed un quarto della resistenza plastica della sezione)\n"
-                   "si assume la classe a flessione.\n"
-                   "Altrimenti si assume la classe a compressione.");
+    SullaSezioneInUso([](const ConMomenti auto& s) {
+        Avvisa("Poiché non è logico penalizzare la resistenza a presso-flessione della sezione,\n"
+               "classificandola in base alla classe a compressione dell'anima\n"
+               "anche in presenza di azioni assiali modeste,\n"
+               "si adotta un criterio mutuato dalla regola EC3 #6.2.9.1 (4)\n"
+               "Se Nsd < " +
+               FormatoCifre(cifre, s.Ntrascurabile / NInkN) +
+               " kN\n"
+               "(valore minore fra la metà della resistenza plastica dell'anima\n"
+               " ed un quarto della resistenza plastica della sezione)\n"
+               "si assume la classe a flessione.\n"
+               "Altrimenti si assume la classe a compressione.");
     });
 }
 
 void FrmClasseDoppioTU::PlottaEfficace(int indice) {
-    if (SezioneDoppioT* s = Sezione())
-        s->SezioneEfficaceDaPlottare = static_cast<std::int16_t>(indice);
+    SullaSezioneInUso([indice](ConContorniEfficaci auto& s) {
+        s.SezioneEfficaceDaPlottare = static_cast<std::int16_t>(indice);
+    });
     PlottaSezioneCorrente(*this);
 }
 

@@ -6,10 +6,9 @@
 #include "frame/ui/Protetto.h"
 #include "screens/Mostra.h"
 #include "screens/SagomaDi.h"
-#include "screens/SezioneInUso.h"
 #include "screens/Unita.h"
 #include "sections/Duttilita.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 #include "ui_FrmMcRd.h"
 
 namespace sagomi {
@@ -18,12 +17,6 @@ namespace {
 
 constexpr int cifre = 4;
 constexpr int cifreLimite = 3;
-
-/// Double-T and channels have bending resistances; angles do not.
-template <typename S>
-concept ConMomenti = requires(S& s) {
-    s.McyRd;
-};
 
 /// The moduli among which a class chooses.
 struct Moduli {
@@ -68,25 +61,19 @@ FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::Fr
 FrmMcRd::~FrmMcRd() = default;
 
 void FrmMcRd::RiempiDati() {
-    SullaSezioneInUso([this](const auto& s) {
-        if constexpr (ConMomenti<std::decay_t<decltype(s)>>)
-            Riempi(ui_->TxtNsd, s.NSd / NInkN);
-    });
+    SullaSezioneInUso([this](const ConMomenti auto& s) { Riempi(ui_->TxtNsd, s.NSd / NInkN); });
     FuocoSu(ui_->TxtNsd);
 }
 
 void FrmMcRd::CompletaForm(SchermoSezione& /*chiamante*/) {
-    SullaSezioneInUso([this](const auto& s) {
-        if constexpr (ConMomenti<std::decay_t<decltype(s)>>) {
-            ui_->Lbl_Classe_0->setText(QString::number(s.ClasseFlessioneY));
-            ui_->Lbl_Classe_1->setText(QString::number(s.ClasseFlessioneZ));
-            Mostra(ui_->Lbl_W_0, Modulo(s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}));
-            Mostra(ui_->Lbl_W_1, Modulo(s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}));
-            Mostra(ui_->Lbl_McRd_0, Momento(s.McyRd));
-            Mostra(ui_->Lbl_McRd_1, Momento(s.MczRd));
-            if constexpr (requires { SagomaDi(s); })
-                ui_->Picture1->Mostra(SagomaDi(s));
-        }
+    SullaSezioneInUso([this](const ConMomenti auto& s) {
+        ui_->Lbl_Classe_0->setText(QString::number(s.ClasseFlessioneY));
+        ui_->Lbl_Classe_1->setText(QString::number(s.ClasseFlessioneZ));
+        Mostra(ui_->Lbl_W_0, Modulo(s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}));
+        Mostra(ui_->Lbl_W_1, Modulo(s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}));
+        Mostra(ui_->Lbl_McRd_0, Momento(s.McyRd));
+        Mostra(ui_->Lbl_McRd_1, Momento(s.MczRd));
+        ui_->Picture1->Mostra(SagomaDi(s));
     });
     Duttilita();
 }
@@ -94,15 +81,13 @@ void FrmMcRd::CompletaForm(SchermoSezione& /*chiamante*/) {
 void FrmMcRd::Duttilita() { CalcolaDuttilita(NumeroIn(ui_->TxtNsd) * NInkN, NumeroIn(ui_->txtLstar)); }
 
 void FrmMcRd::CalcolaDuttilita(double N, double Lstar) {
-    SullaSezioneInUso([&](const auto& s) {
-        if constexpr (ConMomenti<std::decay_t<decltype(s)>>) {
-            const SezioneDuttile section{s.h, s.b, s.tw, s.tf, s.Area, s.fy, s.fu};
-            const DuttilitaCalcolata r = sagomi::CalcolaDuttilita(section, N, Lstar);
-            Mostra(ui_->Lbl_s_0, Lstar > 0 ? Uguale(cifre, r.s) : "L* ?");
-            Mostra(ui_->Lbl_s_1, Uguale(cifreLimite, r.limite));
-            Evidenzia(ui_->Lbl_s_0, r.s <= r.limite);
-            Evidenzia(ui_->Lbl_s_1, r.s > r.limite);
-        }
+    SullaSezioneInUso([&]<ConMomenti S>(const S& s) requires ConAnimaEAli<S> {
+        const SezioneDuttile section{s.h, s.b, s.tw, s.tf, s.Area, s.fy, s.fu};
+        const DuttilitaCalcolata r = sagomi::CalcolaDuttilita(section, N, Lstar);
+        Mostra(ui_->Lbl_s_0, Lstar > 0 ? Uguale(cifre, r.s) : "L* ?");
+        Mostra(ui_->Lbl_s_1, Uguale(cifreLimite, r.limite));
+        Evidenzia(ui_->Lbl_s_0, r.s <= r.limite);
+        Evidenzia(ui_->Lbl_s_1, r.s > r.limite);
     });
 }
 

@@ -19,7 +19,6 @@
 #include "screens/frmMsvergH1.h"
 #include "screens/frmMsvergH2.h"
 #include "sections/Eurocod3.h"
-#include "sections/SezioneDoppioT.h"
 #include "ui_FrmMsverg.h"
 
 namespace sagomi {
@@ -53,11 +52,6 @@ QString Titolo(int classe) {
     return resistenza + (classe == 3
                              ? QStringLiteral("(flessione e compressione)- Classe 3 - EC3 #5.5.4. (4)")
                              : QStringLiteral("(flessione e compressione)- Classe 1/2 - EC3 #5.5.4. (2)"));
-}
-
-std::shared_ptr<SezioneDoppioT> InUso() {
-    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
-    return section == nullptr ? nullptr : *section;
 }
 
 } // namespace
@@ -109,7 +103,7 @@ void FrmMsverg::RiempiDati() {
         if (s->LLT > 0)
             Riempi(ui_->Txt_L, s->LLT / mmInMetro);
     }
-    sezione_ = InUso();
+    sezione_ = SezioneCorrente;
     FuocoSu(ui_->fraAzioni->TxtNsd);
 }
 
@@ -123,14 +117,15 @@ void FrmMsverg::RiportaValori(const SezioneDoppioT& vecchia, SezioneDoppioT& nuo
 void FrmMsverg::CompletaForm(SchermoSezione& chiamante) {
     chiamante_ = &chiamante;
     const QScopedValueRollback guard(inCalcolo_, true);
-    const auto section = InUso();
+    SezioneDoppioT* const section = Sezione();
     if (section == nullptr)
         return;
     // The caller has read its row anew; factors that another screen has given the section are its own.
     const bool fresh = section->BetaMy == 0 && section->BetaMz == 0 && section->BetaMLT == 0;
-    if (sezione_ != nullptr && sezione_ != section && fresh)
-        RiportaValori(*sezione_, *section);
-    sezione_ = section;
+    const SezioneDoppioT* const before = SezioneInUso<SezioneDoppioT>(sezione_);
+    if (before != nullptr && before != section && fresh)
+        RiportaValori(*before, *section);
+    sezione_ = SezioneCorrente;
     ScriveDati();
     section->ClassePressoFlessioneCalcola();
     section->McrFunz();

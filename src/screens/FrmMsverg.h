@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "screens/SchermoDettaglio.h"
+#include "sections/SezioneCorrente.h"
 
 namespace Ui {
 class FrmMsverg;
@@ -38,7 +39,7 @@ private:
     void MostraInterazione();
 
     std::unique_ptr<Ui::FrmMsverg> ui_;
-    std::shared_ptr<SezioneDoppioT> sezione_; ///< section that was computed last
+    RiferimentoSezione sezione_; ///< section that was computed last
 };
 
 } // namespace sagomi

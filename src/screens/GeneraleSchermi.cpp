@@ -18,9 +18,8 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "screens/SchermoSezione.h"
-#include "screens/SezioneInUso.h"
 #include "screens/frmDoppioT.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 

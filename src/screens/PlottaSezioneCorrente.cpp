@@ -1,12 +1,10 @@
 #include "screens/PlottaSezioneCorrente.h"
 
-#include <memory>
 #include <type_traits>
 
 #include "drawing/Grafica.h"
 #include "drawing/ui/FrmPltSezione.h"
-#include "frame/GeneraleSagomi.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 
@@ -14,30 +12,24 @@ namespace {
 
 /// The effective outline asked for; it goes along when the row changes behind the preview.
 std::int16_t EfficaceChiesto() {
-    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
-    return section != nullptr && *section ? (*section)->SezioneEfficaceDaPlottare : std::int16_t(0);
+    std::int16_t efficace = 0;
+    SullaSezioneInUso(
+        [&efficace](const ConContorniEfficaci auto& s) { efficace = s.SezioneEfficaceDaPlottare; });
+    return efficace;
 }
 
 /// The drawing keeps the section that it shows, whatever row comes after it.
-template <typename Sezione>
-Disegno DisegnoDi(const std::shared_ptr<Sezione>& section, std::int16_t efficace) {
-    if (!section)
-        return {};
-    section->SezioneEfficaceDaPlottare = efficace;
-    return {section->Designation, [section](Superficie* target, std::string_view maschera) {
-                section->PlottaSezione(target, maschera, Dispositivo);
-            }};
-}
-
 Disegno DisegnoCorrente(std::int16_t efficace) {
-    return std::visit(
-        [efficace](const auto& section) -> Disegno {
-            if constexpr (std::is_same_v<std::decay_t<decltype(section)>, std::monostate>)
-                return {};
-            else
-                return DisegnoDi(section, efficace);
-        },
-        SezioneCorrente);
+    Disegno disegno;
+    SullaSezioneInUso([&disegno, efficace, tenuta = SezioneCorrente](auto& section) {
+        if constexpr (ConContorniEfficaci<std::decay_t<decltype(section)>>)
+            section.SezioneEfficaceDaPlottare = efficace;
+        disegno = {section.Designation, [tenuta](Superficie* target, std::string_view maschera) {
+                       SullaSezione([&](const auto& s) { s.PlottaSezione(target, maschera, Dispositivo); },
+                                    tenuta);
+                   }};
+    });
+    return disegno;
 }
 
 } // namespace

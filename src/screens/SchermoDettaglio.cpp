@@ -9,7 +9,7 @@
 #include "frame/ui/Protetto.h"
 #include "frame/ui/UpDown.h"
 #include "screens/SchermoSezione.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 
@@ -64,9 +64,9 @@ void SchermoDettaglio::PassoDiRiga(bool su) {
     const auto old = SezioneCorrente; // keeps the old section alive while the new one takes its place
     MuoviRecord(chiamante_->Data1->Recordset(), su);
     QCoreApplication::processEvents();
-    const auto* before = std::get_if<std::shared_ptr<SezioneDoppioT>>(&old);
-    if (before != nullptr && *before && Sezione() != nullptr && before->get() != Sezione())
-        RiportaValori(**before, *Sezione());
+    const auto* before = SezioneInUso<SezioneDoppioT>(old);
+    if (before != nullptr && Sezione() != nullptr && before != Sezione())
+        RiportaValori(*before, *Sezione());
     Ricalcola();
 }
 
@@ -78,10 +78,7 @@ void SchermoDettaglio::PassoDiAcciaio(bool su) {
 
 void SchermoDettaglio::RiportaValori(const SezioneDoppioT& /*vecchia*/, SezioneDoppioT& /*nuova*/) {}
 
-SezioneDoppioT* SchermoDettaglio::Sezione() {
-    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
-    return section == nullptr ? nullptr : section->get();
-}
+SezioneDoppioT* SchermoDettaglio::Sezione() { return SezioneInUso<SezioneDoppioT>(); }
 
 void MuoviAcciaio(bool su, SchermoSezione& chiamante, QLineEdit* tipo, QLineEdit* fy) {
     const int index = chiamante.ComboTipoAcciaio->currentIndex() + (su ? 1 : -1);

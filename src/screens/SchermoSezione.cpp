@@ -20,7 +20,7 @@
 #include "screens/GeneraleSchermi.h"
 #include "screens/PlottaSezioneCorrente.h"
 #include "screens/frmGamma.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 
@@ -109,9 +109,8 @@ void SchermoSezione::CollegaDati() {
     Collega(ComboTipoAcciaio, &QComboBox::activated, this, [this] { AcciaioScelto(); });
     Collega(Txt_fy, &QLineEdit::textChanged, this, [this] { AcciaioCambiato(*this); });
     Collega(Txt_fu, &QLineEdit::textChanged, this, [this] {
-        const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
-        if (!CaricaForm && RigaInMano() && section != nullptr)
-            (*section)->fu = NumeroIn(Txt_fu);
+        if (!CaricaForm && RigaInMano())
+            SullaSezioneInUso([this](auto& section) { section.fu = NumeroIn(Txt_fu); });
     });
     for (int i = 0; i < Txt_L0.size(); ++i)
         Collega(Txt_L0[i], &QLineEdit::textChanged, this, [this, i] { LunghezzaCambiata(i); });
@@ -163,8 +162,9 @@ void SchermoSezione::LunghezzaCambiata(int index) {
         return;
     }
     constexpr double m_a_mm = 1000;
-    if (const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente))
-        (index == 0 ? (*section)->L0y : (*section)->L0z) = NumeroIn(Txt_L0[index]) * m_a_mm;
+    SullaSezioneInUso([&](ConLunghezze auto& section) {
+        (index == 0 ? section.L0y : section.L0z) = NumeroIn(Txt_L0[index]) * m_a_mm;
+    });
     Risultati();
 }
 

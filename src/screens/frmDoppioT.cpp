@@ -16,7 +16,7 @@
 #include "screens/FrmPresFless.h"
 #include "screens/GeneraleSchermi.h"
 #include "screens/SagomaDi.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 #include "ui_frmDoppioT.h"
 
 namespace sagomi {
@@ -31,10 +31,7 @@ constexpr int twipsAPixel = 15;
 constexpr int larghezzaInizialeTwips = 9600;
 constexpr int altezzaInizialeTwips = 7680;
 
-SezioneDoppioT* Sezione() {
-    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
-    return section == nullptr ? nullptr : section->get();
-}
+SezioneDoppioT* Sezione() { return SezioneInUso<SezioneDoppioT>(); }
 
 void Mostra(QLineEdit* box, double value) { box->setText(QString::fromStdString(FormatoCifre(4, value))); }
 

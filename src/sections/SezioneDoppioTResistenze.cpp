@@ -1,12 +1,12 @@
 #include "sections/SezioneDoppioT.h"
 
 #include <cmath>
-#include <memory>
-#include <variant>
+#include <string>
 
 #include "frame/GeneraleSagomi.h"
 #include "sections/Eurocod3.h"
 #include "sections/Limiti.h"
+#include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 
@@ -38,8 +38,9 @@ Curve CurveLaminata(const SezioneDoppioT& s) {
 }
 
 const std::string& Acciaio(const SezioneDoppioT& s) {
-    const auto* corrente = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
-    return corrente && *corrente ? (*corrente)->TipoAcciaio : s.TipoAcciaio;
+    const std::string* tipo = &s.TipoAcciaio;
+    SullaSezioneInUso([&tipo](const auto& inUso) { tipo = &inUso.TipoAcciaio; });
+    return *tipo;
 }
 
 /// A slenderness; data of the row that do not divide are flagged.

@@ -2,15 +2,12 @@
 
 #include <QRadioButton>
 
-#include <memory>
-
-#include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "sections/Eurocod3.h"
-#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneCorrente.h"
 #include "ui_frmTimoshenko.h"
 
 namespace sagomi {
@@ -22,10 +19,7 @@ constexpr double mm4InCm4 = 1e4;
 constexpr double mm6InCm6 = 1e6;
 constexpr double NmmInkNm = 1e6;
 
-const SezioneDoppioT* Sezione() {
-    const auto* section = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente);
-    return section == nullptr ? nullptr : section->get();
-}
+const SezioneDoppioT* Sezione() { return SezioneInUso<SezioneDoppioT>(); }
 
 /// A value of the section, with the figures that it is kept with.
 void Riempi(QLineEdit* box, double value) {
