@@ -5,19 +5,16 @@
 #include <cmath>
 #include <limits>
 
-#include "criticalloads/ui/frmTimoshenko.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Esito.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "screens/FrmVerifiche.h"
 #include "screens/InvioFra.h"
 #include "screens/Mostra.h"
 #include "screens/SchermoSezione.h"
+#include "screens/TavolaFattori.h"
 #include "screens/Unita.h"
-#include "screens/frmMsvergH1.h"
-#include "screens/frmMsvergH2.h"
 #include "sections/Eurocod3.h"
 #include "ui_FrmMsverg.h"
 
@@ -80,13 +77,18 @@ void FrmMsverg::CollegaEventi() {
         Ricalcola();
     });
     Collega(ui_->LblVerifiche, &QPushButton::clicked, this,
-            [this] { NavigaSchermi::Unico().Prendi<FrmVerifiche>().ApriDa(*chiamante_, *this); });
-    Collega(ui_->CmdH1, &QPushButton::clicked, this,
-            [this] { NavigaSchermi::Unico().Prendi<frmMsvergH1>().Apri(*this); });
-    Collega(ui_->CmdH2, &QPushButton::clicked, this,
-            [this] { NavigaSchermi::Unico().Prendi<frmMsvergH2>().Apri(*this); });
+            [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmVerifiche"), *this); });
+    Collega(ui_->CmdH1, &QPushButton::clicked, this, [this] { ApreTavola(QStringLiteral("frmMsvergH1")); });
+    Collega(ui_->CmdH2, &QPushButton::clicked, this, [this] { ApreTavola(QStringLiteral("frmMsvergH2")); });
     Collega(ui_->Command1, &QPushButton::clicked, this,
-            [this] { NavigaSchermi::Unico().Prendi<frmTimoshenko>().Apri(*this); });
+            [this] { NavigaSchermi::Unico().Apri(QStringLiteral("frmTimoshenko"), *this); });
+}
+
+void FrmMsverg::ApreTavola(const QString& nome) {
+    NavigaSchermi::Unico().Prendi<TavolaFattori>(nome).alScelta = [this](const FattoriScelti& f) {
+        PrendeFattori(f.k, f.C1, f.C2, f.C3);
+    };
+    NavigaSchermi::Unico().Apri(nome, *this);
 }
 
 void FrmMsverg::RiempiDati() {

@@ -32,6 +32,8 @@ protected:
 
 private:
     void CollegaEventi();
+    /// Opens a table of factors that hands its row to PrendeFattori.
+    void ApreTavola(const QString& nome);
     void ScriveDati();
     void MostraResistenza();
     /// The terms of class 4 carry the shift of the centroid.

@@ -13,8 +13,6 @@
 #include "frame/ui/Esito.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "screens/FrmMsverg.h"
-#include "screens/FrmVerifiche.h"
 #include "screens/InvioFra.h"
 #include "screens/Mostra.h"
 #include "screens/PulsanteDiagramma.h"
@@ -84,10 +82,10 @@ void FrmPresFless::CollegaEventi() {
         Ricalcola();
     });
     Collega(ui_->LblVerifiche, &QPushButton::clicked, this,
-            [this] { NavigaSchermi::Unico().Prendi<FrmVerifiche>().ApriDa(*chiamante_, *this); });
+            [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmVerifiche"), *this); });
     for (QPushButton* open : {ui_->LblFlessTors, ui_->LbLFlessTorsHelp})
         Collega(open, &QPushButton::clicked, this,
-                [this] { NavigaSchermi::Unico().Prendi<FrmMsverg>().ApriDa(*chiamante_, *this); });
+                [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmMsverg"), *this); });
 }
 
 void FrmPresFless::CollegaDiagrammi() {

@@ -1,55 +1,18 @@
 #include "screens/GeneraleSchermi.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QLibraryInfo>
-#include <QSignalBlocker>
 #include <QTranslator>
 
-#include "catalogue/ErroreCatalogo.h"
-#include "catalogue/Famiglie.h"
-#include "drawing/ui/FrmPltSezione.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
-#include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/MessaggiQt.h"
 #include "frame/ui/NavigaSchermi.h"
-#include "frame/ui/Protetto.h"
-#include "screens/SchermoSezione.h"
-#include "screens/frmDoppioT.h"
-#include "sections/SezioneCorrente.h"
+#include "screens/TavolaSchermi.h"
 
 namespace sagomi {
-
-namespace {
-
-constexpr int cifreRisultati = 4;  ///< figures of the result boxes
-constexpr double fyMinimo = 0.001; ///< a strength not above this is no strength [N/mm2]
-
-void SvuotaCampi(SchermoSezione& schermo) {
-    for (QLineEdit* field : schermo.TxtProf)
-        field->clear();
-    schermo.SvuotaRisultati();
-}
-
-/// Pending events are let through around the reading, as the windows are being made.
-void LeggeTabella(SchermoSezione& schermo) {
-    QCoreApplication::processEvents();
-    schermo.Data1->Refresh();
-    QCoreApplication::processEvents();
-}
-
-void RiempieAcciai(SchermoSezione& schermo) {
-    const QSignalBlocker quiet(schermo.ComboTipoAcciaio);
-    schermo.ComboTipoAcciaio->clear();
-    for (const std::string& name : NomeAcciaio)
-        schermo.ComboTipoAcciaio->addItem(QString::fromStdString(name));
-    schermo.ComboTipoAcciaio->setCurrentIndex(IndiceAcciaio);
-}
-
-} // namespace
 
 void PreparaApplicazione() {
     QCoreApplication::setApplicationName(QStringLiteral("Sagomi"));
@@ -75,137 +38,9 @@ void InizializzaProgramma() {
     IniLeggeScrive("L");
     AvvioInCorso = true;
     ImpostaGamma();
-    NavigaSchermi::Unico().Passa(NavigaSchermi::Unico().Prendi<frmDoppioT>(), nullptr);
+    CaricaTavolaSchermi();
+    NavigaSchermi::Unico().Passa(NavigaSchermi::Unico().Prendi(QStringLiteral("frmDoppioT")), nullptr);
     AvvioInCorso = false;
-}
-
-void CaricaFormComune(SchermoSezione& schermo) {
-    schermo.CaricaForm = true;
-    schermo.Data1->Recordset().CampiAttesi(
-        static_cast<int>(Intestazioni(schermo.objectName().toStdString()).size()));
-    Protetto("Errore in form_load", [&schermo] {
-        schermo.Data1->RecordSource(schermo.SQLstring);
-        LeggeTabella(schermo);
-        schermo.DBGrid1->FormatoGriglia(schermo.Data1->Recordset().Campi() - 1);
-    });
-    // Whatever became of the table, the rest of the screen stands.
-    Protetto("Errore in form_load", [&schermo] { schermo.LegaRiga(); });
-    Protetto("Errore in form_load", [&schermo] {
-        RiempieAcciai(schermo);
-        schermo.AcciaioScelto();
-        schermo.AggiornaBarraDiStato();
-    });
-}
-
-void AttivaForm(SchermoSezione& schermo) {
-    Protetto("Errore in AttivaForm " + schermo.objectName().toStdString(), [&schermo] {
-        Guida::ImpostaFile(schermo.FileGuida());
-        // Columns and beams of a joint are picked from these two alone.
-        if (schermo.objectName() == u"frmDoppioT" || schermo.objectName() == u"frmSaldati")
-            schermo.cmdSceltaSagomoGiunto->setVisible(SceltaSagomoGiunto);
-        NavigaSchermi::Unico().Prendi<FrmPltSezione>(); // stands ready behind every main screen
-        IndiceAcciaio = static_cast<std::int16_t>(std::max(0, schermo.ComboTipoAcciaio->currentIndex()));
-        AggiornaCaptionNormativa(schermo);
-        schermo.CaricaForm = false;
-        schermo.DatiRisultati();
-        ScreenAttivo = schermo.objectName().toStdString();
-    });
-}
-
-void AggiornaCaptionNormativa(SchermoSezione& schermo) {
-    schermo.NormativaMain->setText(QString::fromStdString("Normativa: " + NomeNormativa()));
-}
-
-void CambioFamiglia(SchermoSezione& schermo, std::string_view foglio) {
-    std::vector<bool> ticks;
-    for (const QCheckBox* box : schermo.ChkTipo)
-        ticks.push_back(box->isChecked());
-    int order = 0;
-    for (int i = 0; i < schermo.OptionOrdina.size(); ++i)
-        if (schermo.OptionOrdina[i]->isChecked())
-            order = i;
-    const auto query = CambioFamigliaQuery(schermo.objectName().toStdString(), ticks, order, foglio);
-    if (!query)
-        return;
-    try {
-        schermo.Data1->RecordSource(*query);
-        schermo.Data1->Refresh(); // its signal takes the first row over
-    } catch (const ErroreCatalogo& e) {
-        Avvisa(e.what());
-        return;
-    }
-    schermo.DBGrid1->FormatoGriglia(schermo.Data1->Recordset().Campi() - 1);
-    if (!schermo.RigaInMano())
-        SvuotaCampi(schermo);
-    schermo.AggiornaBarraDiStato();
-}
-
-void RecordCambiato(SchermoSezione& schermo, int indice) {
-    if (indice != 0 || !schermo.RigaInMano())
-        return;
-    const Lettore& row = schermo.Data1->Recordset();
-    const int fields = std::min(row.Campi(), static_cast<int>(schermo.TxtProf.size()));
-    for (int i = 1; i < fields; ++i)
-        schermo.TxtProf[i]->setText(QString::fromStdString(FormatoCifre(cifreRisultati, row.Numero(i))));
-    schermo.Leggedati();
-    if (ServerAttivo && OggettoServer != nullptr)
-        OggettoServer->SagomoCambiato();
-    if (schermo.CaricaForm)
-        return;
-    schermo.Risultati();
-    schermo.ControlloDati();
-}
-
-void AcciaioCambiato(SchermoSezione& schermo) {
-    if (schermo.CaricaForm)
-        return;
-    const double fy = NumeroIn(schermo.Txt_fy);
-    if (!(fy > fyMinimo)) {
-        Avvisa("fy deve essere > 0");
-        return;
-    }
-    if (!schermo.RigaInMano())
-        return;
-    SullaSezioneInUso([fy](auto& section) {
-        section.fy = fy;
-        section.TipoAcciaio = NomeAcciaio[IndiceAcciaio + 1];
-    });
-    schermo.Risultati();
-}
-
-void RidimensionaForm(SchermoSezione& schermo) {
-    if (ServerAttivo || schermo.CaricaForm)
-        return;
-    auto& state = schermo.ridimensiona;
-    if (schermo.isMinimized()) {
-        state.minimizzata = true;
-        return;
-    }
-    if (state.minimizzata) {
-        state.minimizzata = false;
-        return;
-    }
-    constexpr double twipsAPixel = 15;
-    if (schermo.isMaximized() && !state.scalata) {
-        state.altezza = schermo.height() * twipsAPixel / schermo.HeightIni;
-        state.larghezza = schermo.width() * twipsAPixel / schermo.WidthIni;
-        state.scalata = true;
-        schermo.ScalaControlli(state.larghezza, state.altezza);
-    } else if (!schermo.isMaximized() && state.scalata) {
-        state.scalata = false;
-        schermo.ScalaControlli(1, 1);
-    }
-}
-
-void ChiudiProgramma() {
-    if (ChiusuraInCorso)
-        return;
-    ChiusuraInCorso = true;
-    NavigaSchermi::Unico().ScaricaTutti();
-    IniLeggeScrive("S");
-    if (ServerAttivo && OggettoServer != nullptr)
-        OggettoServer->SagomiQuittato();
-    QCoreApplication::quit();
 }
 
 } // namespace sagomi

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 
+#include <stdexcept>
+
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/NavigaSchermi.h"
@@ -23,6 +25,14 @@ void SchermoDettaglio::ApriDa(SchermoSezione& chiamante, Schermo& da) {
         RiempiDati();
     }
     NavigaSchermi::Unico().Apri(*this, da);
+}
+
+void SchermoDettaglio::Apri(Schermo& da) {
+    const auto* detail = dynamic_cast<SchermoDettaglio*>(&da);
+    auto* main = detail != nullptr ? detail->chiamante_ : dynamic_cast<SchermoSezione*>(&da);
+    if (main == nullptr)
+        throw std::logic_error(da.objectName().toStdString() + " non ha sagomi");
+    ApriDa(*main, da);
 }
 
 void SchermoDettaglio::AllAttivazione() {

@@ -24,6 +24,10 @@ public:
     /// @param da         the screen that the user comes from, where closing goes back to
     void ApriDa(SchermoSezione& chiamante, Schermo& da);
 
+    /// The same from a main screen, or from another detail for the main screen that this one works for. A
+    /// screen of another kind throws std::logic_error.
+    void Apri(Schermo& da);
+
     /// Fills the screen from SezioneCorrente and the caller's controls.
     virtual void CompletaForm(SchermoSezione& chiamante) = 0;
 

@@ -8,18 +8,14 @@
 #include <QMenuBar>
 #include <QStatusBar>
 
-#include "fasteners/ui/frmBulloni.h"
-#include "fasteners/ui/frmSaldature.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
+#include "frame/ui/ChiudiProgramma.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "screens/FrmInform.h"
-#include "screens/GeneraleSchermi.h"
 #include "screens/PlottaSezioneCorrente.h"
-#include "screens/frmGamma.h"
 #include "sections/SezioneCorrente.h"
 
 namespace sagomi {
@@ -73,22 +69,14 @@ void SchermoSezione::CollegaControlli() {
 void SchermoSezione::CollegaMenu() {
     if (auto* quit = findChild<QAction*>(QStringLiteral("mnuFileItem_0")))
         Collega(quit, &QAction::triggered, this, [] { ChiudiProgramma(); });
-    Collega(NormativaMain, &QAction::triggered, this,
-            [this] { NavigaSchermi::Unico().Prendi<frmGamma>().Apri(*this); });
     Collega(findChild<QAction*>(QStringLiteral("mnuHelp_0")), &QAction::triggered, this,
             [this] { Guida::Apri(FileGuida()); });
-    Collega(findChild<QAction*>(QStringLiteral("mnuHelp_1")), &QAction::triggered, this,
-            [this] { NavigaSchermi::Unico().Prendi<FrmInform>().Apri(*this); });
-    CollegaVoce("mnuCollegamenti_0", [this] { NavigaSchermi::Unico().Prendi<frmBulloni>().Apri(*this); });
-    CollegaVoce("mnuCollegamenti_1", [this] { NavigaSchermi::Unico().Prendi<frmSaldature>().Apri(*this); });
-}
-
-void SchermoSezione::CollegaVoce(const char* nome, std::function<void()> apre) {
-    auto* entry = findChild<QAction*>(QString::fromLatin1(nome));
-    if (entry == nullptr)
-        return;
-    entry->setEnabled(true);
-    Collega(entry, &QAction::triggered, this, [apre = std::move(apre)] { apre(); });
+    NavigaSchermi::Unico().CollegaMenu(*this);
+    if (cmdSceltaSagomoGiunto != nullptr)
+        Collega(cmdSceltaSagomoGiunto, &QPushButton::clicked, this, [this] {
+            SceltaSagomoGiunto = false;
+            NavigaSchermi::Unico().Apri(QStringLiteral("frmGiunti"), *this);
+        });
 }
 
 void SchermoSezione::CollegaTabella() {
@@ -118,6 +106,13 @@ void SchermoSezione::CollegaDati() {
     for (QLineEdit* box : findChildren<QLineEdit*>())
         if (!box->isReadOnly() && box->parentWidget() != ComboTipoAcciaio)
             entries->Osserva(box);
+}
+
+void SchermoSezione::Apri(Schermo& da) { NavigaSchermi::Unico().Passa(*this, &da); }
+
+void SchermoSezione::ApriDettaglio(const QString& nome) {
+    if (RigaInMano())
+        NavigaSchermi::Unico().Apri(nome, *this);
 }
 
 QPushButton* SchermoSezione::Pulsante(const char* nome) const {

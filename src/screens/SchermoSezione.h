@@ -5,9 +5,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 
 #include "catalogue/ui/GrigliaCatalogo.h"
 #include "catalogue/ui/LettoreDati.h"
@@ -21,7 +21,7 @@ class QLabel;
 namespace sagomi {
 
 /// A main screen: the catalogue table of a family of sections, what the user types, what the section answers.
-/// The routines of GeneraleSchermi work on these members; a screen fills them by CollegaControlli from the
+/// The reactions below the class work on these members; a screen fills them by CollegaControlli from the
 /// controls of its form and adds what is its own.
 class SchermoSezione : public Schermo, public MostraVplRd {
     Q_OBJECT
@@ -45,6 +45,9 @@ public:
     QList<QRadioButton*> OptionOrdina;
     QPushButton* cmdSceltaSagomoGiunto = nullptr;
     QAction* NormativaMain = nullptr;
+
+    /// Shows the screen in the place of the one that the user comes from.
+    void Apri(Schermo& da);
 
     /// Builds a new section from the row in hand and the entries; it becomes SezioneCorrente.
     virtual void Leggedati() = 0;
@@ -91,6 +94,8 @@ protected:
     /// What Enter does in the entry boxes; false leaves it to the tab order.
     virtual bool Invio(QLineEdit* casella);
     [[nodiscard]] QPushButton* Pulsante(const char* nome) const;
+    /// Opens a detail screen of that name, where there is a row to work on.
+    void ApriDettaglio(const QString& nome);
 
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -100,8 +105,6 @@ protected:
 
 private:
     void CollegaMenu();
-    /// Enables a menu entry and gives it its screen; a family of sections without that entry goes without.
-    void CollegaVoce(const char* nome, std::function<void()> apre);
     void CollegaDati();
     void CollegaTabella();
     void RigaNuova();
@@ -111,5 +114,28 @@ private:
     std::map<QWidget*, QFont> caratteriIniziali_;
     bool attendeMisura_ = false; ///< maximised, the new size has not arrived yet
 };
+
+// The reactions that all main screens have in common.
+
+/// The common part of a main screen's load, once its workbook and SQLstring are set.
+void CaricaFormComune(SchermoSezione& schermo);
+
+/// A main screen has become the active one.
+void AttivaForm(SchermoSezione& schermo);
+
+/// Caption of the menu entry that names the code of rules in force.
+void AggiornaCaptionNormativa(SchermoSezione& schermo);
+
+/// Rebuilds the query from the boxes, or over a sheet given as queries name it, and reads the table anew.
+void CambioFamiglia(SchermoSezione& schermo, std::string_view foglio = {});
+
+/// The display field `indice` has changed; for 0, the name, the new row is taken over.
+void RecordCambiato(SchermoSezione& schermo, int indice);
+
+/// The text of Txt_fy has changed.
+void AcciaioCambiato(SchermoSezione& schermo);
+
+/// The window has been maximised, minimised or restored.
+void RidimensionaForm(SchermoSezione& schermo);
 
 } // namespace sagomi

@@ -9,12 +9,6 @@
 #include "frame/Numeri.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "screens/FrmClasseDoppioTU.h"
-#include "screens/FrmInstabDoppioT.h"
-#include "screens/FrmMcRd.h"
-#include "screens/FrmMsverg.h"
-#include "screens/FrmPresFless.h"
-#include "screens/GeneraleSchermi.h"
 #include "screens/SagomaDi.h"
 #include "sections/SezioneCorrente.h"
 #include "ui_frmDoppioT.h"
@@ -56,23 +50,21 @@ frmDoppioT::frmDoppioT() : SchermoSezione(QStringLiteral("frmDoppioT")), ui_(new
 frmDoppioT::~frmDoppioT() = default;
 
 void frmDoppioT::CollegaDettagli() {
-    Collega(ui_->LblClasse, &QPushButton::clicked, this, [this] { Apri<FrmClasseDoppioTU>(); });
-    Collega(ui_->LblNbRd, &QPushButton::clicked, this, [this] { Apri<FrmInstabDoppioT>(); });
-    Collega(ui_->LblMcRd, &QPushButton::clicked, this, [this] { Apri<FrmMcRd>(); });
-    Collega(ui_->Command1, &QPushButton::clicked, this, [this] { Apri<FrmPresFless>(); });
+    const std::pair<QPushButton*, const char*> details[] = {{ui_->LblClasse, "FrmClasseDoppioTU"},
+                                                            {ui_->LblNbRd, "FrmInstabDoppioT"},
+                                                            {ui_->LblMcRd, "FrmMcRd"},
+                                                            {ui_->Command1, "FrmPresFless"}};
+    for (const auto& [button, name] : details)
+        Collega(button, &QPushButton::clicked, this,
+                [this, name = QString::fromLatin1(name)] { ApriDettaglio(name); });
     Collega(ui_->Command2, &QPushButton::clicked, this, [this] {
         if (SezioneDoppioT* s = Sezione()) {
             s->k = 1;
             s->Kw = 1;
             s->C1 = 1;
         }
-        Apri<FrmMsverg>();
+        ApriDettaglio(QStringLiteral("FrmMsverg"));
     });
-}
-
-template <typename T> void frmDoppioT::Apri() {
-    if (RigaInMano())
-        NavigaSchermi::Unico().Prendi<T>().ApriDa(*this, *this);
 }
 
 void frmDoppioT::Carica() {

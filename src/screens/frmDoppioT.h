@@ -28,7 +28,6 @@ protected:
 private:
     void Carica();
     void CollegaDettagli();
-    template <typename T> void Apri(); ///< opens a detail screen
     void MostraClassi();
     void MostraResistenze();
 

@@ -3,16 +3,14 @@
 #include <QPushButton>
 #include <QScrollBar>
 
-#include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "screens/FrmMsverg.h"
 #include "screens/Mostra.h"
 #include "sections/FattoriMomento.h"
 #include "ui_frmMsvergH1.h"
 
 namespace sagomi {
 
-frmMsvergH1::frmMsvergH1() : Schermo(QStringLiteral("frmMsvergH1")), ui_(new Ui::frmMsvergH1) {
+frmMsvergH1::frmMsvergH1() : TavolaFattori(QStringLiteral("frmMsvergH1")), ui_(new Ui::frmMsvergH1) {
     ui_->setupUi(this);
     RiempiRighe();
     AllineaColonne();
@@ -66,16 +64,9 @@ void frmMsvergH1::AllineaColonne() {
     ui_->scorre->setMinimumHeight(visibili * row + edges.top() + edges.bottom());
 }
 
-void frmMsvergH1::Apri(FrmMsverg& da) {
-    da_ = &da;
-    NavigaSchermi::Unico().Apri(*this, da);
-}
-
 void frmMsvergH1::Scegli(std::size_t riga) {
     const RigaF11& row = ProspettoF11()[riga];
-    if (da_ != nullptr)
-        da_->PrendeFattori(row.k, row.C1, 0, row.C3); // no transverse load, no height of it
-    NavigaSchermi::Unico().Lascia(*this);
+    Consegna({row.k, row.C1, 0, row.C3}); // no transverse load, no height of it
 }
 
 } // namespace sagomi

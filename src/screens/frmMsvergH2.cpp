@@ -2,16 +2,14 @@
 
 #include <QPushButton>
 
-#include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "screens/FrmMsverg.h"
 #include "screens/Mostra.h"
 #include "sections/FattoriMomento.h"
 #include "ui_frmMsvergH2.h"
 
 namespace sagomi {
 
-frmMsvergH2::frmMsvergH2() : Schermo(QStringLiteral("frmMsvergH2")), ui_(new Ui::frmMsvergH2) {
+frmMsvergH2::frmMsvergH2() : TavolaFattori(QStringLiteral("frmMsvergH2")), ui_(new Ui::frmMsvergH2) {
     ui_->setupUi(this);
     RiempiRighe();
     PreparaContenuto();
@@ -36,16 +34,9 @@ void frmMsvergH2::RiempiRighe() {
     }
 }
 
-void frmMsvergH2::Apri(FrmMsverg& da) {
-    da_ = &da;
-    NavigaSchermi::Unico().Apri(*this, da);
-}
-
 void frmMsvergH2::Scegli(std::size_t riga) {
     const RigaF12& row = ProspettoF12()[riga];
-    if (da_ != nullptr)
-        da_->PrendeFattori(row.k, row.C1, row.C2, row.C3);
-    NavigaSchermi::Unico().Lascia(*this);
+    Consegna({row.k, row.C1, row.C2, row.C3});
 }
 
 } // namespace sagomi

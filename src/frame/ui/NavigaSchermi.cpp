@@ -1,8 +1,12 @@
 #include "frame/ui/NavigaSchermi.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QScopedValueRollback>
 #include <QWindow>
+
+#include <algorithm>
+#include <stdexcept>
 
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/Protetto.h"
@@ -23,6 +27,54 @@ NavigaSchermi::NavigaSchermi() {
         riposo_.start();
     });
     connect(&riposo_, &QTimer::timeout, this, &NavigaSchermi::FinestraInPrimoPiano);
+}
+
+const VoceSchermo& NavigaSchermi::Voce(const QString& nome) const {
+    const auto voce = std::find_if(tavola_.begin(), tavola_.end(), [&nome](const VoceSchermo& v) {
+        return v.nome.compare(nome, Qt::CaseInsensitive) == 0;
+    });
+    if (voce == tavola_.end())
+        throw std::out_of_range("nessuno schermo si chiama " + nome.toStdString());
+    return *voce;
+}
+
+void NavigaSchermi::Aggiungi(VoceSchermo voce) {
+    Togli(voce.nome);
+    tavola_.append(std::move(voce));
+}
+
+void NavigaSchermi::Togli(const QString& nome) {
+    tavola_.removeIf(
+        [&nome](const VoceSchermo& v) { return v.nome.compare(nome, Qt::CaseInsensitive) == 0; });
+}
+
+Schermo& NavigaSchermi::Crea(const std::function<Schermo*()>& crea) {
+    if (ChiusuraInCorso || inCreazione_)
+        throw std::logic_error("un altro schermo si sta aprendo o il programma si chiude");
+    const QScopedValueRollback guard(inCreazione_, true);
+    Schermo* s = crea(); // its load lets events through
+    schermi_.append(s);
+    return *s;
+}
+
+Schermo& NavigaSchermi::Prendi(const QString& nome) {
+    Schermo* made = Trova(nome);
+    return made != nullptr ? *made : Crea(Voce(nome).crea);
+}
+
+void NavigaSchermi::Apri(const QString& nome, Schermo& da) {
+    const auto apri = Voce(nome).apri;
+    apri(Prendi(nome), da);
+}
+
+void NavigaSchermi::CollegaMenu(Schermo& da) {
+    for (const VoceSchermo& voce : tavola_) {
+        auto* entry = voce.menu.isEmpty() ? nullptr : da.findChild<QAction*>(voce.menu);
+        if (entry == nullptr)
+            continue; // a window without that entry goes without
+        entry->setEnabled(true);
+        Collega(entry, &QAction::triggered, &da, [this, nome = voce.nome, &da] { Apri(nome, da); });
+    }
 }
 
 Schermo* NavigaSchermi::Trova(const QString& nome) const {

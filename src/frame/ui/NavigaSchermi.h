@@ -3,20 +3,20 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QScopedValueRollback>
 #include <QTimer>
 #include <QWindow>
 
-#include <stdexcept>
+#include <functional>
 
-#include "frame/GeneraleSagomi.h"
 #include "frame/ui/Schermo.h"
+#include "frame/ui/VoceSchermo.h"
 
 namespace sagomi {
 
-/// Owns the screens and their activation. A screen is activated once when a navigation has made it visible,
-/// and once when the user brings another visible screen of the program to the front. Message boxes, file and
-/// print dialogs, minimising, and leaving the program for another never activate anything.
+/// Owns the screens, knows the table of those that are opened by name, and activates them. A screen is
+/// activated once when a navigation has made it visible, and once when the user brings another visible screen
+/// of the program to the front. Message boxes, file and print dialogs, minimising, and leaving the program
+/// for another never activate anything.
 class NavigaSchermi : public QObject {
     Q_OBJECT
 public:
@@ -27,16 +27,29 @@ public:
         for (Schermo* s : schermi_)
             if (auto* found = dynamic_cast<T*>(s))
                 return *found;
-        if (ChiusuraInCorso || inCreazione_)
-            throw std::logic_error("un altro schermo si sta aprendo o il programma si chiude");
-        const QScopedValueRollback guard(inCreazione_, true);
-        auto* s = new T; // its load lets events through
-        schermi_.append(s);
-        return *s;
+        return static_cast<T&>(Crea([] { return new T; }));
     }
+
+    /// Adds a row to the table of screens; one of the same name is replaced.
+    void Aggiungi(VoceSchermo voce);
+    void Togli(const QString& nome);
+    [[nodiscard]] const QList<VoceSchermo>& Tavola() const { return tavola_; }
 
     /// The screen of that object name if it has been created, else nullptr.
     [[nodiscard]] Schermo* Trova(const QString& nome) const;
+
+    /// The screen of that name, created from the table at its first use. A name that is not in the table
+    /// throws std::out_of_range.
+    Schermo& Prendi(const QString& nome);
+
+    /// The same as the kind T that its opener works with; another kind throws std::bad_cast.
+    template <typename T> T& Prendi(const QString& nome) { return dynamic_cast<T&>(Prendi(nome)); }
+
+    /// Opens the screen of that name as its row of the table says; without a row std::out_of_range.
+    void Apri(const QString& nome, Schermo& da);
+
+    /// Enables the menu entries of a window whose screens stand in the table; each opens its own.
+    void CollegaMenu(Schermo& da);
 
     /// Shows a screen and activates it; then hides the one that it was reached from.
     void Passa(Schermo& a, Schermo* da);
@@ -61,11 +74,14 @@ signals:
 
 private:
     NavigaSchermi();
+    [[nodiscard]] const VoceSchermo& Voce(const QString& nome) const;
+    Schermo& Crea(const std::function<Schermo*()>& crea);
     void ApertaPerUltima(Schermo& s);
     void Mostra(Schermo& s);
     void Attiva(Schermo& s);
     void FinestraInPrimoPiano();
 
+    QList<VoceSchermo> tavola_;
     QList<Schermo*> schermi_; ///< in the order of their last opening
     Schermo* attivo_ = nullptr;
     QPointer<QWindow> inPrimoPiano_; ///< has the focus since the last change

@@ -6,6 +6,7 @@
 #include "frame/ui/AmbienteFinestre.h"
 #include "frame/ui/MessaggiQt.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/RigaDi.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -25,6 +26,8 @@ struct Secondo : Primo {
         visibileIlPrimo = NavigaSchermi::Unico().Trova("Primo")->isVisible();
     }
 };
+
+struct Terzo : Primo {};
 
 class NavigaSchermiTest : public AmbienteFinestre {};
 
@@ -84,6 +87,32 @@ TEST_F(NavigaSchermiTest, MinimisingAndHidingActivateNothing) {
     a.showNormal();
     QCoreApplication::processEvents();
     EXPECT_EQ(a.attivazioni, 1);
+}
+
+TEST_F(NavigaSchermiTest, ScreenOpensByItsNameOnceCreated) {
+    auto& n = NavigaSchermi::Unico();
+    n.Aggiungi(RigaDi<Secondo>("Secondo"));
+    auto& a = n.Prendi<Primo>();
+    n.Passa(a, nullptr);
+    n.Apri("Secondo", a);
+    auto* b = n.Trova("Secondo");
+    ASSERT_NE(b, nullptr);
+    EXPECT_EQ(b->origine, &a) << "a screen without an opener of its own stays in front";
+    EXPECT_EQ(&n.Prendi<Secondo>("secondo"), b);
+    EXPECT_THROW(n.Prendi<Terzo>("Secondo"), std::bad_cast);
+    n.Togli("Secondo");
+    EXPECT_THROW(n.Apri("Terzo", a), std::out_of_range);
+}
+
+TEST_F(NavigaSchermiTest, RowOfTheSameNameReplacesTheOlderOne) {
+    auto& n = NavigaSchermi::Unico();
+    const auto before = n.Tavola().size();
+    n.Aggiungi(RigaDi<Primo>("Secondo"));
+    n.Aggiungi(RigaDi<Secondo>("Secondo", "mnuSecondo"));
+    ASSERT_EQ(n.Tavola().size(), before + 1);
+    EXPECT_EQ(n.Tavola().back().menu, "mnuSecondo");
+    n.Togli("Secondo");
+    EXPECT_EQ(n.Tavola().size(), before);
 }
 
 TEST_F(NavigaSchermiTest, MessageBoxDoesNotReactivateTheScreenBehind) {

@@ -1,0 +1,35 @@
+#include "screens/TavolaSchermi.h"
+
+#include "criticalloads/ui/frmTimoshenko.h"
+#include "drawing/ui/FrmPltSezione.h"
+#include "fasteners/ui/frmBulloni.h"
+#include "fasteners/ui/frmSaldature.h"
+#include "frame/ui/RigaDi.h"
+#include "screens/FrmClasseDoppioTU.h"
+#include "screens/FrmInform.h"
+#include "screens/FrmInstabDoppioT.h"
+#include "screens/FrmMcRd.h"
+#include "screens/FrmMsverg.h"
+#include "screens/FrmPresFless.h"
+#include "screens/FrmVerifiche.h"
+#include "screens/frmDoppioT.h"
+#include "screens/frmGamma.h"
+#include "screens/frmMsvergH1.h"
+#include "screens/frmMsvergH2.h"
+
+namespace sagomi {
+
+void CaricaTavolaSchermi() {
+    for (const VoceSchermo& voce :
+         {RigaDi<frmDoppioT>("frmDoppioT", "mnuTipoT"), RigaDi<frmBulloni>("frmBulloni", "mnuCollegamenti_0"),
+          RigaDi<frmSaldature>("frmSaldature", "mnuCollegamenti_1"),
+          RigaDi<frmGamma>("frmGamma", "NormativaMain"), RigaDi<FrmInform>("FrmInform", "mnuHelp_1"),
+          RigaDi<FrmClasseDoppioTU>("FrmClasseDoppioTU"), RigaDi<FrmInstabDoppioT>("FrmInstabDoppioT"),
+          RigaDi<FrmMcRd>("FrmMcRd"), RigaDi<FrmPresFless>("FrmPresFless"), RigaDi<FrmMsverg>("FrmMsverg"),
+          RigaDi<frmMsvergH1>("frmMsvergH1"), RigaDi<frmMsvergH2>("frmMsvergH2"),
+          RigaDi<FrmVerifiche>("FrmVerifiche"), RigaDi<frmTimoshenko>("frmTimoshenko"),
+          RigaDi<FrmPltSezione>("FrmPltSezione")})
+        NavigaSchermi::Unico().Aggiungi(voce);
+}
+
+} // namespace sagomi
