@@ -4,12 +4,12 @@
 pacchetti_programma=(
   g++ cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-translations-l10n
-  libfreexl-dev libgsf-1-dev libsqlite3-dev
+  libgsf-1-dev libsqlite3-dev
   fonts-dejavu-core
 )
 pacchetti_schermo=(xvfb xauth imagemagick x11-utils)
 pacchetti_prove=(
-  libgtest-dev libgmock-dev
+  libgtest-dev libgmock-dev libfreexl-dev
   python3 python3-xlrd python3-ezdxf
   poppler-utils
   clang clang-format clang-tidy

@@ -1,78 +1,22 @@
 #include "catalogue/Catalogo.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstddef>
-#include <cstdint>
-#include <map>
+#include <exception>
+#include <new>
 #include <set>
 #include <sqlite3.h>
-#include <sys/stat.h>
 #include <system_error>
-#include <utility>
 
+#include "catalogue/CartellaXls.h"
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/Famiglie.h"
-#include "catalogue/LettoreXls.h"
+#include "catalogue/LimitiXls.h"
+#include "catalogue/TabellaFoglio.h"
 
 namespace sagomi {
 
 namespace {
-
-std::string Minuscole(std::string_view s) {
-    std::string m(s);
-    std::ranges::transform(m, m.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return m;
-}
-
-std::string SenzaSpaziAiBordi(const std::string& s) {
-    const std::size_t da = s.find_first_not_of(" \t\r\n");
-    if (da == std::string::npos)
-        return {};
-    return s.substr(da, s.find_last_not_of(" \t\r\n") - da + 1);
-}
-
-/// A name as SQL takes any name.
-std::string TraVirgolette(std::string_view nome) {
-    std::string q = "\"";
-    for (const char c : nome)
-        q.append(c == '"' ? 2 : 1, c);
-    return q + '"';
-}
-
-/// The table of a sheet: its name in a query without the square brackets.
-std::string NomeTabella(std::string_view foglio) {
-    const std::string q = NomeFoglioQuery(foglio);
-    return q.substr(1, q.size() - 2);
-}
-
-std::size_t NumeroColonne(const Foglio& foglio) {
-    std::size_t n = 0;
-    for (const auto& riga : foglio.righe)
-        n = std::max(n, riga.size());
-    return n;
-}
-
-/// Names of the fields: the headings, F and the number of the column where there is none, a number behind a
-/// name that has been before.
-std::vector<std::string> NomiCampi(const Foglio& foglio) {
-    std::vector<std::string> nomi;
-    std::set<std::string> usati;
-    const std::size_t n = std::max<std::size_t>(NumeroColonne(foglio), 1);
-    for (std::size_t c = 0; c < n; ++c) {
-        const std::string titolo = SenzaSpaziAiBordi(TestoDi(foglio.Leggi(0, c)));
-        const std::string base = titolo.empty() ? "F" + std::to_string(c + 1) : titolo;
-        std::string nome = base;
-        for (int i = 1; !usati.insert(Minuscole(nome)).second; ++i)
-            nome = base + std::to_string(i);
-        nomi.push_back(nome);
-    }
-    return nomi;
-}
-
-bool RigaVuota(const std::vector<Cella>& riga) {
-    return std::ranges::all_of(riga, [](const Cella& c) { return Vuoto(c.valore); });
-}
 
 /// A statement of the database, from its text to its end.
 class Istruzione {
@@ -117,21 +61,6 @@ public:
         }
     }
 
-    void Lega(int posto, const Valore& v) {
-        int esito = SQLITE_OK;
-        if (const auto* numero = std::get_if<double>(&v))
-            esito = sqlite3_bind_double(nodo_, posto, *numero);
-        else if (const auto* testo = std::get_if<std::string>(&v))
-            esito = sqlite3_bind_text(nodo_, posto, testo->data(), static_cast<int>(testo->size()),
-                                      SQLITE_TRANSIENT); // NOLINT: the library's own constant
-        else
-            esito = sqlite3_bind_null(nodo_, posto);
-        if (esito != SQLITE_OK)
-            Fallisce();
-    }
-
-    void Riavvolgi() { sqlite3_reset(nodo_); }
-
 private:
     [[noreturn]] void Fallisce() const { throw ErroreCatalogo(sqlite3_errmsg(db_), sqlite3_errcode(db_)); }
 
@@ -140,41 +69,42 @@ private:
     std::string_view resto_;
 };
 
-/// Names of fields as SQL lists them.
-std::string Elenco(const std::vector<std::string>& nomi) {
-    std::string testo;
-    for (const std::string& nome : nomi)
-        testo += (testo.empty() ? "" : ",") + TraVirgolette(nome);
-    return testo;
-}
+/// The rows of a query, as far as they are no more than the workbook itself could be.
+class Raccolta {
+public:
+    explicit Raccolta(EsitoQuery& esito) : esito_(esito) {}
 
-void CaricaRighe(sqlite3* db, const std::string& tabella, const Foglio& foglio,
-                 const std::vector<std::string>& nomi) {
-    std::string testo = "INSERT INTO " + tabella + " (_rowid_," + Elenco(nomi) + ") VALUES (?";
-    for (std::size_t c = 0; c < nomi.size(); ++c)
-        testo += ",?";
-    Istruzione inserisce(db, testo + ")");
-    for (std::size_t r = 1; r < foglio.righe.size(); ++r) {
-        if (RigaVuota(foglio.righe[r]))
-            continue;
-        inserisce.Lega(1, static_cast<double>(r + 1));
-        for (std::size_t c = 0; c < nomi.size(); ++c)
-            inserisce.Lega(static_cast<int>(c + 2), foglio.Leggi(r, c));
-        inserisce.Passo();
-        inserisce.Riavvolgi();
+    void Aggiunge(const Istruzione& istruzione) {
+        const auto n = static_cast<std::size_t>(istruzione.Colonne());
+        celle_ += n;
+        auto& riga = esito_.righe.emplace_back();
+        riga.reserve(n);
+        for (std::size_t c = 0; c < n; ++c) {
+            riga.push_back(istruzione.Leggi(static_cast<int>(c)));
+            if (const auto* testo = std::get_if<std::string>(&riga.back()))
+                byte_ += testo->size();
+        }
+        if (celle_ > massimeCelle || byte_ > massimoTestoCelle)
+            throw ErroreCatalogo("l'interrogazione dà troppi dati");
     }
-}
 
-/// Columns have no type, so that each value stays what it is in the sheet.
-void CaricaFoglio(sqlite3* db, const Foglio& foglio) {
-    const std::string tabella = TraVirgolette(NomeTabella(foglio.nome));
-    const std::vector<std::string> nomi = NomiCampi(foglio);
-    Istruzione(db, "CREATE TABLE " + tabella + " (" + Elenco(nomi) + ")").Passo();
-    CaricaRighe(db, tabella, foglio, nomi);
-}
+private:
+    EsitoQuery& esito_;
+    std::size_t celle_ = 0, byte_ = 0;
+};
+
+constexpr std::string_view soloSelect = "l'interrogazione non è un SELECT";
 
 /// What SQLite says of a query in the words of the user, who knows sheets and columns.
-std::string InItaliano(std::string_view causa) {
+std::string InItaliano(std::string_view causa, int numero) {
+    if (numero == 0)
+        return std::string(causa); // our own words
+    if (numero == SQLITE_INTERRUPT)
+        return "l'interrogazione è troppo lunga";
+    if (numero == SQLITE_NOMEM)
+        return "memoria insufficiente";
+    if (causa.ends_with(" may not be dropped") || causa.ends_with(" may not be modified"))
+        return std::string(soloSelect);
     constexpr std::string_view senzaTabella = "no such table: ";
     constexpr std::string_view senzaColonna = "no such column: ";
     if (causa.starts_with(senzaTabella)) {
@@ -191,78 +121,105 @@ std::string InItaliano(std::string_view causa) {
     return "l'interrogazione non riesce (" + std::string(causa) + ")";
 }
 
-/// Tells two states of a file apart.
-struct Impronta {
-    dev_t disco = 0;
-    ino_t nodo = 0;
-    off_t lunghezza = 0;
-    std::int64_t secondi = 0, nanosecondi = 0;
-    bool operator==(const Impronta&) const = default;
-};
-
-Impronta ImprontaDi(const std::filesystem::path& file) {
-    struct stat s {};
-    if (stat(file.c_str(), &s) != 0)
-        return {};
-    return {s.st_dev, s.st_ino, s.st_size, s.st_mtim.tv_sec, s.st_mtim.tv_nsec};
-}
-
+/// The workbooks that are held, the one used last in front.
 struct Aperto {
-    Impronta impronta;
-    std::weak_ptr<Catalogo> catalogo;
+    std::filesystem::path file;
+    std::shared_ptr<Catalogo> catalogo;
 };
 
-std::map<std::filesystem::path, Aperto>& Aperti() {
-    static std::map<std::filesystem::path, Aperto> aperti;
+std::vector<Aperto>& Aperti() {
+    static std::vector<Aperto> aperti;
     return aperti;
 }
 
+/// One step in many of a query: stops it when it has had enough of them.
+int ContaPassi(void* restano) { return --*static_cast<int*>(restano) < 0 ? 1 : 0; }
+
 } // namespace
+
+/// What lives as long as the tables do.
+struct Catalogo::Stato {
+    explicit Stato(const std::filesystem::path& file) : cartella(file) {}
+
+    CartellaXls cartella;
+    std::string causa; ///< why a sheet could not be read
+    int restano = 0;   ///< steps of the query in hand, in lots
+};
 
 void Catalogo::Chiude::operator()(sqlite3* db) const { sqlite3_close(db); }
 
 std::shared_ptr<Catalogo> Catalogo::Apri(const std::filesystem::path& file) {
-    const Impronta impronta = ImprontaDi(file);
-    Aperto& aperto = Aperti()[file];
-    if (auto gia = aperto.catalogo.lock(); gia && aperto.impronta == impronta)
-        return gia;
-    auto nuovo = std::make_shared<Catalogo>(file);
-    aperto = {impronta, nuovo};
-    return nuovo;
+    constexpr std::size_t massimiAperti = 4;
+    auto& aperti = Aperti();
+    const auto gia = std::ranges::find(aperti, file, &Aperto::file);
+    if (gia != aperti.end()) {
+        if (gia->catalogo->Impronta() == ImprontaDi(file)) {
+            std::rotate(aperti.begin(), gia, gia + 1);
+            return aperti.front().catalogo;
+        }
+        aperti.erase(gia);
+    }
+    aperti.insert(aperti.begin(), {file, std::make_shared<Catalogo>(file)});
+    aperti.resize(std::min(aperti.size(), massimiAperti));
+    return aperti.front().catalogo;
 }
 
-Catalogo::Catalogo(const std::filesystem::path& file) : nome_(file.string()) {
-    const CartellaDati cartella = LeggiXls(file);
-    sqlite3* db = nullptr;
-    const int esito = sqlite3_open(":memory:", &db);
-    db_.reset(db);
+Catalogo::Catalogo(const std::filesystem::path& file) : file_(file) {
     try {
-        if (esito != SQLITE_OK)
-            throw ErroreCatalogo("memoria insufficiente", esito);
-        for (const Foglio& foglio : cartella.fogli)
-            CaricaFoglio(db, foglio);
-    } catch (const ErroreCatalogo& e) {
-        throw ErroreCatalogo("Errore nella lettura di \"" + nome_ + "\": " + e.what() + ".", e.Numero());
+        stato_ = std::make_unique<Stato>(file);
+        ApreTabelle();
+    } catch (const std::bad_alloc&) {
+        throw ErroreLettura(file, "memoria insufficiente");
+    } catch (const std::exception& e) {
+        throw ErroreLettura(file, e.what());
+    }
+}
+
+Catalogo::~Catalogo() = default;
+
+const ImprontaFile& Catalogo::Impronta() const { return stato_->cartella.Impronta(); }
+
+void Catalogo::ApreTabelle() {
+    sqlite3* db = nullptr;
+    const int esito = sqlite3_open_v2(
+        ":memory:", &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+    db_.reset(db);
+    if (esito != SQLITE_OK)
+        throw std::bad_alloc();
+    std::set<std::string> nomi;
+    for (std::size_t i = 0; i < stato_->cartella.Fogli(); ++i) {
+        const std::string nome = NomeTabella(stato_->cartella.Nome(i));
+        if (nome.find('\0') == std::string::npos && nomi.insert(Minuscole(nome)).second)
+            AggiungeTabella(
+                db, nome, [stato = stato_.get(), i] { return stato->cartella.Legge(i); }, stato_->causa);
     }
 }
 
 EsitoQuery Catalogo::Esegui(std::string_view query) const {
-    EsitoQuery esito;
+    constexpr int passiPerLotto = 10'000, massimiLotti = 5'000;
+    stato_->causa.clear();
+    stato_->restano = massimiLotti;
+    sqlite3_progress_handler(db_.get(), passiPerLotto, ContaPassi, &stato_->restano);
     try {
-        Istruzione istruzione(db_.get(), query);
-        if (!istruzione.SoloLettura())
-            throw ErroreCatalogo("non è un SELECT");
-        for (int c = 0; c < istruzione.Colonne(); ++c)
-            esito.campi.push_back(istruzione.NomeColonna(c));
-        while (istruzione.Passo()) {
-            auto& riga = esito.righe.emplace_back();
-            for (int c = 0; c < istruzione.Colonne(); ++c)
-                riga.push_back(istruzione.Leggi(c));
-        }
+        return Raccoglie(query);
     } catch (const ErroreCatalogo& e) {
-        throw ErroreCatalogo("Errore nella lettura di \"" + nome_ + "\": " + InItaliano(e.what()) + ".",
-                             e.Numero());
+        const bool nelFoglio = !stato_->causa.empty();
+        throw ErroreLettura(file_, nelFoglio ? stato_->causa : InItaliano(e.what(), e.Numero()), e.Numero());
+    } catch (const std::bad_alloc&) {
+        throw ErroreLettura(file_, "memoria insufficiente", SQLITE_NOMEM);
     }
+}
+
+EsitoQuery Catalogo::Raccoglie(std::string_view query) const {
+    EsitoQuery esito;
+    Istruzione istruzione(db_.get(), query);
+    if (!istruzione.SoloLettura())
+        throw ErroreCatalogo(std::string(soloSelect));
+    for (int c = 0; c < istruzione.Colonne(); ++c)
+        esito.campi.push_back(istruzione.NomeColonna(c));
+    Raccolta raccolta(esito);
+    while (istruzione.Passo())
+        raccolta.Aggiunge(istruzione);
     return esito;
 }
 

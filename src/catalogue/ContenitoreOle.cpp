@@ -2,7 +2,7 @@
 
 #include <cstddef>
 #include <gsf/gsf-infile-msole.h>
-#include <gsf/gsf-input-stdio.h>
+#include <gsf/gsf-input-memory.h>
 #include <gsf/gsf-outfile-msole.h>
 #include <gsf/gsf-output-memory.h>
 #include <gsf/gsf-utils.h>
@@ -70,25 +70,36 @@ std::string ContenitoreOle(std::string_view nome, const std::vector<std::uint8_t
     return {byte, byte + gsf_output_size(memoria.get())};
 }
 
-std::vector<std::uint8_t> LeggiFlussoOle(const std::filesystem::path& file,
+namespace {
+
+/// The contents of an open stream. One that says to be longer than its whole file is damaged.
+std::vector<std::uint8_t> Contenuto(GsfInput* flusso, std::size_t massimo) {
+    const auto lunghezza = static_cast<std::size_t>(gsf_input_size(flusso));
+    const guint8* byte = nullptr;
+    if (lunghezza <= massimo)
+        byte = gsf_input_read(flusso, lunghezza, nullptr);
+    if (byte == nullptr && lunghezza > 0)
+        throw std::runtime_error("la cartella di lavoro è danneggiata (contenitore)");
+    return {byte, byte + lunghezza};
+}
+
+} // namespace
+
+std::vector<std::uint8_t> LeggiFlussoOle(std::span<const std::uint8_t> file,
                                          std::initializer_list<const char*> nomi) {
     AvviaLibreria();
     const Silenzio silenzio;
-    const Oggetto<GsfInput> ingresso(gsf_input_stdio_new(file.c_str(), nullptr));
-    if (!ingresso)
-        throw std::runtime_error("il file non si apre");
-    const Oggetto<GsfInfile> contenitore(gsf_infile_msole_new(ingresso.get(), nullptr));
+    Oggetto<GsfInput> ingresso;
+    if (!file.empty())
+        ingresso.reset(gsf_input_memory_new(file.data(), static_cast<gsf_off_t>(file.size()), FALSE));
+    Oggetto<GsfInfile> contenitore;
+    if (ingresso)
+        contenitore.reset(gsf_infile_msole_new(ingresso.get(), nullptr));
     if (!contenitore)
         throw std::runtime_error("il file non è una cartella di lavoro .xls");
-    for (const char* nome : nomi) {
-        const Oggetto<GsfInput> flusso(gsf_infile_child_by_name(contenitore.get(), nome));
-        if (!flusso)
-            continue;
-        std::vector<std::uint8_t> dati(static_cast<std::size_t>(gsf_input_size(flusso.get())));
-        if (!dati.empty() && gsf_input_read(flusso.get(), dati.size(), dati.data()) == nullptr)
-            throw std::runtime_error("la cartella di lavoro è danneggiata (contenitore)");
-        return dati;
-    }
+    for (const char* nome : nomi)
+        if (const Oggetto<GsfInput> flusso{gsf_infile_child_by_name(contenitore.get(), nome)})
+            return Contenuto(flusso.get(), file.size());
     throw std::runtime_error("il file non contiene una cartella di lavoro");
 }
 

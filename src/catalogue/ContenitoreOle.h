@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,9 +16,10 @@ namespace sagomi {
 std::string ContenitoreOle(std::string_view nome, const std::vector<std::uint8_t>& dati);
 
 /// The contents of a stream of a compound document: of the first of these names that it has.
-/// Throws std::runtime_error, in Italian, when the file cannot be opened, is no compound document, has no
-/// such stream, or the stream is cut short.
-std::vector<std::uint8_t> LeggiFlussoOle(const std::filesystem::path& file,
+/// @param file  the bytes of the document
+/// Throws std::runtime_error, in Italian, when they are no compound document, it has no such stream, or the
+/// stream is cut short.
+std::vector<std::uint8_t> LeggiFlussoOle(std::span<const std::uint8_t> file,
                                          std::initializer_list<const char*> nomi);
 
 } // namespace sagomi

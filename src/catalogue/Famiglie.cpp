@@ -5,6 +5,7 @@
 #include <iterator>
 #include <stdexcept>
 
+#include "catalogue/TabellaFoglio.h"
 #include "frame/Messaggi.h"
 
 namespace sagomi {
@@ -117,9 +118,15 @@ const FamigliaSchermo& FamigliaDi(std::string_view schermo) {
     return *f;
 }
 
-std::string NomeFoglioQuery(std::string_view foglio) {
+std::string NomeTabella(std::string_view foglio) {
     const std::string nome(foglio);
-    return nome.find(' ') == std::string::npos ? "[" + nome + "$]" : "['" + nome + "'$]";
+    return nome.find(' ') == std::string::npos ? nome + "$" : "'" + nome + "'$";
+}
+
+std::string NomeFoglioQuery(std::string_view foglio) {
+    const std::string tabella = NomeTabella(foglio);
+    const bool chiudeLeParentesi = tabella.find(']') != std::string::npos;
+    return chiudeLeParentesi ? TraVirgolette(tabella) : "[" + tabella + "]";
 }
 
 std::string ComponiQuery(std::string_view schermo, const std::vector<std::string>& scelti, int ordine) {

@@ -28,7 +28,11 @@ const FamigliaSchermo& FamigliaDi(std::string_view schermo);
 inline constexpr std::string_view messaggioNessunTipo =
     "ERRORE !! Non è stato selezionato nessun tipo di sagomo";
 
-/// The sheet as a query names it: IPE gives "[IPE$]", L Uguali gives "['L Uguali'$]".
+/// The table of a sheet: IPE gives "IPE$", L Uguali gives "'L Uguali'$".
+std::string NomeTabella(std::string_view foglio);
+
+/// The sheet as a query names it: IPE gives "[IPE$]", L Uguali gives "['L Uguali'$]". A name with a closing
+/// bracket stands between quotation marks instead, so that it is a name whatever it says.
 std::string NomeFoglioQuery(std::string_view foglio);
 
 /// The query over the ticked sheets.

@@ -4,13 +4,11 @@
 #include <cstdint>
 
 #include "catalogue/FoglioDati.h"
+#include "catalogue/LimitiXls.h"
 #include "catalogue/RecordBiff.h"
 #include "catalogue/TabellaStringhe.h"
 
 namespace sagomi {
-
-inline constexpr std::size_t massimeRighe = 65536; ///< of a sheet of this format
-inline constexpr std::size_t massimeColonne = 256;
 
 /// Appends one sheet to the stream: page set-up, column widths, rows and cells, and a view whose heading row,
 /// where there is one, stays in place. A number that is no number (infinite, NaN) leaves its cell empty.

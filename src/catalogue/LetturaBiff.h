@@ -3,61 +3,91 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <stdexcept>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "catalogue/RecordBiff.h"
 
 namespace sagomi {
 
-/// A record as it lies in a stream, with the CONTINUE records behind it. The bytes are those of the stream:
-/// they live as long as it does.
-struct RecordLetto {
-    unsigned genere = 0;
-    std::size_t posizione = 0;                          ///< of its head in the stream
-    std::vector<std::span<const std::uint8_t>> parti{}; ///< its own bytes, then those of each CONTINUE
-
-    [[nodiscard]] bool E(Biff b) const { return genere == static_cast<unsigned>(b); }
-    [[nodiscard]] std::size_t Lunghezza() const { return parti.front().size(); }
-
-    /// Numbers at a place in the record's own bytes, 0 beyond their end.
-    [[nodiscard]] unsigned U8(std::size_t i) const;
-    [[nodiscard]] unsigned U16(std::size_t i) const;
-    [[nodiscard]] std::uint32_t U32(std::size_t i) const;
-    [[nodiscard]] double F64(std::size_t i) const;
+/// Bytes of a workbook that are not what they should be. The text is the Italian word for the part that they
+/// belong to ("testi", "celle").
+class DannoBiff : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
 };
 
-/// All records of a stream, up to the filling at its end. Throws std::runtime_error when a length goes beyond
-/// the stream.
-std::vector<RecordLetto> LeggiRecord(std::span<const std::uint8_t> flusso);
+/// Goes from record to record of a stream. Nothing is copied: the stream must outlive it.
+class CursoreBiff {
+public:
+    explicit CursoreBiff(std::span<const std::uint8_t> flusso, std::size_t posizione = 0)
+        : flusso_(flusso), prossimo_(posizione) {}
 
-/// Reads strings from a record and from what continues it. Throws std::runtime_error where there are fewer
-/// bytes than a string announces.
+    /// The next record. False at the end of the stream and where nothing but filling follows. Throws
+    /// DannoBiff when its length goes beyond the stream.
+    bool Avanza();
+
+    /// The next record if it continues this one.
+    bool AvanzaSeContinua();
+
+    [[nodiscard]] unsigned Genere() const { return genere_; }
+    [[nodiscard]] bool E(Biff b) const { return genere_ == static_cast<unsigned>(b); }
+    [[nodiscard]] std::span<const std::uint8_t> Corpo() const { return corpo_; }
+    [[nodiscard]] std::size_t Lunghezza() const { return corpo_.size(); }
+
+    /// Numbers at a place in the record. Beyond its end they throw DannoBiff.
+    [[nodiscard]] unsigned U8(std::size_t i) const { return Presi(i, 1)[0]; }
+    [[nodiscard]] unsigned U16(std::size_t i) const;
+    [[nodiscard]] std::uint32_t U32(std::size_t i) const;
+    [[nodiscard]] std::uint64_t U64(std::size_t i) const;
+
+private:
+    [[nodiscard]] const std::uint8_t* Presi(std::size_t i, std::size_t n) const {
+        if (i > corpo_.size() || corpo_.size() - i < n)
+            throw DannoBiff("record corto");
+        return corpo_.data() + i;
+    }
+
+    std::span<const std::uint8_t> flusso_;
+    std::span<const std::uint8_t> corpo_;
+    std::size_t prossimo_;
+    unsigned genere_ = 0;
+};
+
+/// Reads strings from the record in hand and, moving the cursor, from those that continue it. Throws
+/// DannoBiff where there are fewer bytes than a string announces.
 class LettoreStringhe {
 public:
-    /// @param da  where to begin in the record's own bytes
-    LettoreStringhe(const RecordLetto& record, std::size_t da) : parti_(record.parti), i_(da) {}
+    /// @param da  where to begin in the record
+    LettoreStringhe(CursoreBiff& cursore, std::size_t da) : cursore_(cursore), i_(da) {}
 
-    /// Bytes that must stand together in one record.
-    std::span<const std::uint8_t> Prendi(std::size_t n);
+    /// A number of one, two, four bytes, which stand together in one record.
+    unsigned U8() { return Prendi(1)[0]; }
+    unsigned U16();
+    std::uint32_t U32();
 
     /// Passes bytes over, whatever records they stand in.
     void Salta(std::size_t n);
 
-    /// Characters, of one byte or of two as bit 0 of the options tells. In each new record they begin with
-    /// their options anew.
-    std::u16string Caratteri(std::size_t n, unsigned opzioni);
+    /// Characters, of one byte or of two as bit 0 of the options tells; in each new record they begin with
+    /// their options anew. Appended in UTF-8.
+    void Caratteri(std::size_t n, unsigned opzioni, std::string& utf8);
 
-    /// The record in hand: 0 is the first one, each CONTINUE one more.
-    [[nodiscard]] std::size_t Parte() const { return parte_; }
+    /// Bytes of Windows-1252, as workbooks before Excel 97 have them. Appended in UTF-8.
+    void CaratteriAnsi(std::size_t n, std::string& utf8);
 
 private:
     [[nodiscard]] std::span<const std::uint8_t> Resto() const;
     void ProssimaParte();
+    std::span<const std::uint8_t> Prendi(std::size_t n);
 
-    const std::vector<std::span<const std::uint8_t>>& parti_;
-    std::size_t parte_ = 0;
+    CursoreBiff& cursore_;
     std::size_t i_;
 };
+
+/// The number in an RK or MULRK record: an integer of 30 bits or the upper 30 bits of a number, each perhaps
+/// to be divided by 100.
+double DecodificaRk(std::uint32_t rk);
 
 } // namespace sagomi

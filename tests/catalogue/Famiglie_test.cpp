@@ -39,6 +39,12 @@ TEST(FamiglieSchermi, StateAtLoadAgreesWithTheFirstQuery) {
     }
 }
 
+TEST(NomeFoglioQuery, ABracketInTheNameCannotEndIt) {
+    EXPECT_EQ(NomeFoglioQuery("a]"), "\"a]$\"");
+    EXPECT_EQ(NomeFoglioQuery("a \"]--"), "\"'a \"\"]--'$\"");
+    EXPECT_EQ(NomeTabella("a \"]--"), "'a \"]--'$");
+}
+
 TEST(NomeFoglioQuery, ApostrophesWhereTheNameHasABlank) {
     EXPECT_EQ(NomeFoglioQuery("IPE"), "[IPE$]");
     EXPECT_EQ(NomeFoglioQuery("L Uguali"), "['L Uguali'$]");

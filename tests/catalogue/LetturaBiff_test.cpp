@@ -1,57 +1,76 @@
 #include "catalogue/LetturaBiff.h"
 
-#include <stdexcept>
-
 #include <gtest/gtest.h>
 
 using namespace sagomi;
 
 namespace {
 
-TEST(LeggiRecord, OneBehindTheOtherUpToTheFilling) {
+TEST(CursoreBiff, OneRecordBehindTheOtherUpToTheFilling) {
     FlussoBiff f;
     f.Record(Biff::CodePage, Ottetti().U16(0x04B0));
     f.Record(Biff::Number, Ottetti().U16(1).U16(2).U16(15).F64(3.691));
     f.Record(Biff::Eof);
     f.AllungaA(100);
-    const auto record = LeggiRecord(f.dati());
-    ASSERT_EQ(record.size(), 3U);
-    EXPECT_TRUE(record[0].E(Biff::CodePage));
-    EXPECT_EQ(record[0].posizione, 0U);
-    EXPECT_EQ(record[1].posizione, 6U);
-    EXPECT_EQ(record[1].Lunghezza(), 14U);
-    EXPECT_EQ(record[1].U16(2), 2U);
-    EXPECT_EQ(record[1].F64(6), 3.691);
-    EXPECT_TRUE(record[2].E(Biff::Eof));
+    CursoreBiff c(f.dati());
+    ASSERT_TRUE(c.Avanza());
+    EXPECT_TRUE(c.E(Biff::CodePage));
+    ASSERT_TRUE(c.Avanza());
+    EXPECT_EQ(c.Lunghezza(), 14U);
+    EXPECT_EQ(c.U16(2), 2U);
+    EXPECT_EQ(c.U64(6), 0x400D872B020C49BAU); // 3.691
+    ASSERT_TRUE(c.Avanza());
+    EXPECT_TRUE(c.E(Biff::Eof));
+    EXPECT_FALSE(c.Avanza());
 }
 
-TEST(LeggiRecord, ContinuationsBelongToTheirRecord) {
+TEST(CursoreBiff, BeginsWhereItIsTold) {
+    FlussoBiff f;
+    f.Record(Biff::CodePage, Ottetti().U16(0x04B0));
+    f.Record(Biff::Eof);
+    CursoreBiff c(f.dati(), 6);
+    ASSERT_TRUE(c.Avanza());
+    EXPECT_TRUE(c.E(Biff::Eof));
+    EXPECT_FALSE(CursoreBiff(f.dati(), 10).Avanza());
+    EXPECT_FALSE(CursoreBiff(f.dati(), 0xFFFFFFFFU).Avanza());
+    EXPECT_FALSE(CursoreBiff(f.dati(), 0xFFFFFFFFU).AvanzaSeContinua());
+}
+
+TEST(CursoreBiff, ContinuationsAreTakenWhenAskedFor) {
     FlussoBiff f;
     f.Record(Biff::Sst, Ottetti().U32(7));
     f.Record(Biff::Continue, Ottetti().U8(1));
-    f.Record(Biff::Continue, Ottetti().U16(2));
     f.Record(Biff::ExtSst);
-    const auto record = LeggiRecord(f.dati());
-    ASSERT_EQ(record.size(), 2U);
-    ASSERT_EQ(record[0].parti.size(), 3U);
-    EXPECT_EQ(record[0].U32(0), 7U);
-    EXPECT_EQ(record[0].parti[2].size(), 2U);
-    EXPECT_EQ(record[0].U8(4), 0U); // beyond its own bytes
+    CursoreBiff c(f.dati());
+    ASSERT_TRUE(c.Avanza());
+    EXPECT_TRUE(c.AvanzaSeContinua());
+    EXPECT_EQ(c.Lunghezza(), 1U);
+    EXPECT_FALSE(c.AvanzaSeContinua());
+    ASSERT_TRUE(c.Avanza());
+    EXPECT_TRUE(c.E(Biff::ExtSst));
 }
 
-TEST(LeggiRecord, LengthsMustFillTheStream) {
+TEST(CursoreBiff, LengthsMustLieInTheStreamAndNumbersInTheRecord) {
     FlussoBiff f;
     f.Record(Biff::CodePage, Ottetti().U16(0x04B0));
     f.Record(Biff::Eof);
     auto corto = f.dati();
     corto[8] = 1;
-    EXPECT_THROW(LeggiRecord(corto), std::runtime_error);
-    corto = f.dati();
+    CursoreBiff c(corto);
+    ASSERT_TRUE(c.Avanza());
+    EXPECT_EQ(c.U16(0), 0x04B0U);
+    EXPECT_THROW(static_cast<void>(c.U16(1)), DannoBiff);
+    EXPECT_THROW(static_cast<void>(c.U8(2)), DannoBiff);
+    EXPECT_THROW(static_cast<void>(c.U32(0xFFFFFFFFU)), DannoBiff);
+    EXPECT_THROW(static_cast<void>(c.U64(0)), DannoBiff);
+    EXPECT_THROW(c.Avanza(), DannoBiff);
     corto.resize(8); // half a head: nothing more to read
-    EXPECT_EQ(LeggiRecord(corto).size(), 1U);
-    EXPECT_TRUE(LeggiRecord({}).empty());
+    CursoreBiff meta(corto);
+    EXPECT_TRUE(meta.Avanza());
+    EXPECT_FALSE(meta.Avanza());
 }
 
+/// A string in two records: a, b narrow, then the euro and z wide, then four bytes.
 std::vector<std::uint8_t> StringaInDueParti() {
     FlussoBiff f;
     f.Record(Biff::Sst, Ottetti().U8(9).U8('a').U8('b'));
@@ -59,26 +78,85 @@ std::vector<std::uint8_t> StringaInDueParti() {
     return f.dati();
 }
 
+std::string Letti(std::size_t da, std::size_t n, unsigned opzioni) {
+    const auto flusso = StringaInDueParti();
+    CursoreBiff c(flusso);
+    c.Avanza();
+    std::string testo;
+    LettoreStringhe(c, da).Caratteri(n, opzioni, testo);
+    return testo;
+}
+
 TEST(LettoreStringhe, CharactersGoOnInTheNextRecordInAnotherWidth) {
     const auto flusso = StringaInDueParti();
-    const auto record = LeggiRecord(flusso);
-    LettoreStringhe l(record[0], 1);
-    EXPECT_EQ(l.Caratteri(4, 0), u"ab\u20ACz");
-    EXPECT_EQ(l.Parte(), 1U);
+    CursoreBiff c(flusso);
+    ASSERT_TRUE(c.Avanza());
+    LettoreStringhe l(c, 1);
+    std::string testo = "> ";
+    l.Caratteri(4, 0, testo);
+    EXPECT_EQ(testo, "> ab\u20ACz");
     l.Salta(3);
-    EXPECT_EQ(l.Prendi(1)[0], 4);
-    EXPECT_THROW(l.Prendi(1), std::runtime_error);
+    EXPECT_EQ(l.U8(), 4U);
+    EXPECT_THROW(l.U8(), DannoBiff);
 }
 
 TEST(LettoreStringhe, TooFewBytes) {
+    EXPECT_NO_THROW(Letti(1, 6, 0)); // 2 narrow, 4 wide
+    EXPECT_THROW(Letti(1, 7, 0), DannoBiff);
+    EXPECT_THROW(Letti(2, 1, 1), DannoBiff); // half a character
     const auto flusso = StringaInDueParti();
-    const auto record = LeggiRecord(flusso);
-    EXPECT_THROW(LettoreStringhe(record[0], 1).Caratteri(7, 0), std::runtime_error); // 2 narrow, 4 wide
-    EXPECT_EQ(LettoreStringhe(record[0], 1).Caratteri(6, 0).size(), 6U);
-    EXPECT_THROW(LettoreStringhe(record[0], 2).Caratteri(1, 1), std::runtime_error); // half a character
-    EXPECT_THROW(LettoreStringhe(record[0], 1).Prendi(3), std::runtime_error);       // not in one record
-    EXPECT_THROW(LettoreStringhe(record[0], 0).Salta(100), std::runtime_error);
-    EXPECT_EQ(LettoreStringhe(record[0], 99).Prendi(1)[0], 1); // beyond the first: the second begins
+    CursoreBiff c(flusso);
+    c.Avanza();
+    EXPECT_THROW(LettoreStringhe(c, 1).U32(), DannoBiff); // not in one record
+    EXPECT_THROW(LettoreStringhe(c, 0).Salta(100), DannoBiff);
+}
+
+TEST(LettoreStringhe, BeyondTheFirstRecordTheSecondBegins) {
+    const auto flusso = StringaInDueParti();
+    CursoreBiff c(flusso);
+    c.Avanza();
+    EXPECT_EQ(LettoreStringhe(c, 99).U8(), 1U);
+}
+
+TEST(LettoreStringhe, TwoHalvesOfACharacterOverABorder) {
+    FlussoBiff f; // U+1F529
+    f.Record(Biff::Sst, Ottetti().U16(0xD83D));
+    f.Record(Biff::Continue, Ottetti().U8(1).U16(0xDD29));
+    CursoreBiff c(f.dati());
+    c.Avanza();
+    std::string testo;
+    LettoreStringhe(c, 0).Caratteri(2, 1, testo);
+    EXPECT_EQ(testo, "\U0001F529");
+}
+
+TEST(LettoreStringhe, NarrowCharactersAreTheFirst256AndAnsiIsWindows1252) {
+    FlussoBiff f;
+    f.Record(Biff::Label, Ottetti().U8(0xE8).U8(0x80).U8('x'));
+    CursoreBiff c(f.dati());
+    c.Avanza();
+    std::string unicode, ansi;
+    LettoreStringhe(c, 0).Caratteri(3, 0, unicode);
+    EXPECT_EQ(unicode, "\u00E8\u0080x");
+    LettoreStringhe(c, 0).CaratteriAnsi(3, ansi);
+    EXPECT_EQ(ansi, "\u00E8\u20ACx");
+    EXPECT_THROW(LettoreStringhe(c, 0).CaratteriAnsi(4, ansi), DannoBiff);
+}
+
+// The four forms, worked out by hand: an integer in the upper 30 bits, the upper 30 bits of a double, each
+// also of the hundredfold.
+TEST(DecodificaRk, TheFourForms) {
+    EXPECT_EQ(DecodificaRk((1234321U << 2U) | 2U), 1234321.0);
+    EXPECT_EQ(DecodificaRk((12345U << 2U) | 3U), 123.45);
+    EXPECT_EQ(DecodificaRk(0x3FF80000U), 1.5);
+    EXPECT_EQ(DecodificaRk(0x3FF80001U), 0.015);
+    EXPECT_EQ(DecodificaRk(0xFFFFFFFEU), -1.0);
+}
+
+TEST(DecodificaRk, UndoesTheWriters) {
+    for (const double v : {0.0, 1.0, -97.5, 0.01, 12.34, 536870911.0, -536870912.0, 1e300 * 0})
+        if (const auto rk = CodificaRk(v)) {
+            EXPECT_EQ(DecodificaRk(*rk), v);
+        }
 }
 
 } // namespace
