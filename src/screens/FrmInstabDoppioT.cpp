@@ -26,6 +26,41 @@ constexpr const char* nomeLamdaSegnato = "lamda segnato";
 /// A row without a radius of gyration has no slenderness about that axis.
 bool Calcolabile(const SezioneDoppioT& s, int axis) { return (axis == 0 ? s.iY : s.iZ) != 0; }
 
+/// EC3 6.3.1, from the slenderness to the resistance.
+const std::vector<Passo>& Derivazione() {
+    static const std::vector<Passo> passi = {
+        {{"", "lamda"}, "Lamda", "lamda", "λ = L0 / i", "Snellezza", "EC3 6.3.1.3"},
+        {{"", "lamda segnato"},
+         "LamdaS",
+         "lamda segnato",
+         "λ̄ = λ / λ1 · √βA",
+         "Snellezza relativa",
+         "EC3 6.3.1.3"},
+        {{"", "curva"}, "Curva", "curva", "", "Curva d'instabilità", "EC3 tabella 6.2"},
+        {{"", "alfa"}, "Alfa", "alfa", "α", "Fattore di imperfezione", "EC3 tabella 6.1"},
+        {{"", "fi"},
+         "Fi",
+         "fi",
+         "φ = ½ [1 + α (λ̄ − 0,2) + λ̄²]",
+         "Termine del coefficiente di riduzione",
+         "EC3 6.3.1.2"},
+        {{"", "chi"},
+         "chi",
+         "chi",
+         "χ = 1 / [φ + √(φ² − λ̄²)]",
+         "Coefficiente di riduzione, al più 1",
+         "EC3 6.3.1.2"},
+        {{"", "N    [kN]", "cr"}, "Ncr", "Ncr", "π² E A / λ²", "Carico critico elastico", "EC3 6.3.1.2"},
+        {{"", "N        [kN]", "b,Rd"},
+         "NbRd",
+         "NbRd",
+         "χ βA A fy / γM1",
+         "Resistenza di progetto all'instabilità",
+         "EC3 6.3.1.1"},
+    };
+    return passi;
+}
+
 void SpiegaFreccia() {
     Avvisa("Imperfezione di freccia iniziale equivalente\n"
            "per la verifica all'instabilità usando l'analisi del secondo ordine\n"
@@ -40,6 +75,7 @@ void SpiegaFreccia() {
 FrmInstabDoppioT::FrmInstabDoppioT()
     : SchermoDettaglio(QStringLiteral("FrmInstabDoppioT")), ui_(new Ui::FrmInstabDoppioT) {
     ui_->setupUi(this);
+    ui_->colonne->Componi(Derivazione(), {QStringLiteral("y-y"), QStringLiteral("z-z")});
     CollegaControlli();
     optChi_ = Vettore<QRadioButton>(QStringLiteral("optChi"));
     optE0_ = Vettore<QRadioButton>(QStringLiteral("optE0"));

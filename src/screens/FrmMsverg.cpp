@@ -7,7 +7,7 @@
 
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/Campi.h"
-#include "frame/ui/Esito.h"
+#include "frame/ui/Casella.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "screens/InvioFra.h"
@@ -23,6 +23,7 @@ namespace sagomi {
 namespace {
 
 constexpr auto figura = "0.0##";
+constexpr int cifreProdotto = 14; ///< width of a factor times a moment
 
 void Scrive(QLineEdit* box, double value) { box->setText(QString::fromStdString(TestoPiano(value))); }
 
@@ -51,11 +52,65 @@ QString Titolo(int classe) {
                              : QStringLiteral("(flessione e compressione)- Classe 1/2 - EC3 #5.5.4. (2)"));
 }
 
+/// The interaction with its two forms of the moments' terms: as they are, and with the shift of the centroid.
+Formula Interazione() {
+    return {.termini =
+                {{.sopra = {{"", "N", "Sd"}},
+                  .sotto = {{"", "N", "b,z,Rd"}},
+                  .valoreSopra = VoceValore("LblNsd", "Forza assiale di progetto [kN]", "NSd [kN]"),
+                  .valoreSotto = VoceValore(
+                      "LblNbzRd", "Resistenza all'instabilità per inflessione intorno a z-z [kN], EC3 6.3.1",
+                      "Nb,z,Rd [kN]")},
+                 {.sopra = {{"", "k", "LT"}, {"", "M", "y,Sd"}},
+                  .sotto = {{"", "M", "b,Rd"}},
+                  .valoreSopra = VoceValore(
+                      "LblKLTMySd", "Fattore kLT per il momento intorno a y-y [kNm], ENV 1993-1-1 5.5.4 (2)",
+                      "kLT My,Sd", cifreProdotto),
+                  .valoreSotto = VoceValore(
+                      "LblMbRd", "Resistenza all'instabilità flesso-torsionale [kNm], ENV 1993-1-1 5.5.2",
+                      "Mb,Rd [kNm]"),
+                  .altro = {{"", "k", "LT"},
+                            {"", "("},
+                            {"", "M", "y,Sd"},
+                            {"", "+"},
+                            {"", "N", "Sd"},
+                            {"", "e", "Ny"},
+                            {"", ")"}},
+                  .valoreAltro = VoceValore("LakLTMySd4",
+                                            "Fattore kLT per il momento intorno a y-y con lo spostamento del "
+                                            "baricentro [kNm], ENV 1993-1-1 5.5.4 (6)",
+                                            "kLT (My,Sd + NSd eNy)", cifreProdotto),
+                  .piu = "LblValPiu1"},
+                 {.sopra = {{"", "k", "z"}, {"", "M", "z,Sd"}},
+                  .sotto = {{"", "M", "c,z,Rd"}},
+                  .valoreSopra = VoceValore(
+                      "LblkzMzSd", "Fattore kz per il momento intorno a z-z [kNm], ENV 1993-1-1 5.5.4 (2)",
+                      "kz Mz,Sd", cifreProdotto),
+                  .valoreSotto = VoceValore(
+                      "LblMczRd", "Momento resistente intorno a z-z, con GammaM1 [kNm], ENV 1993-1-1 5.5.4",
+                      "Mc,z,Rd [kNm]"),
+                  .altro = {{"", "k", "z"},
+                            {"", "("},
+                            {"", "M", "z,Sd"},
+                            {"", "+"},
+                            {"", "N", "Sd"},
+                            {"", "e", "Nz"},
+                            {"", ")"}},
+                  .valoreAltro = VoceValore("LblkzMzSd4",
+                                            "Fattore kz per il momento intorno a z-z con lo spostamento del "
+                                            "baricentro [kNm], ENV 1993-1-1 5.5.4 (6)",
+                                            "kz (Mz,Sd + NSd eNz)", cifreProdotto),
+                  .piu = "LblValPiu2"}},
+            .uguale = "LblValUguale",
+            .somma = VoceSomma("Lbl_Risult", "Somma dei termini, passa se non supera 1, ENV 1993-1-1 5.5.4"),
+            .esito = VoceEsito("Lbl_Risultato")};
+}
+
 } // namespace
 
 FrmMsverg::FrmMsverg() : SchermoDettaglio(QStringLiteral("FrmMsverg")), ui_(new Ui::FrmMsverg) {
     ui_->setupUi(this);
-    ScegliRiga(1);
+    ui_->formula->Componi(Interazione());
     CollegaControlli(InvioFra({ui_->fraSezione->Txt_fy, ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd,
                                ui_->fraAzioni->TxtMzsd, ui_->Txt_L, ui_->Txt_k, ui_->Txt_Kw, ui_->Txt_Zg,
                                ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3}));
@@ -162,32 +217,23 @@ void FrmMsverg::MostraResistenza() {
     Mostra(ui_->Lbl_MbRd, figura, Valido(s, s.MbRd / NmmInkNm));
 }
 
-void FrmMsverg::ScegliRiga(int classe) {
-    const bool classe4 = classe > 3;
-    for (QWidget* part : QList<QWidget*>{ui_->simboliMy4, ui_->simboliMz4, ui_->LakLTMySd4, ui_->LblkzMzSd4})
-        part->setVisible(classe4);
-    for (QWidget* part : QList<QWidget*>{ui_->simboliMy, ui_->simboliMz, ui_->LblKLTMySd, ui_->LblkzMzSd})
-        part->setVisible(!classe4);
-}
-
 void FrmMsverg::MostraInterazione() {
     SezioneDoppioT& s = *Sezione();
     ui_->Frame1->setTitle(Titolo(s.ClassePressoFlessione));
-    ScegliRiga(s.ClassePressoFlessione);
+    const LineaFormula& f = *ui_->formula;
+    ui_->formula->MostraAltro(s.ClassePressoFlessione > 3);
 
     const double kLT = s.kLT();
     const double kZ = s.kZ();
-    Mostra(ui_->LblNsd, figura, s.NSd / NInkN);
-    Mostra(ui_->LblNbzRd, figura, s.NbzRd / NInkN);
-    Mostra(ui_->LblKLTMySd, Prodotto(kLT, s.Mysd + s.NSd * s.eNy));
-    Mostra(ui_->LakLTMySd4, Prodotto(kLT, s.Mysd, s.NSd * s.eNy));
-    Mostra(ui_->LblMbRd, figura, Valido(s, s.MbRd / NmmInkNm));
-    Mostra(ui_->LblkzMzSd, Prodotto(kZ, s.Mzsd + s.NSd * s.eNz));
-    Mostra(ui_->LblkzMzSd4, Prodotto(kZ, s.Mzsd, s.NSd * s.eNz));
-    Mostra(ui_->LblMczRd, figura, GammaM0 * s.MczRd / GammaM1 / NmmInkNm);
-    const double somma = Valido(s, s.InterazioneFlessoTorsionale());
-    Mostra(ui_->Lbl_Risult, figura, somma);
-    MostraEsito(ui_->Lbl_Risultato, somma);
+    Mostra(f.Sopra(0), figura, s.NSd / NInkN);
+    Mostra(f.Sotto(0), figura, s.NbzRd / NInkN);
+    Mostra(f.Sopra(1), Prodotto(kLT, s.Mysd + s.NSd * s.eNy));
+    Mostra(f.Altro(1), Prodotto(kLT, s.Mysd, s.NSd * s.eNy));
+    Mostra(f.Sotto(1), figura, Valido(s, s.MbRd / NmmInkNm));
+    Mostra(f.Sopra(2), Prodotto(kZ, s.Mzsd + s.NSd * s.eNz));
+    Mostra(f.Altro(2), Prodotto(kZ, s.Mzsd, s.NSd * s.eNz));
+    Mostra(f.Sotto(2), figura, GammaM0 * s.MczRd / GammaM1 / NmmInkNm);
+    ui_->formula->MostraSomma(Valido(s, s.InterazioneFlessoTorsionale()));
 }
 
 void FrmMsverg::PrendeFattori(double k, double C1, double C2, double C3) {

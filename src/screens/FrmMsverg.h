@@ -36,8 +36,6 @@ private:
     void ApreTavola(const QString& nome);
     void ScriveDati();
     void MostraResistenza();
-    /// The terms of class 4 carry the shift of the centroid.
-    void ScegliRiga(int classe);
     void MostraInterazione();
 
     std::unique_ptr<Ui::FrmMsverg> ui_;

@@ -50,10 +50,75 @@ QString Titolo(int classe) {
            (classe == 3 ? QStringLiteral(" - EC3 #5.5.4.(3)") : QStringLiteral(" - EC3 #5.5.4.(1)"));
 }
 
+constexpr auto aiutoTermineN = "Forza assiale sulla minore resistenza all'instabilità, ENV 1993-1-1 5.5.4";
+constexpr auto aiutoSomma = "Somma dei termini, passa se non supera 1, ENV 1993-1-1 5.5.4";
+
+/// Classes 1 to 3; the verdict stands behind the line.
+Formula InterazioneLorda() {
+    return {
+        .termini = {{.sopra = {{"", "N", "Sd"}},
+                     .sotto = {{"", "N", "b,min,Rd"}},
+                     .valoreSopra = VoceValore("LblTermineN", aiutoTermineN, "Termine di N")},
+                    {.sopra = {{"", "k", "y"}, {"", "M", "y,Sd"}},
+                     .sotto = {{"", "M", "y,Rd"}},
+                     .valoreSopra = VoceValore("LblTermineMy",
+                                               "Termine del momento intorno a y-y: momento resistente della "
+                                               "classe, con GammaM1, ENV 1993-1-1 5.5.4",
+                                               "Termine di My"),
+                     .piu = "LblValPiu1"},
+                    {.sopra = {{"", "k", "z"}, {"", "M", "z,Sd"}},
+                     .sotto = {{"", "M", "z,Rd"}},
+                     .valoreSopra = VoceValore("LblTermineMz",
+                                               "Termine del momento intorno a z-z: momento resistente della "
+                                               "classe, con GammaM1, ENV 1993-1-1 5.5.4",
+                                               "Termine di Mz"),
+                     .piu = "LblValPiu2"}},
+        .uguale = "LblValUguale",
+        .somma = VoceSomma("Lbl_Risult", aiutoSomma)};
+}
+
+/// Class 4: the moments carry the shift of the effective section's centroid.
+Formula InterazioneEfficace() {
+    return {
+        .termini = {{.sopra = {{"", "N", "Sd"}},
+                     .sotto = {{"", "N", "b,min,Rd"}},
+                     .valoreSopra = VoceValore("LblTermineN4", aiutoTermineN, "Termine di N")},
+                    {.sopra = {{"", "k", "y"},
+                               {"", "("},
+                               {"", "M", "y,Sd"},
+                               {"", "+"},
+                               {"", "N", "Sd"},
+                               {"", "e", "Ny"},
+                               {"", ")"}},
+                     .sotto = {{"", "M", "y,Rd"}},
+                     .valoreSopra = VoceValore("LblTermineMy4",
+                                               "Termine del momento intorno a y-y, con lo spostamento del "
+                                               "baricentro, ENV 1993-1-1 5.5.4 (5)",
+                                               "Termine di My"),
+                     .piu = "LblValPiu14"},
+                    {.sopra = {{"", "k", "z"},
+                               {"", "("},
+                               {"", "M", "z,Sd"},
+                               {"", "+"},
+                               {"", "N", "Sd"},
+                               {"", "e", "Nz"},
+                               {"", ")"}},
+                     .sotto = {{"", "M", "z,Rd"}},
+                     .valoreSopra = VoceValore("LblTermineMz4",
+                                               "Termine del momento intorno a z-z, con lo spostamento del "
+                                               "baricentro, ENV 1993-1-1 5.5.4 (5)",
+                                               "Termine di Mz"),
+                     .piu = "LblValPiu24"}},
+        .uguale = "LblValUguale4",
+        .somma = VoceSomma("Lbl_Risult4", aiutoSomma)};
+}
+
 } // namespace
 
 FrmPresFless::FrmPresFless() : SchermoDettaglio(QStringLiteral("FrmPresFless")), ui_(new Ui::FrmPresFless) {
     ui_->setupUi(this);
+    ui_->termini->Componi(InterazioneLorda());
+    ui_->termini4->Componi(InterazioneEfficace());
     ui_->termini4->hide();
     Txt_L0_ = Vettore<QLineEdit>(QStringLiteral("Txt_L0"));
     TxtM1_ = Vettore<QLineEdit>(QStringLiteral("TxtM1"));
@@ -231,10 +296,11 @@ void FrmPresFless::MostraInterazione() {
     double Pz = 0;
     const double somma = s.InterazioneMNInstab(Py, Pz);
     const double N = s.NSd / (s.NbyRd < s.NbzRd ? s.NbyRd : s.NbzRd);
-    Mostra(classe4 ? ui_->LblTermineN4 : ui_->LblTermineN, figura, N);
-    Mostra(classe4 ? ui_->LblTermineMy4 : ui_->LblTermineMy, figura, Py);
-    Mostra(classe4 ? ui_->LblTermineMz4 : ui_->LblTermineMz, figura, Pz);
-    Mostra(classe4 ? ui_->Lbl_Risult4 : ui_->Lbl_Risult, figura, somma);
+    LineaFormula* line = classe4 ? ui_->termini4 : ui_->termini;
+    Mostra(line->Sopra(0), figura, N);
+    Mostra(line->Sopra(1), figura, Py);
+    Mostra(line->Sopra(2), figura, Pz);
+    line->MostraSomma(somma);
     MostraEsito(ui_->Lbl_Risultato, somma);
 }
 

@@ -2,7 +2,7 @@
 
 #include "frame/ui/Campi.h"
 #include "frame/ui/Casella.h"
-#include "frame/ui/Esito.h"
+#include "frame/ui/EtichettaRisultato.h"
 #include "frame/ui/Protetto.h"
 #include "screens/Mostra.h"
 #include "screens/Unita.h"
@@ -17,9 +17,90 @@ void MostraN(QLabel* label, double force) { Mostra(label, "0.0##", force / NInkN
 
 void MostraM(QLabel* label, double moment) { Mostra(label, "0.0##", moment / NmmInkNm); }
 
-void MostraSomma(QLabel* sum, QLabel* verdict, double value) {
-    Mostra(sum, "0.0##", value);
-    MostraEsito(verdict, value);
+Formula FormulaPlastica() {
+    return {
+        .termini =
+            {{.sopra = {{"", "M", "y,Sd"}},
+              .sotto = {{"", "M", "N,y,Rd"}},
+              .valoreSopra = VoceValore("LblMysd", "Momento di progetto intorno a y-y [kNm]", "My,Sd [kNm]"),
+              .valoreSotto =
+                  VoceValore("LblMNyRd", "Momento plastico ridotto da N intorno a y-y [kNm], EC3 6.2.9.1",
+                             "MN,y,Rd [kNm]"),
+              .esponente = {"LblSimAlfa", "α"},
+              .valoreEsponente =
+                  VoceValore("lblAlfa", "Esponente del termine di My, EC3 6.2.9.1", "alfa", 1)},
+             {.sopra = {{"", "M", "z,Sd"}},
+              .sotto = {{"", "M", "N,z,Rd"}},
+              .valoreSopra = VoceValore("LblMzsd", "Momento di progetto intorno a z-z [kNm]", "Mz,Sd [kNm]"),
+              .valoreSotto =
+                  VoceValore("LblMNzRd", "Momento plastico ridotto da N intorno a z-z [kNm], EC3 6.2.9.1",
+                             "MN,z,Rd [kNm]"),
+              .esponente = {"LblSimBeta", "β"},
+              .valoreEsponente =
+                  VoceValore("lblBeta", "Esponente del termine di Mz: 5 n, almeno 1, EC3 6.2.9.1", "beta", 4),
+              .piu = "LblValPiu1"}},
+        .uguale = "LblValUguale1",
+        .somma = VoceSomma("Lbl_Risult3_0", "Somma dei termini, passa se non supera 1, EC3 6.2.9.1 (6)"),
+        .esito = VoceEsito("Lbl_Risultato3_0")};
+}
+
+Formula FormulaElastica() {
+    return {.termini = {{.sopra = {{"", "N", "Sd"}},
+                         .sotto = {{"", "N", "pl,Rd"}},
+                         .valoreSopra = VoceValore("LblNsd", "Forza assiale di progetto [kN]", "NSd [kN]"),
+                         .valoreSotto = VoceValore("LblNrd", "Resistenza a forza assiale [kN], EC3 6.2.4",
+                                                   "Npl,Rd [kN]")},
+                        {.sopra = {{"", "M", "y,Sd"}},
+                         .sotto = {{"", "M", "el,y,Rd"}},
+                         .valoreSopra =
+                             VoceValore("LblMsdy", "Momento di progetto intorno a y-y [kNm]", "My,Sd [kNm]"),
+                         .valoreSotto = VoceValore(
+                             "LblMry", "Momento elastico intorno a y-y [kNm], EC3 6.2.5", "Mel,y,Rd [kNm]"),
+                         .piu = "LblValPiu20"},
+                        {.sopra = {{"", "M", "z,Sd"}},
+                         .sotto = {{"", "M", "el,z,Rd"}},
+                         .valoreSopra =
+                             VoceValore("LblMsdz", "Momento di progetto intorno a z-z [kNm]", "Mz,Sd [kNm]"),
+                         .valoreSotto = VoceValore(
+                             "LblMrz", "Momento elastico intorno a z-z [kNm], EC3 6.2.5", "Mel,z,Rd [kNm]"),
+                         .piu = "LblValPiu21"}},
+            .uguale = "LblValUguale2",
+            .somma = VoceSomma("Lbl_Risult3_1", "Somma dei termini, passa se non supera 1, EC3 6.2.9.2"),
+            .esito = VoceEsito("Lbl_Risultato3_1")};
+}
+
+Formula FormulaEfficace() {
+    return {
+        .termini =
+            {{.sopra = {{"", "N", "Sd"}},
+              .sotto = {{"", "N", "pl,Rd"}},
+              .valoreSopra = VoceValore("LblNsd4", "Forza assiale di progetto [kN]", "NSd [kN]"),
+              .valoreSotto =
+                  VoceValore("LblNrd4", "Resistenza a forza assiale con l'area efficace [kN], EC3 6.2.4",
+                             "Npl,Rd [kN]")},
+             {.sopra = {{"", "M", "y,Sd"}, {"", "+"}, {"", "N", "Sd"}, {"", "e", "Ny"}},
+              .sotto = {{"", "M", "c,y,Rd"}},
+              .valoreSopra = VoceValore(
+                  "LblMsdy4", "Momento intorno a y-y con lo spostamento del baricentro [kNm], EC3 6.2.9.3",
+                  "My,Sd + NSd eNy [kNm]"),
+              .valoreSotto = VoceValore(
+                  "LblMry4",
+                  "Momento resistente intorno a y-y della sezione nella sua classe [kNm], EC3 6.2.5",
+                  "Mc,y,Rd [kNm]"),
+              .piu = "LblValPiu31"},
+             {.sopra = {{"", "M", "z,Sd"}, {"", "+"}, {"", "N", "Sd"}, {"", "e", "Nz"}},
+              .sotto = {{"", "M", "c,z,Rd"}},
+              .valoreSopra = VoceValore(
+                  "LblMsdz4", "Momento intorno a z-z con lo spostamento del baricentro [kNm], EC3 6.2.9.3",
+                  "Mz,Sd + NSd eNz [kNm]"),
+              .valoreSotto = VoceValore(
+                  "LblMrz4",
+                  "Momento resistente intorno a z-z della sezione nella sua classe [kNm], EC3 6.2.5",
+                  "Mc,z,Rd [kNm]"),
+              .piu = "LblValPiu32"}},
+        .uguale = "LblValUguale3",
+        .somma = VoceSomma("Lbl_Risult4", "Somma dei termini, passa se non supera 1, EC3 6.2.9.3"),
+        .esito = VoceEsito("Lbl_Risultato4")};
 }
 
 } // namespace
@@ -31,6 +112,9 @@ FrmVerifiche::FrmVerifiche() : SchermoDettaglio(QStringLiteral("FrmVerifiche")),
         policy.setRetainSizeWhenHidden(true); // one room for all three
         frame->setSizePolicy(policy);
     }
+    ui_->formula1->Componi(FormulaPlastica());
+    ui_->formula2->Componi(FormulaElastica());
+    ui_->formula3->Componi(FormulaEfficace());
     CollegaControlli();
     for (QLineEdit* box : {ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd})
         Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
@@ -77,34 +161,37 @@ void FrmVerifiche::MostraPlastica(const SezioneDoppioT& s) {
     double MNz = 0;
     double beta = 0;
     s.MNRd(MNy, MNz, beta);
-    ui_->lblAlfa->setText(QStringLiteral("2"));
-    Mostra(ui_->lblBeta, "0.0##", beta);
-    MostraM(ui_->LblMysd, s.Mysd);
-    MostraM(ui_->LblMNyRd, MNy);
-    MostraM(ui_->LblMzsd, s.Mzsd);
-    MostraM(ui_->LblMNzRd, MNz);
-    MostraSomma(ui_->Lbl_Risult3_0, ui_->Lbl_Risultato3_0, s.InterazioneMNResistenza());
+    const LineaFormula& f = *ui_->formula1;
+    f.Esponente(0)->setText(QStringLiteral("2"));
+    Mostra(f.Esponente(1), "0.0##", beta);
+    MostraM(f.Sopra(0), s.Mysd);
+    MostraM(f.Sotto(0), MNy);
+    MostraM(f.Sopra(1), s.Mzsd);
+    MostraM(f.Sotto(1), MNz);
+    ui_->formula1->MostraSomma(s.InterazioneMNResistenza());
 }
 
 void FrmVerifiche::MostraElastica(const SezioneDoppioT& s) {
-    MostraN(ui_->LblNsd, s.NSd);
-    MostraN(ui_->LblNrd, s.NplRd);
-    MostraM(ui_->LblMsdy, s.Mysd);
-    MostraM(ui_->LblMry, s.MelyRd);
-    MostraM(ui_->LblMsdz, s.Mzsd);
-    MostraM(ui_->LblMrz, s.MelzRd);
-    MostraSomma(ui_->Lbl_Risult3_1, ui_->Lbl_Risultato3_1, s.InterazioneMNResistenza());
+    const LineaFormula& f = *ui_->formula2;
+    MostraN(f.Sopra(0), s.NSd);
+    MostraN(f.Sotto(0), s.NplRd);
+    MostraM(f.Sopra(1), s.Mysd);
+    MostraM(f.Sotto(1), s.MelyRd);
+    MostraM(f.Sopra(2), s.Mzsd);
+    MostraM(f.Sotto(2), s.MelzRd);
+    ui_->formula2->MostraSomma(s.InterazioneMNResistenza());
 }
 
 // The moments carry the shift of the effective section's centroid.
 void FrmVerifiche::MostraEfficace(const SezioneDoppioT& s) {
-    MostraN(ui_->LblNsd4, s.NSd);
-    MostraN(ui_->LblNrd4, s.NplRd);
-    MostraM(ui_->LblMsdy4, s.Mysd + s.NSd * s.eNy);
-    MostraM(ui_->LblMry4, s.McyRd);
-    MostraM(ui_->LblMsdz4, s.Mzsd + s.NSd * s.eNz);
-    MostraM(ui_->LblMrz4, s.MczRd);
-    MostraSomma(ui_->Lbl_Risult4, ui_->Lbl_Risultato4, s.InterazioneMNResistenza());
+    const LineaFormula& f = *ui_->formula3;
+    MostraN(f.Sopra(0), s.NSd);
+    MostraN(f.Sotto(0), s.NplRd);
+    MostraM(f.Sopra(1), s.Mysd + s.NSd * s.eNy);
+    MostraM(f.Sotto(1), s.McyRd);
+    MostraM(f.Sopra(2), s.Mzsd + s.NSd * s.eNz);
+    MostraM(f.Sotto(2), s.MczRd);
+    ui_->formula3->MostraSomma(s.InterazioneMNResistenza());
 }
 
 } // namespace sagomi
