@@ -17,13 +17,24 @@ struct Somme {
     double Iuv = 0;
 
     void Aggiungi(double u1, double v1, double u2, double v2) {
-        const double At = (u1 * v2 - u2 * v1) / 2;
-        A += At;
-        Su += At * (u1 + u2) / 3;
-        Sv += At * (v1 + v2) / 3;
-        Iu += At * (u1 * u1 + (u1 + u2) * (u1 + u2) + u2 * u2) / 12;
-        Iv += At * (v1 * v1 + (v1 + v2) * (v1 + v2) + v2 * v2) / 12;
-        Iuv += At * (u1 * v1 + (u1 + u2) * (v1 + v2) + u2 * v2) / 12;
+        const double doppia = u1 * v2 - u2 * v1;
+        const double u = u1 + u2;
+        const double v = v1 + v2;
+        A += doppia;
+        Su += doppia * u;
+        Sv += doppia * v;
+        Iu += doppia * (u1 * u1 + u * u + u2 * u2);
+        Iv += doppia * (v1 * v1 + v * v + v2 * v2);
+        Iuv += doppia * (u1 * v1 + u * v + u2 * v2);
+    }
+
+    /// From the sums over doubled areas to the values.
+    void Divide() {
+        A /= 2;
+        for (double* s : {&Su, &Sv})
+            *s /= 6;
+        for (double* s : {&Iu, &Iv, &Iuv})
+            *s /= 24;
     }
 
     void CambiaSegno() {
@@ -87,6 +98,7 @@ void Poligono::SommeTriangoli() {
     const double y0 = y_[0];
     for (std::size_t i = 1; i + 1 < Numero(); ++i)
         s.Aggiungi(x_[i] - x0, y_[i] - y0, x_[i + 1] - x0, y_[i + 1] - y0);
+    s.Divide();
     if (s.A < 0)
         s.CambiaSegno();
     Area = s.A;
