@@ -85,11 +85,15 @@ void Poligono::Coordinate(const std::vector<double>& x, const std::vector<double
     n_ = n;
 }
 
+std::int16_t Poligono::Contati(std::size_t vertici) {
+    if (TroppiVertici(vertici))
+        throw std::out_of_range("poligono di " + std::to_string(vertici) + " vertici");
+    return static_cast<std::int16_t>(vertici);
+}
+
 std::shared_ptr<Poligono> Poligono::DaVertici(std::vector<double> x, std::vector<double> y) {
-    if (TroppiVertici(x.size()))
-        throw std::out_of_range("poligono di " + std::to_string(x.size()) + " vertici");
     auto p = std::make_shared<Poligono>();
-    p->n_ = static_cast<std::int16_t>(x.size());
+    p->n_ = Contati(x.size());
     p->x_ = std::move(x);
     p->y_ = std::move(y);
     return p;

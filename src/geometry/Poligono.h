@@ -282,6 +282,7 @@ private:
     [[nodiscard]] const RigaStriscia& Striscia(int i) const;
     [[nodiscard]] std::size_t Numero() const { return n_ > 0 ? static_cast<std::size_t>(n_) : 0; }
     [[nodiscard]] std::shared_ptr<Poligono> Stesso();
+    static std::int16_t Contati(std::size_t vertici);
     static std::shared_ptr<Poligono> DaVertici(std::vector<double> x, std::vector<double> y);
     void SommeTriangoli();
     void BaricentroDegenere();
@@ -289,6 +290,10 @@ private:
     void ModuliElastici();
     [[nodiscard]] std::shared_ptr<Poligono> ParteTagliata(double a, double b, double c, double xP,
                                                           double yP) const;
+    /// The parts above and below the level into two empty polygons, in one walk along the outline. @return
+    /// false when no side meets the level
+    bool PartiAlLivello(double livello, double zero, bool lungoX, Poligono& alto, Poligono& basso) const;
+    [[nodiscard]] double ModuloPlastico(const std::array<double, 4>& box, bool attornoY, double* yN);
     void ApreTabelle(std::int16_t n, double mezza);
 
     std::vector<double> x_, y_; ///< vertex 1 at [0]; never shorter than n_

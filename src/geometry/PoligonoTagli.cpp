@@ -38,6 +38,94 @@ struct Taglio {
     }
 };
 
+/// Coordinates along the cut and across it.
+struct Coordinate2 {
+    const std::vector<double>& u;
+    const std::vector<double>& v;
+};
+struct Lista2 {
+    std::vector<double>& u;
+    std::vector<double>& v;
+};
+
+/// One part of a cut outline as it grows.
+struct Parte {
+    Lista2 punti;
+
+    void Prepara(std::size_t n) const {
+        constexpr std::size_t incontri = 8; ///< a double T is met four times, more make the list grow
+        punti.u.reserve(n + incontri);
+        punti.v.reserve(n + incontri);
+    }
+    void Aggiunge(double u, double v) const {
+        punti.u.push_back(u);
+        punti.v.push_back(v);
+    }
+    void Aggiunge(const Coordinate2& uv, std::size_t da, std::size_t a) const {
+        const auto i = static_cast<std::ptrdiff_t>(da);
+        const auto j = static_cast<std::ptrdiff_t>(a);
+        punti.u.insert(punti.u.end(), uv.u.begin() + i, uv.u.begin() + j);
+        punti.v.insert(punti.v.end(), uv.v.begin() + i, uv.v.begin() + j);
+    }
+};
+
+/// An outline of n vertices and a level v = livello that cuts it, by the rules of Taglio.
+struct TaglioALivello {
+    Coordinate2 uv;
+    std::size_t n;
+    double livello;
+    double zero; ///< tolerance of the side's box
+
+    /// Twice the tolerance away on the same side of the level, both ends of a side are out of reach.
+    [[nodiscard]] bool Sopra(double v) const { return v - livello > 2 * zero; }
+    [[nodiscard]] bool Sotto(double v) const { return livello - v > 2 * zero; }
+
+    /// Adds the run of vertices from i that lie clearly on one side, or one vertex close to the level, which
+    /// belongs to both sides when it lies on it. @return the vertex after them
+    std::size_t Aggiunge(std::size_t i, const Parte& sopra, const Parte& sotto) const {
+        std::size_t j = i;
+        while (j < n && Sopra(uv.v[j]))
+            ++j;
+        if (j > i) {
+            sopra.Aggiunge(uv, i, j);
+            return j;
+        }
+        while (j < n && Sotto(uv.v[j]))
+            ++j;
+        if (j > i) {
+            sotto.Aggiunge(uv, i, j);
+            return j;
+        }
+        if (uv.v[i] >= livello)
+            sopra.Aggiunge(uv.u[i], uv.v[i]);
+        if (uv.v[i] <= livello)
+            sotto.Aggiunge(uv.u[i], uv.v[i]);
+        return i + 1;
+    }
+
+    /// Point of the level on the side from vertex i to vertex j.
+    bool Punto(std::size_t i, std::size_t j, double& u, double& v) const {
+        const double v1 = uv.v[i];
+        const double v2 = uv.v[j];
+        if ((Sopra(v1) && Sopra(v2)) || (Sotto(v1) && Sotto(v2)))
+            return false;
+        const double du = uv.u[j] - uv.u[i];
+        const double dv = v2 - v1;
+        const double minimo = zero * fattoreLati * fattoreRumore;
+        if (std::abs(du) <= minimo && std::abs(dv) <= minimo)
+            return false;
+        if (!(std::abs(dv) > zeroParallele * std::sqrt(du * du + dv * dv)))
+            return false;
+        u = uv.u[i] + du * (livello - v1) / dv;
+        v = v1 + dv * (livello - v1) / dv;
+        return Tra(u, uv.u[i], uv.u[j]) && Tra(v, v1, v2);
+    }
+
+    [[nodiscard]] bool Tra(double c, double c1, double c2) const {
+        return c >= std::min(c1, c2) - zero && c <= std::max(c1, c2) + zero;
+    }
+};
+
 /// Takes out of a list of points those that coincide with one before them.
 std::int16_t TogliCoincidenti(std::vector<double>& xI, std::vector<double>& yI,
                               std::vector<std::int16_t>& iLato, double zero) {
@@ -170,36 +258,51 @@ Poligono::PoligonoSenzaPuntiOpposti(double segno, const std::vector<bool>& sulTa
     return DaVertici(std::move(x), std::move(y));
 }
 
+bool Poligono::PartiAlLivello(double livello, double zero, bool lungoX, Poligono& alto,
+                              Poligono& basso) const {
+    const Coordinate2 uv = lungoX ? Coordinate2{y_, x_} : Coordinate2{x_, y_};
+    Parte sopra{lungoX ? Lista2{alto.y_, alto.x_} : Lista2{alto.x_, alto.y_}};
+    Parte sotto{lungoX ? Lista2{basso.y_, basso.x_} : Lista2{basso.x_, basso.y_}};
+    const TaglioALivello taglio{uv, Numero(), livello, zero};
+    sopra.Prepara(Numero());
+    sotto.Prepara(Numero());
+    bool incontra = false;
+    for (std::size_t i = 0; i < Numero();) {
+        const std::size_t dopo = taglio.Aggiunge(i, sopra, sotto);
+        double u = 0;
+        double v = 0;
+        if (taglio.Punto(dopo - 1, dopo == Numero() ? 0 : dopo, u, v)) {
+            incontra = true;
+            sopra.Aggiunge(u, v);
+            sotto.Aggiunge(u, v);
+        }
+        i = dopo;
+    }
+    alto.n_ = Contati(alto.x_.size());
+    basso.n_ = Contati(basso.x_.size());
+    return incontra;
+}
+
 void Poligono::DividiY(double y, std::shared_ptr<Poligono>& sopra, std::shared_ptr<Poligono>& sotto,
                        bool lungoX) {
     const double livello = Singolo(y);
     const auto [xMin, xMax, yMin, yMax] = BoundingBox();
     const double massimo = lungoX ? xMax : yMax;
     const double minimo = lungoX ? xMin : yMin;
-    std::vector<double> xI;
-    std::vector<double> yI;
-    std::vector<std::int16_t> iLato;
-    std::int16_t nI = 0;
-    if (livello < massimo && livello > minimo)
-        IntersezioneConRetta(lungoX ? -1 : 0, lungoX ? 0 : -1, livello, xI, yI, iLato, nI);
     // This polygon may be held by sopra or sotto: both are written last.
-    if (nI == 0) {
-        std::shared_ptr<Poligono> stesso = Stesso();
-        sopra = livello >= massimo ? nullptr : stesso;
-        sotto = livello >= massimo ? stesso : nullptr;
-        return;
+    if (livello < massimo && livello > minimo) {
+        auto alto = std::make_shared<Poligono>();
+        auto basso = std::make_shared<Poligono>();
+        const double zero = std::max(xMax - xMin, yMax - yMin) / fattoreLati;
+        if (PartiAlLivello(livello, zero, lungoX, *alto, *basso)) {
+            sopra = std::move(alto);
+            sotto = std::move(basso);
+            return;
+        }
     }
-    std::vector<bool> nuovo;
-    const std::shared_ptr<Poligono> tagliato = PoligonoConIntersezioni(xI, yI, iLato, nI, nuovo);
-    const double dx = lungoX ? livello : 0;
-    const double dy = lungoX ? 0 : livello;
-    tagliato->Trasla(dx, dy);
-    auto alto = tagliato->PoligonoSenzaPuntiOpposti(massimo - livello, nuovo, lungoX);
-    auto basso = tagliato->PoligonoSenzaPuntiOpposti(minimo - livello, nuovo, lungoX);
-    alto->Trasla(-dx, -dy);
-    basso->Trasla(-dx, -dy);
-    sopra = std::move(alto);
-    sotto = std::move(basso);
+    std::shared_ptr<Poligono> stesso = Stesso();
+    sopra = livello >= massimo ? nullptr : stesso;
+    sotto = livello >= massimo ? stesso : nullptr;
 }
 
 std::shared_ptr<Poligono> Poligono::ParteTagliata(double a, double b, double c, double xP, double yP) const {

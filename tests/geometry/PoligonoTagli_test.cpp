@@ -307,6 +307,21 @@ TEST(DividiY, ThePolygonMayBeHeldByTheResult) {
     EXPECT_EQ(altro->Area, 200);
 }
 
+TEST(DividiY, VerticesKeepTheirPlaceAndOrder) {
+    Poligono p = PoligonoDaTesto("0.1 0.1, 40.3 0.1, 40.3 30.7, 30.2 30.7, 30.2 10.9, 10.4 10.9, 10.4 30.7, "
+                                 "0.1 30.7");
+    std::shared_ptr<Poligono> sopra;
+    std::shared_ptr<Poligono> sotto;
+    p.DividiY(20.5, sopra, sotto);
+    EXPECT_EQ(sopra->CoordX(), (std::vector<double>{40.3, 40.3, 30.2, 30.2, 10.4, 10.4, 0.1, 0.1}));
+    EXPECT_EQ(sopra->CoordY(), (std::vector<double>{20.5, 30.7, 30.7, 20.5, 20.5, 30.7, 30.7, 20.5}));
+    EXPECT_EQ(sotto->CoordX(), (std::vector<double>{0.1, 40.3, 40.3, 30.2, 30.2, 10.4, 10.4, 0.1}));
+    EXPECT_EQ(sotto->CoordY(), (std::vector<double>{0.1, 0.1, 20.5, 20.5, 10.9, 10.9, 20.5, 20.5}));
+    p.DividiY(30.25, sopra, sotto, true);
+    EXPECT_EQ(sopra->CoordX(), (std::vector<double>{30.25, 40.3, 40.3, 30.25}));
+    EXPECT_EQ(sotto->nVertici(), 8);
+}
+
 TEST(DividiY, EmptyPolygon) {
     Poligono p;
     std::shared_ptr<Poligono> sopra;
