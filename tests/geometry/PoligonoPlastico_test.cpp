@@ -112,6 +112,61 @@ TEST(yEquazione, AreaAboveLessTheWantedPart) {
     EXPECT_NEAR(p.yEquazione(10, true), 1000 - 750, 1e-9);
 }
 
+std::vector<CasoPoligono> CasiConArea() {
+    std::vector<CasoPoligono> casi;
+    for (const char* file : {"a_mano.txt", "convessi.txt", "concavi.txt", "stellati.txt", "profili.txt"})
+        for (CasoPoligono& c : LeggeCasiPoligono(file))
+            casi.push_back(std::move(c));
+    return casi;
+}
+
+class MetaTest : public testing::TestWithParam<CasoPoligono> {};
+
+// The sums over sides against the polygon that the same level cuts off.
+TEST_P(MetaTest, AreaAboveALevelIsThatOfThePartCutOff) {
+    Poligono p = PoligonoDelCaso(GetParam());
+    p.CaratteristicheStatiche();
+    const auto box = p.BoundingBox();
+    const double area = p.Area;
+    std::shared_ptr<Poligono> sopra;
+    std::shared_ptr<Poligono> sotto;
+    double yN = 0;
+    p.Dividi(0.5, sopra, sotto, yN);
+    for (int k = 0; k < 40; ++k)
+        for (const bool lungoX : {false, true}) {
+            const double minimo = box[lungoX ? 0 : 2];
+            const double livello = minimo + (k + 0.5) / 40 * (box[lungoX ? 1 : 3] - minimo);
+            p.DividiY(livello, sopra, sotto, lungoX);
+            EXPECT_NEAR(p.yEquazione(livello, lungoX), AreaDi(sopra) - area / 2, 1e-12 * area) << livello;
+        }
+}
+
+// The modulus against the two halves built as polygons, with their own centroids.
+TEST_P(MetaTest, ModulusIsThatOfTheHalvesOfDividi) {
+    Poligono p = PoligonoDelCaso(GetParam());
+    p.CaratteristicheStatiche();
+    if (p.Area == 0)
+        return;
+    p.Wplastici();
+    for (const bool attornoY : {false, true}) {
+        std::shared_ptr<Poligono> sopra;
+        std::shared_ptr<Poligono> sotto;
+        double yN = 0;
+        p.Dividi(0.5, sopra, sotto, yN, attornoY);
+        ASSERT_TRUE(sopra && sotto);
+        sopra->CaratteristicheStatiche();
+        sotto->CaratteristicheStatiche();
+        const double W = p.Area / 2 * (attornoY ? sopra->xG - sotto->xG : sopra->yG - sotto->yG);
+        double livello = 0;
+        EXPECT_NEAR(attornoY ? p.WplY : p.WplX, W, 1e-12 * W);
+        EXPECT_NEAR(p.Wplastico(&livello, attornoY), W, 1e-12 * W);
+        EXPECT_NEAR(livello, yN, 1e-12 * p.MaxDimensione());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Contorni, MetaTest, testing::ValuesIn(CasiConArea()),
+                         [](const auto& i) { return std::to_string(i.index) + "_" + NomeCaso(i.param); });
+
 TEST(Wplastici, RectangleByFormula) {
     Poligono p = PoligonoDaTesto("7 -3, 37 -3, 37 47, 7 47");
     p.CaratteristicheStatiche();
