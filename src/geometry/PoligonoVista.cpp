@@ -12,51 +12,67 @@ namespace {
 constexpr double zeroVista = 1E-10;     ///< mm; what counts as lying further right
 constexpr double zeroAllineati = 1E-12; ///< sine of the angle up to which hull points are on one side
 
-using Punti = std::vector<double>;
+struct Punto {
+    double x, y;
+    /// From the bottom up, on one level from left to right.
+    bool operator<(const Punto& p) const { return y < p.y || (y == p.y && x < p.x); }
+    bool operator==(const Punto&) const = default;
+};
 
-bool Prima(double x1, double y1, double x2, double y2) { return y1 < y2 || (y1 == y2 && x1 < x2); }
+/// The vertices in order, each place once; what is not a number has none.
+std::vector<Punto> PuntiInOrdine(const std::vector<double>& x, const std::vector<double>& y, std::size_t n) {
+    std::vector<Punto> punti;
+    punti.reserve(n);
+    for (std::size_t i = 0; i < n; ++i)
+        if (!std::isnan(x[i]) && !std::isnan(y[i]))
+            punti.push_back({x[i], y[i]});
+    std::sort(punti.begin(), punti.end());
+    punti.erase(std::unique(punti.begin(), punti.end()), punti.end());
+    return punti;
+}
 
-/// Next vertex of the hull after p, counter-clockwise: no other point lies to the right of the way to it. Of
-/// several on that way it is the furthest. p itself when all points coincide.
-std::size_t SuccessivoInviluppo(const Punti& x, const Punti& y, std::size_t n, std::size_t p) {
-    std::size_t scelto = p;
-    double dx = 0;
-    double dy = 0;
-    for (std::size_t k = 0; k < n; ++k) {
-        const double ex = x[k] - x[p];
-        const double ey = y[k] - y[p];
-        if (ex == 0 && ey == 0)
-            continue;
-        const double vettoriale = dx * ey - dy * ex;
-        const double soglia = zeroAllineati * std::hypot(dx, dy) * std::hypot(ex, ey);
-        const bool allineato = std::abs(vettoriale) <= soglia;
-        const bool oltre = ex * ex + ey * ey > dx * dx + dy * dy;
-        if (scelto != p && (allineato ? !oltre : vettoriale > 0))
-            continue;
-        scelto = k;
-        dx = ex;
-        dy = ey;
-    }
-    return scelto;
+/// True when the way from a over b to c turns left; up to the tolerance b lies on the side from a to c.
+bool GiraASinistra(const Punto& a, const Punto& b, const Punto& c) {
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    const double ex = c.x - a.x;
+    const double ey = c.y - a.y;
+    const double vettoriale = dx * ey - dy * ex;
+    return vettoriale > 0 && vettoriale * vettoriale >
+                                 zeroAllineati * zeroAllineati * (dx * dx + dy * dy) * (ex * ex + ey * ey);
+}
+
+/// One more point for a half of the hull, which begins at `inizio`.
+void AllungaInviluppo(std::vector<Punto>& catena, std::size_t inizio, const Punto& p) {
+    while (catena.size() > inizio + 1 && !GiraASinistra(catena[catena.size() - 2], catena.back(), p))
+        catena.pop_back();
+    catena.push_back(p);
+}
+
+/// Counter-clockwise from the first point: up along the right half, down along the left one.
+std::vector<Punto> Inviluppo(const std::vector<Punto>& punti) {
+    if (punti.size() < 2)
+        return punti;
+    std::vector<Punto> catena;
+    catena.reserve(punti.size() + 1);
+    for (const Punto& p : punti)
+        AllungaInviluppo(catena, 0, p);
+    const std::size_t cima = catena.size() - 1;
+    for (std::size_t i = punti.size() - 1; i-- > 0;)
+        AllungaInviluppo(catena, cima, punti[i]);
+    catena.pop_back(); // the first point again
+    return catena;
 }
 
 } // namespace
 
 std::shared_ptr<Poligono> Poligono::PoligonoConvessoCircoscritto() const {
-    if (n_ < 1)
-        return std::make_shared<Poligono>();
-    std::size_t inizio = 0;
-    for (std::size_t i = 1; i < Numero(); ++i)
-        if (Prima(x_[i], y_[i], x_[inizio], y_[inizio]))
-            inizio = i;
     std::vector<double> xV;
     std::vector<double> yV;
-    std::size_t p = inizio;
-    do {
-        xV.push_back(x_[p]);
-        yV.push_back(y_[p]);
-        p = SuccessivoInviluppo(x_, y_, Numero(), p);
-    } while (!(x_[p] == x_[inizio] && y_[p] == y_[inizio]) && xV.size() < Numero());
+    for (const Punto& p : Inviluppo(PuntiInOrdine(x_, y_, Numero()))) {
+        xV.push_back(p.x);
+        yV.push_back(p.y);
+    }
     return DaVertici(std::move(xV), std::move(yV));
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "Casi.h"
 
@@ -96,6 +97,33 @@ TEST(PoligonoConvesso, HullOfAConvexOutlineIsTheOutline) {
     EXPECT_NEAR(q->Area, 20000, 1e-9);
     EXPECT_TRUE(q->Antiorario);
     EXPECT_EQ(q->nVertici(), 4);
+}
+
+// Tips on a circle, notches within it: the hull is the tips.
+TEST(PoligonoConvesso, TipsOfALargeStar) {
+    constexpr int punte = 2000;
+    std::vector<double> x;
+    std::vector<double> y;
+    for (int k = 0; k < 2 * punte; ++k) {
+        const double a = (k + 0.25) * std::numbers::pi / punte;
+        const double r = k % 2 == 0 ? 100 : 60;
+        x.push_back(300 + r * std::cos(a));
+        y.push_back(-70 + r * std::sin(a));
+    }
+    Poligono p;
+    p.Coordinate(x, y, 2 * punte);
+    const auto q = p.PoligonoConvessoCircoscritto();
+    EXPECT_EQ(q->nVertici(), punte);
+    for (int i = 1; i <= q->nVertici(); ++i)
+        EXPECT_NEAR(Distanza(q->xi(i), q->yi(i), 300, -70), 100, 1e-9);
+    q->AreaCalcola();
+    EXPECT_NEAR(q->Area, punte / 2.0 * 100 * 100 * std::sin(2 * std::numbers::pi / punte), 1e-6);
+}
+
+TEST(PoligonoConvesso, WhatIsNoNumberHasNoPlace) {
+    Poligono p = PoligonoDaTesto("0 0, 10 0, 5 5, 10 10, 0 10");
+    p.xi(3, std::nan(""));
+    EXPECT_EQ(p.PoligonoConvessoCircoscritto()->CoordX(), (std::vector<double>{0, 10, 10, 0}));
 }
 
 TEST(PoligonoConvesso, DegenerateOutlines) {
