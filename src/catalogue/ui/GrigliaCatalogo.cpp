@@ -6,9 +6,11 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QSet>
 
 #include <algorithm>
 
+#include "catalogue/ui/DelegatoNumeri.h"
 #include "catalogue/ui/LettoreDati.h"
 
 namespace sagomi {
@@ -20,15 +22,18 @@ constexpr int larghezzaNome = 1520 / twipsAPixel;  ///< designation
 constexpr int larghezzaNumero = 800 / twipsAPixel; ///< every other column, at least
 constexpr int ariaColonna = 10;                    ///< both sides of a text [px]
 
-QString SenzaBlank(const QString& text) {
-    QString key = text.toLower();
-    key.remove(u' ');
-    return key;
+/// Texts of one shape are as wide, for figures all are.
+QString Forma(QString text) {
+    for (QChar& c : text)
+        if (c.isDigit())
+            c = u'0';
+    return text;
 }
 
 } // namespace
 
 GrigliaCatalogo::GrigliaCatalogo(QWidget* parent) : QTableView(parent) {
+    setItemDelegate(new DelegatoNumeri(this));
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
@@ -72,14 +77,12 @@ int GrigliaCatalogo::LarghezzaColonna(int column) const {
     const int least = column == 0 ? larghezzaNome : larghezzaNumero;
     int width = std::max(qRound(least * scalaLarghezza_),
                          horizontalHeader()->fontMetrics().horizontalAdvance(heading) + ariaColonna);
-    qsizetype longest = 0; // the widest text is the longest: figures are all as wide
-    for (int row = 0; row < model()->rowCount(); ++row) {
-        const QString text = model()->index(row, column).data().toString();
-        if (text.size() < longest)
-            continue;
-        longest = text.size();
-        width = std::max(width, fontMetrics().horizontalAdvance(text) + ariaColonna);
-    }
+    QSet<QString> measured;
+    for (const QString& text : lettore_->Modello()->TestiLunghi(column))
+        if (const QString shape = Forma(text); !measured.contains(shape)) {
+            measured.insert(shape);
+            width = std::max(width, fontMetrics().horizontalAdvance(text) + ariaColonna);
+        }
     return width;
 }
 
@@ -118,11 +121,7 @@ void GrigliaCatalogo::currentChanged(const QModelIndex& current, const QModelInd
 }
 
 int GrigliaCatalogo::CercaIniziale(const QString& testo) const {
-    const QString key = SenzaBlank(testo);
-    for (int row = 0; row < model()->rowCount(); ++row)
-        if (SenzaBlank(model()->index(row, 0).data().toString()).startsWith(key))
-            return row;
-    return -1;
+    return lettore_->Modello()->CercaIniziale(testo);
 }
 
 void GrigliaCatalogo::keyboardSearch(const QString& search) {
@@ -130,7 +129,7 @@ void GrigliaCatalogo::keyboardSearch(const QString& search) {
         digitato_.clear();
     ultimoTasto_.start();
     digitato_ += search;
-    if (SenzaBlank(digitato_).isEmpty())
+    if (digitato_.count(u' ') == digitato_.size())
         return;
     if (const int row = CercaIniziale(digitato_); row >= 0)
         setCurrentIndex(model()->index(row, 0));

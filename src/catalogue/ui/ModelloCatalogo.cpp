@@ -1,6 +1,9 @@
 #include "catalogue/ui/ModelloCatalogo.h"
 
-#include <QFont>
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
 
 #include "frame/Numeri.h"
 
@@ -23,10 +26,10 @@ QVariant ModelloCatalogo::data(const QModelIndex& index, int role) const {
                                                     : Qt::AlignRight | Qt::AlignVCenter);
     if (role != Qt::DisplayRole)
         return {};
-    const auto column = static_cast<std::size_t>(index.column());
+    const std::string& figura = FiguraDi(index.column());
     const auto* number = std::get_if<double>(&lettore_.Cella(index.row(), index.column()));
-    if (number != nullptr && column < figure_.size() && !figure_[column].empty())
-        return QString::fromStdString(Formato(figure_[column], *number));
+    if (number != nullptr && !figura.empty())
+        return QString::fromStdString(Formato(figura, *number));
     return TestoIntero(index.row(), index.column());
 }
 
@@ -40,6 +43,47 @@ QVariant ModelloCatalogo::headerData(int section, Qt::Orientation orientation, i
     if (role == Qt::DisplayRole)
         return QString::fromStdString(lettore_.NomeCampo(section));
     return {};
+}
+
+const std::string& ModelloCatalogo::FiguraDi(int column) const {
+    static const std::string nessuna;
+    const auto at = static_cast<std::size_t>(column);
+    return at < figure_.size() ? figure_[at] : nessuna;
+}
+
+QStringList ModelloCatalogo::TestiLunghi(int column) const {
+    const std::string& figura = FiguraDi(column);
+    std::optional<std::pair<double, double>> estremi;
+    QStringList testi;
+    qsizetype longest = 0;
+    for (int row = 0; row < lettore_.Righe(); ++row) {
+        const Valore& cell = lettore_.Cella(row, column);
+        const auto* number = figura.empty() ? nullptr : std::get_if<double>(&cell);
+        if (number != nullptr) {
+            if (std::isfinite(*number))
+                estremi = {std::min(*number, estremi ? estremi->first : *number),
+                           std::max(*number, estremi ? estremi->second : *number)};
+        } else if (const QString text = TestoIntero(row, column); text.size() >= longest) {
+            longest = text.size();
+            testi << text;
+        }
+    }
+    if (estremi)
+        for (const double value : {estremi->first, estremi->second})
+            testi << QString::fromStdString(Formato(figura, value));
+    return testi;
+}
+
+int ModelloCatalogo::CercaIniziale(const QString& testo) const {
+    if (nomi_.Numero() == 0)
+        for (int row = 0; row < lettore_.Righe(); ++row)
+            nomi_.Aggiunge(TestoDi(lettore_.Cella(row, 0)));
+    return nomi_.CercaIniziale(testo);
+}
+
+void ModelloCatalogo::CominciaCambio() {
+    beginResetModel();
+    nomi_.Svuota();
 }
 
 void ModelloCatalogo::ImpostaFigura(int column, const std::string& figura) {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QStringList>
 
 #include <vector>
 
 #include "catalogue/Lettore.h"
+#include "catalogue/ui/NomiPiegati.h"
 
 namespace sagomi {
 
@@ -25,13 +27,23 @@ public:
     /// A field with all its figures, for other programs to read: no grouping, the decimal separator in use.
     [[nodiscard]] QString TestoIntero(int row, int column) const;
 
+    /// Texts of a column among which its longest stands: of the numbers in a picture the greatest and the
+    /// least, of all else those that none before was longer than.
+    [[nodiscard]] QStringList TestiLunghi(int column) const;
+
+    /// First row whose designation begins with the text, blanks and case ignored; -1 if none does.
+    [[nodiscard]] int CercaIniziale(const QString& testo) const;
+
     /// To be called around a change of the rows.
-    void CominciaCambio() { beginResetModel(); }
+    void CominciaCambio();
     void FinisceCambio() { endResetModel(); }
 
 private:
     const Lettore& lettore_;
+    [[nodiscard]] const std::string& FiguraDi(int column) const;
+
     std::vector<std::string> figure_;
+    mutable NomiPiegati nomi_; ///< of the rows in force, made when somebody types
 };
 
 } // namespace sagomi

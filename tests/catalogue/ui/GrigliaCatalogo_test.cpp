@@ -3,10 +3,14 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QStyledItemDelegate>
 
 #include "catalogue/Famiglie.h"
+#include "catalogue/ui/CifreDipinte.h"
 #include "catalogue/ui/LettoreDati.h"
+#include "catalogue/ui/NomiPiegati.h"
 #include "frame/ui/AmbienteFinestre.h"
 
 using namespace sagomi;
@@ -93,6 +97,99 @@ TEST_F(GrigliaCatalogoTest, RowInHandFollowsMouseAndKeys) {
     QSignalSpy rows(&dati, &LettoreDati::rigaCambiata);
     QTest::keyClick(&griglia, Qt::Key_Down);
     EXPECT_EQ(rows.count(), 0) << "the last row stays, without being taken over again";
+}
+
+/// The whole table, scrolled to its last columns too, with some rows chosen.
+std::vector<QImage> Immagini(GrigliaCatalogo& grid, double scale) {
+    std::vector<QImage> images;
+    for (const int bar : {0, 1}) {
+        grid.horizontalScrollBar()->setValue(bar * grid.horizontalScrollBar()->maximum());
+        QImage image(grid.size() * scale, QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        grid.render(&image);
+        images.push_back(image);
+    }
+    return images;
+}
+
+TEST_F(GrigliaCatalogoTest, NumbersAreComposedWithoutTheTextEngine) {
+    CifreDipinte digits;
+    const QFontMetricsF metrics(griglia.font());
+    for (const char* text : {"1,943.00", "-17.5", "0.00", "1.943,00", "1 943", "7"}) {
+        EXPECT_TRUE(digits.Compone(griglia.font(), text)) << text;
+        EXPECT_NEAR(digits.Larghezza(), metrics.horizontalAdvance(text), 1e-6) << text;
+    }
+    for (const char* text : {"", "IPE 200", "1e5", "12 mm", "½"})
+        EXPECT_FALSE(digits.Compone(griglia.font(), text)) << text;
+}
+
+// The style's own delegate lays every cell out with the text engine.
+TEST_F(GrigliaCatalogoTest, NumbersLandOnThePixelsOfTheStyle) {
+    Mostra({"HEA", "HEM", "HD", "UB"});
+    QStyledItemDelegate style;
+    QAbstractItemDelegate* own = griglia.itemDelegate();
+    for (const double size : {8.0, 9.0, 10.5, 13.0, 19.0})
+        for (const double scale : {1.0, 1.5, 2.0})
+            for (const bool enabled : {true, false}) {
+                SCOPED_TRACE(testing::Message() << size << " pt, scale " << scale << ", enabled " << enabled);
+                QFont font = griglia.font();
+                font.setPointSizeF(size);
+                griglia.setFont(font);
+                griglia.Scala(size / 9, size / 9);
+                griglia.setEnabled(enabled);
+                griglia.selectRow(2);
+                griglia.setItemDelegate(own);
+                const auto drawn = Immagini(griglia, scale);
+                griglia.setItemDelegate(&style);
+                EXPECT_TRUE(drawn == Immagini(griglia, scale));
+            }
+    griglia.setItemDelegate(own);
+}
+
+TEST_F(GrigliaCatalogoTest, ColumnsTakeTheWidestOfAllCells) {
+    Mostra({"HEA", "HEB", "HEM", "IPE", "IPEO", "IPEA", "IPEX", "IPN", "HD", "HEX", "HP", "HEAA", "UC", "UB",
+            "W", "HL"});
+    const QFontMetrics metrics = griglia.fontMetrics();
+    for (int column = 0; column < griglia.model()->columnCount(); ++column) {
+        int widest = 0;
+        for (int row = 0; row < griglia.model()->rowCount(); ++row)
+            widest = std::max(
+                widest, metrics.horizontalAdvance(griglia.model()->index(row, column).data().toString()));
+        EXPECT_GE(griglia.columnWidth(column), widest + 10) << column;
+        const QString heading = griglia.model()->headerData(column, Qt::Horizontal).toString();
+        const int least = std::max(column == 0 ? 101 : 53, metrics.horizontalAdvance(heading) + 10);
+        EXPECT_EQ(griglia.columnWidth(column), std::max(least, widest + 10)) << column;
+    }
+}
+
+TEST_F(GrigliaCatalogoTest, FindsWhatAScanOfAllRowsFinds) {
+    Mostra({"HEA", "IPE", "W"});
+    const auto folded = [](QString text) { return text.toLower().remove(u' '); };
+    for (const char* typed :
+         {"h", "HE", "hea1", "hea 1", "HEA 1000", "ipe", "Ipe 3", "w", "w 10 0", "x", "hea2x"}) {
+        int first = -1;
+        for (int row = griglia.model()->rowCount() - 1; row >= 0; --row)
+            if (folded(griglia.model()->index(row, 0).data().toString()).startsWith(folded(typed)))
+                first = row;
+        EXPECT_EQ(griglia.CercaIniziale(typed), first) << typed;
+    }
+    Mostra({"IPN"});
+    EXPECT_EQ(griglia.CercaIniziale("hea"), -1) << "the names follow the rows";
+    EXPECT_EQ(griglia.CercaIniziale("ipn8"), 0);
+}
+
+TEST(NomiPiegati, CapitalsBlanksAndAccents) {
+    NomiPiegati names;
+    for (const char* name : {"HE 100 A", "Perché 2", "PERCHÉ 20", "", "à"})
+        names.Aggiunge(name);
+    EXPECT_EQ(names.CercaIniziale("he1"), 0);
+    EXPECT_EQ(names.CercaIniziale("perchÉ2"), 1);
+    EXPECT_EQ(names.CercaIniziale("PERCHÉ 20"), 2);
+    EXPECT_EQ(names.CercaIniziale("À"), 4);
+    EXPECT_EQ(names.CercaIniziale(""), 0);
+    EXPECT_EQ(names.CercaIniziale("a"), -1);
+    names.Svuota();
+    EXPECT_EQ(names.CercaIniziale(""), -1);
 }
 
 } // namespace
