@@ -67,8 +67,6 @@ void AttivaForm(SchermoSezione& schermo) {
         // Columns and beams of a joint are picked from these two alone.
         if (schermo.objectName() == u"frmDoppioT" || schermo.objectName() == u"frmSaldati")
             schermo.cmdSceltaSagomoGiunto->setVisible(SceltaSagomoGiunto);
-        NavigaSchermi::Unico().Prendi(
-            QStringLiteral("FrmPltSezione")); // stands ready behind every main screen
         IndiceAcciaio = static_cast<std::int16_t>(std::max(0, schermo.ComboTipoAcciaio->currentIndex()));
         AggiornaCaptionNormativa(schermo);
         schermo.CaricaForm = false;

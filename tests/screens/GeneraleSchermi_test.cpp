@@ -34,6 +34,15 @@ TEST_F(GeneraleSchermiTest, StartShowsTheRolledScreenFirst) {
     EXPECT_FALSE(AvvioInCorso);
 }
 
+TEST_F(GeneraleSchermiTest, ThePreviewIsMadeWhenItIsAskedFor) {
+    auto& s = Avvia();
+    EXPECT_EQ(NavigaSchermi::Unico().Trova(QStringLiteral("FrmPltSezione")), nullptr);
+    Trova<QPushButton>(&s, "CmdPlotta")->click();
+    const Schermo* preview = NavigaSchermi::Unico().Trova(QStringLiteral("FrmPltSezione"));
+    ASSERT_NE(preview, nullptr);
+    EXPECT_TRUE(preview->isVisible());
+}
+
 TEST_F(GeneraleSchermiTest, StartedByAClientNothingShows) {
     ServerAttivo = true;
     Main();
