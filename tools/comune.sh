@@ -4,7 +4,7 @@
 pacchetti_programma=(
   g++ cmake ninja-build ccache pkg-config
   qt6-base-dev qt6-translations-l10n
-  libgsf-1-dev libsqlite3-dev
+  libfontconfig-dev libgsf-1-dev libsqlite3-dev
   fonts-dejavu-core
 )
 pacchetti_schermo=(xvfb xauth imagemagick x11-utils)
