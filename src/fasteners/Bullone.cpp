@@ -48,10 +48,14 @@ const Tabella1<DimensioneBullone>& TabellaBulloni() {
     return tabella;
 }
 
-double Bullone::InterazioneTaglioTrazione() const {
-    return Rapporto(FtSd / 1.4, FtRd) + Rapporto(FvSd, FvRd);
+// ENV 1993-1-1 6.5.5 (5).
+TerminiTaglioTrazione Bullone::TerminiInterazione() const {
+    return {.taglio = Rapporto(FvSd, FvRd), .trazione = Rapporto(FtSd / 1.4, FtRd)};
 }
 
+double Bullone::InterazioneTaglioTrazione() const { return TerminiInterazione().Somma(); }
+
+// ENV 1993-1-1 table 3.3: nominal strengths of the bolt classes.
 void Bullone::Classe(Singolo classe) {
     Classe_ = classe;
     const double n = std::floor(classe);
@@ -69,6 +73,7 @@ void Bullone::d(std::int16_t posizione) {
     do_ = DiametroForoStandard();
 }
 
+// ENV 1993-1-1 table 6.5.3; M12 and M14 in larger holes by 6.5.5 (8).
 void Bullone::CalcolaResistenzaTaglio() {
     FtRd = 0.9 * fub * Ares / GammaM2;
     FvRdGambo = 0.6 * fub * Alorda / GammaM2;
@@ -85,12 +90,14 @@ void Bullone::CalcolaResistenzaTaglio() {
     FvRd = Gambo ? FvRdGambo : FvRdFilettata;
 }
 
+// ENV 1993-1-1 7.5.2 (1).
 Singolo Bullone::DiametroForoStandard() const {
     if (d_ < diametroMedio)
         return d_ + 1;
     return d_ > diametroGrande ? d_ + 3 : d_ + 2;
 }
 
+// ENV 1993-1-1 table 6.5.3, bearing.
 void Bullone::AlfaCalcola() {
     const std::array<Singolo, 3> rapporti{Rapporto(e1 / 3, do_), Rapporto(p1 / 3, do_) - 0.25,
                                           Rapporto(fub, fu)};
@@ -100,10 +107,12 @@ void Bullone::AlfaCalcola() {
             alfa = r;
 }
 
+// ENV 1993-1-1 6.5.5 (10).
 double Bullone::RiduzioneBordo() const { return Riduzione(e2, 1.2 * do_, 1.5 * do_); }
 
 double Bullone::RiduzionePasso() const { return Riduzione(p2, 2.4 * do_, 3 * do_); }
 
+// ENV 1993-1-1 6.5.1.2 to 6.5.1.5.
 bool Bullone::DistanzeControlla() {
     struct Controllo {
         Singolo distanza;
@@ -130,6 +139,7 @@ bool Bullone::DistanzeControlla() {
     return bastano;
 }
 
+// ENV 1993-1-1 table 6.5.3 and 6.5.5 (10).
 void Bullone::RifollamentoCalcola() {
     AlfaCalcola();
     FbRd = 2.5 * alfa * fu * d_ * t / GammaM2;

@@ -17,6 +17,14 @@ struct DimensioneBullone {
 /// The 22 bolts from 8 to 68 mm, by their position from 1.
 const Tabella1<DimensioneBullone>& TabellaBulloni();
 
+/// The terms of the check of a bolt under shear and tension.
+struct TerminiTaglioTrazione {
+    double taglio = 0;   ///< shear over its resistance [-]
+    double trazione = 0; ///< tension over 1.4 times its own [-]
+
+    [[nodiscard]] double Somma() const { return taglio + trazione; }
+};
+
 /// One bolt in one plate: class and diameter, hole, thickness and distances of the plate, and the design
 /// resistances that follow, ENV 1993-1-1 6.5. Forces in N, lengths in mm, strengths in N/mm2, areas in mm2.
 ///
@@ -49,6 +57,9 @@ public:
     /// Shear over its resistance plus tension over 1.4 times its own [-], to be held against 1; ENV 1993-1-1
     /// 6.5.5 (5). Resistances as last computed; one of 0 throws ErroreAritmetico.
     [[nodiscard]] double InterazioneTaglioTrazione() const;
+
+    /// Its terms. Throws as InterazioneTaglioTrazione.
+    [[nodiscard]] TerminiTaglioTrazione TerminiInterazione() const;
 
     /// The class, as 8.8.
     [[nodiscard]] Singolo Classe() const { return Classe_; }

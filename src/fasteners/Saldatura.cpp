@@ -20,6 +20,7 @@ constexpr std::array<Correlazione, 5> correlazioni{{{360, 0.8}, {430, 0.85}, {51
 
 } // namespace
 
+// EC3 1-8 table 4.1.
 Singolo Saldatura::betaW() const {
     for (const Correlazione& c : correlazioni)
         if (c.fu == fu)
@@ -28,6 +29,7 @@ Singolo Saldatura::betaW() const {
     return 0;
 }
 
+// EC3 1-8 4.5.3.3 (3).
 Singolo Saldatura::fvwd() const { return Rapporto(fu / std::sqrt(3.0), betaW()) / GammaM2; }
 
 } // namespace sagomi

@@ -275,10 +275,10 @@ void frmBulloni::Interazione() {
         return;
     }
     const auto text = [](double v) { return FormatoCifre(cifreRisultati, v); };
-    const double sum = bullone_->InterazioneTaglioTrazione();
-    ui_->Lbl_Risultato_0->setText(QString::fromStdString(text(bullone_->FvSd / bullone_->FvRd) + " + " +
-                                                         text(bullone_->FtSd / 1.4 / bullone_->FtRd) + " = " +
-                                                         text(sum)));
+    const TerminiTaglioTrazione t = bullone_->TerminiInterazione();
+    const double sum = t.Somma();
+    ui_->Lbl_Risultato_0->setText(
+        QString::fromStdString(text(t.taglio) + " + " + text(t.trazione) + " = " + text(sum)));
     MostraEsito(ui_->Lbl_Risultato_1, sum);
 }
 
