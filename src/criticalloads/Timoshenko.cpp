@@ -51,11 +51,13 @@ double Carico(double gamma2, double L, double E, double Iz, double C) {
 
 } // namespace
 
+// Theory of Elastic Stability, chapter 6: the rules below with their tables and equations.
 Singolo Timoshenko::Rapporto(const Singolo& L, const Singolo& E, const Singolo& G, const Singolo& /*Iz*/,
                              const Singolo& IT) {
     return L * L * G * IT / E;
 }
 
+// Table 6-3; above it the asymptote of the cantilever.
 Singolo Timoshenko::Gamma2Mens(const Singolo& L, const Singolo& E, const Singolo& G, const Singolo& Iz,
                                const Singolo& IT, const Singolo& Iw) {
     const Singolo R = Rapporto(L, E, G, Iz, IT);
@@ -67,6 +69,7 @@ Singolo Timoshenko::Gamma2Mens(const Singolo& L, const Singolo& E, const Singolo
     return Letta(ascisse, ordinate, R / Iw);
 }
 
+// Tables 6-4 and 6-5.
 Singolo Timoshenko::Gamma2App(const Singolo& L, const Singolo& E, const Singolo& G, const Singolo& Iz,
                               const Singolo& IT, const Singolo& Iw, std::int16_t TipoCarico,
                               std::int16_t QuotaCarico) {
@@ -99,6 +102,7 @@ double Timoshenko::PcrApp(const Singolo& L, const Singolo& E, const Singolo& G, 
     return Carico(gamma2, L, E, Iz, C);
 }
 
+// Narrow rectangular cantilever, the load off the centroid by the first-order correction.
 Singolo Timoshenko::Gamma2MensNoIw(const Singolo& L, const Singolo& E, const Singolo& Iz, double C,
                                    std::int16_t TipoCarico, std::int16_t QuotaCarico) {
     if (TipoCarico == caricoConcentrato)
@@ -108,6 +112,7 @@ Singolo Timoshenko::Gamma2MensNoIw(const Singolo& L, const Singolo& E, const Sin
     return 12.85;
 }
 
+// Narrow rectangular beam on two supports, the same.
 Singolo Timoshenko::Gamma2AppNoIw(const Singolo& L, const Singolo& E, const Singolo& Iz, double C,
                                   std::int16_t TipoCarico, std::int16_t QuotaCarico) {
     if (TipoCarico == caricoConcentrato)
