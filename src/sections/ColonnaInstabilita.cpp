@@ -6,6 +6,7 @@
 
 namespace sagomi {
 
+// ENV 1993-1-1 5.5.1.
 ColonnaCalcolata CalcolaColonna(double lamda, double fy, double betaA, double area, std::string_view curva) {
     ColonnaCalcolata c;
     c.lamdaSegnato = LamdaRelativa(lamda, fy, betaA);
@@ -17,10 +18,12 @@ ColonnaCalcolata CalcolaColonna(double lamda, double fy, double betaA, double ar
     return c;
 }
 
+// EC3 6.3.1.2 (1).
 double ForzaCritica(double lamda, double area) {
     return std::numbers::pi * std::numbers::pi * E_acciaio * area / (lamda * lamda);
 }
 
+// ENV 1993-1-1 5.5.1.2.
 RiduzioneCalcolata CalcolaRiduzione(double snellezza, bool relativa, double fy, double betaA,
                                     std::string_view curva) {
     RiduzioneCalcolata r;

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "geometry/ForoSezione.h"
 #include "sections/SezioneGenerica.h"
 
 namespace sagomi {
@@ -29,7 +30,7 @@ Tratto CercaTratto(const std::vector<bool>& oltre) {
 
 SezioneGenerica& CalcolaContorno(std::shared_ptr<SezioneGenerica>& sezione, const std::vector<double>& x,
                                  const std::vector<double>& y, std::int16_t n) {
-    if (!sezione)
+    if (!sezione || sezione.use_count() > 1)
         sezione = std::make_shared<SezioneGenerica>();
     sezione->CoordinateSezione(x, y, n);
     sezione->CaratteristicheStaticheSezione();
@@ -58,6 +59,17 @@ void TagliaPunta(std::vector<double>& x, std::vector<double>& y, const ParteCont
         x[i] = xTaglio;
         y[i] = k + 1 < tratto.lunghezza ? yEntrata : yUscita;
     }
+}
+
+void TogliAnima(std::vector<double>& x, std::vector<double>& y, std::int16_t& n, double y0, double H,
+                std::string_view tipo) {
+    if (H > 0)
+        ForoSezione(x, y, n, y0, H, tipo);
+}
+
+Bozza& BozzaContorno() {
+    static thread_local Bozza bozza;
+    return bozza;
 }
 
 } // namespace sagomi

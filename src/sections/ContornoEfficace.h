@@ -2,13 +2,15 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace sagomi {
 
 class SezioneGenerica;
 
-/// Hands an outline to a section and computes its static values; creates the section at first use.
+/// Hands an outline to a section and computes its static values. The section is created at first use, and
+/// anew when something else holds it too: a copy of its owner keeps the outline that it was copied with.
 /// @param x, y  vertices, vertex 1 at [0]
 /// @param n     their number
 SezioneGenerica& CalcolaContorno(std::shared_ptr<SezioneGenerica>& sezione, const std::vector<double>& x,
@@ -29,5 +31,20 @@ struct ParteContorno {
 /// @param destra   what lies beyond is at greater x, else at smaller
 void TagliaPunta(std::vector<double>& x, std::vector<double>& y, const ParteContorno& parte, double xTaglio,
                  bool destra);
+
+/// Removes a strip of the web, but for the thread that holds the outline together; nothing without a height.
+/// @param n     number of vertices, grows by those of the notch
+/// @param y0    lower edge of the strip [mm]
+/// @param H     its height [mm]
+/// @param tipo  "DoppioT" or "SagomiU", as ForoSezione takes it
+void TogliAnima(std::vector<double>& x, std::vector<double>& y, std::int16_t& n, double y0, double H,
+                std::string_view tipo);
+
+/// An outline on its way to a section; the buffers are kept from one section to the next.
+struct Bozza {
+    std::vector<double> x, y;
+    std::int16_t n = 0;
+};
+Bozza& BozzaContorno();
 
 } // namespace sagomi

@@ -29,6 +29,7 @@ double DeltaM(double M1e, double Mm) {
 
 } // namespace
 
+// ENV 1993-1-1 figure 5.5.3.
 EffettiDiagramma EffettiDelDiagramma(const MomentiMembratura& m, std::int16_t tipo, std::int16_t pict) {
     const double M1e = m.M1 + m.NeN;
     const double M2e = m.M2 + m.NeN;

@@ -7,6 +7,7 @@
 
 namespace sagomi {
 
+// Ordinanza 3274-2003 6.5.3.1.
 DuttilitaCalcolata CalcolaDuttilita(const SezioneDuttile& sezione, double N, double Lstar) {
     const SezioneDuttile& z = sezione;
     DuttilitaCalcolata r;

@@ -20,6 +20,7 @@ struct CurvaEuropea {
     double beta;
 };
 
+// alfa of ENV 1993-1-1 table 5.5.1, beta of figure 5.5.1.
 constexpr std::array<CurvaEuropea, 5> curveEuropee = {
     {{"a0", 0.13, 0.23}, {"a", 0.21, 0.23}, {"b", 0.34, 0.15}, {"c", 0.49, 0.11}, {"d", 0.76, 0.08}}};
 
@@ -32,8 +33,10 @@ const CurvaEuropea& Curva(std::string_view nome) {
 
 } // namespace
 
+// ENV 1993-1-1 table 5.3.1.
 double Epsilon(double fy) { return std::sqrt(fyRiferimento / (fy == 0 ? 0.00001 : fy)); }
 
+// ENV 1993-1-1 5.5.1.2 (1), down to Chi.
 double Lamda1(double epsilon) { return 93.9 * epsilon; }
 
 double LamdaRelativa(double lamda, double fy, double betaA) {
@@ -57,15 +60,18 @@ double Chi(double alfa, double lamda) {
     return AlPiu(1 / (fi + std::sqrt((fi - lamda) * (fi + lamda))), 1);
 }
 
+// ENV 1993-1-1 5.5.1.1 (1).
 double ChiFyM1(double lamda, double fy, double betaA, std::string_view curva) {
     return Chi(AlfaCurva(curva), LamdaRelativa(lamda, fy, betaA)) * fy / GammaM1;
 }
 
+// ENV 1993-1-1 5.5.4 (1), of class 3 and 4 (3).
 double Mu(double lamda, double beta, double Wel, double Wpl, std::int16_t classe) {
     const double m = lamda * (2 * beta - 4);
     return AlPiu(classe < 3 ? m + (Wpl - Wel) / Wel : m, 0.9);
 }
 
+// ENV 1993-1-1 5.3.5 (3).
 double Rho(double b, double t, double fy, double kSigma) {
     if (kSigma <= 0)
         return 0;
@@ -75,7 +81,8 @@ double Rho(double b, double t, double fy, double kSigma) {
     return lamda > 0.673 ? (lamda - 0.22) / (lamda * lamda) : 1;
 }
 
-double FrecciaIniziale(SezioneDoppioT& sezione, std::string_view asse) {
+// ENV 1993-1-1 figure 5.5.1.
+double FrecciaIniziale(const SezioneDoppioT& sezione, std::string_view asse) {
     const bool yy = asse == "yy";
     const std::string curva = sezione.CurvaInstabilita(asse);
     const double lamda = yy ? sezione.LamdaSegnatoY() : sezione.LamdaSegnatoZ();
@@ -85,6 +92,7 @@ double FrecciaIniziale(SezioneDoppioT& sezione, std::string_view asse) {
     return Almeno((lamda - 0.2) * AlfaCurva(curva) * k * Wel / sezione.Area, 2);
 }
 
+// ENV 1993-1-1 figure 5.5.3.
 double Psi2(double psi) {
     if (psi < -1 || psi > 1)
         Avvisa("Valore di psi non ammesso");

@@ -75,7 +75,7 @@ double Rho(double b, double t, double fy, double kSigma);
 
 /// Equivalent initial bow imperfection [mm], figure 5.5.1; at least 2.
 /// @param asse  "yy" or "zz"
-double FrecciaIniziale(SezioneDoppioT& sezione, std::string_view asse);
+double FrecciaIniziale(const SezioneDoppioT& sezione, std::string_view asse);
 
 /// Equivalent uniform moment factor of end moments, figure 5.5.3: 1.8 - 0.7 psi.
 /// @param psi  ratio of the end moments, -1 to 1; another gives a message and the formula all the same

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "frame/Singolo.h"
+#include "sections/Interazione.h"
 #include "sections/MostraVplRd.h"
 
 namespace sagomi {
@@ -27,7 +28,8 @@ class Superficie;
 /// results from the members. Whatever changes fy, NSd, the lengths or the dimensions calls for a new run.
 class SezioneDoppioT {
 public:
-    // Outlines, created at first use. A copy of the section shares them with its original.
+    // Outlines, created at first use. A copy of the section keeps those it was copied with: computing either
+    // of the two anew leaves the other's alone.
     std::shared_ptr<SezioneGenerica> SezioneGenericaCorrente; ///< the whole section
     std::shared_ptr<SezioneGenerica> SezioneComp4;            ///< effective in compression, class 4
     std::shared_ptr<SezioneGenerica> SezioneWy4;              ///< effective in bending about y-y, class 4
@@ -178,6 +180,9 @@ public:
     /// kept. A division that fails sets ErroreDatiDatabase and gives 0.
     double betaA();
 
+    /// The same to be shown or used further: nothing is told, nothing is set.
+    [[nodiscard]] double betaA() const;
+
     /// Writes ClassePressoFlessione: the class in compression once NSd reaches Ntrascurabile, compared in
     /// single precision; the class in bending about y-y below.
     void ClassePressoFlessioneCalcola();
@@ -275,22 +280,33 @@ public:
     /// Plastic moments reduced by the axial force, EC3 6.2.9.1, and the exponent of the biaxial check.
     void MNRd(double& MNy, double& MNz, double& beta) const;
 
-    /// Axial resistance [N], ENV 1993-1-1 5.4.4, with the effective area of class 4.
-    double NplRdFunz();
+    /// Axial resistance [N], ENV 1993-1-1 5.4.4, with the effective area of class 4 that the object has.
+    [[nodiscard]] double NplRdFunz() const;
+
+    /// The terms of the interaction on the section.
+    [[nodiscard]] TerminiInterazione TerminiMNResistenza() const;
 
     /// Axial force and bending on the section by ClassePressoFlessione, EC3 6.2.9; passes when not above 1.
     [[nodiscard]] double InterazioneMNResistenza() const;
 
     /// Axial force and bending with flexural buckling, ENV 1993-1-1 5.5.4; passes when not above 1.
     /// @param Py, Pz  receive the terms of the two moments
-    double InterazioneMNInstab(double& Py, double& Pz);
+    double InterazioneMNInstab(double& Py, double& Pz) const;
+
+    /// Its terms. Class 4 is checked here with the elastic moments of the whole section.
+    [[nodiscard]] TerminiInterazione TerminiMNInstab() const;
 
     /// Axial force and bending with lateral-torsional buckling, ENV 1993-1-1 5.5.4; passes when not above 1.
-    /// McrFunz and MbRdSub must have run before, in this order.
-    double InterazioneFlessoTorsionale();
+    /// McrFunz and MbRdSub must have run before, in this order. An MbRd of 0 is told.
+    [[nodiscard]] double InterazioneFlessoTorsionale() const;
+
+    /// Its terms.
+    [[nodiscard]] TerminiInterazione TerminiFlessoTorsionale() const;
 
     double LamdaY(); ///< L0y / iY; a division that fails sets ErroreDatiDatabase and gives 0
     double LamdaZ(); ///< L0z / iZ; a division that fails sets ErroreDatiDatabase and gives 0
+    [[nodiscard]] double LamdaY() const; ///< the same to be shown: 0 where it fails, and nothing is set
+    [[nodiscard]] double LamdaZ() const; ///< the same to be shown: 0 where it fails, and nothing is set
 
     /// Relative slenderness in lateral-torsional buckling from McyRd and Mcr; 0 when LLT is not above 0.
     [[nodiscard]] double LamdaLTfunz() const;
@@ -298,16 +314,18 @@ public:
     /// Writes LamdaLT; reduction factor in lateral-torsional buckling, 1 up to a relative slenderness of 0.4.
     double ChiLTfunz();
 
-    double LamdaSegnatoY(); ///< relative slenderness about y-y [-]
-    double LamdaSegnatoZ(); ///< relative slenderness about z-z [-]
-    double kLT();           ///< factor of My in the lateral-torsional interaction, at most 1 [-]
-    double muLT();          ///< at most 0.9 [-]
-    double muY();           ///< at most 0.9 [-]
-    double muZ();           ///< at most 0.9 [-]
-    double kY();            ///< factor of My in the interaction, at most 1.5 [-]
-    double kZ();            ///< factor of Mz in the interaction, at most 1.5 [-]
-    double kYfunz();        ///< the same as kY
-    double kZfunz();        ///< the same as kZ
+    // Slenderness 5.5.1.2 and factors of the interactions 5.5.4 of ENV 1993-1-1. What cannot be computed is
+    // no number.
+    [[nodiscard]] double LamdaSegnatoY() const; ///< relative slenderness about y-y [-]
+    [[nodiscard]] double LamdaSegnatoZ() const; ///< relative slenderness about z-z [-]
+    [[nodiscard]] double kLT() const;    ///< factor of My in the lateral-torsional interaction, at most 1 [-]
+    [[nodiscard]] double muLT() const;   ///< at most 0.9 [-]
+    [[nodiscard]] double muY() const;    ///< at most 0.9 [-]
+    [[nodiscard]] double muZ() const;    ///< at most 0.9 [-]
+    [[nodiscard]] double kY() const;     ///< factor of My in the interaction, at most 1.5 [-]
+    [[nodiscard]] double kZ() const;     ///< factor of Mz in the interaction, at most 1.5 [-]
+    [[nodiscard]] double kYfunz() const; ///< the same as kY
+    [[nodiscard]] double kZfunz() const; ///< the same as kZ
 
     /// The full record in a data file: 65 fields, one a line, in the direction of the mode. Stops at the
     /// first field that fails, which is told; false then.

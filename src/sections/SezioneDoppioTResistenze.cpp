@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* acciaioS460 = "S460 (Fe540)";
 
-/// The curves of one kind of section about both axes.
+/// The curves of one kind of section about both axes, ENV 1993-1-1 table 5.5.3.
 struct Curve {
     const char* yy;
     const char* zz;
@@ -43,13 +43,17 @@ const std::string& Acciaio(const SezioneDoppioT& s) {
     return *tipo;
 }
 
-/// A slenderness; data of the row that do not divide are flagged.
-double Snellezza(SezioneDoppioT& s, double L0, double i) {
+/// A slenderness; 0 where the data of the row do not divide.
+double Snellezza(double L0, double i) {
     const double lamda = L0 / i;
-    if (std::isfinite(lamda))
-        return lamda;
-    s.ErroreDatiDatabase = true;
-    return 0;
+    return std::isfinite(lamda) ? lamda : 0;
+}
+
+/// The same, with data that do not divide flagged.
+double Snellezza(SezioneDoppioT& s, double L0, double i) {
+    if (!std::isfinite(L0 / i))
+        s.ErroreDatiDatabase = true;
+    return Snellezza(L0, i);
 }
 
 } // namespace
@@ -61,16 +65,23 @@ std::string SezioneDoppioT::CurvaInstabilita(std::string_view asse) const {
     return asse == "yy" ? curve.yy : curve.zz;
 }
 
-double SezioneDoppioT::NplRdFunz() { return Area * fy * betaA() / GammaM0; }
+// ENV 1993-1-1 5.4.4 (1).
+double SezioneDoppioT::NplRdFunz() const { return Area * fy * betaA() / GammaM0; }
 
+// ENV 1993-1-1 5.5.1.4, then 5.5.1.2.
 double SezioneDoppioT::LamdaY() { return Snellezza(*this, L0y, iY); }
 
 double SezioneDoppioT::LamdaZ() { return Snellezza(*this, L0z, iZ); }
 
-double SezioneDoppioT::LamdaSegnatoY() { return LamdaRelativa(LamdaY(), fy, betaA()); }
+double SezioneDoppioT::LamdaY() const { return Snellezza(L0y, iY); }
 
-double SezioneDoppioT::LamdaSegnatoZ() { return LamdaRelativa(LamdaZ(), fy, betaA()); }
+double SezioneDoppioT::LamdaZ() const { return Snellezza(L0z, iZ); }
 
+double SezioneDoppioT::LamdaSegnatoY() const { return LamdaRelativa(LamdaY(), fy, betaA()); }
+
+double SezioneDoppioT::LamdaSegnatoZ() const { return LamdaRelativa(LamdaZ(), fy, betaA()); }
+
+// EC3 6.2.9.1 (5) and (6).
 void SezioneDoppioT::MNRd(double& MNy, double& MNz, double& beta) const {
     const double n = NSd / NplRd;
     const double a = AlPiu((Area - 2 * b * tf) / Area, 0.5);
@@ -79,40 +90,56 @@ void SezioneDoppioT::MNRd(double& MNy, double& MNz, double& beta) const {
     beta = Almeno(5 * n, 1);
 }
 
-double SezioneDoppioT::InterazioneMNResistenza() const {
+// EC3 6.2.9.1 (6), 6.2.9.2 and 6.2.9.3.
+TerminiInterazione SezioneDoppioT::TerminiMNResistenza() const {
+    TerminiInterazione t{NSd, NplRd, {.MSd = Mysd}, {.MSd = Mzsd}};
     if (ClassePressoFlessione < 3) {
-        double MNy = 0;
-        double MNz = 0;
-        double beta = 0;
-        MNRd(MNy, MNz, beta);
-        return std::pow(Mysd / MNy, 2) + std::pow(Mzsd / MNz, beta);
+        t.assialeNeiMomenti = true;
+        t.y.esponente = 2;
+        MNRd(t.y.MRd, t.z.MRd, t.z.esponente);
+    } else if (ClassePressoFlessione == 3) {
+        t.y.MRd = MelyRd;
+        t.z.MRd = MelzRd;
+    } else {
+        t.y.MRd = McyRd;
+        t.z.MRd = MczRd;
+        t.y.NeN = NSd * eNy;
+        t.z.NeN = NSd * eNz;
     }
-    if (ClassePressoFlessione == 3)
-        return NSd / NplRd + Mysd / MelyRd + Mzsd / MelzRd;
-    return NSd / NplRd + (Mysd + NSd * eNy) / McyRd + (Mzsd + NSd * eNz) / MczRd;
+    return t;
 }
 
-// Class 4 is checked here with the elastic moments of the whole section.
-double SezioneDoppioT::InterazioneMNInstab(double& Py, double& Pz) {
+double SezioneDoppioT::InterazioneMNResistenza() const { return TerminiMNResistenza().Somma(); }
+
+// ENV 1993-1-1 5.5.4 (1), (3) and (5).
+TerminiInterazione SezioneDoppioT::TerminiMNInstab() const {
     const bool elastica = ClassePressoFlessione >= 3;
-    const double Nmin = NbyRd < NbzRd ? NbyRd : NbzRd;
     const double My = GammaM0 * (elastica ? MelyRd : McyRd) / GammaM1;
     const double Mz = GammaM0 * (elastica ? MelzRd : MczRd) / GammaM1;
-    Py = kY() * (Mysd + NSd * eNy) / My;
-    Pz = kZ() * (Mzsd + NSd * eNz) / Mz;
-    return NSd / Nmin + Py + Pz;
+    return {NSd,
+            NbyRd < NbzRd ? NbyRd : NbzRd,
+            {.MSd = Mysd, .NeN = NSd * eNy, .MRd = My, .k = kY()},
+            {.MSd = Mzsd, .NeN = NSd * eNz, .MRd = Mz, .k = kZ()}};
 }
 
-double SezioneDoppioT::muY() { return Mu(LamdaSegnatoY(), BetaMy, Wely, Wply, ClassePressoFlessione); }
+double SezioneDoppioT::InterazioneMNInstab(double& Py, double& Pz) const {
+    const TerminiInterazione t = TerminiMNInstab();
+    Py = t.y.Valore();
+    Pz = t.z.Valore();
+    return t.Somma();
+}
 
-double SezioneDoppioT::muZ() { return Mu(LamdaSegnatoZ(), BetaMz, Welz, Wplz, ClassePressoFlessione); }
+double SezioneDoppioT::muY() const { return Mu(LamdaSegnatoY(), BetaMy, Wely, Wply, ClassePressoFlessione); }
 
-double SezioneDoppioT::kY() { return AlPiu(1 - muY() * NSd / (GammaM1 * NbyRd), 1.5); }
+double SezioneDoppioT::muZ() const { return Mu(LamdaSegnatoZ(), BetaMz, Welz, Wplz, ClassePressoFlessione); }
 
-double SezioneDoppioT::kZ() { return AlPiu(1 - muZ() * NSd / (GammaM1 * NbzRd), 1.5); }
+// ENV 1993-1-1 5.5.4 (1).
+double SezioneDoppioT::kY() const { return AlPiu(1 - muY() * NSd / (GammaM1 * NbyRd), 1.5); }
 
-double SezioneDoppioT::kYfunz() { return kY(); }
+double SezioneDoppioT::kZ() const { return AlPiu(1 - muZ() * NSd / (GammaM1 * NbzRd), 1.5); }
 
-double SezioneDoppioT::kZfunz() { return kZ(); }
+double SezioneDoppioT::kYfunz() const { return kY(); }
+
+double SezioneDoppioT::kZfunz() const { return kZ(); }
 
 } // namespace sagomi

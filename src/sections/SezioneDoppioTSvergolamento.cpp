@@ -40,6 +40,7 @@ double SezioneDoppioT::zCentroTaglio() const {
     return ((h - yG) * I.sup - I.inf * yG) / iZ + yG;
 }
 
+// ENV 1993-1-1 F.1.2 (1).
 double SezioneDoppioT::McrFunz() {
     if (!(LLT > 0))
         return Mcr;
@@ -55,8 +56,10 @@ double SezioneDoppioT::McrFunz() {
     return Mcr;
 }
 
+// ENV 1993-1-1 5.5.2 (5).
 double SezioneDoppioT::LamdaLTfunz() const { return LLT > 0 ? std::sqrt(GammaM0 * McyRd / Mcr) : 0; }
 
+// ENV 1993-1-1 5.5.2 (2), (3) and (7).
 double SezioneDoppioT::ChiLTfunz() {
     LamdaLT = LamdaLTfunz();
     if (LamdaLT.Stretto() <= 0.4F)
@@ -64,20 +67,29 @@ double SezioneDoppioT::ChiLTfunz() {
     return AlPiu(Chi(Saldata ? 0.49 : 0.21, LamdaLT), 1);
 }
 
+// ENV 1993-1-1 5.5.2 (1).
 void SezioneDoppioT::MbRdSub() {
     ChiLT = ChiLTfunz();
     MbRd = ChiLT * McyRd * GammaM0 / GammaM1;
 }
 
-double SezioneDoppioT::muLT() { return AlPiu(0.15 * LamdaSegnatoZ() * BetaMLT - 0.15, 0.9); }
+// ENV 1993-1-1 5.5.4 (2).
+double SezioneDoppioT::muLT() const { return AlPiu(0.15 * LamdaSegnatoZ() * BetaMLT - 0.15, 0.9); }
 
-double SezioneDoppioT::kLT() { return AlPiu(1 - muLT() * NSd / (GammaM1 * NbzRd), 1); }
+double SezioneDoppioT::kLT() const { return AlPiu(1 - muLT() * NSd / (GammaM1 * NbzRd), 1); }
 
-double SezioneDoppioT::InterazioneFlessoTorsionale() {
+// ENV 1993-1-1 5.5.4 (2), (4) and (6).
+TerminiInterazione SezioneDoppioT::TerminiFlessoTorsionale() const {
+    return {NSd,
+            NbzRd,
+            {.MSd = Mysd, .NeN = NSd * eNy, .MRd = MbRd, .k = kLT()},
+            {.MSd = Mzsd, .NeN = NSd * eNz, .MRd = GammaM0 * MczRd / GammaM1, .k = kZ()}};
+}
+
+double SezioneDoppioT::InterazioneFlessoTorsionale() const {
     if (MbRd == 0)
         Avvisa("MbRd = 0");
-    return NSd / NbzRd + kLT() * (Mysd + NSd * eNy) / MbRd +
-           kZ() * (Mzsd + NSd * eNz) / (GammaM0 * MczRd / GammaM1);
+    return TerminiFlessoTorsionale().Somma();
 }
 
 } // namespace sagomi

@@ -10,6 +10,8 @@ sagomi::Poligono& SezioneGenerica::Contorno() {
 
 void SezioneGenerica::CoordinateSezione(const std::vector<double>& x, const std::vector<double>& y,
                                         std::int16_t n) {
+    if (Poligono.use_count() > 1)
+        Poligono.reset(); // the other holder keeps what it has
     Contorno().Coordinate(x, y, n);
 }
 

@@ -33,7 +33,8 @@ public:
     double WplX = 0;        ///< plastic modulus, horizontal cut
     double WplY = 0;        ///< plastic modulus, vertical cut
 
-    /// The outline. Copies of the section share it; one that was taken away is created at the next use.
+    /// The outline. A copy of the section keeps it until either is given new coordinates; one that was taken
+    /// away is created at the next use.
     std::shared_ptr<sagomi::Poligono> Poligono = std::make_shared<sagomi::Poligono>();
 
     /// Hands the first n vertices to the polygon.

@@ -1,6 +1,7 @@
 #include "sections/SezioneDoppioT.h"
 
 #include <cmath>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -237,6 +238,99 @@ TEST_F(SezioneDoppioTResistenze, FactorsAreLimited) {
     EXPECT_EQ(s.kY(), 1.5);
     EXPECT_EQ(s.muZ(), 0.9);
     EXPECT_NEAR(s.kZ(), 1 - 0.9 * 400 / 500, 1e-12);
+}
+
+// What a screen shows needs no section that it could change.
+template <typename S>
+concept SiMostra = requires(const S& s, double& P) {
+    s.LamdaY();
+    s.LamdaZ();
+    s.LamdaSegnatoY();
+    s.LamdaSegnatoZ();
+    s.betaA();
+    s.muY();
+    s.muZ();
+    s.muLT();
+    s.kY();
+    s.kZ();
+    s.kLT();
+    s.kYfunz();
+    s.kZfunz();
+    s.NplRdFunz();
+    s.InterazioneMNResistenza();
+    s.InterazioneMNInstab(P, P);
+    s.InterazioneFlessoTorsionale();
+};
+static_assert(SiMostra<SezioneDoppioT>);
+
+TEST_F(SezioneDoppioTResistenze, ASlendernessThatIsShownSetsNothing) {
+    SezioneDoppioT s = Tonda();
+    s.iY = 0;
+    s.L0y = 3000;
+    EXPECT_EQ(std::as_const(s).LamdaY(), 0);
+    EXPECT_FALSE(s.ErroreDatiDatabase);
+    EXPECT_EQ(s.LamdaY(), 0);
+    EXPECT_TRUE(s.ErroreDatiDatabase);
+}
+
+TEST_F(SezioneDoppioTResistenze, TermsAddUpToTheInteraction) {
+    SezioneDoppioT s = Tonda();
+    s.NSd = 200;
+    s.Mysd = 40;
+    s.Mzsd = 24;
+    s.eNy = 0.05;
+    s.eNz = 0.02;
+    s.MbRd = 90;
+    for (const std::int16_t classe : {1, 2, 3, 4}) {
+        s.ClassePressoFlessione = classe;
+        double Py = 0;
+        double Pz = 0;
+        const TerminiInterazione instab = s.TerminiMNInstab();
+        EXPECT_EQ(instab.Somma(), s.InterazioneMNInstab(Py, Pz));
+        EXPECT_EQ(instab.y.Valore(), Py);
+        EXPECT_EQ(instab.z.Valore(), Pz);
+        EXPECT_EQ(instab.NRd, 500); // the weaker axis
+        EXPECT_EQ(s.TerminiMNResistenza().Somma(), s.InterazioneMNResistenza());
+        const TerminiInterazione torsionale = s.TerminiFlessoTorsionale();
+        EXPECT_EQ(torsionale.Somma(), s.InterazioneFlessoTorsionale());
+        EXPECT_EQ(torsionale.y.k, s.kLT());
+        EXPECT_EQ(torsionale.z.k, s.kZ());
+        EXPECT_NEAR(torsionale.y.M(), 50, 1e-9); // 40 + 200 0.05
+    }
+}
+
+TEST_F(SezioneDoppioTResistenze, TermsOnTheSectionByClass) {
+    SezioneDoppioT s = Tonda();
+    s.NSd = 600;
+    s.Mysd = 40;
+    s.Mzsd = 24;
+    s.eNy = 0.05;
+    s.eNz = 0.02;
+    TerminiInterazione t = s.TerminiMNResistenza();
+    EXPECT_EQ(t.N(), 0); // the axial force is in the reduced moments
+    EXPECT_NEAR(t.y.MRd, 53.3333, 1e-4);
+    EXPECT_EQ(t.y.esponente, 2);
+    EXPECT_NEAR(t.z.esponente, 3, 1e-12);
+    s.ClassePressoFlessione = 3;
+    t = s.TerminiMNResistenza();
+    EXPECT_NEAR(t.N(), 0.6, 1e-12);
+    EXPECT_EQ(t.y.MRd, 80);
+    EXPECT_EQ(t.y.NeN, 0); // class 3 has the whole section's centroid
+    s.ClassePressoFlessione = 4;
+    t = s.TerminiMNResistenza();
+    EXPECT_EQ(t.z.MRd, 50);
+    EXPECT_NEAR(t.z.M(), 36, 1e-5);
+}
+
+TEST_F(SezioneDoppioTResistenze, AResistanceOfZeroGivesNoFactor) {
+    SezioneDoppioT s = Tonda();
+    s.NSd = 200;
+    s.NbzRd = 0;
+    s.BetaMz = 1.1;
+    s.L0z = 93.9;
+    EXPECT_TRUE(std::isnan(s.kZ())); // mu below 0: the division gives plus infinity
+    EXPECT_TRUE(std::isnan(s.kLT()));
+    EXPECT_TRUE(std::isfinite(s.kY()));
 }
 
 TEST_F(SezioneDoppioTResistenze, DivisionsThatFailAreNoNumbersAndNoLimits) {

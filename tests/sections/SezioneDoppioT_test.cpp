@@ -1,5 +1,6 @@
 #include "sections/SezioneDoppioT.h"
 
+#include <array>
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -209,6 +210,78 @@ TEST_F(SezioneDoppioTTest, NplRdUsesTheEffectiveAreaThatTheObjectAlreadyHas) {
     s.InizializzaSezione();
     EXPECT_LT(s.SezioneComp4->Area, 0.7 * s.Area);
     EXPECT_NEAR(s.NplRd, s.SezioneComp4->Area * 235, 1e-6);
+}
+
+/// Outline vertices and area, to be held against later.
+struct Impronta {
+    std::vector<double> x, y;
+    double area = 0;
+    bool operator==(const Impronta&) const = default;
+};
+
+Impronta ImprontaDi(const std::shared_ptr<SezioneGenerica>& s) {
+    return s ? Impronta{s->Poligono->CoordX(), s->Poligono->CoordY(), s->Area} : Impronta{};
+}
+
+std::array<Impronta, 4> ImprontaDi(const SezioneDoppioT& s) {
+    return {ImprontaDi(s.SezioneGenericaCorrente), ImprontaDi(s.SezioneComp4), ImprontaDi(s.SezioneWy4),
+            ImprontaDi(s.SezioneWz4)};
+}
+
+TEST_F(SezioneDoppioTTest, ACopyComputedAnewLeavesTheOriginalAlone) {
+    SezioneDoppioT laminata = Ipe200();
+    laminata.InizializzaSezione();
+    SezioneDoppioT saldata = TrePiatti(1020, 500, 5, 10); // class 4 in all three ways
+    saldata.InizializzaSezione();
+    SezioneDoppioT diversa;
+    diversa.fy = 355;
+    diversa.InizializzaSezioneUtente(nullptr, 1000, 400, 6, 8, 5, 500, 9);
+    for (const SezioneDoppioT& originale : {laminata, saldata, diversa}) {
+        const auto prima = ImprontaDi(originale);
+        SezioneDoppioT copia = originale;
+        EXPECT_EQ(ImprontaDi(copia), prima);
+        copia.InizializzaSezioneUtente(nullptr, 1200, 600, 6, 9, 4);
+        EXPECT_EQ(ImprontaDi(originale), prima);
+        EXPECT_NE(ImprontaDi(copia), prima);
+        const auto dopo = ImprontaDi(copia);
+        SezioneDoppioT rifatta = originale; // and the other way round
+        rifatta.InizializzaSezione();
+        EXPECT_EQ(ImprontaDi(copia), dopo);
+    }
+}
+
+TEST_F(SezioneDoppioTTest, AnOutlineThatADrawingHoldsStaysAsItIs) {
+    SezioneDoppioT s = Ipe200();
+    s.InizializzaSezione();
+    const auto tenuto = s.SezioneGenericaCorrente;
+    s.h = 300;
+    s.InizializzaSezione();
+    EXPECT_NEAR(tenuto->yG, 100, 1e-9);
+    EXPECT_NEAR(s.SezioneGenericaCorrente->yG, 150, 1e-9);
+}
+
+TEST_F(SezioneDoppioTTest, AnAreaThatIsTooSmallIsToldOnceARun) {
+    SezioneDoppioT s = TrePiatti(1020, 500, 5, 10);
+    s.Area = 1000;
+    for (std::size_t run = 1; run <= 3; ++run) {
+        s.InizializzaSezione();
+        EXPECT_EQ(registratore.testi.size(), run);
+    }
+    const SezioneDoppioT& mostrata = s;
+    EXPECT_GT(mostrata.betaA(), 1);
+    EXPECT_GT(mostrata.LamdaSegnatoY() + 1, 0);
+    EXPECT_EQ(registratore.testi.size(), 3U); // showing tells nothing
+}
+
+TEST_F(SezioneDoppioTTest, ASectionOfEqualFlangesForgetsTheLowerOne) {
+    SezioneDoppioT s;
+    s.fy = 355;
+    s.InizializzaSezioneUtente(nullptr, 600, 200, 10, 20, 5, 700, 10); // lower outstand 43 epsilon
+    EXPECT_EQ(s.ClasseAlaInfF, 4);
+    EXPECT_EQ(s.ClasseFlessioneZ, 4);
+    s.InizializzaSezioneUtente(nullptr, 600, 200, 10, 20, 5);
+    EXPECT_EQ(s.ClasseAlaInfF, 0);
+    EXPECT_EQ(s.ClasseFlessioneZ, 1);
 }
 
 TEST_F(SezioneDoppioTTest, WeldedShearTakesTheHeightBetweenFlangesWhateverTheFillet) {
