@@ -50,7 +50,7 @@ void ScriviColonna(const Scrittore& su, double lamda, const std::string& curva, 
 
 void ColonnaInstabilita(double lamda, int asse, Schermo& schermo) {
     constexpr std::array<const char*, 3> assi{"yy", "zz", "vv"};
-    SullaSezioneInUso([&](auto& section) {
+    SullaSezioneInUso([&](const auto& section) {
         const double betaA = section.betaA();
         const Scrittore su(schermo, asse);
         su.Comune("lblGM1", TestoPiano(GammaM1));

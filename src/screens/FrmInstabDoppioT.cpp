@@ -116,7 +116,7 @@ void FrmInstabDoppioT::CompletaForm(SchermoSezione& /*chiamante*/) {
 }
 
 void FrmInstabDoppioT::CompletaForm1(int asse) {
-    SezioneDoppioT* s = Sezione();
+    const SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;
     const double lamda = asse == 0 ? s->LamdaY() : s->LamdaZ();
@@ -151,7 +151,7 @@ void FrmInstabDoppioT::CalcolaChi() {
 }
 
 void FrmInstabDoppioT::MostraFreccia() {
-    SezioneDoppioT* s = Sezione();
+    const SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;
     const int axis = optE0_[0]->isChecked() ? 0 : 1;

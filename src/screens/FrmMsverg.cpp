@@ -218,21 +218,20 @@ void FrmMsverg::MostraResistenza() {
 }
 
 void FrmMsverg::MostraInterazione() {
-    SezioneDoppioT& s = *Sezione();
+    const SezioneDoppioT& s = *Sezione();
     ui_->Frame1->setTitle(Titolo(s.ClassePressoFlessione));
     const LineaFormula& f = *ui_->formula;
     ui_->formula->MostraAltro(s.ClassePressoFlessione > 3);
 
-    const double kLT = s.kLT();
-    const double kZ = s.kZ();
-    Mostra(f.Sopra(0), figura, s.NSd / NInkN);
-    Mostra(f.Sotto(0), figura, s.NbzRd / NInkN);
-    Mostra(f.Sopra(1), Prodotto(kLT, s.Mysd + s.NSd * s.eNy));
-    Mostra(f.Altro(1), Prodotto(kLT, s.Mysd, s.NSd * s.eNy));
-    Mostra(f.Sotto(1), figura, Valido(s, s.MbRd / NmmInkNm));
-    Mostra(f.Sopra(2), Prodotto(kZ, s.Mzsd + s.NSd * s.eNz));
-    Mostra(f.Altro(2), Prodotto(kZ, s.Mzsd, s.NSd * s.eNz));
-    Mostra(f.Sotto(2), figura, GammaM0 * s.MczRd / GammaM1 / NmmInkNm);
+    const TerminiInterazione t = s.TerminiFlessoTorsionale();
+    Mostra(f.Sopra(0), figura, t.NSd / NInkN);
+    Mostra(f.Sotto(0), figura, t.NRd / NInkN);
+    Mostra(f.Sopra(1), Prodotto(t.y.k, t.y.M()));
+    Mostra(f.Altro(1), Prodotto(t.y.k, t.y.MSd, t.y.NeN));
+    Mostra(f.Sotto(1), figura, Valido(s, t.y.MRd / NmmInkNm));
+    Mostra(f.Sopra(2), Prodotto(t.z.k, t.z.M()));
+    Mostra(f.Altro(2), Prodotto(t.z.k, t.z.MSd, t.z.NeN));
+    Mostra(f.Sotto(2), figura, t.z.MRd / NmmInkNm);
     ui_->formula->MostraSomma(Valido(s, s.InterazioneFlessoTorsionale()));
 }
 

@@ -215,8 +215,10 @@ void FrmPresFless::CompletaForm1(int asse, double& M, double& BetaM, double& C1)
     m.M1 *= NmmInkNm;
     m.M2 *= NmmInkNm;
     m.MQ *= NmmInkNm;
-    if (const SezioneDoppioT* s = Sezione())
-        m.NeN = s->NSd * (asse == 0 ? s->eNy : s->eNz);
+    if (const SezioneDoppioT* s = Sezione()) {
+        const TerminiInterazione t = s->TerminiMNInstab();
+        m.NeN = asse == 0 ? t.y.NeN : t.z.NeN;
+    }
     const EffettiDiagramma e = EffettiDelDiagramma(m, TipoDiagramma, IndicePict);
     M = e.M;
     BetaM = e.BetaM;
@@ -273,7 +275,7 @@ void FrmPresFless::SelezionaPict(int indice) {
 }
 
 void FrmPresFless::MostraAsse(int asse) {
-    SezioneDoppioT& s = *Sezione();
+    const SezioneDoppioT& s = *Sezione();
     const bool y = asse == 0;
     Mostra(y ? ui_->Lbl_Lamda_0 : ui_->Lbl_Lamda_1, figura, y ? s.LamdaY() : s.LamdaZ());
     Mostra(y ? ui_->Lbl_Mu_0 : ui_->Lbl_Mu_1, figura, y ? s.muY() : s.muZ());
@@ -286,20 +288,18 @@ void FrmPresFless::MostraAsse(int asse) {
 }
 
 void FrmPresFless::MostraInterazione() {
-    SezioneDoppioT& s = *Sezione();
+    const SezioneDoppioT& s = *Sezione();
     const bool classe4 = s.ClassePressoFlessione > 3;
     ui_->Frame1->setTitle(Titolo(s.ClassePressoFlessione));
     ui_->termini->setVisible(!classe4);
     ui_->termini4->setVisible(classe4);
 
-    double Py = 0;
-    double Pz = 0;
-    const double somma = s.InterazioneMNInstab(Py, Pz);
-    const double N = s.NSd / (s.NbyRd < s.NbzRd ? s.NbyRd : s.NbzRd);
+    const TerminiInterazione t = s.TerminiMNInstab();
+    const double somma = t.Somma();
     LineaFormula* line = classe4 ? ui_->termini4 : ui_->termini;
-    Mostra(line->Sopra(0), figura, N);
-    Mostra(line->Sopra(1), figura, Py);
-    Mostra(line->Sopra(2), figura, Pz);
+    Mostra(line->Sopra(0), figura, t.N());
+    Mostra(line->Sopra(1), figura, t.y.Valore());
+    Mostra(line->Sopra(2), figura, t.z.Valore());
     line->MostraSomma(somma);
     MostraEsito(ui_->Lbl_Risultato, somma);
 }

@@ -142,12 +142,13 @@ void FrmVerifiche::CompletaForm(SchermoSezione& /*chiamante*/) {
     s->Mzsd = NumeroIn(ui_->fraAzioni->TxtMzsd) * NmmInkNm;
     s->ClassePressoFlessioneCalcola();
     ScegliQuadro(s->ClassePressoFlessione);
+    const TerminiInterazione termini = s->TerminiMNResistenza();
     if (s->ClassePressoFlessione < 3)
-        MostraPlastica(*s);
+        MostraPlastica(termini);
     else if (s->ClassePressoFlessione == 3)
-        MostraElastica(*s);
+        MostraElastica(termini);
     else
-        MostraEfficace(*s);
+        MostraEfficace(termini);
 }
 
 void FrmVerifiche::ScegliQuadro(int classe) {
@@ -156,42 +157,39 @@ void FrmVerifiche::ScegliQuadro(int classe) {
     ui_->Frame3->setVisible(classe > 3);
 }
 
-void FrmVerifiche::MostraPlastica(const SezioneDoppioT& s) {
-    double MNy = 0;
-    double MNz = 0;
-    double beta = 0;
-    s.MNRd(MNy, MNz, beta);
+// The axial force has reduced the moments.
+void FrmVerifiche::MostraPlastica(const TerminiInterazione& t) {
     const LineaFormula& f = *ui_->formula1;
-    f.Esponente(0)->setText(QStringLiteral("2"));
-    Mostra(f.Esponente(1), "0.0##", beta);
-    MostraM(f.Sopra(0), s.Mysd);
-    MostraM(f.Sotto(0), MNy);
-    MostraM(f.Sopra(1), s.Mzsd);
-    MostraM(f.Sotto(1), MNz);
-    ui_->formula1->MostraSomma(s.InterazioneMNResistenza());
+    Mostra(f.Esponente(0), TestoPiano(t.y.esponente));
+    Mostra(f.Esponente(1), "0.0##", t.z.esponente);
+    MostraM(f.Sopra(0), t.y.MSd);
+    MostraM(f.Sotto(0), t.y.MRd);
+    MostraM(f.Sopra(1), t.z.MSd);
+    MostraM(f.Sotto(1), t.z.MRd);
+    ui_->formula1->MostraSomma(t.Somma());
 }
 
-void FrmVerifiche::MostraElastica(const SezioneDoppioT& s) {
+void FrmVerifiche::MostraElastica(const TerminiInterazione& t) {
     const LineaFormula& f = *ui_->formula2;
-    MostraN(f.Sopra(0), s.NSd);
-    MostraN(f.Sotto(0), s.NplRd);
-    MostraM(f.Sopra(1), s.Mysd);
-    MostraM(f.Sotto(1), s.MelyRd);
-    MostraM(f.Sopra(2), s.Mzsd);
-    MostraM(f.Sotto(2), s.MelzRd);
-    ui_->formula2->MostraSomma(s.InterazioneMNResistenza());
+    MostraN(f.Sopra(0), t.NSd);
+    MostraN(f.Sotto(0), t.NRd);
+    MostraM(f.Sopra(1), t.y.MSd);
+    MostraM(f.Sotto(1), t.y.MRd);
+    MostraM(f.Sopra(2), t.z.MSd);
+    MostraM(f.Sotto(2), t.z.MRd);
+    ui_->formula2->MostraSomma(t.Somma());
 }
 
 // The moments carry the shift of the effective section's centroid.
-void FrmVerifiche::MostraEfficace(const SezioneDoppioT& s) {
+void FrmVerifiche::MostraEfficace(const TerminiInterazione& t) {
     const LineaFormula& f = *ui_->formula3;
-    MostraN(f.Sopra(0), s.NSd);
-    MostraN(f.Sotto(0), s.NplRd);
-    MostraM(f.Sopra(1), s.Mysd + s.NSd * s.eNy);
-    MostraM(f.Sotto(1), s.McyRd);
-    MostraM(f.Sopra(2), s.Mzsd + s.NSd * s.eNz);
-    MostraM(f.Sotto(2), s.MczRd);
-    ui_->formula3->MostraSomma(s.InterazioneMNResistenza());
+    MostraN(f.Sopra(0), t.NSd);
+    MostraN(f.Sotto(0), t.NRd);
+    MostraM(f.Sopra(1), t.y.M());
+    MostraM(f.Sotto(1), t.y.MRd);
+    MostraM(f.Sopra(2), t.z.M());
+    MostraM(f.Sotto(2), t.z.MRd);
+    ui_->formula3->MostraSomma(t.Somma());
 }
 
 } // namespace sagomi

@@ -12,6 +12,8 @@ class FrmVerifiche;
 
 namespace sagomi {
 
+struct TerminiInterazione;
+
 /// Resistance of the section to axial force and bending about both axes, EC3 6.2.9: the terms of the
 /// interaction and its verdict, laid out by the class in compression with bending.
 class FrmVerifiche : public SchermoDettaglio {
@@ -29,9 +31,9 @@ protected:
 
 private:
     void ScegliQuadro(int classe);
-    void MostraPlastica(const SezioneDoppioT& s);
-    void MostraElastica(const SezioneDoppioT& s);
-    void MostraEfficace(const SezioneDoppioT& s);
+    void MostraPlastica(const TerminiInterazione& t);
+    void MostraElastica(const TerminiInterazione& t);
+    void MostraEfficace(const TerminiInterazione& t);
 
     std::unique_ptr<Ui::FrmVerifiche> ui_;
 };
