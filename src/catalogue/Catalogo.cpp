@@ -196,7 +196,7 @@ void Catalogo::ApreTabelle() {
 }
 
 EsitoQuery Catalogo::Esegui(std::string_view query) const {
-    constexpr int passiPerLotto = 10'000, massimiLotti = 5'000;
+    constexpr int passiPerLotto = 10'000, massimiLotti = 2'000;
     stato_->causa.clear();
     stato_->restano = massimiLotti;
     sqlite3_progress_handler(db_.get(), passiPerLotto, ContaPassi, &stato_->restano);

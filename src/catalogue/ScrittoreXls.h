@@ -17,7 +17,7 @@ namespace sagomi {
 /// one, never half of it.
 /// Throws ErroreCatalogo for a workbook that the format cannot hold (no sheet, a sheet's name that is empty,
 /// longer than 31 characters, used twice or with one of \ / ? * [ ] :, more than 65536 rows or 256 columns, a
-/// text of more than 4096 characters) and for a file that cannot be written.
+/// text of more than 32767 characters) and for a file that cannot be written.
 void ScriviXls(const CartellaDati& cartella, const std::filesystem::path& file);
 
 /// The "Workbook" stream alone, without its container. Throws std::length_error or std::invalid_argument for

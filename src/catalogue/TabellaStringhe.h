@@ -13,9 +13,8 @@ namespace sagomi {
 /// The shared strings of a workbook: each text stands once, the cells refer to it by its number.
 class TabellaStringhe {
 public:
-    /// The longest text that is written, in UTF-16 units. The format would take 32767, but the library that
-    /// reads follows a text over one record border only; this much never goes over two.
-    static constexpr std::size_t massimoTesto = 4096;
+    /// The longest text that a cell can hold, in UTF-16 units.
+    static constexpr std::size_t massimoTesto = 32767;
 
     /// Counts a cell that holds this text (UTF-8); a new text is entered. One that is too long throws
     /// std::length_error.

@@ -1,10 +1,12 @@
 #include "catalogue/Catalogo.h"
 
+#include <chrono>
 #include <sys/stat.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "CartellaAMano.h"
 #include "Fogli.h"
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/ScrittoreXls.h"
@@ -123,6 +125,83 @@ TEST_F(CatalogoTest, ReadOnceWhileHeldAndAgainWhenTheFileChanges) {
     EXPECT_EQ(primo->Esegui("SELECT * FROM [IPE$]").righe.size(), 1U); // who holds the old one keeps it
     std::filesystem::remove(file);
     EXPECT_THROW(Catalogo::Apri(file), ErroreCatalogo);
+}
+
+TEST_F(CatalogoTest, ASheetThatCannotBeReadHindersNoOtherQuery) {
+    prove::ScriveByte(
+        file, prove::CartellaAMano().Foglio(u"guasto").Numero(0, 300, 1).Foglio(u"x").Numero(1, 0, 7).File());
+    const Catalogo c(file);
+    EXPECT_EQ(c.Esegui("SELECT * FROM [x$]").righe.at(0).at(0), Valore(7.0));
+    for (int volta = 0; volta < 2; ++volta)
+        EXPECT_EQ(Errore(c, "SELECT * FROM [x$] UNION SELECT * FROM [guasto$]"),
+                  "Errore nella lettura di \"" + file.string() +
+                      "\": il foglio \"guasto\" è danneggiato (celle oltre la colonna 256).");
+    EXPECT_EQ(c.Esegui("SELECT * FROM [x$]").righe.size(), 1U);
+    EXPECT_THAT(Errore(c, "SELECT * FROM [manca$]"), HasSubstr("manca il foglio \"manca\""));
+}
+
+/// A plus before a column keeps SQLite from asking the table for the order: then it sorts by itself.
+TEST_F(CatalogoTest, RowsComeInTheOrderThatSqliteWouldGive) {
+    Foglio f = FoglioDi("x", {{S("a"), S("b")}});
+    const std::vector<Valore> valori = {3.0,   S("b"),  {},  -1.5, S("B"), 3.0,
+                                        S(""), S("bb"), 0.0, -0.0, {},     S("\u00E8")};
+    for (std::size_t i = 0; i < 60; ++i) {
+        f.Scrivi(i + 1, 0, valori[i * 7 % valori.size()]);
+        f.Scrivi(i + 1, 1, valori[i * 5 % 11]);
+    }
+    const auto c = Con({f});
+    const std::pair<const char*, const char*> casi[] = {
+        {"ORDER BY a", "ORDER BY +a, _rowid_"},
+        {"ORDER BY a DESC", "ORDER BY +a DESC, _rowid_"},
+        {"ORDER BY b, a DESC", "ORDER BY +b, +a DESC, _rowid_"},
+        {"ORDER BY b DESC, _rowid_ DESC", "ORDER BY +b DESC, +_rowid_ DESC"}};
+    for (const auto& [nostro, suo] : casi)
+        EXPECT_EQ(c->Esegui(S("SELECT _rowid_, * FROM [x$] ") + nostro).righe,
+                  c->Esegui(S("SELECT _rowid_, * FROM [x$] ") + suo).righe)
+            << nostro;
+    EXPECT_EQ(c->Esegui("SELECT * FROM [x$] UNION SELECT * FROM [x$] ORDER BY a").righe,
+              c->Esegui("SELECT DISTINCT a, b FROM [x$] ORDER BY +a, +b").righe);
+    EXPECT_EQ(c->Esegui("SELECT * FROM [x$] ORDER BY a COLLATE NOCASE, _rowid_").righe,
+              c->Esegui("SELECT * FROM [x$] ORDER BY +a COLLATE NOCASE, +_rowid_").righe);
+}
+
+TEST_F(CatalogoTest, ConditionsAndJoins) {
+    const auto c = Con({FoglioDi("x", {{S("a"), S("b")}, {1.0, S("u")}, {2.0, S("v")}, {3.0, {}}}),
+                        FoglioDi("y", {{S("a"), S("c")}, {3.0, 30.0}, {1.0, 10.0}})});
+    EXPECT_THAT(c->Esegui("SELECT b FROM [x$] WHERE a > 1 ORDER BY a DESC").righe,
+                ElementsAre(ElementsAre(Valore()), ElementsAre(Valore(S("v")))));
+    EXPECT_THAT(c->Esegui("SELECT x.a, y.c FROM [x$] x JOIN [y$] y ON x.a = y.a ORDER BY y.c").righe,
+                ElementsAre(ElementsAre(Valore(1.0), Valore(10.0)), ElementsAre(Valore(3.0), Valore(30.0))));
+    EXPECT_EQ(c->Esegui("SELECT count(*) FROM [x$]").righe.at(0).at(0), Valore(3.0));
+}
+
+TEST_F(CatalogoTest, HeldAlthoughNobodyElseDoesAndOnlyTheLastFew) {
+    const std::weak_ptr<Catalogo> primo = Con({FoglioDi("IPE", {{S("designation")}})});
+    EXPECT_FALSE(primo.expired());
+    EXPECT_EQ(Catalogo::Apri(file), primo.lock());
+    for (int i = 0; i < 4; ++i) {
+        const auto altro = dir.percorso / (std::to_string(i) + ".xls");
+        std::filesystem::copy_file(file, altro);
+        Catalogo::Apri(altro);
+    }
+    EXPECT_TRUE(primo.expired());
+}
+
+TEST_F(CatalogoTest, HeldOneIsReadAgainWhenTheFileIsChangedInPlace) {
+    const auto primo = Con({FoglioDi("IPE", {{S("designation")}, {S("IPE 80")}})});
+    S byte = prove::LeggeByte(file);
+    const auto ora = std::filesystem::last_write_time(file);
+    prove::ScriveByte(file, byte);
+    std::filesystem::last_write_time(file, ora); // the same to the last digit: not read again
+    EXPECT_EQ(Catalogo::Apri(file), primo);
+    std::filesystem::last_write_time(file, ora + std::chrono::milliseconds(1));
+    EXPECT_NE(Catalogo::Apri(file), primo);
+}
+
+TEST_F(CatalogoTest, TheLongestTextsComeBack) {
+    const S lungo(32767, 'x');
+    const auto c = Con({FoglioDi("x", {{S("a")}, {lungo}})});
+    EXPECT_EQ(c->Esegui("SELECT a FROM [x$]").righe.at(0).at(0), Valore(lungo));
 }
 
 TEST_F(CatalogoTest, MissingOrDamagedWorkbook) {

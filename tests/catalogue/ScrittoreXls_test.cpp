@@ -80,7 +80,7 @@ TEST(ScriviXls, ManyLongTextsOverManyRecords) {
         f.Scrivi(r, r % 5, t);
     }
     S lungo;
-    for (int i = 0; i < 4096; ++i)
+    for (int i = 0; i < 32767; ++i)
         lungo += "\u20AC";
     f.Scrivi(600, 0, lungo);
     c.fogli.push_back(f);
@@ -212,7 +212,7 @@ INSTANTIATE_TEST_SUITE_P(Limiti, RifiutaTest, testing::Values(
     CasoRifiutato{"nomeDoppio",    ConFogli({"IPE", "ipe"}),      "compare due volte"},
     CasoRifiutato{"troppeRighe",   ConCella(65536, 0, 1.0),       "più di 65536 righe"},
     CasoRifiutato{"troppeColonne", ConCella(0, 256, 1.0),         "più di 256 colonne"},
-    CasoRifiutato{"testoLungo",    ConCella(0, 0, S(4097, 'x')),  "testo di 4097 caratteri"}),
+    CasoRifiutato{"testoLungo",    ConCella(0, 0, S(32768, 'x')),  "testo di 32768 caratteri"}),
     [](const auto& i) { return std::string(i.param.nome); });
 // clang-format on
 

@@ -131,8 +131,8 @@ TEST(TabellaStringhe, HalvesOfACharacterStayTogether) {
 
 TEST(TabellaStringhe, LongestTextAndOneMore) {
     TabellaStringhe t;
-    EXPECT_NO_THROW(t.Raccogli(std::string(4096, 'x')));
-    EXPECT_THROW(t.Raccogli(std::string(4097, 'x')), std::length_error);
+    EXPECT_NO_THROW(t.Raccogli(std::string(32767, 'x')));
+    EXPECT_THROW(t.Raccogli(std::string(32768, 'x')), std::length_error);
 }
 
 TEST(TabellaStringhe, EmptyTableIsStillATable) {
