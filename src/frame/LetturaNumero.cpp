@@ -50,6 +50,8 @@ bool Minuscolo(std::string_view numero) {
         if (letto.ec != std::errc{})
             return numero[e + 1] == '-';
     }
+    constexpr std::int64_t oltreOgniTesto = std::int64_t{1} << 62U; // longer than any text: the sum fits
+    esponente = std::clamp(esponente, -oltreOgniTesto, oltreOgniTesto);
     return static_cast<std::int64_t>(punto) - static_cast<std::int64_t>(prima) + esponente < 0;
 }
 

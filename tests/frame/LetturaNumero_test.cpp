@@ -59,7 +59,10 @@ INSTANTIATE_TEST_SUITE_P(Testi, LetturaNumeroTest, testing::Values(
     CasoLettura{"Underflow",       "1E-999",    0,       6},
     CasoLettura{"UnderflowLong",   "0." + std::string(400, '0') + "1", 0, 403},
     CasoLettura{"ExponentBeyondAll", "1E99999999999999999999", infinito, 22},
-    CasoLettura{"ExponentBelowAll",  "1E-99999999999999999999", 0, 23}),
+    CasoLettura{"ExponentBelowAll",  "1E-99999999999999999999", 0, 23},
+    CasoLettura{"ExponentOfAllBits", "461E9223372036854775807", infinito, 23},
+    CasoLettura{"ExponentOfAllBitsBelow", "0.00461E-9223372036854775808", 0, 28},
+    CasoLettura{"ExponentZerosInFront", "461E0000000000000000000000000000000009223372036854775807", infinito, 56}),
     [](const auto& i) { return std::string(i.param.nome); });
 // clang-format on
 
