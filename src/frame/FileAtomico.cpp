@@ -1,8 +1,12 @@
 #include "frame/FileAtomico.h"
 
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
@@ -15,16 +19,51 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Where a path leads, through symbolic links and from the current folder.
-fs::path Meta(const fs::path& percorso) {
+constexpr int legamiMassimi = 40; // as the system follows
+
+/// Where a path leads, through symbolic links and from the current folder; also through a link to a file that
+/// is not there, which the library takes for the end of the road.
+fs::path Meta(fs::path percorso) {
     std::error_code errore;
+    for (int i = 0; i < legamiMassimi && fs::is_symlink(percorso, errore); ++i)
+        percorso = percorso.parent_path() / fs::read_symlink(percorso, errore);
     const fs::path meta = fs::weakly_canonical(percorso, errore);
     return errore ? percorso : meta;
+}
+
+constexpr std::string_view segnaposto = "XXXXXX"; // mkostemp puts six characters of its own here
+
+std::string InizioTemporaneo(const fs::path& meta) { return "." + meta.filename().string() + "."; }
+
+/// A name that mkostemp gave to a temporary file of this one.
+bool NomeTemporaneo(std::string_view nome, std::string_view inizio) {
+    return nome.size() == inizio.size() + segnaposto.size() && nome.starts_with(inizio) &&
+           std::all_of(nome.begin() + static_cast<std::ptrdiff_t>(inizio.size()), nome.end(),
+                       [](unsigned char c) { return std::isalnum(c) != 0; });
+}
+
+/// Whether it is a plain file that nobody has touched for an hour.
+bool Abbandonato(const fs::path& file) {
+    constexpr std::time_t ora = 3600;
+    struct stat stato {};
+    return lstat(file.c_str(), &stato) == 0 && S_ISREG(stato.st_mode) &&
+           stato.st_mtime < std::time(nullptr) - ora;
+}
+
+void TogliAbbandonati(const fs::path& meta) {
+    const std::string inizio = InizioTemporaneo(meta);
+    std::error_code errore;
+    for (fs::directory_iterator voce(meta.parent_path(), errore), fine; !errore && voce != fine;
+         voce.increment(errore))
+        if (NomeTemporaneo(voce->path().filename().string(), inizio) && Abbandonato(voce->path()))
+            unlink(voce->path().c_str());
 }
 
 /// A new file, or an old one of the ordinary kind that may be written.
 bool Scrivibile(const fs::path& meta) {
     std::error_code errore;
+    if (fs::is_symlink(meta, errore)) // a circle of links
+        return false;
     const fs::file_status stato = fs::status(meta, errore);
     if (!fs::exists(stato))
         return !meta.filename().empty();
@@ -86,7 +125,8 @@ bool FileAtomico::Apre(const fs::path& percorso) {
     meta_ = Meta(percorso);
     if (!Scrivibile(meta_))
         return false;
-    temporaneo_ = (meta_.parent_path() / ("." + meta_.filename().string() + ".XXXXXX")).string();
+    TogliAbbandonati(meta_);
+    temporaneo_ = (meta_.parent_path() / (InizioTemporaneo(meta_).append(segnaposto))).string();
     fd_ = mkostemp(temporaneo_.data(), O_CLOEXEC);
     if (fd_ < 0)
         temporaneo_.clear();

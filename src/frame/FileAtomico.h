@@ -18,8 +18,10 @@ public:
     FileAtomico(FileAtomico&& altro) noexcept;
     FileAtomico& operator=(FileAtomico&& altro) noexcept;
 
-    /// Makes the temporary file. False when the folder or the existing file cannot be written, or when the
-    /// path names something that is no regular file.
+    /// Makes the temporary file, and removes those that a run which ended in the middle of a save of this
+    /// file left more than an hour ago. Links are followed, also one that leads to no file yet. False when
+    /// the folder or the existing file cannot be written, or when the path names something that is no regular
+    /// file.
     bool Apre(const std::filesystem::path& percorso);
 
     /// Writes the bytes and puts them in the place of the old file. False when the disk refuses; then the old

@@ -1,5 +1,6 @@
 #include "frame/FileAtomico.h"
 
+#include <chrono>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -127,6 +128,36 @@ TEST_F(FileAtomicoTest, CanBeMoved) {
     EXPECT_TRUE(terzo.Conferma("nuovo"));
     EXPECT_EQ(LeggeByte(percorso), "nuovo");
     EXPECT_EQ(cartella.Voci(), 1);
+}
+
+TEST_F(FileAtomicoTest, ADanglingLinkIsFollowed) {
+    const fs::path altrove = cartella.percorso / "altrove";
+    fs::create_directory(altrove);
+    fs::create_symlink("secondo.txt", percorso);
+    fs::create_symlink(altrove / "nuovo.txt", cartella.percorso / "secondo.txt");
+    ASSERT_TRUE(ScriveAtomico(percorso, "testo"));
+    EXPECT_TRUE(fs::is_symlink(percorso));
+    EXPECT_EQ(LeggeByte(altrove / "nuovo.txt"), "testo");
+}
+
+TEST_F(FileAtomicoTest, ALinkToItselfIsRefused) {
+    fs::create_symlink("dati.txt", percorso);
+    EXPECT_FALSE(ScriveAtomico(percorso, "testo"));
+    EXPECT_TRUE(fs::is_symlink(percorso));
+}
+
+TEST_F(FileAtomicoTest, OwnTemporaryFilesOlderThanAnHourGo) {
+    const auto vecchia = fs::file_time_type::clock::now() - std::chrono::minutes(61);
+    for (const char* nome : {".dati.txt.abC12x", ".dati.txt.Recent", ".altri.txt.abC12x", ".dati.txt.lungo12",
+                             ".dati.txt.ab-12x"})
+        ScriveByte(cartella.percorso / nome, "x");
+    for (const char* nome :
+         {".dati.txt.abC12x", ".altri.txt.abC12x", ".dati.txt.lungo12", ".dati.txt.ab-12x"})
+        fs::last_write_time(cartella.percorso / nome, vecchia);
+    ASSERT_TRUE(ScriveAtomico(percorso, "testo"));
+    EXPECT_FALSE(fs::exists(cartella.percorso / ".dati.txt.abC12x"));
+    EXPECT_TRUE(fs::exists(cartella.percorso / ".dati.txt.Recent")) << "another run may be writing it";
+    EXPECT_EQ(cartella.Voci(), 5) << "files of other names stay";
 }
 
 } // namespace
