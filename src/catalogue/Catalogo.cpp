@@ -239,8 +239,10 @@ std::filesystem::path FileAccanto(const std::filesystem::path& cartella, std::st
 void RendiSolaLettura(const std::filesystem::path& file) noexcept {
     using std::filesystem::perms;
     std::error_code errore;
-    std::filesystem::permissions(file, perms::owner_write | perms::group_write | perms::others_write,
-                                 std::filesystem::perm_options::remove, errore);
+    // What a link leads to is somebody else's file: its rights stay.
+    std::filesystem::permissions(
+        file, perms::owner_write | perms::group_write | perms::others_write,
+        std::filesystem::perm_options::remove | std::filesystem::perm_options::nofollow, errore);
 }
 
 } // namespace sagomi

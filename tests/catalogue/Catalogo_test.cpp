@@ -233,4 +233,14 @@ TEST(RendiSolaLettura, TakesTheRightToWriteAndNeverFails) {
     RendiSolaLettura(dir.percorso / "manca.xls");
 }
 
+TEST(RendiSolaLettura, NeverReachesThroughALink) {
+    const prove::CartellaDiProva dir;
+    prove::ScriveByte(dir.percorso / "altrui.xls", "");
+    std::filesystem::permissions(dir.percorso / "altrui.xls", std::filesystem::perms(0664));
+    std::filesystem::create_symlink("altrui.xls", dir.percorso / "Sagomi.xls");
+    RendiSolaLettura(dir.percorso / "Sagomi.xls");
+    EXPECT_EQ(std::filesystem::status(dir.percorso / "altrui.xls").permissions(),
+              std::filesystem::perms(0664));
+}
+
 } // namespace
