@@ -30,7 +30,9 @@ target_compile_options(sagomi_regole_meccanica INTERFACE -Wconversion -Wsign-con
 function(sagomi_meccanica folder)
   cmake_parse_arguments(A "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
   add_library(sagomi_${folder} STATIC ${A_SOURCES})
-  target_include_directories(sagomi_${folder} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_include_directories(sagomi_${folder} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src> $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/sagomi>)
   target_link_libraries(sagomi_${folder} PUBLIC ${A_LINK} PRIVATE sagomi_regole sagomi_regole_meccanica ${A_LINK_PRIVATE})
   foreach(l IN LISTS A_LINK A_LINK_PRIVATE)
     if(l MATCHES "^Qt6|_ui$")

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <map>
 #include <optional>
@@ -16,6 +14,7 @@
 #include "frame/Decimale.h"
 #include "frame/Errori.h"
 #include "frame/FileAtomico.h"
+#include "frame/LetturaFile.h"
 #include "frame/LetturaNumero.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
@@ -271,12 +270,13 @@ std::int16_t NumeroLibero() {
 }
 
 bool ApreInLettura(const fs::path& percorso, FileAperto& file) {
-    std::error_code errore;
-    if (!fs::exists(percorso, errore) || fs::is_directory(percorso, errore))
+    try {
+        const FileLetto letto = LeggeFile(percorso, byteMassimiFileDati);
+        file.byte.assign(letto.byte.begin(), letto.byte.end());
+        return true;
+    } catch (const std::runtime_error&) {
         return false;
-    std::ifstream flusso(percorso, std::ios::binary);
-    file.byte.assign(std::istreambuf_iterator<char>(flusso), std::istreambuf_iterator<char>());
-    return flusso.is_open() && !flusso.bad();
+    }
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -16,8 +17,12 @@ namespace sagomi {
 /// A variable that takes part in a record.
 using Campo = std::variant<double*, Singolo*, std::int16_t*, std::int32_t*, std::string*, bool*>;
 
-/// Opens a file and gives its number, from 1 up; 0 when it cannot be opened. What is written stays aside
-/// until ChiudeFile puts it in the place of the old file.
+/// No data file comes near this size; a larger one is none of ours.
+inline constexpr std::size_t byteMassimiFileDati = std::size_t{16} << 20U;
+
+/// Opens a file and gives its number, from 1 up; 0 when it cannot be opened: to read, it must be a regular
+/// file of at most byteMassimiFileDati. What is written stays aside until ChiudeFile puts it in the place of
+/// the old file.
 std::int16_t ApreFile(const std::filesystem::path& percorso, std::string_view modo);
 
 /// Closes a file. False with the message "Scrittura incompleta del file" when what was written did not reach

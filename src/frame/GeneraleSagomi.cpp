@@ -8,7 +8,18 @@ namespace sagomi {
 
 namespace {
 
-Singolo FattoreAltro(Singolo stored) { return stored == 0 ? Singolo(1) : stored; }
+double FattoreAltro(Singolo fattore) { return fattore == 0 ? 1.0 : double(fattore); }
+
+FattoriParziali Fattori() {
+    switch (Normativa) {
+    case normativaEC3:
+        return fattoriEC3;
+    case normativaAltro:
+        return {FattoreAltro(GammaM0Altro), FattoreAltro(GammaM1Altro), FattoreAltro(GammaM2Altro)};
+    default:
+        return fattoriNTC;
+    }
+}
 
 std::vector<void (*)()>& DaSvuotare() {
     static std::vector<void (*)()> elenco;
@@ -22,28 +33,11 @@ bool AggiungiRipristino(void (*svuota)()) {
     return true;
 }
 
-Tabella1<std::string> NomiAcciaiPredefiniti() { return {"S235 (Fe360)", "S275 (Fe430)", "S355 (Fe510)"}; }
-Tabella1<Singolo> fyPredefinite() { return {235, 275, 355}; }
-Tabella1<Singolo> fuPredefinite() { return {360, 430, 510}; }
-Tabella1<Singolo> ClassiBulloniPredefinite() { return {4.6, 4.8, 5.6, 5.8, 6.8, 8.8, 10.9}; }
-
 void ImpostaGamma() {
-    switch (Normativa) {
-    case normativaEC3:
-        GammaM0 = 1.0;
-        GammaM1 = 1.0;
-        GammaM2 = 1.25;
-        break;
-    case normativaAltro:
-        GammaM0 = FattoreAltro(GammaM0Altro);
-        GammaM1 = FattoreAltro(GammaM1Altro);
-        GammaM2 = FattoreAltro(GammaM2Altro);
-        break;
-    default:
-        GammaM0 = 1.05;
-        GammaM1 = 1.05;
-        GammaM2 = 1.25;
-    }
+    const FattoriParziali fattori = Fattori();
+    GammaM0 = fattori.GammaM0;
+    GammaM1 = fattori.GammaM1;
+    GammaM2 = fattori.GammaM2;
 }
 
 std::string NomeNormativa() {
@@ -57,37 +51,10 @@ std::string NomeNormativa() {
     }
 }
 
-void ImpostazioniPredefinite() {
-    NumAcciai = 3;
-    NomeAcciaio = NomiAcciaiPredefiniti();
-    fyAcciaio = fyPredefinite();
-    fuAcciaio = fuPredefinite();
-    IndiceAcciaio = 0;
-    NumClassiBulloni = 7;
-    ClasseBullone = ClassiBulloniPredefinite();
-    IndiceClasseBullone = 0;
-    fck = 25;
-    fsk = 430;
-    CoeffOmogeneizzazione = 15;
-    Normativa = normativaNTC;
-    GammaM0Altro = 0;
-    GammaM1Altro = 0;
-    GammaM2Altro = 0;
-}
+void ImpostazioniPredefinite() { static_cast<Impostazioni&>(generale) = {}; }
 
 void RipristinaGenerale() {
-    ImpostazioniPredefinite();
-    ImpostaGamma();
-    PathProgramma.clear();
-    PathLavoro.clear();
-    Versione.clear();
-    ScreenAttivo.clear();
-    SuggerimentoBulloni = true;
-    SceltaSagomoGiunto = false;
-    ServerAttivo = false;
-    OggettoServer = nullptr;
-    ChiusuraInCorso = false;
-    AvvioInCorso = false;
+    generale = {};
     for (void (*svuota)() : DaSvuotare())
         svuota();
 }

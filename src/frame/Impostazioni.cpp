@@ -1,7 +1,10 @@
 #include "frame/Impostazioni.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
+#include <system_error>
+#include <utility>
 
 #include "frame/Errori.h"
 #include "frame/FileDati.h"
@@ -14,6 +17,7 @@ namespace sagomi {
 
 namespace {
 
+constexpr const char* versioneFile = "7.8"; // of what is written, whatever the version of the program
 constexpr double versioneNormativa = 7.7; // the first that keeps the code of rules and the user's own factors
 
 double NumeroVersione(std::string_view versione) { return LeggeNumero<double>(versione).valore; }
@@ -47,7 +51,7 @@ private:
 
     bool Intestazione() {
         std::string primo = TestoPiano(NumAcciai);
-        std::string versione = versioneProgramma;
+        std::string versione = versioneFile;
         const bool coppia = !Legge() || SeguonoVirgolette(nFile_);
         if (!(coppia ? FileInOutCoppia(modo_, nFile_, primo, versione, "") : Campi({&primo})))
             return false;
@@ -95,31 +99,75 @@ private:
     std::int16_t nFile_;
 };
 
-void Ripara(Singolo& valore, double predefinito) {
-    if (!(valore > 0))
+/// Puts back what cannot be, and keeps the names of what it has put back.
+class Riparazione {
+public:
+    void Valore(const std::string& nome, Singolo& valore, const Limiti& limiti, double predefinito) {
+        if (limiti.Comprende(valore))
+            return;
         valore = predefinito;
-}
+        generale.ImpostazioniCorrette.push_back(nome);
+    }
 
-void RiparaIndice(std::int16_t& indice, std::int16_t n) {
-    if (indice < 0 || indice >= n)
+    /// The first lines of a table have their own defaults, any other that of the first.
+    void Tabella(const std::string& nome, Tabella1<Singolo>& tabella, const Limiti& limiti,
+                 const Tabella1<Singolo>& predefinita) {
+        for (int i = 1; i <= tabella.n(); ++i)
+            Valore(nome + "[" + std::to_string(i) + "]", tabella[i], limiti,
+                   predefinita[i <= predefinita.n() ? i : 1]);
+    }
+
+    void Indice(const std::string& nome, std::int16_t& indice, std::int16_t n) {
+        if (indice >= 0 && indice < n)
+            return;
         indice = 0;
+        generale.ImpostazioniCorrette.push_back(nome);
+    }
+
+    /// A factor of 0 has never been given.
+    void Fattore(const std::string& nome, Singolo& fattore) {
+        constexpr double neutro = 1;
+        if (fattore == 0)
+            fattore = neutro;
+        Valore(nome, fattore, limitiGamma, neutro);
+    }
+};
+
+void RiparaImpostazioni() {
+    const Impostazioni predefinite;
+    Riparazione r;
+    r.Tabella("fyAcciaio", fyAcciaio, limitiResistenza, predefinite.fyAcciaio);
+    r.Tabella("fuAcciaio", fuAcciaio, limitiResistenza, predefinite.fuAcciaio);
+    r.Tabella("ClasseBullone", ClasseBullone, limitiRapporto, predefinite.ClasseBullone);
+    r.Valore("fck", fck, limitiResistenza, predefinite.fck);
+    r.Valore("fsk", fsk, limitiResistenza, predefinite.fsk);
+    r.Valore("CoeffOmogeneizzazione", CoeffOmogeneizzazione, limitiRapporto,
+             predefinite.CoeffOmogeneizzazione);
+    r.Fattore("GammaM0", GammaM0Altro);
+    r.Fattore("GammaM1", GammaM1Altro);
+    r.Fattore("GammaM2", GammaM2Altro);
+    r.Indice("IndiceAcciaio", IndiceAcciaio, NumAcciai);
+    r.Indice("IndiceClasseBullone", IndiceClasseBullone, NumClassiBulloni);
+    r.Indice("Normativa", Normativa, normativaAltro + 1);
 }
 
-/// What was read, made usable.
-void RiparaImpostazioni() {
-    for (Singolo* fattore : {&GammaM0Altro, &GammaM1Altro, &GammaM2Altro})
-        if (*fattore == 0)
-            *fattore = 1;
-    Ripara(fck, 25);
-    Ripara(fsk, 430);
-    Ripara(CoeffOmogeneizzazione, 15);
-    RiparaIndice(IndiceAcciaio, NumAcciai);
-    RiparaIndice(IndiceClasseBullone, NumClassiBulloni);
-    RiparaIndice(Normativa, normativaAltro + 1);
+constexpr std::string_view nomeFile = "Sagomi.ini";
+
+std::filesystem::path PercorsoFile(std::string_view modo) {
+    std::error_code errore;
+    if (PathImpostazioni.empty())
+        return PercorsoSenzaMaiuscole(PathProgramma, nomeFile);
+    const std::filesystem::path proprio = PercorsoSenzaMaiuscole(PathImpostazioni, nomeFile);
+    if (modo == "S") {
+        std::filesystem::create_directories(PathImpostazioni, errore);
+        return proprio;
+    }
+    return std::filesystem::exists(proprio, errore) ? proprio
+                                                    : PercorsoSenzaMaiuscole(PathProgramma, nomeFile);
 }
 
 bool MuoveFile(std::string_view modo) {
-    const std::int16_t nFile = ApreFile(PercorsoSenzaMaiuscole(PathProgramma, "Sagomi.ini"), modo);
+    const std::int16_t nFile = ApreFile(PercorsoFile(modo), modo);
     if (nFile == 0)
         return false;
     if (Records(modo, nFile).Muove())
@@ -133,19 +181,52 @@ bool MuoveInSilenzio(std::string_view modo) {
     return MuoveFile(modo);
 }
 
-} // namespace
-
-bool IniLeggeScrive(std::string_view modo) {
-    const bool riuscito = MuoveInSilenzio(modo);
-    if (modo == "L" && riuscito)
+bool Legge() {
+    generale.ImpostazioniCorrette.clear();
+    const bool riuscito = MuoveInSilenzio("L");
+    if (riuscito) {
         RiparaImpostazioni();
-    if (modo == "L" && !riuscito) {
+    } else {
         ImpostazioniPredefinite();
         Versione.clear();
     }
+    generale.ImpostazioniScritte = generale;
+    return riuscito;
+}
+
+/// A failed writing is not tried again before the next change.
+bool Scrive() {
+    const bool riuscito = MuoveInSilenzio("S");
+    generale.ImpostazioniScritte = generale;
+    return riuscito;
+}
+
+} // namespace
+
+bool IniLeggeScrive(std::string_view modo) {
+    if (modo == "L")
+        return Legge();
+    const bool riuscito = modo == "S" && Scrive();
     if (modo == "S" && !riuscito && !ServerAttivo)
         Avvisa("Scrittura incompleta del file");
     return riuscito;
+}
+
+bool ScriveImpostazioniCambiate() {
+    if (!generale.ImpostazioniScritte || *generale.ImpostazioniScritte == generale || Scrive())
+        return true;
+    if (!ServerAttivo && !std::exchange(generale.ScritturaAvvisata, true))
+        Avvisa("Scrittura incompleta del file");
+    return false;
+}
+
+std::string AvvisoImpostazioni() {
+    std::string nomi;
+    for (const std::string& nome : generale.ImpostazioniCorrette)
+        nomi += (nomi.empty() ? "" : ", ") + nome;
+    return nomi.empty()
+               ? nomi
+               : std::string(nomeFile) + ": valori non ammessi di " + nomi + ", riportati ai predefiniti";
 }
 
 } // namespace sagomi

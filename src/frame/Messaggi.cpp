@@ -16,13 +16,17 @@ Risposta Manda(Messaggio m) {
         m.titolo = nomeProgramma;
     if (m.icona == Icona::Nessuna && (m.testo.starts_with("ERRORE") || m.testo.starts_with("Errore")))
         m.icona = Icona::Avviso;
-    if (Porta())
-        return Porta()(m);
-    MessaggiRaccolti().push_back(m.testo);
-    return m.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
+    return Inoltra(Porta(), m);
 }
 
 } // namespace
+
+Risposta Inoltra(const PortaMessaggi& porta, const Messaggio& messaggio) {
+    if (porta)
+        return porta(messaggio);
+    MessaggiRaccolti().push_back(messaggio.testo);
+    return messaggio.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
+}
 
 PortaMessaggi CollegaMessaggi(PortaMessaggi porta) { return std::exchange(Porta(), std::move(porta)); }
 

@@ -18,6 +18,8 @@ struct Messaggio {
     Icona icona = Icona::Nessuna;
     std::string titolo; ///< the program's name where the caller gave none
     Bottoni bottoni = Bottoni::Ok;
+
+    bool operator==(const Messaggio&) const = default;
 };
 
 using PortaMessaggi = std::function<Risposta(const Messaggio&)>;
@@ -28,6 +30,9 @@ inline constexpr std::string_view nomeProgramma = "Sagomi";
 /// Plugs a receiver into the port and returns the one that was there, to be put back.
 /// An empty function brings back the default: texts are kept in MessaggiRaccolti, questions are answered no.
 PortaMessaggi CollegaMessaggi(PortaMessaggi porta);
+
+/// Hands a message to a receiver, which may be the empty default.
+Risposta Inoltra(const PortaMessaggi& porta, const Messaggio& messaggio);
 
 /// Shows a message; returns when it has been read. A text that begins with "ERRORE" or "Errore" gets the
 /// warning icon where none is asked for.

@@ -22,6 +22,8 @@ public:
     /// Dimensions the table 1..n anew, with values at their default.
     void Dimensiona(int n) { dati_.assign(static_cast<std::size_t>(n > 0 ? n : 0), T{}); }
 
+    bool operator==(const Tabella1&) const = default;
+
     auto begin() const { return dati_.begin(); }
     auto end() const { return dati_.end(); }
 

@@ -51,4 +51,38 @@ TEST(GeneraleSagomi, StartsWithThreeGradesAndSevenBoltClasses) {
     EXPECT_THROW(NomeAcciaio[4], std::out_of_range);
 }
 
+TEST(GeneraleSagomi, IsAValueThatALongJobCanTakeAndPutBack) {
+    const Generale prima = generale;
+    Normativa = normativaEC3;
+    ImpostaGamma();
+    NomeAcciaio = {"mio"};
+    generale.fck = 50;
+    EXPECT_EQ(fck, 50) << "the names are those of the members";
+    generale = prima;
+    EXPECT_EQ(GammaM0.Stretto(), 1.05F);
+    EXPECT_EQ(NomeAcciaio.n(), 3);
+    EXPECT_EQ(fck, 25);
+}
+
+struct Cliente : OsservatoreSezione {
+    int cambi = 0;
+    void SagomoCambiato() override { ++cambi; }
+    void SagomiQuittato() override {}
+};
+
+TEST(GeneraleSagomi, AnObserverThatDiesUnplugsItselfFromEveryCopy) {
+    Generale copia;
+    {
+        Cliente cliente;
+        OggettoServer = &cliente;
+        OggettoServer->SagomoCambiato();
+        EXPECT_EQ(cliente.cambi, 1);
+        copia = generale;
+    }
+    EXPECT_TRUE(OggettoServer == nullptr);
+    generale = copia;
+    EXPECT_TRUE(OggettoServer == nullptr);
+    RipristinaGenerale();
+}
+
 } // namespace

@@ -1,6 +1,8 @@
 #include "frame/Impostazioni.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "Ambiente.h"
 #include "Registratore.h"
@@ -100,7 +102,7 @@ TEST_F(ImpostazioniTest, WhatIsWrittenIsReadBack) {
     NumAcciai = 2;
     NomeAcciaio = {"S420, laminato à caldo", "S460 (Fe540)"};
     fyAcciaio = {420, 460.5};
-    fuAcciaio = {520, 0.1};
+    fuAcciaio = {520, 540.1};
     IndiceAcciaio = 1;
     NumClassiBulloni = 1;
     ClasseBullone = {12.9};
@@ -114,7 +116,7 @@ TEST_F(ImpostazioniTest, WhatIsWrittenIsReadBack) {
     ASSERT_TRUE(IniLeggeScrive("S"));
     EXPECT_EQ(LeggeByte(percorso), "\"2\",\"7.8\"\r\n2\r\n"
                                    "\"S420, laminato \xE0 caldo\"\r\n420\r\n520\r\n"
-                                   "\"S460 (Fe540)\"\r\n460.5\r\n0.1\r\n1\r\n"
+                                   "\"S460 (Fe540)\"\r\n460.5\r\n540.1\r\n1\r\n"
                                    "1\r\n12.9\r\n0\r\n30\r\n450\r\n6.5\r\n2\r\n1.1,1.15,1.35\r\n");
     SettaAltro();
     ASSERT_TRUE(IniLeggeScrive("L"));
@@ -122,7 +124,8 @@ TEST_F(ImpostazioniTest, WhatIsWrittenIsReadBack) {
     EXPECT_EQ(NomeAcciaio.n(), 2);
     EXPECT_EQ(NomeAcciaio[1], "S420, laminato à caldo");
     EXPECT_EQ(fyAcciaio[2].Stretto(), 460.5F);
-    EXPECT_EQ(fuAcciaio[2].Stretto(), 0.1F);
+    EXPECT_EQ(fuAcciaio[2].Stretto(), 540.1F);
+    EXPECT_EQ(AvvisoImpostazioni(), "");
     EXPECT_EQ(IndiceAcciaio, 1);
     EXPECT_EQ(ClasseBullone.n(), 1);
     EXPECT_EQ(ClasseBullone[1].Stretto(), 12.9F);
@@ -212,6 +215,118 @@ TEST_F(ImpostazioniTest, AFolderInTheFilesPlaceIsUnreadable) {
     EXPECT_FALSE(IniLeggeScrive("L"));
     AttendePredefiniti();
     EXPECT_TRUE(r.testi.empty());
+}
+
+TEST_F(ImpostazioniTest, APipeInTheFilesPlaceHangsNothing) {
+    ASSERT_EQ(mkfifo(percorso.c_str(), 0600), 0);
+    EXPECT_FALSE(IniLeggeScrive("L"));
+    AttendePredefiniti();
+}
+
+TEST_F(ImpostazioniTest, AHugeFileIsNotRead) {
+    ScriveByte(percorso, File("0/0", cemento, "0\r\n0,0,0\r\n"));
+    std::filesystem::resize_file(percorso, std::uintmax_t{1} << 31U);
+    const auto prima = std::chrono::steady_clock::now();
+    EXPECT_FALSE(IniLeggeScrive("L"));
+    EXPECT_LT(std::chrono::steady_clock::now() - prima, std::chrono::milliseconds(100));
+    AttendePredefiniti();
+}
+
+struct CasoNonCreduto {
+    const char* nome;
+    std::string byte;
+    std::vector<std::string> corrette;
+};
+void PrintTo(const CasoNonCreduto& c, std::ostream* os) { *os << c.nome; }
+
+class NonCredutiTest : public ImpostazioniTest, public testing::WithParamInterface<CasoNonCreduto> {};
+
+TEST_P(NonCredutiTest, GoBackToTheirDefaultAndAreNamed) {
+    ASSERT_TRUE(Legge(GetParam().byte));
+    EXPECT_EQ(generale.ImpostazioniCorrette, GetParam().corrette);
+    EXPECT_EQ(fyAcciaio[1], 235);
+    EXPECT_EQ(fuAcciaio[3], 510);
+    EXPECT_EQ(ClasseBullone[7].Stretto(), 10.9F);
+    EXPECT_EQ(fck, 25);
+    EXPECT_EQ(fsk, 430);
+    EXPECT_EQ(CoeffOmogeneizzazione, 15);
+    EXPECT_TRUE(GammaM0Altro == 1 && GammaM1Altro == 1 && GammaM2Altro == 1);
+    EXPECT_TRUE(r.testi.empty());
+}
+
+std::string Con(std::string byte, std::string_view vecchio, std::string_view nuovo) {
+    return byte.replace(byte.find(vecchio), vecchio.size(), nuovo);
+}
+const std::string giusto = File("0/0", cemento, "2\r\n1,1,1\r\n");
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Valori, NonCredutiTest, testing::Values(
+    CasoNonCreduto{"AllWell",       giusto, {}},
+    CasoNonCreduto{"ZeroFactors",   Con(giusto, "1,1,1", "0,0,0"), {}},
+    CasoNonCreduto{"SmallFactor",   Con(giusto, "1,1,1", "1E-30,1,1"), {"GammaM0"}},
+    CasoNonCreduto{"JustBelow",     Con(giusto, "1,1,1", "1,0.49999,1"), {"GammaM1"}},
+    CasoNonCreduto{"JustAbove",     Con(giusto, "1,1,1", "1,1,5.00001"), {"GammaM2"}},
+    CasoNonCreduto{"NoNumber",      Con(giusto, "1,1,1", "1.#QNAN,1.#INF,-1"), {"GammaM0", "GammaM1", "GammaM2"}},
+    CasoNonCreduto{"Yield",         Con(giusto, "\r\n235\r\n", "\r\n0.5\r\n"), {"fyAcciaio[1]"}},
+    CasoNonCreduto{"Ultimate",      Con(giusto, "\r\n510\r\n", "\r\n5001\r\n"), {"fuAcciaio[3]"}},
+    CasoNonCreduto{"BoltClass",     Con(giusto, "\r\n10.9\r\n", "\r\n101\r\n"), {"ClasseBullone[7]"}},
+    CasoNonCreduto{"Concrete",      Con(giusto, cemento, "1.#INF\r\n-430\r\n0.5\r\n"),
+                   {"fck", "fsk", "CoeffOmogeneizzazione"}}),
+    [](const auto& i) { return std::string(i.param.nome); });
+// clang-format on
+
+TEST_F(ImpostazioniTest, TheEndsOfARangeAreBelieved) {
+    ASSERT_TRUE(Legge(File("0/0", "1\r\n5000\r\n100\r\n", "2\r\n0.5,5,1\r\n")));
+    EXPECT_EQ(AvvisoImpostazioni(), "");
+    EXPECT_TRUE(fck == 1 && fsk == 5000 && CoeffOmogeneizzazione == 100);
+    EXPECT_TRUE(GammaM0Altro == 0.5 && GammaM1Altro == 5);
+}
+
+TEST_F(ImpostazioniTest, AGradeOfTheUsersOwnGetsTheFirstDefault) {
+    ASSERT_TRUE(Legge("\"4\",\"7.8\"\r\n4\r\n" + acciai + "\"mio\"\r\n0\r\n1E30\r\n0\r\n" + bulloni +
+                      "0\r\n" + cemento + "0\r\n1,1,1\r\n"));
+    EXPECT_EQ(fyAcciaio[4], 235);
+    EXPECT_EQ(fuAcciaio[4], 360);
+    EXPECT_EQ(AvvisoImpostazioni(),
+              "Sagomi.ini: valori non ammessi di fyAcciaio[4], fuAcciaio[4], riportati ai predefiniti");
+}
+
+TEST_F(ImpostazioniTest, AChangeIsWrittenWhenItIsMade) {
+    IndiceAcciaio = 1;
+    EXPECT_TRUE(ScriveImpostazioniCambiate());
+    EXPECT_EQ(cartella.Voci(), 0) << "nothing has been read yet: there is no file to keep up";
+    IniLeggeScrive("L");
+    EXPECT_TRUE(ScriveImpostazioniCambiate());
+    EXPECT_EQ(cartella.Voci(), 0) << "nothing has changed";
+    IndiceAcciaio = 2;
+    EXPECT_TRUE(ScriveImpostazioniCambiate());
+    EXPECT_EQ(LeggeByte(percorso), File("2/0", cemento, "0\r\n0,0,0\r\n"));
+    std::filesystem::remove(percorso);
+    EXPECT_TRUE(ScriveImpostazioniCambiate());
+    EXPECT_EQ(cartella.Voci(), 0) << "written once";
+}
+
+TEST_F(ImpostazioniTest, AChangeThatCannotBeWrittenIsToldOnceInARun) {
+    PathProgramma = cartella.percorso / "manca";
+    IniLeggeScrive("L");
+    fck = 30;
+    EXPECT_FALSE(ScriveImpostazioniCambiate());
+    fck = 35;
+    EXPECT_FALSE(ScriveImpostazioniCambiate());
+    EXPECT_EQ(r.testi, std::vector<std::string>{"Scrittura incompleta del file"});
+}
+
+TEST_F(ImpostazioniTest, AnInstalledProgramKeepsThemInTheUsersFolder) {
+    ScriveByte(percorso, File("1/2", cemento, "1\r\n1,1,1\r\n"));
+    PathImpostazioni = cartella.percorso / "utente" / "sagomi";
+    ASSERT_TRUE(IniLeggeScrive("L")) << "those beside the program, before there are others";
+    EXPECT_EQ(IndiceAcciaio, 1);
+    IndiceAcciaio = 2;
+    ASSERT_TRUE(ScriveImpostazioniCambiate());
+    EXPECT_EQ(LeggeByte(percorso), File("1/2", cemento, "1\r\n1,1,1\r\n"));
+    IndiceAcciaio = 0;
+    ASSERT_TRUE(IniLeggeScrive("L"));
+    EXPECT_EQ(IndiceAcciaio, 2);
 }
 
 TEST_F(ImpostazioniTest, ZerosAreRepaired) {
