@@ -7,6 +7,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
 #include "frame/Numeri.h"
+#include "frame/ui/AttesaQt.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/MessaggiQt.h"
 #include "frame/ui/NavigaSchermi.h"
@@ -22,6 +23,7 @@ void PreparaApplicazione() {
     if (texts.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&texts);
     CollegaMessaggiQt();
+    CollegaAttesaQt();
     Guida::Installa();
 }
 

@@ -1,9 +1,9 @@
 #include <QAction>
-#include <QCoreApplication>
 #include <QSignalBlocker>
 
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/Famiglie.h"
+#include "frame/Attesa.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
@@ -28,9 +28,9 @@ void SvuotaCampi(SchermoSezione& schermo) {
 
 /// Pending events are let through around the reading, as the windows are being made.
 void LeggeTabella(SchermoSezione& schermo) {
-    QCoreApplication::processEvents();
+    Prosegue();
     schermo.Data1->Refresh();
-    QCoreApplication::processEvents();
+    Prosegue();
 }
 
 void RiempieAcciai(SchermoSezione& schermo) {

@@ -1,10 +1,10 @@
 #include "screens/SchermoDettaglio.h"
 
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 #include <stdexcept>
 
+#include "frame/Attesa.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/NavigaSchermi.h"
@@ -73,7 +73,7 @@ void SchermoDettaglio::CopiaIntestazione() {
 void SchermoDettaglio::PassoDiRiga(bool su) {
     const auto old = SezioneCorrente; // keeps the old section alive while the new one takes its place
     MuoviRecord(chiamante_->Data1->Recordset(), su);
-    QCoreApplication::processEvents();
+    Prosegue();
     const auto* before = SezioneInUso<SezioneDoppioT>(old);
     if (before != nullptr && Sezione() != nullptr && before != Sezione())
         RiportaValori(*before, *Sezione());

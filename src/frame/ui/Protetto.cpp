@@ -1,5 +1,7 @@
 #include "frame/ui/Protetto.h"
 
+#include <QVariant>
+
 #include <exception>
 #include <system_error>
 
@@ -7,6 +9,12 @@
 #include "frame/Messaggi.h"
 
 namespace sagomi {
+
+namespace {
+
+constexpr const char* segnoDipintoFallito = "dipintoFallito";
+
+} // namespace
 
 DescrizioneErrore ErroreInVolo() {
     try {
@@ -24,6 +32,14 @@ DescrizioneErrore ErroreInVolo() {
 
 void AvvisaErrore(const std::string& prefisso, const DescrizioneErrore& e) {
     Avvisa(prefisso + " n° " + QString::number(e.numero).toStdString() + " - " + e.testo);
+}
+
+bool DipintoFallito(const QWidget* oggetto) { return oggetto->property(segnoDipintoFallito).toBool(); }
+
+void RicordaDipintoFallito(QWidget* oggetto, const DescrizioneErrore& errore) {
+    oggetto->setProperty(segnoDipintoFallito, true);
+    QMetaObject::invokeMethod(
+        oggetto, [errore] { AvvisaErrore("Errore", errore); }, Qt::QueuedConnection);
 }
 
 } // namespace sagomi

@@ -5,7 +5,6 @@
 
 #include "frame/ui/AmbienteFinestre.h"
 #include "frame/ui/MessaggiQt.h"
-#include "frame/ui/Protetto.h"
 #include "frame/ui/RigaDi.h"
 
 using namespace sagomi;
@@ -136,13 +135,6 @@ TEST_F(NavigaSchermiTest, MessageBoxDoesNotReactivateTheScreenBehind) {
     EXPECT_EQ(shown, "una riga\naltra riga\nterza");
     EXPECT_EQ(title, "Sagomi");
     EXPECT_EQ(a.attivazioni, 1);
-}
-
-TEST_F(NavigaSchermiTest, ExceptionInAHandlerBecomesABox) {
-    QObject sender;
-    Collega(&sender, &QObject::objectNameChanged, &sender, [] { throw std::out_of_range("indice 9"); });
-    sender.setObjectName("x");
-    EXPECT_EQ(registratore.testi, std::vector<std::string>{"Errore n° 0 - indice 9"});
 }
 
 } // namespace
