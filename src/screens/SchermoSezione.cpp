@@ -9,6 +9,7 @@
 #include <QStatusBar>
 
 #include "frame/GeneraleSagomi.h"
+#include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/ui/ChiudiProgramma.h"
@@ -172,9 +173,12 @@ bool SchermoSezione::Invio(QLineEdit* /*casella*/) { return false; }
 void SchermoSezione::AggiornaBarraDiStato() {
     const auto families = QString::fromStdString(Data1->RecordSource()).count(QLatin1String("FROM ["));
     const int rows = Data1->Recordset().Righe();
-    barra_->setText(rows == 0 ? tr("Nessun sagomo")
-                              : Conta(rows, "sagomo", "sagomi") + tr(" di ") +
-                                    Conta(families, "famiglia", "famiglie"));
+    const QString shown =
+        rows == 0 ? tr("Nessun sagomo")
+                  : Conta(rows, "sagomo", "sagomi") + tr(" di ") + Conta(families, "famiglia", "famiglie");
+    const QString notice = QString::fromStdString(AvvisoImpostazioni());
+    barra_->setText(notice.isEmpty() ? shown : shown + QStringLiteral(" · ") + notice);
+    barra_->setToolTip(notice); // a long list of values may be wider than the line
 }
 
 void SchermoSezione::ScalaControlli(double larghezza, double altezza) {

@@ -4,8 +4,10 @@
 #include <QRadioButton>
 
 #include <array>
+#include <string>
 
 #include "frame/GeneraleSagomi.h"
+#include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/ui/Campi.h"
@@ -15,6 +17,20 @@
 #include "ui_frmGamma.h"
 
 namespace sagomi {
+
+namespace {
+
+/// What is wrong with a factor of the user's own, empty where nothing is; 0 counts as 1.
+std::string ErroreFattore(double factor) {
+    if (factor < 0)
+        return "I coefficienti parziali di sicurezza non possono essere negativi";
+    if (factor == 0 || limitiGamma.Comprende(factor))
+        return {};
+    return "I coefficienti parziali di sicurezza devono essere compresi fra " +
+           TestoPiano(limitiGamma.minimo) + " e " + TestoPiano(limitiGamma.massimo);
+}
+
+} // namespace
 
 frmGamma::frmGamma() : Schermo(QStringLiteral("frmGamma")), ui_(new Ui::frmGamma) {
     ui_->setupUi(this);
@@ -59,8 +75,8 @@ void frmGamma::Scelta(std::int16_t normativa) {
 void frmGamma::Accetta() {
     if (Normativa == normativaAltro) {
         for (QLineEdit* box : txtGamma_)
-            if (NumeroIn(box) < 0) {
-                Avvisa("I coefficienti parziali di sicurezza non possono essere negativi");
+            if (const std::string error = ErroreFattore(NumeroIn(box)); !error.empty()) {
+                Avvisa(error);
                 FuocoSu(box);
                 return;
             }

@@ -76,6 +76,26 @@ TEST_F(GeneraleSchermiTest, SettingsComeBackAtTheNextStart) {
     EXPECT_EQ(GammaM0.Stretto(), 1.F);
 }
 
+TEST_F(GeneraleSchermiTest, SettingsThatCannotBeAreNamedInTheStatusLine) {
+    std::ofstream(PathProgramma / "Sagomi.ini")
+        << "\"1\",\"7.8\"\n1\n\"S235\"\n235\n360\n0\n1\n8.8\n0\n1.#INF\n430\n15\n2\n1E-30,1,1\n";
+    auto& s = Avvia();
+    EXPECT_EQ(
+        Trova<QLabel>(&s, "LblBarra")->text(),
+        "18 sagomi di 1 famiglia · Sagomi.ini: valori non ammessi di fck, GammaM0, riportati ai predefiniti");
+    EXPECT_EQ(GammaM0.Stretto(), 1.F);
+}
+
+TEST_F(GeneraleSchermiTest, AChangeOfSettingsIsInTheFileAtOnce) {
+    auto& s = Avvia();
+    s.ComboTipoAcciaio->setCurrentIndex(2);
+    emit s.ComboTipoAcciaio->activated(2);
+    const std::string chosen = Ini();
+    EXPECT_NE(chosen.find("\r\n510\r\n2\r\n7\r\n"), std::string::npos) << chosen;
+    ChiudiProgramma();
+    EXPECT_EQ(Ini(), chosen);
+}
+
 TEST_F(GeneraleSchermiTest, FileBeforeVersion77IsReadUnderEc3AndRewritten) {
     std::ofstream(PathProgramma / "Sagomi.ini", std::ios::binary)
         << "2\r\n\"A\"\r\n235\r\n360\r\n\"B\"\r\n275\r\n430\r\n1\r\n1\r\n8.8\r\n0\r\n25\r\n430\r\n15\r\n";

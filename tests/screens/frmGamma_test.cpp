@@ -79,6 +79,30 @@ TEST_F(FrmGammaTest, NegativeFactorIsRefusedInPlace) {
     EXPECT_EQ(GammaM1.Stretto(), 1.F);
 }
 
+TEST_F(FrmGammaTest, FactorOutsideItsRangeIsRefusedInPlace) {
+    auto& s = Avvia();
+    auto& d = ApreDialogo(s);
+    Trova<QRadioButton>(&d, "optNormativa_2")->click();
+    for (const char* text : {"1E-30", "0.49", "5.01", "1E400"}) {
+        registratore.testi.clear();
+        Trova<QLineEdit>(&d, "txtGamma_0")->setText(QString::fromStdString(Locale(text)));
+        Trova<QPushButton>(&d, "cmdOK_0")->click();
+        EXPECT_EQ(
+            registratore.testi,
+            std::vector<std::string>{"I coefficienti parziali di sicurezza devono essere compresi fra " +
+                                     Locale("0.5") + " e 5"})
+            << text;
+        EXPECT_TRUE(d.isVisible());
+        EXPECT_EQ(GammaM0.Stretto(), 1.F);
+    }
+    Trova<QLineEdit>(&d, "txtGamma_0")->setText(QString::fromStdString(Locale("0.5")));
+    Trova<QLineEdit>(&d, "txtGamma_1")->setText("5");
+    Trova<QPushButton>(&d, "cmdOK_0")->click();
+    EXPECT_FALSE(d.isVisible());
+    EXPECT_EQ(GammaM0.Stretto(), 0.5F);
+    EXPECT_EQ(GammaM1.Stretto(), 5.F);
+}
+
 TEST_F(FrmGammaTest, CancelPutsBackTheCodeButNotTheFactors) {
     auto& s = Avvia();
     auto& d = ApreDialogo(s);

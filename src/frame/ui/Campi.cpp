@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "frame/Numeri.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -78,6 +79,10 @@ FiltroCampi::FiltroCampi(QWidget* maschera, RegolaInvio invio)
 void FiltroCampi::Osserva(QLineEdit* casella) { casella->installEventFilter(this); }
 
 bool FiltroCampi::eventFilter(QObject* object, QEvent* event) {
+    return EventoProtetto([this, object, event] { return Filtra(object, event); });
+}
+
+bool FiltroCampi::Filtra(QObject* object, QEvent* event) {
     auto* box = qobject_cast<QLineEdit*>(object);
     if (box == nullptr)
         return false;

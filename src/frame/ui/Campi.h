@@ -44,6 +44,8 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    bool Filtra(QObject* object, QEvent* event);
+
     QWidget* maschera_;
     RegolaInvio invio_;
     QLineEdit* entrataColMouse_ = nullptr; ///< got the focus by a click that is not over yet

@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QScopedValueRollback>
 
+#include "frame/ui/Protetto.h"
+
 namespace sagomi {
 
 Casella::Casella(QWidget* parent) : QLineEdit(parent) {
@@ -29,11 +31,13 @@ QSize Casella::sizeHint() const {
 
 void Casella::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
-        updateGeometry();
-    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange ||
-        event->type() == QEvent::PaletteChange)
-        Colora();
+    EventoProtetto([this, event] {
+        if (event->type() == QEvent::FontChange)
+            updateGeometry();
+        if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange ||
+            event->type() == QEvent::PaletteChange)
+            Colora();
+    });
 }
 
 void Casella::Colora() {

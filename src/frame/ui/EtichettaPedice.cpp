@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "frame/ui/Protetto.h"
+
 namespace sagomi {
 
 namespace {
@@ -43,15 +45,17 @@ QSize EtichettaPedice::sizeHint() const { return Contenuto().expandedTo(QLabel::
 
 void EtichettaPedice::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
-    Disponi();
+    EventoProtetto([this] { Disponi(); });
 }
 
 void EtichettaPedice::changeEvent(QEvent* event) {
     QLabel::changeEvent(event);
-    if (event->type() != QEvent::FontChange)
-        return;
-    AdattaCorpo();
-    Disponi();
+    EventoProtetto([this, event] {
+        if (event->type() != QEvent::FontChange)
+            return;
+        AdattaCorpo();
+        Disponi();
+    });
 }
 
 int EtichettaPedice::InizioPedice() const {

@@ -10,6 +10,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -29,10 +30,12 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Escape)
-            hide();
-        else
-            QTextBrowser::keyPressEvent(event);
+        EventoProtetto([this, event] {
+            if (event->key() == Qt::Key_Escape)
+                hide();
+            else
+                QTextBrowser::keyPressEvent(event);
+        });
     }
 };
 
@@ -110,7 +113,8 @@ bool Guida::eventFilter(QObject* object, QEvent* event) {
     if (QApplication::activeModalWidget() != nullptr &&
         qobject_cast<QMainWindow*>(QApplication::activeModalWidget()) == nullptr)
         return true; // a message box would keep the help from being used
-    Apri(fileInForce.isEmpty() ? QStringLiteral("Sagomi.hlp") : fileInForce, ArgomentoInMano());
+    EventoProtetto(
+        [] { Apri(fileInForce.isEmpty() ? QStringLiteral("Sagomi.hlp") : fileInForce, ArgomentoInMano()); });
     return true;
 }
 

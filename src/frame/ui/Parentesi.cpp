@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "frame/ui/Protetto.h"
+
 namespace sagomi {
 
 namespace {
@@ -24,6 +26,10 @@ void Parentesi::ImpostaDestra(bool destra) {
 QSize Parentesi::sizeHint() const { return {fontMetrics().horizontalAdvance(u'('), fontMetrics().height()}; }
 
 void Parentesi::paintEvent(QPaintEvent* /*event*/) {
+    DipintoProtetto(this, [this] { Dipinge(); });
+}
+
+void Parentesi::Dipinge() {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette().color(QPalette::WindowText), spessore));

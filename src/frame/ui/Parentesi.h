@@ -22,6 +22,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void Dipinge();
+
     bool destra_ = false;
 };
 

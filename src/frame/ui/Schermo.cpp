@@ -12,6 +12,7 @@
 
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -52,14 +53,16 @@ void Schermo::closeEvent(QCloseEvent* event) {
         return;
     }
     event->ignore();
-    NavigaSchermi::Unico().Lascia(*this);
+    EventoProtetto([this] { NavigaSchermi::Unico().Lascia(*this); });
 }
 
 void Schermo::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && origine != nullptr)
-        close();
-    else
-        QMainWindow::keyPressEvent(event);
+    EventoProtetto([this, event] {
+        if (event->key() == Qt::Key_Escape && origine != nullptr)
+            close();
+        else
+            QMainWindow::keyPressEvent(event);
+    });
 }
 
 } // namespace sagomi
