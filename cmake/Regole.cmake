@@ -26,6 +26,15 @@ endif()
 add_library(sagomi_regole_meccanica INTERFACE)
 target_compile_options(sagomi_regole_meccanica INTERFACE -Wconversion -Wsign-conversion)
 
+# sagomi_modulo(<prefix> <module>): a library that pkg-config knows, as PkgConfig::<prefix>; for this build and for
+# the programs that find the installed package.
+macro(sagomi_modulo prefix module)
+  find_package(PkgConfig REQUIRED)
+  pkg_check_modules(${prefix} REQUIRED IMPORTED_TARGET ${module})
+  set_property(GLOBAL APPEND_STRING PROPERTY sagomi_moduli
+               "pkg_check_modules(${prefix} REQUIRED IMPORTED_TARGET ${module})\n")
+endmacro()
+
 # sagomi_meccanica(<folder> SOURCES ... LINK ...): a layer of plain C++, without Qt.
 function(sagomi_meccanica folder)
   cmake_parse_arguments(A "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
@@ -33,7 +42,11 @@ function(sagomi_meccanica folder)
   target_include_directories(sagomi_${folder} PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src> $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/include>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/sagomi>)
-  target_link_libraries(sagomi_${folder} PUBLIC ${A_LINK} PRIVATE sagomi_regole sagomi_regole_meccanica ${A_LINK_PRIVATE})
+  target_link_libraries(sagomi_${folder} PUBLIC ${A_LINK} PRIVATE ${A_LINK_PRIVATE}
+    $<BUILD_INTERFACE:sagomi_regole> $<BUILD_INTERFACE:sagomi_regole_meccanica>)
+  install(TARGETS sagomi_${folder} EXPORT sagomi ARCHIVE COMPONENT sviluppo)
+  install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sagomi/${folder}
+          COMPONENT sviluppo FILES_MATCHING PATTERN "*.h" PATTERN ui EXCLUDE)
   foreach(l IN LISTS A_LINK A_LINK_PRIVATE)
     if(l MATCHES "^Qt6|_ui$")
       message(FATAL_ERROR "sagomi_${folder} is mechanics and cannot link ${l}")

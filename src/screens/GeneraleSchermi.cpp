@@ -1,9 +1,12 @@
 #include "screens/GeneraleSchermi.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLibraryInfo>
+#include <QStandardPaths>
 #include <QTranslator>
 
+#include "frame/Cartelle.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
 #include "frame/Numeri.h"
@@ -14,6 +17,25 @@
 #include "screens/TavolaSchermi.h"
 
 namespace sagomi {
+
+namespace {
+
+bool Scrivibile(const std::filesystem::path& folder) {
+    return QFileInfo(QString::fromStdString(folder.string())).isWritable();
+}
+
+/// The files lie beside the program, or where it was installed; settings that cannot lie there are the
+/// user's.
+void TrovaCartelle() {
+    if (!PathProgramma.empty())
+        return;
+    const std::filesystem::path own = QCoreApplication::applicationDirPath().toStdString();
+    PathProgramma = CartellaFile(own);
+    if (PathProgramma != own || !Scrivibile(own))
+        PathImpostazioni = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation).toStdString();
+}
+
+} // namespace
 
 void PreparaApplicazione() {
     QCoreApplication::setApplicationName(QStringLiteral("Sagomi"));
@@ -35,8 +57,7 @@ void Main() {
 void InizializzaProgramma() {
     ChiusuraInCorso = false;
     SeparatoriOk = true;
-    if (PathProgramma.empty())
-        PathProgramma = QCoreApplication::applicationDirPath().toStdString();
+    TrovaCartelle();
     IniLeggeScrive("L");
     AvvioInCorso = true;
     ImpostaGamma();

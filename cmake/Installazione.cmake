@@ -1,0 +1,25 @@
+# What an installation holds: the program with its files in share/sagomi, where it finds them, and the mechanics
+# with their headers for find_package(sagomi).
+
+include(CMakePackageConfigHelpers)
+
+set(pacchetto ${CMAKE_INSTALL_LIBDIR}/cmake/sagomi)
+get_property(sagomi_moduli GLOBAL PROPERTY sagomi_moduli)
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/sagomi-config.cmake.in
+  ${PROJECT_BINARY_DIR}/sagomi-config.cmake INSTALL_DESTINATION ${pacchetto})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/sagomi-config-version.cmake COMPATIBILITY SameMajorVersion)
+
+install(TARGETS sagomi_core EXPORT sagomi)
+install(EXPORT sagomi FILE sagomi-targets.cmake DESTINATION ${pacchetto} COMPONENT sviluppo)
+install(FILES ${PROJECT_BINARY_DIR}/sagomi-config.cmake ${PROJECT_BINARY_DIR}/sagomi-config-version.cmake
+        DESTINATION ${pacchetto} COMPONENT sviluppo)
+install(FILES ${PROJECT_BINARY_DIR}/include/frame/VersioneProgramma.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sagomi/frame COMPONENT sviluppo)
+
+set(accanto Sagomi.xls)
+if(SAGOMI_UI)
+  install(TARGETS sagomi RUNTIME COMPONENT programma)
+  list(APPEND accanto Sagomi.hlp)
+endif()
+list(TRANSFORM accanto PREPEND ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/)
+install(FILES ${accanto} DESTINATION ${CMAKE_INSTALL_DATADIR}/sagomi COMPONENT programma)
