@@ -198,14 +198,14 @@ void SchermoSezione::ScalaControlli(double larghezza, double altezza) {
 
 void SchermoSezione::closeEvent(QCloseEvent* event) {
     event->accept();
-    ChiudiProgramma();
+    EventoProtetto([] { ChiudiProgramma(); });
 }
 
 // The table, the steel list and the sort options keep their arrow keys to themselves: these never get here.
 bool SchermoSezione::FrecciaDiRiga(int key) {
     if (key != Qt::Key_Up && key != Qt::Key_Down)
         return false;
-    MuoviRecord(Data1->Recordset(), key == Qt::Key_Down);
+    EventoProtetto([this, key] { MuoviRecord(Data1->Recordset(), key == Qt::Key_Down); });
     return true;
 }
 
@@ -228,7 +228,7 @@ void SchermoSezione::changeEvent(QEvent* event) {
         return;
     attendeMisura_ = isMaximized() && !isMinimized(); // the new size arrives after the new state
     if (!attendeMisura_ || ridimensiona.minimizzata)
-        Protetto("Errore", [this] { RidimensionaForm(*this); });
+        EventoProtetto([this] { RidimensionaForm(*this); });
 }
 
 void SchermoSezione::resizeEvent(QResizeEvent* event) {
@@ -236,7 +236,7 @@ void SchermoSezione::resizeEvent(QResizeEvent* event) {
     if (!attendeMisura_ || !isMaximized())
         return;
     attendeMisura_ = false;
-    Protetto("Errore", [this] { RidimensionaForm(*this); });
+    EventoProtetto([this] { RidimensionaForm(*this); });
 }
 
 } // namespace sagomi

@@ -100,7 +100,7 @@ void frmGamma::closeEvent(QCloseEvent* event) {
         return;
     }
     event->ignore();
-    Annulla();
+    EventoProtetto([this] { Annulla(); });
 }
 
 } // namespace sagomi

@@ -12,6 +12,7 @@
 
 #include "catalogue/ui/DelegatoNumeri.h"
 #include "catalogue/ui/LettoreDati.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -117,7 +118,7 @@ void GrigliaCatalogo::SegueLettore() {
 void GrigliaCatalogo::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
     if (!seguendo_ && current.isValid() && current.row() != lettore_->Recordset().RigaCorrente())
-        lettore_->MoveTo(current.row());
+        EventoProtetto([this, &current] { lettore_->MoveTo(current.row()); });
 }
 
 int GrigliaCatalogo::CercaIniziale(const QString& testo) const {
@@ -136,6 +137,10 @@ void GrigliaCatalogo::keyboardSearch(const QString& search) {
 }
 
 void GrigliaCatalogo::keyPressEvent(QKeyEvent* event) {
+    EventoProtetto([this, event] { Tasto(event); });
+}
+
+void GrigliaCatalogo::Tasto(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
         if (const QString rows = RigheSelezionate(); !rows.isEmpty())
             QApplication::clipboard()->setText(rows);

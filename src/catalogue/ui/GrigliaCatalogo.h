@@ -40,6 +40,7 @@ protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
+    void Tasto(QKeyEvent* event);
     void SegueLettore();
     [[nodiscard]] int Altezza(int rows) const;
     void AdattaColonne();

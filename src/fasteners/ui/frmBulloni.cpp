@@ -120,7 +120,7 @@ void frmBulloni::AllAttivazione() {
 }
 
 void frmBulloni::closeEvent(QCloseEvent* event) {
-    bullone_.reset();
+    EventoProtetto([this] { bullone_.reset(); });
     Schermo::closeEvent(event);
 }
 
