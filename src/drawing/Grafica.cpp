@@ -1,13 +1,15 @@
 #include "drawing/Grafica.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <utility>
 #include <vector>
 
-#include "drawing/Cad.h"
-#include "drawing/Dxf.h"
+#include "drawing/SuperficieCad.h"
+#include "drawing/SuperficieDxf.h"
 #include "geometry/LineeGeometria.h"
 #include "geometry/Poligono.h"
 
@@ -15,45 +17,47 @@ namespace sagomi {
 
 namespace {
 
-constexpr double larghezzaMediaCarattere = 0.85; ///< of a character over its height, in a plain CAD font
-
 double yInUscita(double y) { return yOrigine + y / ScalaY; }
 
-template <typename... T> bool Finiti(T... valori) { return (std::isfinite(valori) && ...); }
+bool Disegnabile(double v) { return std::abs(v) <= coordinataMassima; } // false for what is no number
 
-bool TuttiFiniti(std::span<const double> valori) {
-    return std::all_of(valori.begin(), valori.end(), [](double v) { return std::isfinite(v); });
-}
+template <typename... T> bool Disegnabili(T... valori) { return (Disegnabile(valori) && ...); }
 
-bool NelCad() { return Dispositivo == dispositivoDwg || Dispositivo == dispositivoBlocco; }
+/// The first n points as they go out; empty when they are fewer or one of them cannot be drawn.
+struct Punti {
+    std::span<const double> x;
+    std::vector<double> y;
 
-/// Model space or block, whichever the device names; null when there is none.
-ContenitoreCad* Contenitore() {
-    return Dispositivo == dispositivoBlocco ? BloccoCad.get() : ModelSpaceCad.get();
-}
+    Punti(std::int16_t n, std::span<const double> ascisse, std::span<const double> ordinate) {
+        const auto quanti = static_cast<std::size_t>(std::max<std::int16_t>(n, 0));
+        if (ascisse.size() < quanti || ordinate.size() < quanti)
+            return;
+        x = ascisse.first(quanti);
+        y.resize(quanti);
+        std::transform(ordinate.begin(), ordinate.begin() + static_cast<std::ptrdiff_t>(quanti), y.begin(),
+                       yInUscita);
+        if (!sagomi::Disegnabili(x) || !sagomi::Disegnabili(y)) {
+            x = {};
+            y.clear();
+        }
+    }
+};
 
-void ScriveSulBersaglio(double x, double y, double altezza, std::string_view testo, Allinea allinea) {
-    Superficie& o = *OggettoGrafico;
-    const std::int16_t colore = o.ForeColor;
-    o.ForeColor = ColorePenna;
-    const double attuale = std::abs(o.TextHeight(testo));
-    if (attuale > 0)
-        o.FontSize *= altezza / attuale;
-    const double arretra = allinea == Allinea::Sinistra ? 0 : allinea == Allinea::Centro ? 0.5 : 1;
-    o.CurrentX = x - arretra * o.TextWidth(testo);
-    o.CurrentY = y;
-    o.Print(testo);
-    o.ForeColor = colore;
-}
-
-/// Characters of a text in UTF-8.
-std::size_t Caratteri(std::string_view testo) {
-    return static_cast<std::size_t>(
-        std::count_if(testo.begin(), testo.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-}
-
-double LarghezzaStimata(double altezza, std::string_view testo) {
-    return larghezzaMediaCarattere * altezza * static_cast<double>(Caratteri(testo));
+/// Way from a level of a line of text down to its base line; below 0 where y points upwards.
+double AllaBase(const Superficie& s, Posa posa) {
+    const RigaTesto riga = s.TextLine();
+    const double verso = s.ScaleHeight < 0 ? -1 : 1;
+    switch (posa) {
+    case Posa::Alto:
+        return verso * riga.sopra;
+    case Posa::Mezzo:
+        return verso * (riga.sopra - riga.sotto) / 2;
+    case Posa::Basso:
+        return -verso * riga.sotto;
+    case Posa::Base:
+        break;
+    }
+    return 0;
 }
 
 /// Number of lines of a hatching, and their spacing, for an outline of that height.
@@ -104,93 +108,102 @@ StatoUscita::~StatoUscita() {
     OggettoGrafico = oggetto_;
 }
 
-bool SulBersaglio() { return Dispositivo != dispositivoDxf && !NelCad(); }
+Superficie* SuperficieInForza() {
+    static SuperficieDxf dxf;
+    static SuperficieCad spazio(ModelSpaceCad);
+    static SuperficieCad blocco(BloccoCad);
+    static const std::array<std::pair<std::string_view, Superficie*>, 3> senzaBersaglio{
+        {{dispositivoDxf, &dxf}, {dispositivoDwg, &spazio}, {dispositivoBlocco, &blocco}}};
+    for (const auto& [nome, superficie] : senzaBersaglio)
+        if (Dispositivo == nome)
+            return superficie;
+    return OggettoGrafico;
+}
+
+bool SulBersaglio() {
+    const Superficie* s = SuperficieInForza();
+    return s == nullptr || s->Limitata();
+}
+
+bool Disegnabili(std::span<const double> valori) {
+    return std::all_of(valori.begin(), valori.end(), Disegnabile);
+}
 
 void PennaPlt(std::int16_t colore) {
     ColorePenna = colore;
-    if (SulBersaglio() && OggettoGrafico != nullptr)
-        OggettoGrafico->ForeColor = colore;
+    if (Superficie* s = SuperficieInForza())
+        s->ForeColor = colore;
 }
 
-void LineaStilePlt(double spessore, TipoLinea tipo) {
-    if (!SulBersaglio() || OggettoGrafico == nullptr)
+void LineaStilePlt(double spessore, TipoLinea tipo, Estremi estremi) {
+    Superficie* s = SuperficieInForza();
+    if (s == nullptr)
         return;
-    OggettoGrafico->DrawWidth = spessore;
-    OggettoGrafico->DrawStyle = tipo;
+    s->DrawWidth = spessore;
+    s->DrawStyle = tipo;
+    s->DrawCap = estremi;
 }
 
 void LineaPlt(double x1, double y1, double x2, double y2) {
     const double a = yInUscita(y1);
     const double b = yInUscita(y2);
-    if (!Finiti(x1, a, x2, b))
-        return;
-    if (Dispositivo == dispositivoDxf)
-        DxfLinea(x1, a, x2, b);
-    else if (NelCad())
-        CadLinea(Contenitore(), x1, a, x2, b);
-    else if (OggettoGrafico != nullptr)
-        OggettoGrafico->Line(x1, a, x2, b);
+    Superficie* s = SuperficieInForza();
+    if (s != nullptr && Disegnabili(x1, a, x2, b))
+        s->Line(x1, a, x2, b);
 }
 
 void CerchioPlt(double x, double y, double r) {
     const double yU = yInUscita(y);
-    if (!Finiti(x, yU, r) || !(r > 0))
-        return;
-    if (Dispositivo == dispositivoDxf)
-        DxfCerchio(x, yU, r);
-    else if (NelCad())
-        CadCerchio(Contenitore(), x, yU, r);
-    else if (OggettoGrafico != nullptr)
-        OggettoGrafico->Circle(x, yU, r);
+    Superficie* s = SuperficieInForza();
+    if (s != nullptr && Disegnabili(x, yU, r) && r > 0)
+        s->Circle(x, yU, r);
 }
 
 void PolilineaPlt(std::int16_t n, std::span<const double> x, std::span<const double> y, bool chiusa) {
-    if (n < 2 || x.size() < static_cast<std::size_t>(n) || y.size() < static_cast<std::size_t>(n))
-        return;
-    const std::span<const double> ascisse = x.first(static_cast<std::size_t>(n));
-    std::vector<double> quote(y.begin(), y.begin() + n);
-    std::transform(quote.begin(), quote.end(), quote.begin(), yInUscita);
-    if (!TuttiFiniti(ascisse) || !TuttiFiniti(quote))
-        return;
-    if (Dispositivo == dispositivoDxf) {
-        (chiusa ? DxfPolilineaChiusa : DxfPolilinea)(n, ascisse, quote);
-    } else if (NelCad()) {
-        CadPolilinea(Contenitore(), n, ascisse, quote, chiusa);
-    } else if (OggettoGrafico != nullptr) {
-        for (std::size_t i = 1; i < quote.size(); ++i)
-            OggettoGrafico->Line(ascisse[i - 1], quote[i - 1], ascisse[i], quote[i]);
-        if (chiusa)
-            OggettoGrafico->Line(ascisse.back(), quote.back(), ascisse.front(), quote.front());
-    }
+    const Punti punti(n, x, y);
+    Superficie* s = SuperficieInForza();
+    if (s != nullptr && punti.y.size() > 1)
+        s->Polyline(punti.x, punti.y, chiusa);
 }
 
-void TestoPlt(double x, double y, double altezza, std::string_view testo, Allinea allinea) {
+void AreaPlt(std::int16_t n, std::span<const double> x, std::span<const double> y, Fondo fondo) {
+    const Punti punti(n, x, y);
+    Superficie* s = SuperficieInForza();
+    if (s != nullptr && punti.y.size() > 2)
+        s->Fill(punti.x, punti.y, fondo);
+}
+
+void TestoPlt(double x, double y, double altezza, std::string_view testo, Allinea allinea, Posa posa) {
     const double yU = yInUscita(y);
-    if (!Finiti(x, yU, altezza) || !(altezza > 0) || testo.empty())
+    Superficie* s = SuperficieInForza();
+    if (s == nullptr || !Disegnabili(x, yU, altezza) || !(altezza > 0) || testo.empty())
         return;
-    if (SulBersaglio()) {
-        if (OggettoGrafico != nullptr)
-            ScriveSulBersaglio(x, yU, altezza, testo, allinea);
-        return;
-    }
-    const double arretra = allinea == Allinea::Sinistra ? 0 : allinea == Allinea::Centro ? 0.5 : 1;
-    const double xSinistra = x - arretra * LarghezzaStimata(altezza, testo);
-    if (Dispositivo == dispositivoDxf)
-        DxfTesto(xSinistra, yU, altezza, testo);
-    else
-        CadTesto(Contenitore(), xSinistra, yU, altezza, testo);
+    const std::int16_t colore = s->ForeColor;
+    s->ForeColor = ColorePenna;
+    s->FontHeight(altezza);
+    s->CurrentX = x;
+    s->CurrentY = posa == Posa::Base ? yU : yU + AllaBase(*s, posa);
+    s->PrintAligned(testo, allinea);
+    s->ForeColor = colore;
 }
 
 double LarghezzaTestoPlt(double altezza, std::string_view testo) {
-    if (!SulBersaglio() || OggettoGrafico == nullptr)
+    Superficie* s = SuperficieInForza();
+    if (s == nullptr)
         return LarghezzaStimata(altezza, testo);
-    const double attuale = std::abs(OggettoGrafico->TextHeight(testo));
-    return attuale > 0 ? OggettoGrafico->TextWidth(testo) * altezza / attuale : 0;
+    const double corpo = s->FontSize;
+    s->FontHeight(altezza);
+    const double larghezza = s->TextWidth(testo);
+    s->FontSize = corpo;
+    return larghezza;
 }
 
 int TratteggioPlt(std::int16_t n, std::span<const double> x, std::span<const double> y, double angolo,
                   double tratteggio, std::int16_t colore) {
     if (n < 3 || x.size() < static_cast<std::size_t>(n) || y.size() < static_cast<std::size_t>(n))
+        return 0;
+    const auto quanti = static_cast<std::size_t>(n);
+    if (!Disegnabili(x.first(quanti)) || !Disegnabili(y.first(quanti)))
         return 0;
     const double alfa = std::numbers::pi * angolo / 180;
     Poligono girato;

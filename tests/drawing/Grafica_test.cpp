@@ -156,6 +156,27 @@ TEST_F(GraficaTest, WhatIsNotFiniteIsLeftOut) {
     EXPECT_TRUE(superficie.scritte.empty());
 }
 
+// Beyond 1E15 there is no tenth of a millimetre left in a double.
+TEST_F(GraficaTest, WhatLiesBeyondAllMeasureIsLeftOut) {
+    const double lontano = 1e308;
+    LineaPlt(0, lontano, 1, 1);
+    LineaPlt(0, 0, -lontano, 1);
+    CerchioPlt(0, 0, lontano);
+    CerchioPlt(lontano, 0, 1);
+    TestoPlt(lontano, 0, 1, "a");
+    TestoPlt(0, 0, lontano, "a");
+    PolilineaPlt(3, std::vector<double>{0, 1, lontano}, yQuadrato, true);
+    EXPECT_EQ(TratteggioPlt(3, std::vector<double>{0, lontano, 1}, yQuadrato, 0, 5, 8), 0);
+    ScalaY = 1e-300;
+    LineaPlt(0, 1e10, 1, 1);
+    EXPECT_TRUE(superficie.linee.empty());
+    EXPECT_TRUE(superficie.cerchi.empty());
+    EXPECT_TRUE(superficie.scritte.empty());
+    ScalaY = 1;
+    LineaPlt(0, 0, 1e15, 1);
+    EXPECT_EQ(superficie.linee.size(), 1U);
+}
+
 // The own font is 10 units high at 10 points; in a scale of 4 model units to the unit, 2 model units are half
 // a unit, so half a point.
 TEST_F(GraficaTest, FontIsSizedToTheHeightWanted) {
@@ -185,6 +206,32 @@ TEST_F(GraficaTest, TextsAreAlignedByTheirMeasuredWidth) {
     EXPECT_NEAR(LarghezzaTestoPlt(4, "abcde"), 12, 1e-12);
     Dispositivo = dispositivoDxf;
     EXPECT_NEAR(LarghezzaTestoPlt(4, "perché"), 6 * 0.85 * 4, 1e-12) << "characters, not bytes";
+}
+
+// A line of the fake font reaches 1.27 of its capitals up and 0.32 down.
+TEST_F(GraficaTest, TextsArePutByALevelOfTheirLine) {
+    TestoPlt(0, 50, 10, "a", Allinea::Sinistra, Posa::Alto);
+    TestoPlt(0, 50, 10, "a", Allinea::Sinistra, Posa::Mezzo);
+    TestoPlt(0, 50, 10, "a", Allinea::Sinistra, Posa::Basso);
+    superficie.ScaleHeight = -100;
+    TestoPlt(0, 50, 10, "a", Allinea::Sinistra, Posa::Alto);
+    EXPECT_NEAR(superficie.scritte[0].y, 62.7, 1e-12);
+    EXPECT_NEAR(superficie.scritte[1].y, 54.75, 1e-12);
+    EXPECT_NEAR(superficie.scritte[2].y, 46.8, 1e-12);
+    EXPECT_NEAR(superficie.scritte[3].y, 37.3, 1e-12) << "y upwards";
+}
+
+TEST_F(GraficaTest, FilesShowTheOutlineOfWhatThePenFills) {
+    const CadFinto cad("AutoCAD.Application.17");
+    ASSERT_TRUE(CadApre());
+    cad.chiamate->clear();
+    Dispositivo = dispositivoDwg;
+    AreaPlt(4, xQuadrato, yQuadrato, Fondo::Tenue);
+    AreaPlt(4, xQuadrato, yQuadrato, Fondo::Sfondo);
+    AreaPlt(2, xQuadrato, yQuadrato, Fondo::Pieno);
+    EXPECT_TRUE(cad.chiamate->empty());
+    AreaPlt(4, xQuadrato, yQuadrato, Fondo::Pieno);
+    EXPECT_EQ(cad.chiamate->at(0), "ModelSpace.AddLightWeightPolyline 0 0 10 0 10 10 0 10 0 0");
 }
 
 // Hatching ----------------------------------------------------------------------------------------------
