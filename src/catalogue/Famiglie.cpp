@@ -39,22 +39,11 @@ Elenco IntestazioniAngolari() {
             "Wz (cm3)",    "iz (cm)",  "Iu (cm4)", "iu (cm)",  "Iv (cm4)", "iv (cm)"};
 }
 
-/// What follows the sheets; key 0 is the only one that the screens do not share.
-std::string_view Suffisso(std::string_view schermo, int ordine) {
-    switch (ordine) {
-    case 0:
-        if (schermo == "frmSagomiL")
-            return " ORDER BY [iy (cm)]";
-        if (schermo == "frmSaldatiAsimm")
-            return " ORDER BY [Wy1 (cm3)]";
-        return " ORDER BY [Wy (cm3)] ASC";
-    case 1:
-        return " ORDER BY [Iy (cm4)]";
-    case 2:
-        return " ORDER BY [g (Kg/m)]";
-    default:
+/// What follows the sheets.
+std::string Suffisso(const FamigliaSchermo& famiglia, int ordine) {
+    if (ordine < 0 || ordine >= static_cast<int>(famiglia.chiavi.size()))
         throw std::out_of_range("OptionOrdina " + std::to_string(ordine) + " fuori da 0..2");
-    }
+    return " ORDER BY " + std::string(famiglia.chiavi[static_cast<std::size_t>(ordine)]);
 }
 
 std::vector<std::string> FogliSpuntati(const FamigliaSchermo& famiglia, const std::vector<bool>& spunte) {
@@ -77,35 +66,47 @@ const std::vector<FamigliaSchermo>& FamiglieSchermi() {
          "SELECT * FROM [IPE$] ORDER BY [Wy (cm3)]",
          "IPE",
          0,
-         ""},
+         "",
+         {"[Wy (cm3)] ASC", "[Iy (cm4)]", "[g (Kg/m)]"},
+         IntestazioniLaminati("g (Kg/m)"),
+         true},
         {"frmSaldati",
          {"HSE", "HSL", "HSU", "HSH", "ISE", "HSA"},
          {"Wy", "Iy", "g"},
          "SELECT * FROM [ISE$] ORDER BY [Wy (cm3)]",
          "ISE",
          0,
-         "DoppioT Simmetrico"},
+         "DoppioT Simmetrico",
+         {"[Wy (cm3)] ASC", "[Iy (cm4)]", "[g (Kg/m)]"},
+         IntestazioniSaldati(),
+         true},
         {"frmSaldatiAsimm",
          {"HSD"},
          {"Wy1", "Iy", "g"},
          "SELECT * FROM [HSD$] ORDER BY [Wy1 (cm3)]",
          "HSD",
          0,
-         "DoppioT Asimmetrico"},
+         "DoppioT Asimmetrico",
+         {"[Wy1 (cm3)]", "[Iy (cm4)]", "[g (Kg/m)]"},
+         IntestazioniSaldatiAsimm()},
         {"frmSagomiU",
          {"UPN", "UAP"},
          {"Wy", "Iy", "g"},
          "SELECT * FROM [UPN$] ORDER BY [Wy (cm3)]",
          "UPN",
          0,
-         ""},
+         "",
+         {"[Wy (cm3)] ASC", "[Iy (cm4)]", "[g (Kg/m)]"},
+         IntestazioniLaminati("g (kg/m)")},
         {"frmSagomiL",
          {"L Uguali", "L Disuguali"},
          {"iy", "Iy", "g"},
          "SELECT * FROM ['L Uguali'$] ORDER BY [g (Kg/m)]",
          "L Uguali",
          2,
-         ""}};
+         "",
+         {"[iy (cm)]", "[Iy (cm4)]", "[g (Kg/m)]"},
+         IntestazioniAngolari()}};
     return famiglie;
 }
 
@@ -130,7 +131,7 @@ std::string NomeFoglioQuery(std::string_view foglio) {
 }
 
 std::string ComponiQuery(std::string_view schermo, const std::vector<std::string>& scelti, int ordine) {
-    const std::string_view suffisso = Suffisso(schermo, ordine);
+    const std::string suffisso = Suffisso(FamigliaDi(schermo), ordine);
     std::string query;
     for (const std::string& foglio : scelti) {
         query += query.empty() ? "SELECT * FROM " : " UNION SELECT * FROM ";
@@ -140,7 +141,7 @@ std::string ComponiQuery(std::string_view schermo, const std::vector<std::string
 }
 
 std::string ComponiQueryFoglio(std::string_view schermo, std::string_view foglioQuery, int ordine) {
-    return "SELECT * FROM " + std::string(foglioQuery) + std::string(Suffisso(schermo, ordine));
+    return "SELECT * FROM " + std::string(foglioQuery) + Suffisso(FamigliaDi(schermo), ordine);
 }
 
 std::optional<std::string> CambioFamigliaQuery(std::string_view schermo, const std::vector<bool>& spunte,
@@ -156,21 +157,7 @@ std::optional<std::string> CambioFamigliaQuery(std::string_view schermo, const s
 }
 
 const std::vector<std::string_view>& Intestazioni(std::string_view schermo) {
-    static const Elenco doppioT = IntestazioniLaminati("g (Kg/m)");
-    static const Elenco canali = IntestazioniLaminati("g (kg/m)");
-    static const Elenco saldati = IntestazioniSaldati();
-    static const Elenco saldatiAsimm = IntestazioniSaldatiAsimm();
-    static const Elenco angolari = IntestazioniAngolari();
-    const std::string_view nome = FamigliaDi(schermo).schermo;
-    if (nome == "frmDoppioT")
-        return doppioT;
-    if (nome == "frmSagomiU")
-        return canali;
-    if (nome == "frmSaldati")
-        return saldati;
-    if (nome == "frmSaldatiAsimm")
-        return saldatiAsimm;
-    return angolari;
+    return FamigliaDi(schermo).intestazioni;
 }
 
 } // namespace sagomi

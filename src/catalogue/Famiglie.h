@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -7,15 +8,19 @@
 
 namespace sagomi {
 
-/// What the families of a main screen are: its check boxes, its sort keys, the query that it starts with.
+/// What the families of a main screen are: its check boxes, its sort keys and columns, the query that it
+/// starts with.
 struct FamigliaSchermo {
-    std::string_view schermo;             ///< name of the screen
-    std::vector<std::string_view> fogli;  ///< captions of ChkTipo in order, which are the sheets' names
-    std::vector<std::string_view> ordini; ///< captions of OptionOrdina 0..2
-    std::string_view primaQuery;          ///< query at load
-    std::string_view primoFoglio;         ///< sheet of that query, the only box ticked at load
-    int primoOrdine = 0;                  ///< index of the OptionOrdina that is set at load
-    std::string_view foglioUtente;        ///< sheet of the user's own sections, empty where there is none
+    std::string_view schermo;               ///< name of the screen
+    std::vector<std::string_view> fogli;    ///< captions of ChkTipo in order, which are the sheets' names
+    std::vector<std::string_view> ordini;   ///< captions of OptionOrdina 0..2
+    std::string_view primaQuery;            ///< query at load
+    std::string_view primoFoglio;           ///< sheet of that query, the only box ticked at load
+    int primoOrdine = 0;                    ///< index of the OptionOrdina that is set at load
+    std::string_view foglioUtente;          ///< sheet of the user's own sections, empty where there is none
+    std::array<std::string_view, 3> chiavi; ///< what each OptionOrdina sorts by, as a query says it
+    std::vector<std::string_view> intestazioni; ///< column headings of every sheet, by position
+    bool perGiunto = false; ///< columns and beams of a joint are picked from these sections
 };
 
 /// The five main screens, from the rolled double-T to the angles.
@@ -36,7 +41,7 @@ std::string NomeTabella(std::string_view foglio);
 std::string NomeFoglioQuery(std::string_view foglio);
 
 /// The query over the ticked sheets.
-/// @param schermo  name of the screen, which decides what sort key 0 is
+/// @param schermo  name of the screen, whose sort keys are used
 /// @param scelti   names of the ticked sheets, in the order of their boxes
 /// @param ordine   index of the OptionOrdina that is set; outside 0..2 throws std::out_of_range
 /// @return the text for RecordSource; empty when nothing is ticked

@@ -10,6 +10,7 @@
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/Twips.h"
 #include "screens/SchermoSezione.h"
 #include "sections/SezioneCorrente.h"
 
@@ -64,8 +65,7 @@ void CaricaFormComune(SchermoSezione& schermo) {
 void AttivaForm(SchermoSezione& schermo) {
     Protetto("Errore in AttivaForm " + schermo.objectName().toStdString(), [&schermo] {
         Guida::ImpostaFile(schermo.FileGuida());
-        // Columns and beams of a joint are picked from these two alone.
-        if (schermo.objectName() == u"frmDoppioT" || schermo.objectName() == u"frmSaldati")
+        if (FamigliaDi(schermo.objectName().toStdString()).perGiunto)
             schermo.cmdSceltaSagomoGiunto->setVisible(SceltaSagomoGiunto);
         IndiceAcciaio = static_cast<std::int16_t>(std::max(0, schermo.ComboTipoAcciaio->currentIndex()));
         AggiornaCaptionNormativa(schermo);
@@ -148,10 +148,9 @@ void RidimensionaForm(SchermoSezione& schermo) {
         state.minimizzata = false;
         return;
     }
-    constexpr double twipsAPixel = 15;
     if (schermo.isMaximized() && !state.scalata) {
-        state.altezza = schermo.height() * twipsAPixel / schermo.HeightIni;
-        state.larghezza = schermo.width() * twipsAPixel / schermo.WidthIni;
+        state.altezza = double(schermo.height()) * twipsAPixel / schermo.HeightIni;
+        state.larghezza = double(schermo.width()) * twipsAPixel / schermo.WidthIni;
         state.scalata = true;
         schermo.ScalaControlli(state.larghezza, state.altezza);
     } else if (!schermo.isMaximized() && state.scalata) {

@@ -1,5 +1,8 @@
 #include "catalogue/Famiglie.h"
 
+#include <algorithm>
+#include <cctype>
+
 #include <stdexcept>
 
 #include <gmock/gmock.h>
@@ -82,6 +85,28 @@ INSTANTIATE_TEST_SUITE_P(Schermi, ComponiQueryTest, testing::Values(
     CasoQuery{"nessuno",     "frmDoppioT", {}, 0, ""}),
     [](const auto& i) { return std::string(i.param.nome); });
 // clang-format on
+
+// Columns and beams of a joint are rolled or welded doubly symmetric sections.
+TEST(Famiglie, JointsPickFromTwoScreens) {
+    for (const FamigliaSchermo& f : FamiglieSchermi())
+        EXPECT_EQ(f.perGiunto, f.schermo == "frmDoppioT" || f.schermo == "frmSaldati") << f.schermo;
+}
+
+// A sort key is a column of its own sheets, whatever the capitals of the weight's unit.
+TEST(Famiglie, EveryKeyIsAColumn) {
+    const auto lower = [](std::string t) {
+        std::transform(t.begin(), t.end(), t.begin(), [](unsigned char c) { return std::tolower(c); });
+        return t;
+    };
+    for (const FamigliaSchermo& f : FamiglieSchermi())
+        for (const std::string_view key : f.chiavi) {
+            const std::string column(key.substr(1, key.find(']') - 1));
+            EXPECT_TRUE(
+                std::any_of(f.intestazioni.begin(), f.intestazioni.end(),
+                            [&](std::string_view h) { return lower(std::string(h)) == lower(column); }))
+                << f.schermo << ' ' << column;
+        }
+}
 
 TEST(ComponiQuery, KeyOutsideTheOptions) {
     EXPECT_THROW(ComponiQuery("frmDoppioT", {"IPE"}, 3), std::out_of_range);
