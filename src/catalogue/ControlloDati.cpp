@@ -6,18 +6,13 @@
 #include "catalogue/Lettore.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneGenerica.h"
 
 namespace sagomi {
 
 namespace {
-
-constexpr double mm_cm = 1.0 / 10;
-constexpr double mm2_cm2 = 1.0 / 100;
-constexpr double mm3_cm3 = 1.0 / 1000;
-constexpr double mm4_cm4 = 1.0 / 10000;
-constexpr double mm6_cm6 = 1.0 / 1000000;
 
 constexpr double tolGeometria = 0.01;           ///< exact but for the rounding of the table
 constexpr double tolTorsioneRastremata = 0.092; ///< JotaT on tapered flanges
@@ -54,15 +49,15 @@ std::vector<VoceControllo> VociLaminati(SezioneDoppioT& sezione) {
     const double iz = std::sqrt(s.JotaYG / s.Area);
     const double tolT = rastremata ? tolTorsioneRastremata : tolGeometria;
     const double tolW = rastremata ? tolIngobbamentoRastremata : tolIngobbamento;
-    return {{8, s.Area * mm2_cm2, tolGeometria},
-            {9, s.JotaXG * mm4_cm4, tolGeometria},
-            {10, s.WxSuperiore * mm3_cm3, tolGeometria},
-            {12, iy * mm_cm, tolGeometria},
-            {13, s.JotaYG * mm4_cm4, tolGeometria},
-            {14, s.WySinistra * mm3_cm3, tolGeometria},
-            {16, iz * mm_cm, tolGeometria},
-            {17, sezione.JotaT() * mm4_cm4, tolT},
-            {18, sezione.JotaOmega() * mm6_cm6, tolW}};
+    return {{8, mm2_a_cm2(s.Area), tolGeometria},
+            {9, mm4_a_cm4(s.JotaXG), tolGeometria},
+            {10, mm3_a_cm3(s.WxSuperiore), tolGeometria},
+            {12, mm_a_cm(iy), tolGeometria},
+            {13, mm4_a_cm4(s.JotaYG), tolGeometria},
+            {14, mm3_a_cm3(s.WySinistra), tolGeometria},
+            {16, mm_a_cm(iz), tolGeometria},
+            {17, mm4_a_cm4(sezione.JotaT()), tolT},
+            {18, mm6_a_cm6(sezione.JotaOmega()), tolW}};
 }
 
 void ControlloDatiLaminati(const Lettore& riga, SezioneDoppioT& sezione) {

@@ -3,9 +3,9 @@
 #include <array>
 
 #include "frame/GeneraleSagomi.h"
+#include "frame/Unita.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/Schermo.h"
-#include "screens/Mostra.h"
-#include "screens/Unita.h"
 #include "sections/ColonnaInstabilita.h"
 #include "sections/Eurocod3.h"
 #include "sections/SezioneCorrente.h"
@@ -42,8 +42,8 @@ void ScriviColonna(const Scrittore& su, double lamda, const std::string& curva, 
     su.Colonna("Lbl_Alfa", Formato("0.0#", c.alfa));
     su.Colonna("Lbl_Fi", Formato("0.0###", c.fi));
     su.Colonna("Lbl_chi", Formato("0.0###", c.chi));
-    su.Colonna("Lbl_Ncr", lamda == 0 ? std::string(limiteInfinito) : Formato("0.0##", c.Ncr / NInkN));
-    su.Colonna("Lbl_NbRd", Formato("0.0##", c.NbRd / NInkN));
+    su.Colonna("Lbl_Ncr", lamda == 0 ? std::string(limiteInfinito) : Formato("0.0##", N_a_kN(c.Ncr)));
+    su.Colonna("Lbl_NbRd", Formato("0.0##", N_a_kN(c.NbRd)));
 }
 
 } // namespace

@@ -3,10 +3,10 @@
 #include <array>
 
 #include "frame/Messaggi.h"
+#include "frame/Unita.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
-#include "screens/Mostra.h"
 #include "screens/PlottaSezioneCorrente.h"
-#include "screens/Unita.h"
 #include "sections/Eurocod3.h"
 #include "sections/SezioneCorrente.h"
 #include "ui_FrmClasseDoppioTU.h"
@@ -118,7 +118,7 @@ void FrmClasseDoppioTU::SpiegaClasse() const {
                "anche in presenza di azioni assiali modeste,\n"
                "si adotta un criterio mutuato dalla regola EC3 #6.2.9.1 (4)\n"
                "Se Nsd < " +
-               FormatoCifre(cifre, s.Ntrascurabile / NInkN) +
+               FormatoCifre(cifre, N_a_kN(s.Ntrascurabile)) +
                " kN\n"
                "(valore minore fra la metà della resistenza plastica dell'anima\n"
                " ed un quarto della resistenza plastica della sezione)\n"

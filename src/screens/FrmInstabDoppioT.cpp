@@ -7,9 +7,9 @@
 
 #include "frame/Messaggi.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
 #include "screens/ColonnaInstabilita.h"
-#include "screens/Mostra.h"
 #include "sections/ColonnaInstabilita.h"
 #include "sections/Eurocod3.h"
 #include "sections/SezioneDoppioT.h"

@@ -2,11 +2,11 @@
 
 #include <cmath>
 
+#include "frame/Unita.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
-#include "screens/Mostra.h"
 #include "screens/SagomaDi.h"
-#include "screens/Unita.h"
 #include "sections/Duttilita.h"
 #include "sections/SezioneCorrente.h"
 #include "ui_FrmMcRd.h"
@@ -31,7 +31,7 @@ std::string Modulo(int classe, const Moduli& w) {
     return "Effettivo " + FormatoCifreEsp(cifre, w.efficace);
 }
 
-std::string Momento(double m) { return FormatoCifreEsp(cifre, m / NmmInkNm); }
+std::string Momento(double m) { return FormatoCifreEsp(cifre, Nmm_a_kNm(m)); }
 
 /// The value that governs stands out.
 void Evidenzia(QLabel* label, bool governs) {
@@ -61,7 +61,7 @@ FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::Fr
 FrmMcRd::~FrmMcRd() = default;
 
 void FrmMcRd::RiempiDati() {
-    SullaSezioneInUso([this](const ConMomenti auto& s) { Riempi(ui_->TxtNsd, s.NSd / NInkN); });
+    SullaSezioneInUso([this](const ConMomenti auto& s) { Riempi(ui_->TxtNsd, N_a_kN(s.NSd)); });
     FuocoSu(ui_->TxtNsd);
 }
 
@@ -78,7 +78,7 @@ void FrmMcRd::CompletaForm(SchermoSezione& /*chiamante*/) {
     Duttilita();
 }
 
-void FrmMcRd::Duttilita() { CalcolaDuttilita(NumeroIn(ui_->TxtNsd) * NInkN, NumeroIn(ui_->txtLstar)); }
+void FrmMcRd::Duttilita() { CalcolaDuttilita(kN_a_N(NumeroIn(ui_->TxtNsd)), NumeroIn(ui_->txtLstar)); }
 
 void FrmMcRd::CalcolaDuttilita(double N, double Lstar) {
     SullaSezioneInUso([&]<ConMomenti S>(const S& s) requires ConAnimaEAli<S> {

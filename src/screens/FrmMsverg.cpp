@@ -6,15 +6,15 @@
 #include <limits>
 
 #include "frame/GeneraleSagomi.h"
+#include "frame/Unita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Casella.h"
+#include "frame/ui/InvioFra.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "screens/InvioFra.h"
-#include "screens/Mostra.h"
 #include "screens/SchermoSezione.h"
 #include "screens/TavolaFattori.h"
-#include "screens/Unita.h"
 #include "sections/Eurocod3.h"
 #include "ui_FrmMsverg.h"
 
@@ -29,13 +29,13 @@ void Scrive(QLineEdit* box, double value) { box->setText(QString::fromStdString(
 
 /// Factor times moment [N mm].
 std::string Prodotto(double k, double M) {
-    return Formato(figura, k) + " x " + Formato(figura, M / NmmInkNm);
+    return Formato(figura, k) + " x " + Formato(figura, Nmm_a_kNm(M));
 }
 
 /// The same with the moment of the shifted centroid.
 std::string Prodotto(double k, double M, double NeN) {
-    return Formato(figura, k) + " x (" + Formato(figura, M / NmmInkNm) + " + " +
-           Formato(figura, NeN / NmmInkNm) + ")";
+    return Formato(figura, k) + " x (" + Formato(figura, Nmm_a_kNm(M)) + " + " +
+           Formato(figura, Nmm_a_kNm(NeN)) + ")";
 }
 
 /// What follows from a critical moment that is no number (end factors of 0, say) is none either.
@@ -148,9 +148,9 @@ void FrmMsverg::ApreTavola(const QString& nome) {
 
 void FrmMsverg::RiempiDati() {
     if (const SezioneDoppioT* s = Sezione()) {
-        Riempi(ui_->fraAzioni->TxtNsd, s->NSd / NInkN);
-        Riempi(ui_->fraAzioni->TxtMysd, s->Mysd / NmmInkNm);
-        Riempi(ui_->fraAzioni->TxtMzsd, s->Mzsd / NmmInkNm);
+        Riempi(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
+        Riempi(ui_->fraAzioni->TxtMysd, Nmm_a_kNm(s->Mysd));
+        Riempi(ui_->fraAzioni->TxtMzsd, Nmm_a_kNm(s->Mzsd));
         Riempi(ui_->Txt_k, s->k);
         Riempi(ui_->Txt_Kw, s->Kw);
         Riempi(ui_->Txt_C1, s->C1);
@@ -158,7 +158,7 @@ void FrmMsverg::RiempiDati() {
         Riempi(ui_->Txt_C3, s->c3);
         Riempi(ui_->Txt_Zg, s->za);
         if (s->LLT > 0)
-            Riempi(ui_->Txt_L, s->LLT / mmInMetro);
+            Riempi(ui_->Txt_L, mm_a_m(s->LLT));
     }
     sezione_ = SezioneCorrente;
     FuocoSu(ui_->fraAzioni->TxtNsd);
@@ -193,28 +193,28 @@ void FrmMsverg::CompletaForm(SchermoSezione& chiamante) {
 
 void FrmMsverg::ScriveDati() {
     SezioneDoppioT& s = *Sezione();
-    s.NSd = NumeroIn(ui_->fraAzioni->TxtNsd) * NInkN;
-    s.Mysd = NumeroIn(ui_->fraAzioni->TxtMysd) * NmmInkNm;
-    s.Mzsd = NumeroIn(ui_->fraAzioni->TxtMzsd) * NmmInkNm;
+    s.NSd = kN_a_N(NumeroIn(ui_->fraAzioni->TxtNsd));
+    s.Mysd = kNm_a_Nmm(NumeroIn(ui_->fraAzioni->TxtMysd));
+    s.Mzsd = kNm_a_Nmm(NumeroIn(ui_->fraAzioni->TxtMzsd));
     s.k = NumeroIn(ui_->Txt_k);
     s.Kw = NumeroIn(ui_->Txt_Kw);
     s.C1 = NumeroIn(ui_->Txt_C1);
     s.c2 = NumeroIn(ui_->Txt_C2);
     s.c3 = NumeroIn(ui_->Txt_C3);
     s.za = NumeroIn(ui_->Txt_Zg);
-    s.LLT = NumeroIn(ui_->Txt_L) * mmInMetro;
+    s.LLT = m_a_mm(NumeroIn(ui_->Txt_L));
 }
 
 void FrmMsverg::MostraResistenza() {
     const SezioneDoppioT& s = *Sezione();
-    Mostra(ui_->Lbl_McRd, figura, s.McyRd / NmmInkNm);
+    Mostra(ui_->Lbl_McRd, figura, Nmm_a_kNm(s.McyRd));
     if (s.LLT > 0)
-        Mostra(ui_->Lbl_Mcr, figura, s.Mcr / NmmInkNm);
+        Mostra(ui_->Lbl_Mcr, figura, Nmm_a_kNm(s.Mcr));
     else
         Mostra(ui_->Lbl_Mcr, std::string(limiteInfinito));
     Mostra(ui_->Lbl_LamdaLT, figura, Valido(s, s.LamdaLT));
     Mostra(ui_->Lbl_chi, figura, Valido(s, s.ChiLT));
-    Mostra(ui_->Lbl_MbRd, figura, Valido(s, s.MbRd / NmmInkNm));
+    Mostra(ui_->Lbl_MbRd, figura, Valido(s, Nmm_a_kNm(s.MbRd)));
 }
 
 void FrmMsverg::MostraInterazione() {
@@ -224,14 +224,14 @@ void FrmMsverg::MostraInterazione() {
     ui_->formula->MostraAltro(s.ClassePressoFlessione > 3);
 
     const TerminiInterazione t = s.TerminiFlessoTorsionale();
-    Mostra(f.Sopra(0), figura, t.NSd / NInkN);
-    Mostra(f.Sotto(0), figura, t.NRd / NInkN);
+    Mostra(f.Sopra(0), figura, N_a_kN(t.NSd));
+    Mostra(f.Sotto(0), figura, N_a_kN(t.NRd));
     Mostra(f.Sopra(1), Prodotto(t.y.k, t.y.M()));
     Mostra(f.Altro(1), Prodotto(t.y.k, t.y.MSd, t.y.NeN));
-    Mostra(f.Sotto(1), figura, Valido(s, t.y.MRd / NmmInkNm));
+    Mostra(f.Sotto(1), figura, Valido(s, Nmm_a_kNm(t.y.MRd)));
     Mostra(f.Sopra(2), Prodotto(t.z.k, t.z.M()));
     Mostra(f.Altro(2), Prodotto(t.z.k, t.z.MSd, t.z.NeN));
-    Mostra(f.Sotto(2), figura, t.z.MRd / NmmInkNm);
+    Mostra(f.Sotto(2), figura, Nmm_a_kNm(t.z.MRd));
     ui_->formula->MostraSomma(Valido(s, s.InterazioneFlessoTorsionale()));
 }
 

@@ -9,15 +9,15 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/Unita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Esito.h"
+#include "frame/ui/InvioFra.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "screens/InvioFra.h"
-#include "screens/Mostra.h"
 #include "screens/PulsanteDiagramma.h"
 #include "screens/SchermoSezione.h"
-#include "screens/Unita.h"
 #include "sections/DiagrammaMomenti.h"
 #include "sections/SezioneDoppioT.h"
 #include "ui_FrmPresFless.h"
@@ -169,9 +169,9 @@ void FrmPresFless::CollegaDiagrammi() {
 
 void FrmPresFless::RiempiDati() {
     if (const SezioneDoppioT* s = Sezione()) {
-        Riempi(ui_->TxtNsd, s->NSd / NInkN);
-        Riempi(Txt_L0_[0], s->L0y / mmInMetro);
-        Riempi(Txt_L0_[1], s->L0z / mmInMetro);
+        Riempi(ui_->TxtNsd, N_a_kN(s->NSd));
+        Riempi(Txt_L0_[0], mm_a_m(s->L0y));
+        Riempi(Txt_L0_[1], mm_a_m(s->L0z));
     }
     FuocoSu(ui_->TxtNsd);
 }
@@ -212,9 +212,9 @@ void FrmPresFless::CompletaForm1(int asse, double& M, double& BetaM, double& C1)
     inputM1M2(asse, m.M1, m.M2);
     if (TipoDiagramma == diagrammaCampata)
         inputMQ(asse, m.MQ);
-    m.M1 *= NmmInkNm;
-    m.M2 *= NmmInkNm;
-    m.MQ *= NmmInkNm;
+    m.M1 = kNm_a_Nmm(m.M1);
+    m.M2 = kNm_a_Nmm(m.M2);
+    m.MQ = kNm_a_Nmm(m.MQ);
     if (const SezioneDoppioT* s = Sezione()) {
         const TerminiInterazione t = s->TerminiMNInstab();
         m.NeN = asse == 0 ? t.y.NeN : t.z.NeN;
@@ -248,7 +248,7 @@ void FrmPresFless::Leggedati() {
     for (int i = 0; i < Txt_L0_.size(); ++i)
         RiportaTesto(Txt_L0_[i], chiamante_->Txt_L0[i]);
     if (SezioneDoppioT* s = Sezione()) {
-        s->NSd = NumeroIn(ui_->TxtNsd) * NInkN; // another detail may have left its own
+        s->NSd = kN_a_N(NumeroIn(ui_->TxtNsd)); // another detail may have left its own
         s->ClassePressoFlessioneCalcola();
     }
 }
@@ -280,11 +280,11 @@ void FrmPresFless::MostraAsse(int asse) {
     Mostra(y ? ui_->Lbl_Lamda_0 : ui_->Lbl_Lamda_1, figura, y ? s.LamdaY() : s.LamdaZ());
     Mostra(y ? ui_->Lbl_Mu_0 : ui_->Lbl_Mu_1, figura, y ? s.muY() : s.muZ());
     Mostra(y ? ui_->Lbl_k_0 : ui_->Lbl_k_1, figura, y ? s.kY() : s.kZ());
-    Mostra(y ? ui_->Lbl_McRd_0 : ui_->Lbl_McRd_1, figura, (y ? s.McyRd : s.MczRd) / NmmInkNm);
-    Mostra(y ? ui_->Lbl_MSd_0 : ui_->Lbl_MSd_1, figura, NumeroMostrato((y ? s.Mysd : s.Mzsd) / NmmInkNm));
+    Mostra(y ? ui_->Lbl_McRd_0 : ui_->Lbl_McRd_1, figura, Nmm_a_kNm(y ? s.McyRd : s.MczRd));
+    Mostra(y ? ui_->Lbl_MSd_0 : ui_->Lbl_MSd_1, figura, NumeroMostrato(Nmm_a_kNm(y ? s.Mysd : s.Mzsd)));
     Mostra(y ? ui_->Lbl_BetaM_0 : ui_->Lbl_BetaM_1, figura, y ? s.BetaMy : s.BetaMz);
     const double N = s.ErroreDatiDatabase ? std::numeric_limits<double>::quiet_NaN() : y ? s.NbyRd : s.NbzRd;
-    Mostra(y ? ui_->Lbl_NbRd_0 : ui_->Lbl_NbRd_1, figura, N / NInkN);
+    Mostra(y ? ui_->Lbl_NbRd_0 : ui_->Lbl_NbRd_1, figura, N_a_kN(N));
 }
 
 void FrmPresFless::MostraInterazione() {

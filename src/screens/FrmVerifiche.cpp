@@ -1,11 +1,11 @@
 #include "screens/FrmVerifiche.h"
 
+#include "frame/Unita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Casella.h"
 #include "frame/ui/EtichettaRisultato.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
-#include "screens/Mostra.h"
-#include "screens/Unita.h"
 #include "sections/SezioneDoppioT.h"
 #include "ui_FrmVerifiche.h"
 
@@ -13,9 +13,9 @@ namespace sagomi {
 
 namespace {
 
-void MostraN(QLabel* label, double force) { Mostra(label, "0.0##", force / NInkN); }
+void MostraN(QLabel* label, double force) { Mostra(label, "0.0##", N_a_kN(force)); }
 
-void MostraM(QLabel* label, double moment) { Mostra(label, "0.0##", moment / NmmInkNm); }
+void MostraM(QLabel* label, double moment) { Mostra(label, "0.0##", Nmm_a_kNm(moment)); }
 
 Formula FormulaPlastica() {
     return {
@@ -126,9 +126,9 @@ FrmVerifiche::~FrmVerifiche() = default;
 
 void FrmVerifiche::RiempiDati() {
     if (const SezioneDoppioT* s = Sezione()) {
-        Riempi(ui_->fraAzioni->TxtNsd, s->NSd / NInkN);
-        Riempi(ui_->fraAzioni->TxtMysd, s->Mysd / NmmInkNm);
-        Riempi(ui_->fraAzioni->TxtMzsd, s->Mzsd / NmmInkNm);
+        Riempi(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
+        Riempi(ui_->fraAzioni->TxtMysd, Nmm_a_kNm(s->Mysd));
+        Riempi(ui_->fraAzioni->TxtMzsd, Nmm_a_kNm(s->Mzsd));
     }
     FuocoSu(ui_->fraAzioni->TxtNsd);
 }
@@ -137,9 +137,9 @@ void FrmVerifiche::CompletaForm(SchermoSezione& /*chiamante*/) {
     SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;
-    s->NSd = NumeroIn(ui_->fraAzioni->TxtNsd) * NInkN;
-    s->Mysd = NumeroIn(ui_->fraAzioni->TxtMysd) * NmmInkNm;
-    s->Mzsd = NumeroIn(ui_->fraAzioni->TxtMzsd) * NmmInkNm;
+    s->NSd = kN_a_N(NumeroIn(ui_->fraAzioni->TxtNsd));
+    s->Mysd = kNm_a_Nmm(NumeroIn(ui_->fraAzioni->TxtMysd));
+    s->Mzsd = kNm_a_Nmm(NumeroIn(ui_->fraAzioni->TxtMzsd));
     s->ClassePressoFlessioneCalcola();
     ScegliQuadro(s->ClassePressoFlessione);
     const TerminiInterazione termini = s->TerminiMNResistenza();

@@ -12,6 +12,7 @@
 #include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "frame/ui/ChiudiProgramma.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
@@ -157,9 +158,8 @@ void SchermoSezione::LunghezzaCambiata(int index) {
         Avvisa("Errore in L0");
         return;
     }
-    constexpr double m_a_mm = 1000;
     SullaSezioneInUso([&](ConLunghezze auto& section) {
-        (index == 0 ? section.L0y : section.L0z) = NumeroIn(Txt_L0[index]) * m_a_mm;
+        (index == 0 ? section.L0y : section.L0z) = m_a_mm(NumeroIn(Txt_L0[index]));
     });
     Risultati();
 }

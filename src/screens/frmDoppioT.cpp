@@ -7,8 +7,10 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/Twips.h"
 #include "screens/SagomaDi.h"
 #include "sections/SezioneCorrente.h"
 #include "ui_frmDoppioT.h"
@@ -17,11 +19,6 @@ namespace sagomi {
 
 namespace {
 
-constexpr double m_a_mm = 1000;
-constexpr double kN_a_N = 1000;
-constexpr double N_a_kN = 1e-3;
-constexpr double Nmm_a_kNm = 1e-6;
-constexpr int twipsAPixel = 15;
 constexpr int larghezzaInizialeTwips = 9600;
 constexpr int altezzaInizialeTwips = 7680;
 
@@ -37,7 +34,7 @@ frmDoppioT::frmDoppioT() : SchermoSezione(QStringLiteral("frmDoppioT")), ui_(new
     Collega(TxtNsd, &QLineEdit::textChanged, this, [this] {
         if (CaricaForm || !RigaInMano() || Sezione() == nullptr)
             return;
-        Sezione()->NSd = NumeroIn(TxtNsd) * kN_a_N;
+        Sezione()->NSd = kN_a_N(NumeroIn(TxtNsd));
         Risultati();
     });
     Collega(ui_->lblVplRd, &QPushButton::clicked, this,
@@ -87,11 +84,11 @@ void frmDoppioT::Leggedati() {
     auto section = std::make_shared<SezioneDoppioT>();
     LeggeRiga(Data1->Recordset(), *section);
     section->TipoAcciaio = ComboTipoAcciaio->currentText().toStdString();
-    section->L0y = NumeroIn(Txt_L0[0]) * m_a_mm;
-    section->L0z = NumeroIn(Txt_L0[1]) * m_a_mm;
+    section->L0y = m_a_mm(NumeroIn(Txt_L0[0]));
+    section->L0z = m_a_mm(NumeroIn(Txt_L0[1]));
     section->fy = NumeroIn(Txt_fy);
     section->fu = NumeroIn(Txt_fu);
-    section->NSd = NumeroIn(TxtNsd) * kN_a_N;
+    section->NSd = kN_a_N(NumeroIn(TxtNsd));
     SezioneCorrente = std::move(section);
 }
 
@@ -117,12 +114,12 @@ void frmDoppioT::MostraClassi() {
 
 void frmDoppioT::MostraResistenze() {
     const SezioneDoppioT& s = *Sezione();
-    Mostra(ui_->TxtNbRd_0, s.NbyRd * N_a_kN);
-    Mostra(ui_->TxtNbRd_1, s.NbzRd * N_a_kN);
-    Mostra(ui_->TxtMcRd_0, s.McyRd * Nmm_a_kNm);
-    Mostra(ui_->TxtMcRd_1, s.MczRd * Nmm_a_kNm);
-    Mostra(ui_->TxtVplRd_0, s.VplyRd * N_a_kN);
-    Mostra(ui_->TxtVplRd_1, s.VplzRd * N_a_kN);
+    Mostra(ui_->TxtNbRd_0, N_a_kN(s.NbyRd));
+    Mostra(ui_->TxtNbRd_1, N_a_kN(s.NbzRd));
+    Mostra(ui_->TxtMcRd_0, Nmm_a_kNm(s.McyRd));
+    Mostra(ui_->TxtMcRd_1, Nmm_a_kNm(s.MczRd));
+    Mostra(ui_->TxtVplRd_0, N_a_kN(s.VplyRd));
+    Mostra(ui_->TxtVplRd_1, N_a_kN(s.VplzRd));
     if (!s.ErroreDatiDatabase)
         return;
     // A row whose data do not compute has no buckling resistance, and what follows from it was not reached.

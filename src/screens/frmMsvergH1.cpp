@@ -3,8 +3,8 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
-#include "screens/Mostra.h"
 #include "sections/FattoriMomento.h"
 #include "ui_frmMsvergH1.h"
 

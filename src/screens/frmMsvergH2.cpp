@@ -2,8 +2,8 @@
 
 #include <QPushButton>
 
+#include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
-#include "screens/Mostra.h"
 #include "sections/FattoriMomento.h"
 #include "ui_frmMsvergH2.h"
 

@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "frame/GeneraleSagomi.h"
+#include "frame/Unita.h"
 #include "sections/ContornoEfficace.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneGenerica.h"
@@ -10,7 +11,6 @@ namespace sagomi {
 namespace {
 
 constexpr double densitaAcciaio = 7850; ///< kg/m3
-constexpr double mm2_in_m2 = 1000000;
 
 /// Which routine of the section gives its outline.
 using Tracciato = void (SezioneDoppioT::*)(std::vector<double>&, std::vector<double>&, std::int16_t&, double,
@@ -42,7 +42,7 @@ void Costanti(SezioneDoppioT& s, const SezioneGenerica& contorno) {
 void TorsioneEPeso(SezioneDoppioT& s) {
     s.JT = s.JotaT();
     s.Jw = s.JotaOmega();
-    s.g = s.Area * densitaAcciaio / mm2_in_m2;
+    s.g = mm2_a_m2(s.Area * densitaAcciaio);
 }
 
 } // namespace

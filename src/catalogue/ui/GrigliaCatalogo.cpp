@@ -13,12 +13,12 @@
 #include "catalogue/ui/DelegatoNumeri.h"
 #include "catalogue/ui/LettoreDati.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/Twips.h"
 
 namespace sagomi {
 
 namespace {
 
-constexpr int twipsAPixel = 15;
 constexpr int larghezzaNome = 1520 / twipsAPixel;  ///< designation
 constexpr int larghezzaNumero = 800 / twipsAPixel; ///< every other column, at least
 constexpr int ariaColonna = 10;                    ///< both sides of a text [px]

@@ -3,7 +3,9 @@
 #include <QRadioButton>
 
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "sections/Eurocod3.h"
@@ -14,17 +16,7 @@ namespace sagomi {
 
 namespace {
 
-constexpr double mmInMetro = 1000;
-constexpr double mm4InCm4 = 1e4;
-constexpr double mm6InCm6 = 1e6;
-constexpr double NmmInkNm = 1e6;
-
 const SezioneDoppioT* Sezione() { return SezioneInUso<SezioneDoppioT>(); }
-
-/// A value of the section, with the figures that it is kept with.
-void Riempi(QLineEdit* box, double value) {
-    box->setText(QString::fromStdString(TestoPiano(Singolo(value))));
-}
 
 } // namespace
 
@@ -116,9 +108,9 @@ void frmTimoshenko::Carica() {
     IT = s->JT;
     Iw = s->Jw;
     ui_->Txt_Prof->setText(QString::fromStdString(s->Designation));
-    Riempi(ui_->TxtIz, Iz / mm4InCm4);
-    Riempi(ui_->TxtIT, IT / mm4InCm4);
-    Riempi(ui_->TxtIw, Iw / mm6InCm6);
+    Riempi(ui_->TxtIz, mm4_a_cm4(Iz));
+    Riempi(ui_->TxtIT, mm4_a_cm4(IT));
+    Riempi(ui_->TxtIw, mm6_a_cm6(Iw));
     ui_->Lbl_Mcr->clear(); // it was another section's
 }
 
@@ -131,20 +123,20 @@ void frmTimoshenko::Apri(Schermo& da) {
 void frmTimoshenko::AllAttivazione() {
     if (const SezioneDoppioT* s = Sezione()) {
         L = s->LLT;
-        Riempi(ui_->Txt_L, L / mmInMetro);
+        Riempi(ui_->Txt_L, mm_a_m(L));
     }
     FuocoSu(ui_->Txt_L);
 }
 
 void frmTimoshenko::Calcolo() {
-    L = NumeroIn(ui_->Txt_L) * mmInMetro;
-    Iz = NumeroIn(ui_->TxtIz) * mm4InCm4;
-    IT = NumeroIn(ui_->TxtIT) * mm4InCm4;
-    Iw = NumeroIn(ui_->TxtIw) * mm6InCm6;
+    L = m_a_mm(NumeroIn(ui_->Txt_L));
+    Iz = cm4_a_mm4(NumeroIn(ui_->TxtIz));
+    IT = cm4_a_mm4(NumeroIn(ui_->TxtIT));
+    Iw = cm6_a_mm6(NumeroIn(ui_->TxtIw));
     const auto Mcr =
         Mensola() ? McrMensola(TipoCarico(), QuotaCarico()) : McrAppoggiata(TipoCarico(), QuotaCarico());
     if (Mcr)
-        ui_->Lbl_Mcr->setText(QString::fromStdString(FormatoCifre(4, *Mcr / NmmInkNm)));
+        ui_->Lbl_Mcr->setText(QString::fromStdString(FormatoCifre(4, Nmm_a_kNm(*Mcr))));
 }
 
 void frmTimoshenko::Disegna() {

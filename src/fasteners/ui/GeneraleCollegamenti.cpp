@@ -11,12 +11,12 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/LetturaNumero.h"
 #include "frame/Numeri.h"
+#include "frame/ui/Twips.h"
 
 namespace sagomi {
 
 namespace {
 
-constexpr int twipsAPixel = 15;
 constexpr int sinistraTwips = 120;
 constexpr int altoTwips = 800;
 

@@ -10,6 +10,7 @@
 #include "fasteners/ui/GeneraleCollegamenti.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Esito.h"
 #include "frame/ui/Guida.h"
@@ -21,8 +22,6 @@ namespace sagomi {
 
 namespace {
 
-constexpr double kN_a_N = 1000;
-constexpr double N_a_kN = 1e-3;
 constexpr int cifreRisultati = 4;
 constexpr int ultimaEntrata = 5; ///< Txt_Rif up to here is typed, beyond it computed
 constexpr int nMessaggi = 5;
@@ -44,7 +43,7 @@ void Scrive(QLineEdit* box, const std::string& text) {
 }
 
 void MostraForza(QLineEdit* box, Singolo force) {
-    Scrive(box, FormatoCifre(cifreRisultati, Singolo(force * N_a_kN)));
+    Scrive(box, FormatoCifre(cifreRisultati, Singolo(N_a_kN(force))));
 }
 
 } // namespace
@@ -267,8 +266,8 @@ void frmBulloni::Messaggi() {
 }
 
 void frmBulloni::Interazione() {
-    bullone_->FvSd = NumeroIn(Txt_FSd_[0]) * kN_a_N;
-    bullone_->FtSd = NumeroIn(Txt_FSd_[1]) * kN_a_N;
+    bullone_->FvSd = kN_a_N(NumeroIn(Txt_FSd_[0]));
+    bullone_->FtSd = kN_a_N(NumeroIn(Txt_FSd_[1]));
     if (bullone_->FvRd == 0 || bullone_->FtRd == 0) {
         ui_->Lbl_Risultato_0->clear();
         MostraEsito(ui_->Lbl_Risultato_1, std::numeric_limits<double>::quiet_NaN());
