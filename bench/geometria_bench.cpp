@@ -122,6 +122,7 @@ public:
     Forma Intersezione(const Forma& f, const Forma& g) const {
         return Tiene(GEOSIntersection_r(contesto_, f.get(), g.get()));
     }
+    Forma Inviluppo(const Forma& f) const { return Tiene(GEOSConvexHull_r(contesto_, f.get())); }
     Forma Rettangolo(double y1, double y2) const {
         return Tiene(GEOSGeom_createRectangle_r(contesto_, -lontano, y1, lontano, y2));
     }
@@ -278,6 +279,20 @@ void Inviluppo(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(Inviluppo)->Apply(Vertici)->Complexity();
+
+void InviluppoGeos(benchmark::State& state) {
+    const Poligono p = Contorno(state);
+    const Geos geos;
+    const Geos::Forma f = geos.DaPoligono(p);
+    const auto nostro = p.PoligonoConvessoCircoscritto();
+    nostro->AreaCalcola();
+    if (!Vicini(nostro->Area, geos.Area(geos.Inviluppo(f)), 1e-9))
+        state.SkipWithError("hull differs from the peer's");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(geos.Inviluppo(f).get());
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(InviluppoGeos)->Apply(Vertici)->Complexity();
 
 } // namespace
 

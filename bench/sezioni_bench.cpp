@@ -1,6 +1,8 @@
 // How many sections a second the initialiser computes: the rows of the IPE and HE families as a whole-sheet
 // search meets them, and welded ones whose plates are of class 4, with two or three outlines each.
 
+#include <geos_c.h>
+
 #include <charconv>
 #include <fstream>
 #include <map>
@@ -11,6 +13,7 @@
 #include <benchmark/benchmark.h>
 
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
 
@@ -68,11 +71,16 @@ SezioneDoppioT Sezione(Riga v, double fy) {
     return s;
 }
 
-void Inizializza(benchmark::State& stato, const std::vector<std::string>& famiglie, double fy) {
+std::vector<SezioneDoppioT> Sezioni(const std::vector<std::string>& famiglie, double fy) {
     std::vector<SezioneDoppioT> sezioni;
     for (const auto& famiglia : famiglie)
         for (const Riga& riga : LeggeFamiglia(famiglia))
             sezioni.push_back(Sezione(riga, fy));
+    return sezioni;
+}
+
+void Inizializza(benchmark::State& stato, const std::vector<std::string>& famiglie, double fy) {
+    const std::vector<SezioneDoppioT> sezioni = Sezioni(famiglie, fy);
     if (sezioni.empty()) {
         stato.SkipWithError("no catalogue");
         return;
@@ -91,6 +99,35 @@ BENCHMARK_CAPTURE(Inizializza, IPE_HE_S235, {"IPE", "IPEA", "IPEO", "HEA", "HEB"
 BENCHMARK_CAPTURE(Inizializza, IPE_HE_S355, {"IPE", "IPEA", "IPEO", "HEA", "HEB", "HEM", "HEAA"}, 355);
 BENCHMARK_CAPTURE(Inizializza, IPN_tapered, {"IPN"}, 235);
 BENCHMARK_CAPTURE(Inizializza, HSL_HSA_class4, {"HSL", "HSA"}, 355);
+
+/// The yardstick of the initialiser: what GEOS takes for area and centroid of the same outlines, made once.
+void ContorniDiGeos(benchmark::State& stato, const std::vector<std::string>& famiglie) {
+    GEOSContextHandle_t contesto = GEOS_init_r();
+    std::vector<GEOSGeometry*> contorni;
+    for (SezioneDoppioT& s : Sezioni(famiglie, 235)) {
+        s.InizializzaSezione();
+        const Poligono& p = *s.SezioneGenericaCorrente->Poligono;
+        const auto n = static_cast<unsigned>(p.nVertici());
+        GEOSCoordSequence* punti = GEOSCoordSeq_create_r(contesto, n + 1, 2);
+        for (unsigned i = 0; i <= n; ++i)
+            GEOSCoordSeq_setXY_r(contesto, punti, i, p.CoordX()[i % n], p.CoordY()[i % n]);
+        contorni.push_back(
+            GEOSGeom_createPolygon_r(contesto, GEOSGeom_createLinearRing_r(contesto, punti), nullptr, 0));
+    }
+    for (auto _ : stato)
+        for (const GEOSGeometry* contorno : contorni) {
+            double area = 0;
+            GEOSArea_r(contesto, contorno, &area);
+            GEOSGeometry* baricentro = GEOSGetCentroid_r(contesto, contorno);
+            benchmark::DoNotOptimize(area);
+            GEOSGeom_destroy_r(contesto, baricentro);
+        }
+    for (GEOSGeometry* contorno : contorni)
+        GEOSGeom_destroy_r(contesto, contorno);
+    GEOS_finish_r(contesto);
+    stato.SetItemsProcessed(stato.iterations() * static_cast<std::int64_t>(contorni.size()));
+}
+BENCHMARK_CAPTURE(ContorniDiGeos, IPE_HE, {"IPE", "IPEA", "IPEO", "HEA", "HEB", "HEM", "HEAA"});
 
 } // namespace
 

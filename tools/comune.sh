@@ -8,6 +8,7 @@ pacchetti_programma=(
   fonts-dejavu-core
 )
 pacchetti_schermo=(xvfb xauth imagemagick x11-utils)
+pacchetti_misure=(libbenchmark-dev libgeos-dev libfreexl-dev libx11-dev libxdamage-dev libxtst-dev locales speedcrunch)
 pacchetti_prove=(
   libgtest-dev libgmock-dev libfreexl-dev
   python3 python3-xlrd python3-ezdxf
