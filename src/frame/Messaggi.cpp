@@ -38,6 +38,17 @@ bool Chiedi(std::string_view testo, std::string_view titolo, Icona icona) {
     return Manda({std::string(testo), icona, std::string(titolo), Bottoni::SiNo}) == Risposta::Si;
 }
 
+MessaggiTaciuti::MessaggiTaciuti(bool attivo) : attivo_(attivo) {
+    if (attivo_)
+        precedente_ = CollegaMessaggi(
+            [](const Messaggio& m) { return m.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok; });
+}
+
+MessaggiTaciuti::~MessaggiTaciuti() {
+    if (attivo_)
+        CollegaMessaggi(std::move(precedente_));
+}
+
 std::vector<std::string>& MessaggiRaccolti() {
     static std::vector<std::string> raccolti;
     return raccolti;

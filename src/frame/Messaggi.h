@@ -41,6 +41,20 @@ void Avvisa(std::string_view testo, std::string_view titolo = {}, Icona icona = 
 /// Asks a question; true for yes.
 bool Chiedi(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Domanda);
 
+/// While one lives and is active, no message reaches anybody and questions are answered no: for what is
+/// computed while an entry is still being typed.
+class MessaggiTaciuti {
+public:
+    explicit MessaggiTaciuti(bool attivo = true);
+    ~MessaggiTaciuti();
+    MessaggiTaciuti(const MessaggiTaciuti&) = delete;
+    MessaggiTaciuti& operator=(const MessaggiTaciuti&) = delete;
+
+private:
+    bool attivo_;
+    PortaMessaggi precedente_;
+};
+
 /// Texts that arrived while nothing was plugged in.
 std::vector<std::string>& MessaggiRaccolti();
 

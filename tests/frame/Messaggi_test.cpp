@@ -30,6 +30,20 @@ TEST(Messaggi, AnswersNoWhenNobodyListens) {
     EXPECT_EQ(MessaggiRaccolti(), std::vector<std::string>{"Proseguire ?"});
 }
 
+TEST(Messaggi, NothingIsHeardWhileMessagesAreSilenced) {
+    prove::Registratore r(true);
+    {
+        const MessaggiTaciuti quiet;
+        Avvisa("MbRd = 0");
+        EXPECT_FALSE(Chiedi("Proseguire ?"));
+        const MessaggiTaciuti inner(false);
+        Avvisa("MbRd = 0");
+    }
+    EXPECT_TRUE(r.testi.empty());
+    Avvisa("MbRd = 0");
+    EXPECT_EQ(r.testi.size(), 1U);
+}
+
 TEST(Messaggi, RecorderAnswersYes) {
     prove::Registratore r(true);
     EXPECT_TRUE(Chiedi("Proseguire ?"));
