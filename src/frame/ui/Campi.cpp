@@ -1,12 +1,21 @@
 #include "frame/ui/Campi.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QMainWindow>
+#include <QStatusBar>
 #include <QTimer>
 
+#include <algorithm>
+
+#include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
+#include "frame/NumeroPulito.h"
+#include "frame/ui/Entrata.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/UpDown.h"
 
 namespace sagomi {
 
@@ -57,7 +66,9 @@ void FuocoSuccessivo(QWidget* maschera) {
     }
 }
 
-double NumeroIn(const QLineEdit* casella) { return ValoreNumerico(casella->text().toStdString()); }
+double NumeroIn(const QLineEdit* casella) {
+    return ValoreNumerico(NumeroRipulito(casella->text().toStdString()));
+}
 
 void LeggeScriveTesto(std::string_view modo, QLineEdit* controllo, double& valore) {
     if (modo == "L")
@@ -74,9 +85,59 @@ void LeggeScriveTesto(std::string_view modo, QLineEdit* controllo, std::string& 
 }
 
 FiltroCampi::FiltroCampi(QWidget* maschera, RegolaInvio invio)
-    : QObject(maschera), maschera_(maschera), invio_(std::move(invio)) {}
+    : QObject(maschera), maschera_(maschera), invio_(std::move(invio)) {
+    if (auto* window = qobject_cast<QMainWindow*>(maschera))
+        window->statusBar(); // where an entry says how it was read
+    // A button pressed by its key, or a step by the program, takes no focus away.
+    for (QAbstractButton* button : maschera->findChildren<QAbstractButton*>())
+        connect(button, &QAbstractButton::pressed, this, &FiltroCampi::Conclude);
+    for (UpDown* steps : maschera->findChildren<UpDown*>())
+        connect(steps, &UpDown::passo, this, &FiltroCampi::Conclude);
+}
 
-void FiltroCampi::Osserva(QLineEdit* casella) { casella->installEventFilter(this); }
+void FiltroCampi::Osserva(QLineEdit* casella) {
+    new Entrata(casella);
+    caselle_.append(casella);
+    casella->installEventFilter(this);
+}
+
+bool FiltroCampi::InDigitazione() const {
+    return std::ranges::any_of(caselle_, [](const QLineEdit* box) { return sagomi::InDigitazione(box); });
+}
+
+void FiltroCampi::Conclude() {
+    for (QLineEdit* box : caselle_)
+        ConcludeCasella(box);
+}
+
+void FiltroCampi::ConcludeCasella(QLineEdit* casella) {
+    if (!ChiusuraInCorso && Entrata::Di(casella)->Concludi())
+        emit conclusa(casella);
+}
+
+void FiltroCampi::Entra(QLineEdit* casella, Qt::FocusReason ragione) {
+    entrataColMouse_ = ragione == Qt::MouseFocusReason ? casella : nullptr;
+    Entrata::Di(casella)->Dice();
+    QTimer::singleShot(0, casella, [casella] {
+        if (casella->hasFocus())
+            SelezionaTesto(casella);
+    });
+}
+
+bool FiltroCampi::Tasto(QLineEdit* casella, const QKeyEvent& tasto) {
+    if (tasto.key() == Qt::Key_Return || tasto.key() == Qt::Key_Enter) {
+        ConcludeCasella(casella);
+        if (!invio_ || !invio_(casella))
+            FuocoSuccessivo(maschera_);
+        return true;
+    }
+    const bool keypad = (tasto.modifiers() & Qt::KeypadModifier) != 0 && !casella->isReadOnly();
+    if (keypad && (tasto.key() == Qt::Key_Period || tasto.key() == Qt::Key_Comma)) {
+        casella->insert(QString(QChar(CarDecimale)));
+        return true;
+    }
+    return false;
+}
 
 bool FiltroCampi::eventFilter(QObject* object, QEvent* event) {
     return EventoProtetto([this, object, event] { return Filtra(object, event); });
@@ -86,15 +147,14 @@ bool FiltroCampi::Filtra(QObject* object, QEvent* event) {
     auto* box = qobject_cast<QLineEdit*>(object);
     if (box == nullptr)
         return false;
-    if (event->type() == QEvent::FocusIn) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason)
             return false;
-        entrataColMouse_ = reason == Qt::MouseFocusReason ? box : nullptr;
-        QTimer::singleShot(0, box, [box] {
-            if (box->hasFocus())
-                SelezionaTesto(box);
-        });
+        if (event->type() == QEvent::FocusIn)
+            Entra(box, reason);
+        else if (reason != Qt::MenuBarFocusReason)
+            ConcludeCasella(box);
         return false;
     }
     // The click that brings the focus neither places the cursor nor drags a selection: it selects all.
@@ -105,20 +165,7 @@ bool FiltroCampi::Filtra(QObject* object, QEvent* event) {
         QTimer::singleShot(0, box, [box] { SelezionaTesto(box); });
         return false;
     }
-    if (event->type() != QEvent::KeyPress)
-        return false;
-    const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-        if (!invio_ || !invio_(box))
-            FuocoSuccessivo(maschera_);
-        return true;
-    }
-    const bool keypad = (key->modifiers() & Qt::KeypadModifier) != 0 && !box->isReadOnly();
-    if (keypad && (key->key() == Qt::Key_Period || key->key() == Qt::Key_Comma)) {
-        box->insert(QString(QChar(CarDecimale)));
-        return true;
-    }
-    return false;
+    return event->type() == QEvent::KeyPress && Tasto(box, *static_cast<QKeyEvent*>(event));
 }
 
 void SeparatoriControlla(QLineEdit* casella, bool silenzioso, bool* esito) {

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QLineEdit>
+#include <QList>
 #include <QObject>
 
 #include <functional>
 #include <string_view>
+
+class QKeyEvent;
 
 namespace sagomi {
 
@@ -18,7 +21,8 @@ void SelezionaTesto(QLineEdit* casella);
 /// Gives the focus to a box and selects its text.
 void FuocoSu(QLineEdit* casella);
 
-/// Number of a box by the tolerant rule of the screens: empty and text are 0.
+/// Number of a box by the tolerant rule of the screens: empty and text are 0; a typographic minus and blanks
+/// that do not break are understood.
 double NumeroIn(const QLineEdit* casella);
 
 /// Moves a number between a box and a variable: "L" reads the box, any other mode writes the plain number.
@@ -27,8 +31,12 @@ void LeggeScriveTesto(std::string_view modo, QLineEdit* controllo, double& valor
 /// The same for a text, without conversion.
 void LeggeScriveTesto(std::string_view modo, QLineEdit* controllo, std::string& valore);
 
-/// The manners of an entry box: entering it selects its text (by mouse too), Enter goes on, and the keypad's
-/// decimal key types the decimal separator in use. Every other character passes.
+/// The manners of a screen's entry boxes for numbers: entering one selects its text (by mouse too), Enter
+/// goes on, and the keypad's decimal key types the decimal separator in use. Every other character passes.
+///
+/// Typing is concluded by Enter, by leaving the box, by a button or a step of the screen: then a text that is
+/// no clean number is rewritten as it was read, and the screen may speak and mend. Until then, and not when
+/// the program has written the text, InDigitazione tells it to keep quiet.
 class FiltroCampi : public QObject {
     Q_OBJECT
 public:
@@ -38,16 +46,30 @@ public:
     /// @param maschera the screen whose tab order Enter follows; owns the filter
     explicit FiltroCampi(QWidget* maschera, RegolaInvio invio = {});
 
+    /// Takes care of a box from now on. Call it before the box's own handlers are connected.
     void Osserva(QLineEdit* casella);
+
+    /// Whether the user is at one of the boxes.
+    [[nodiscard]] bool InDigitazione() const;
+    /// Ends the typing in all boxes.
+    void Conclude();
+
+signals:
+    /// What was typed into a box stands; it has not been checked yet.
+    void conclusa(QLineEdit* casella);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     bool Filtra(QObject* object, QEvent* event);
+    void ConcludeCasella(QLineEdit* casella);
+    void Entra(QLineEdit* casella, Qt::FocusReason ragione);
+    bool Tasto(QLineEdit* casella, const QKeyEvent& tasto);
 
     QWidget* maschera_;
     RegolaInvio invio_;
+    QList<QLineEdit*> caselle_;
     QLineEdit* entrataColMouse_ = nullptr; ///< got the focus by a click that is not over yet
 };
 

@@ -8,9 +8,24 @@
 
 namespace sagomi {
 
+namespace {
+
+constexpr int margine = 14; ///< between text and edges, both sides together [px]
+
+/// A colour over another, so far as to be seen in light and dark palettes and to leave the text readable.
+QColor Velo(const QColor& ground, const QColor& tint) {
+    constexpr float parte = 0.3F;
+    const auto mix = [](float a, float b) { return a + (b - a) * parte; };
+    return QColor::fromRgbF(mix(ground.redF(), tint.redF()), mix(ground.greenF(), tint.greenF()),
+                            mix(ground.blueF(), tint.blueF()));
+}
+
+} // namespace
+
 Casella::Casella(QWidget* parent) : QLineEdit(parent) {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(this, &QLineEdit::textChanged, this, &Casella::MostraTesta);
 }
 
 void Casella::ImpostaCaratteri(int n) {
@@ -22,11 +37,35 @@ void Casella::ImpostaRisultato(bool risultato) {
     setReadOnly(risultato);
     setFocusPolicy(risultato ? Qt::ClickFocus : Qt::StrongFocus);
     Colora();
+    MostraTesta();
+}
+
+void Casella::ImpostaSegno(Segno segno) {
+    if (segno == segno_)
+        return;
+    segno_ = segno;
+    Colora();
+}
+
+// The first figures of a number are the ones that count; a box left to itself shows the last ones.
+void Casella::MostraTesta() {
+    const bool cut = Risultato() && fontMetrics().horizontalAdvance(text()) > width() - margine / 2;
+    if (Risultato())
+        setCursorPosition(0);
+    if (intero_.isEmpty() || toolTip() != intero_)
+        suggerimento_ = toolTip();
+    intero_ = !cut ? QString() : suggerimento_.isEmpty() ? text() : text() + u'\n' + suggerimento_;
+    setToolTip(cut ? intero_ : suggerimento_);
+}
+
+void Casella::resizeEvent(QResizeEvent* event) {
+    QLineEdit::resizeEvent(event);
+    MostraTesta();
 }
 
 QSize Casella::sizeHint() const {
     const QSize line = QLineEdit::sizeHint();
-    return {fontMetrics().horizontalAdvance(u'0') * caratteri_ + 14, line.height()};
+    return {fontMetrics().horizontalAdvance(u'0') * caratteri_ + margine, line.height()};
 }
 
 void Casella::changeEvent(QEvent* event) {
@@ -45,8 +84,12 @@ void Casella::Colora() {
         return; // setting the palette announces a change of palette
     const QScopedValueRollback guard(colorando_, true);
     QPalette colours;
+    const QColor ground = QApplication::palette().color(QPalette::Base);
     if (isReadOnly())
         colours.setBrush(QPalette::Base, QApplication::palette().brush(QPalette::Window));
+    else if (segno_ != Nessuno)
+        colours.setColor(QPalette::Base,
+                         Velo(ground, segno_ == Riletta ? QColor(255, 176, 0) : QColor(255, 64, 48)));
     setPalette(colours);
 }
 

@@ -95,13 +95,18 @@ void NavigaSchermi::ApertaPerUltima(Schermo& s) {
     schermi_.append(&s);
 }
 
+// What was being typed elsewhere stands before another screen computes with it.
 void NavigaSchermi::Attiva(Schermo& s) {
+    if (attivo_ != nullptr && attivo_ != &s)
+        attivo_->ConcludiEntrate();
     attivo_ = &s;
     Protetto("Errore", [&s] { s.AllAttivazione(); });
 }
 
 void NavigaSchermi::Passa(Schermo& a, Schermo* da) {
     const QScopedValueRollback guard(inNavigazione_, true);
+    if (da != nullptr)
+        da->ConcludiEntrate();
     ApertaPerUltima(a);
     Mostra(a);
     Attiva(a);
@@ -111,6 +116,7 @@ void NavigaSchermi::Passa(Schermo& a, Schermo* da) {
 
 void NavigaSchermi::Apri(Schermo& a, Schermo& da) {
     const QScopedValueRollback guard(inNavigazione_, true);
+    da.ConcludiEntrate();
     if (&a != &da)
         a.origine = &da;
     ApertaPerUltima(a);
@@ -128,6 +134,7 @@ void NavigaSchermi::ApriDialogo(Schermo& a, Schermo& da) {
 
 void NavigaSchermi::Lascia(Schermo& s) {
     const QScopedValueRollback guard(inNavigazione_, true);
+    s.ConcludiEntrate();
     Schermo* back = s.origine;
     s.hide();
     if (back == nullptr)

@@ -11,6 +11,7 @@
 #include <QStatusBar>
 
 #include "frame/GeneraleSagomi.h"
+#include "frame/ui/Campi.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 
@@ -29,6 +30,11 @@ void Schermo::PreparaContenuto() {
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(takeCentralWidget());
     setCentralWidget(scroll);
+}
+
+void Schermo::ConcludiEntrate() {
+    for (FiltroCampi* entries : findChildren<FiltroCampi*>())
+        entries->Conclude();
 }
 
 QSize Schermo::DimensioneContenuto() const {

@@ -29,6 +29,9 @@ public:
         return controls;
     }
 
+    /// Ends the typing in the entry boxes: what was typed is checked and mended now.
+    void ConcludiEntrate();
+
     /// Size that shows the whole content, with menus and status bar.
     [[nodiscard]] QSize DimensioneContenuto() const;
 
