@@ -1,0 +1,18 @@
+// The bytes are a whole file: the container, which libgsf opens, and the stream in it.
+
+#include <cstdint>
+#include <span>
+#include <stdexcept>
+
+#include "catalogue/CartellaXls.h"
+#include "catalogue/ContenitoreOle.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    try {
+        sagomi::CartellaXls cartella(sagomi::LeggiFlussoOle(std::span(data, size), {"Workbook", "Book"}));
+        for (std::size_t i = 0; i < cartella.Fogli(); ++i)
+            static_cast<void>(cartella.Legge(i));
+    } catch (const std::runtime_error&) { // refused
+    }
+    return 0;
+}
