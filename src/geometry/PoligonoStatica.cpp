@@ -17,24 +17,21 @@ struct Somme {
     double Iuv = 0;
 
     void Aggiungi(double u1, double v1, double u2, double v2) {
-        const double doppia = u1 * v2 - u2 * v1;
+        const double At = (u1 * v2 - u2 * v1) / 2;
         const double u = u1 + u2;
         const double v = v1 + v2;
-        A += doppia;
-        Su += doppia * u;
-        Sv += doppia * v;
-        Iu += doppia * (u1 * u1 + u * u + u2 * u2);
-        Iv += doppia * (v1 * v1 + v * v + v2 * v2);
-        Iuv += doppia * (u1 * v1 + u * v + u2 * v2);
+        A += At;
+        Su += At * u / 3; // divided one by one: written drawings hang on each figure of the centroid
+        Sv += At * v / 3;
+        Iu += At * (u1 * u1 + u * u + u2 * u2);
+        Iv += At * (v1 * v1 + v * v + v2 * v2);
+        Iuv += At * (u1 * v1 + u * v + u2 * v2);
     }
 
-    /// From the sums over doubled areas to the values.
+    /// From the sums of second moments to their values.
     void Divide() {
-        A /= 2;
-        for (double* s : {&Su, &Sv})
-            *s /= 6;
         for (double* s : {&Iu, &Iv, &Iuv})
-            *s /= 24;
+            *s /= 12;
     }
 
     void CambiaSegno() {
