@@ -313,7 +313,7 @@ Tasti AnchePrimaFamiglia(int famiglie) {
 
 const Tasti cifre{{XK_1}, {XK_2}, {XK_3}, {XK_BackSpace}, {XK_BackSpace}, {XK_BackSpace}};
 const Tasti frecce{{XK_Down}, {XK_Down}, {XK_Up}};
-const Tasti ordini{{XK_Down}, {XK_Down}, {XK_Up}, {XK_Up}};
+const Tasti ordini{{XK_Left}, {XK_Left}, {XK_Right}, {XK_Right}}; // up and down would move the row
 const Tasti lettere{{XK_h}, {XK_i}};
 constexpr int famiglie = 16;
 constexpr int primaFamiglia = 3; ///< the box that is ticked at the start
