@@ -1,5 +1,7 @@
 #include "frame/Impostazioni.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <string>
@@ -221,9 +223,13 @@ bool ScriveImpostazioniCambiate() {
 }
 
 std::string AvvisoImpostazioni() {
+    constexpr std::size_t nomiMostrati = 6; // what a line holds
+    const std::vector<std::string>& corrette = generale.ImpostazioniCorrette;
     std::string nomi;
-    for (const std::string& nome : generale.ImpostazioniCorrette)
-        nomi += (nomi.empty() ? "" : ", ") + nome;
+    for (std::size_t i = 0; i < std::min(corrette.size(), nomiMostrati); ++i)
+        nomi += (i == 0 ? "" : ", ") + corrette[i];
+    if (corrette.size() > nomiMostrati)
+        nomi += " e altri " + std::to_string(corrette.size() - nomiMostrati);
     return nomi.empty()
                ? nomi
                : std::string(nomeFile) + ": valori non ammessi di " + nomi + ", riportati ai predefiniti";

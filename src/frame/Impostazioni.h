@@ -31,7 +31,8 @@ bool IniLeggeScrive(std::string_view modo);
 /// @return false when the file could not be written
 bool ScriveImpostazioniCambiate();
 
-/// "Sagomi.ini: valori non ammessi di fck, GammaM0, riportati ai predefiniti", empty where all was well.
+/// "Sagomi.ini: valori non ammessi di fck, GammaM0, riportati ai predefiniti": at most six names and how many
+/// more; empty where all was well.
 std::string AvvisoImpostazioni();
 
 } // namespace sagomi

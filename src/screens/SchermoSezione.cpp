@@ -56,7 +56,8 @@ void SchermoSezione::CollegaControlli() {
     NormativaMain = findChild<QAction*>(QStringLiteral("NormativaMain"));
     barra_ = new QLabel(this);
     barra_->setObjectName(QStringLiteral("LblBarra"));
-    statusBar()->addWidget(barra_);
+    barra_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
+    statusBar()->addWidget(barra_, 1);
     DBGrid1->Collega(Data1);
     CollegaMenu();
     CollegaTabella();

@@ -291,6 +291,15 @@ TEST_F(ImpostazioniTest, AGradeOfTheUsersOwnGetsTheFirstDefault) {
               "Sagomi.ini: valori non ammessi di fyAcciaio[4], fuAcciaio[4], riportati ai predefiniti");
 }
 
+TEST_F(ImpostazioniTest, ManyWrongValuesStillFitALine) {
+    generale.ImpostazioniCorrette = {"a", "b", "c", "d", "e", "f"};
+    EXPECT_EQ(AvvisoImpostazioni(),
+              "Sagomi.ini: valori non ammessi di a, b, c, d, e, f, riportati ai predefiniti");
+    generale.ImpostazioniCorrette.resize(30000, "g");
+    EXPECT_EQ(AvvisoImpostazioni(),
+              "Sagomi.ini: valori non ammessi di a, b, c, d, e, f e altri 29994, riportati ai predefiniti");
+}
+
 TEST_F(ImpostazioniTest, AChangeIsWrittenWhenItIsMade) {
     IndiceAcciaio = 1;
     EXPECT_TRUE(ScriveImpostazioniCambiate());
