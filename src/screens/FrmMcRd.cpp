@@ -6,7 +6,7 @@
 #include "frame/ui/Campi.h"
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
-#include "screens/SagomaDi.h"
+#include "sections/DisegnoSagoma.h"
 #include "sections/Duttilita.h"
 #include "sections/SezioneCorrente.h"
 #include "ui_FrmMcRd.h"
@@ -52,6 +52,7 @@ std::string Uguale(int figures, double value) {
 
 FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::FrmMcRd) {
     ui_->setupUi(this);
+    ui_->Picture1->Mostra(DisegnoSagoma({}));
     CollegaControlli();
     for (QLineEdit* box : {ui_->TxtNsd, ui_->txtLstar})
         Collega(box, &QLineEdit::textChanged, this, [this] { Duttilita(); });
@@ -73,7 +74,7 @@ void FrmMcRd::CompletaForm(SchermoSezione& /*chiamante*/) {
         Mostra(ui_->Lbl_W_1, Modulo(s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}));
         Mostra(ui_->Lbl_McRd_0, Momento(s.McyRd));
         Mostra(ui_->Lbl_McRd_1, Momento(s.MczRd));
-        ui_->Picture1->Mostra(SagomaDi(s));
+        ui_->Picture1->Mostra(DisegnoSagoma(SagomaDi(s)));
     });
     Duttilita();
 }

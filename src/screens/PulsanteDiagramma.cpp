@@ -1,22 +1,17 @@
 #include "screens/PulsanteDiagramma.h"
 
-#include <QEvent>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
 
-#include "screens/DisegniMomento.h"
+#include "drawing/ui/ImmagineDisegno.h"
+#include "drawing/ui/MenuDisegno.h"
+#include "drawing/ui/SuperficieFigura.h"
+#include "sections/DisegniMomento.h"
 
 namespace sagomi {
-
-namespace {
-
-constexpr double larghezzaDiagramma = 56; ///< of the diagram between its names [px]
-constexpr double altezzaDiagramma = 46;
-constexpr int bordo = 5;
-
-} // namespace
 
 PulsanteDiagramma::PulsanteDiagramma(QWidget* parent) : QAbstractButton(parent) {
     setCheckable(true);
@@ -29,10 +24,10 @@ void PulsanteDiagramma::ImpostaPict(int pict) {
     update();
 }
 
-QSize PulsanteDiagramma::sizeHint() const {
-    const int names = 2 * fontMetrics().horizontalAdvance(QStringLiteral("M1 "));
-    return {static_cast<int>(larghezzaDiagramma) + names + 2 * bordo,
-            static_cast<int>(altezzaDiagramma) + 2 * bordo};
+QSize PulsanteDiagramma::sizeHint() const { return InPixel(DisegnoPict(pict_).misura, font()); }
+
+void PulsanteDiagramma::contextMenuEvent(QContextMenuEvent* event) {
+    MostraMenuDisegno(*this, DisegnoPict(pict_), event->globalPos());
 }
 
 void PulsanteDiagramma::keyPressEvent(QKeyEvent* event) {
@@ -56,10 +51,7 @@ void PulsanteDiagramma::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(QPen(edge, isChecked() ? 2 : 1));
     painter.setBrush(palette().brush(QPalette::Base));
     painter.drawRoundedRect(frame, 3, 3);
-    const double name = painter.fontMetrics().horizontalAdvance(QStringLiteral("M1 "));
-    TavolaTrave table(painter, QRectF(rect()).adjusted(bordo + name, bordo, -bordo - name, -bordo),
-                      palette());
-    DisegnaPict(table, pict_);
+    DipingeDisegno(painter, *this, DisegnoPict(pict_));
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);

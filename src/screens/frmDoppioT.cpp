@@ -11,7 +11,7 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/Twips.h"
-#include "screens/SagomaDi.h"
+#include "sections/DisegnoSagoma.h"
 #include "sections/SezioneCorrente.h"
 #include "ui_frmDoppioT.h"
 
@@ -30,6 +30,7 @@ void Mostra(QLineEdit* box, double value) { box->setText(QString::fromStdString(
 
 frmDoppioT::frmDoppioT() : SchermoSezione(QStringLiteral("frmDoppioT")), ui_(new Ui::frmDoppioT) {
     ui_->setupUi(this);
+    ui_->Picture1->Mostra(DisegnoSagoma({}));
     CollegaControlli();
     Collega(TxtNsd, &QLineEdit::textChanged, this, [this] {
         if (CaricaForm || !RigaInMano() || Sezione() == nullptr)
@@ -101,7 +102,7 @@ void frmDoppioT::Risultati() {
     Sezione()->InizializzaSezione(this);
     MostraClassi();
     MostraResistenze();
-    ui_->Picture1->Mostra(SagomaDi(*Sezione()));
+    ui_->Picture1->Mostra(DisegnoSagoma(SagomaDi(*Sezione())));
 }
 
 void frmDoppioT::MostraClassi() {

@@ -5,13 +5,14 @@
 
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
-#include "sections/FattoriMomento.h"
+#include "sections/DisegniMomento.h"
 #include "ui_frmMsvergH1.h"
 
 namespace sagomi {
 
 frmMsvergH1::frmMsvergH1() : TavolaFattori(QStringLiteral("frmMsvergH1")), ui_(new Ui::frmMsvergH1) {
     ui_->setupUi(this);
+    ui_->Image1->Mostra(DisegnoProspetto(1));
     RiempiRighe();
     AllineaColonne();
     PreparaContenuto();

@@ -4,13 +4,14 @@
 
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
-#include "sections/FattoriMomento.h"
+#include "sections/DisegniMomento.h"
 #include "ui_frmMsvergH2.h"
 
 namespace sagomi {
 
 frmMsvergH2::frmMsvergH2() : TavolaFattori(QStringLiteral("frmMsvergH2")), ui_(new Ui::frmMsvergH2) {
     ui_->setupUi(this);
+    ui_->Image1->Mostra(DisegnoProspetto(2));
     RiempiRighe();
     PreparaContenuto();
     DimensionaIniziale({});

@@ -6,7 +6,7 @@
 #include <QToolButton>
 
 #include "screens/Comandi.h"
-#include "screens/DisegniMomento.h"
+#include "sections/DisegniMomento.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;

@@ -2,6 +2,7 @@
 
 #include <QRadioButton>
 
+#include "criticalloads/DisegnoTrave.h"
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
@@ -22,6 +23,7 @@ const SezioneDoppioT* Sezione() { return SezioneInUso<SezioneDoppioT>(); }
 
 frmTimoshenko::frmTimoshenko() : Schermo(QStringLiteral("frmTimoshenko")), ui_(new Ui::frmTimoshenko) {
     ui_->setupUi(this);
+    ui_->Picture1->Mostra(DisegnoTrave({}));
     PreparaContenuto();
     E = E_acciaio;
     G = G_acciaio;
@@ -140,7 +142,7 @@ void frmTimoshenko::Calcolo() {
 }
 
 void frmTimoshenko::Disegna() {
-    ui_->Picture1->Mostra(Mensola(), TipoCarico() == caricoDistribuito, QuotaCarico());
+    ui_->Picture1->Mostra(DisegnoTrave({Mensola(), TipoCarico() == caricoDistribuito, QuotaCarico()}));
 }
 
 } // namespace sagomi

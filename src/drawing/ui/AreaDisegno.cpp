@@ -8,8 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawing/Grafica.h"
-#include "frame/ui/Protetto.h"
+#include "drawing/ui/DipingeProtetto.h"
 
 namespace sagomi {
 
@@ -61,16 +60,8 @@ void AreaDisegno::paintEvent(QPaintEvent* /*event*/) {
         return;
     QPainter painter(this);
     SuperficieSchermo surface(painter, size(), font(), palette().color(QPalette::Text), vista_);
-    const StatoUscita before;
-    try {
-        pittore_(surface);
-    } catch (...) {
-        // No box can be shown in the middle of a painting, and the next one would fail alike.
+    if (!DipingeProtetto(this, [&] { pittore_(surface); }))
         pittore_ = {};
-        const DescrizioneErrore error = ErroreInVolo();
-        QMetaObject::invokeMethod(
-            this, [error] { AvvisaErrore("Errore", error); }, Qt::QueuedConnection);
-    }
 }
 
 void AreaDisegno::wheelEvent(QWheelEvent* event) {

@@ -55,7 +55,8 @@ void FrmPltSezione::Ridisegna() {
     const bool something = bool(disegno_.PlottaInOggetto);
     setWindowTitle(tr("Plotta") +
                    (something ? QStringLiteral(" - ") + QString::fromStdString(disegno_.nome) : QString()));
-    for (QAction* action : {ui_->mnuFileItem_0, ui_->mnuFileItem_1, ui_->mnuFileItem_2, ui_->mnuAnteprima})
+    for (QAction* action : {ui_->mnuFileItem_0, ui_->mnuFileItem_1, ui_->mnuFileItem_2, ui_->mnuFileItem_4,
+                            ui_->mnuFileItem_5, ui_->mnuAnteprima})
         action->setEnabled(something);
     if (!something) {
         ui_->Picture1->Mostra({});

@@ -1,7 +1,9 @@
 #include "drawing/ui/ScegliDispositivo.h"
 
+#include <QClipboard>
 #include <QFileInfo>
-#include <QPainter>
+#include <QGuiApplication>
+#include <QMimeData>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -9,11 +11,15 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <memory>
 
 #include "drawing/Cad.h"
 #include "drawing/Dxf.h"
 #include "drawing/Grafica.h"
+#include "drawing/SuperficieSvg.h"
+#include "drawing/ui/SuperficieImmagine.h"
 #include "drawing/ui/SuperficieStampante.h"
+#include "frame/FileAtomico.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/ui/FileDialogo.h"
@@ -70,12 +76,12 @@ bool Stampa(const QString& name, const Disegno& drawing, const QString& maschera
     return true;
 }
 
-/// Puts a device without a target in force while it lives.
-class UscitaSenzaBersaglio {
+/// Puts a device in force while it lives.
+class Uscita {
 public:
-    explicit UscitaSenzaBersaglio(std::string_view device) {
+    explicit Uscita(std::string_view device, Superficie* target = nullptr) {
         Dispositivo = device;
-        OggettoGrafico = nullptr;
+        OggettoGrafico = target;
         ColorePenna = pennaInchiostro;
     }
 
@@ -83,22 +89,33 @@ private:
     StatoUscita before_;
 };
 
+/// The file that the user saves to, with its extension; empty when he gives up.
+QString FileScelto(const QString& name, const QString& extension, std::string_view filter, int index,
+                   QWidget* parent) {
+    QString file = ScegliFile(parent, "S", QString::fromUtf8(filter.data()), index,
+                              NomeFile(name) + QLatin1Char('.') + extension);
+    TieneCartella(file);
+    if (!file.isEmpty() && QFileInfo(file).suffix().isEmpty())
+        file += QLatin1Char('.') + extension;
+    return file;
+}
+
+QString EsitoFile(const QString& file) {
+    return QString::fromUtf8(testoFile.data()) + QStringLiteral(": ") + file;
+}
+
 bool ScriveDxf(const QString& name, const Disegno& drawing, const QString& maschera, QWidget* parent,
                QString& outcome) {
-    QString file = ScegliFile(parent, "S", QString::fromUtf8(filtroDxf.data()), indiceFiltroDxf,
-                              NomeFile(name) + QStringLiteral(".dxf"));
-    TieneCartella(file);
+    const QString file = FileScelto(name, QStringLiteral("dxf"), filtroDxf, indiceFiltroDxf, parent);
     if (file.isEmpty())
         return false;
-    if (QFileInfo(file).suffix().isEmpty())
-        file += QStringLiteral(".dxf");
     std::int16_t number = 0;
     if (!DxfApre(file.toStdString(), number)) {
         AvvisaNonScrivibile(file);
         return false;
     }
     try {
-        const UscitaSenzaBersaglio output(dispositivoDxf);
+        const Uscita output(dispositivoDxf);
         drawing.PlottaInOggetto(nullptr, maschera.toStdString());
     } catch (...) {
         DxfAbbandona(); // a file of that name from before is kept
@@ -106,7 +123,37 @@ bool ScriveDxf(const QString& name, const Disegno& drawing, const QString& masch
     }
     if (!DxfChiude())
         return false;
-    outcome = QString::fromUtf8(testoFile.data()) + QStringLiteral(": ") + file;
+    outcome = EsitoFile(file);
+    return true;
+}
+
+std::string InSvg(const Disegno& drawing, const QString& maschera) {
+    SuperficieSvg svg;
+    const Uscita output(dispositivoSvg, &svg);
+    drawing.PlottaInOggetto(&svg, maschera.toStdString());
+    return svg.Documento();
+}
+
+bool ScriveSvg(const QString& name, const Disegno& drawing, const QString& maschera, QWidget* parent,
+               QString& outcome) {
+    constexpr std::string_view filtro = "All Files (*.*)|*.*|Disegni SVG (*.svg)|*.svg";
+    const QString file = FileScelto(name, QStringLiteral("svg"), filtro, 2, parent);
+    if (file.isEmpty())
+        return false;
+    if (!ScriveAtomico(file.toStdString(), InSvg(drawing, maschera))) {
+        AvvisaNonScrivibile(file);
+        return false;
+    }
+    outcome = EsitoFile(file);
+    return true;
+}
+
+bool Copia(const Disegno& drawing, const QString& maschera, QString& outcome) {
+    auto data = std::make_unique<QMimeData>();
+    data->setData(QStringLiteral("image/svg+xml"), QByteArray::fromStdString(InSvg(drawing, maschera)));
+    data->setImageData(ImmagineDi(drawing, maschera));
+    QGuiApplication::clipboard()->setMimeData(data.release()); // the clipboard's own from here on
+    outcome = QStringLiteral("Appunti");
     return true;
 }
 
@@ -115,20 +162,12 @@ bool DisegnaNelCad(const Disegno& drawing, const QString& maschera, QString& out
     if (!CadApre())
         return false;
     {
-        const UscitaSenzaBersaglio output(dispositivoDwg);
+        const Uscita output(dispositivoDwg);
         drawing.PlottaInOggetto(nullptr, maschera.toStdString());
     }
     CadZoomExtents();
     outcome = QString::fromUtf8(dispositivoDwg.data());
     return true;
-}
-
-void DisegnaPagina(QPainter& painter, const Disegno& drawing, const std::string& maschera) {
-    SuperficieStampante page(painter);
-    Dispositivo = dispositivoStampante;
-    ColorePenna = pennaInchiostro;
-    OggettoGrafico = &page;
-    drawing.PlottaInOggetto(&page, maschera);
 }
 
 } // namespace
@@ -141,19 +180,21 @@ bool StampaSu(QPrinter& stampante, const Disegno& disegno, const QString& masche
     const bool onFile = !stampante.outputFileName().isEmpty();
     const bool missing = !onFile && stampante.outputFormat() == QPrinter::NativeFormat &&
                          (!stampante.isValid() || QPrinterInfo::availablePrinterNames().isEmpty());
-    QPainter painter;
-    if (missing || !painter.begin(&stampante)) {
+    if (missing) {
+        AvvisaStampante();
+        return false;
+    }
+    LavoroDiStampa job(stampante);
+    if (!job.Iniziato()) {
         onFile ? AvvisaNonScrivibile(stampante.outputFileName()) : AvvisaStampante();
         return false;
     }
-    const StatoUscita before;
     const int copies = stampante.supportsMultipleCopies() ? 1 : std::max(1, stampante.copyCount());
     return Protetto("Errore", [&] {
-        for (int i = 0; i < copies; ++i) {
-            if (i > 0)
-                stampante.newPage();
-            DisegnaPagina(painter, disegno, maschera.toStdString());
-        }
+        job.Pagine(copies, [&](Superficie& page) {
+            const Uscita output(dispositivoStampante, &page);
+            disegno.PlottaInOggetto(&page, maschera.toStdString());
+        });
     });
 }
 
@@ -169,6 +210,10 @@ bool ScegliDispositivo(int scelta, const QString& nome, const Disegno& disegno, 
         done = ScriveDxf(nome, disegno, maschera, sopra, outcome);
     else if (scelta == sceltaCad)
         done = DisegnaNelCad(disegno, maschera, outcome);
+    else if (scelta == sceltaSvg)
+        done = ScriveSvg(nome, disegno, maschera, sopra, outcome);
+    else if (scelta == sceltaAppunti)
+        done = Copia(disegno, maschera, outcome);
     if (esito != nullptr)
         *esito = outcome;
     return done;

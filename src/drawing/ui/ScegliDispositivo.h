@@ -11,8 +11,14 @@ class QWidget;
 
 namespace sagomi {
 
-/// Where a drawing goes; also the order of the preview's menu.
-enum SceltaDispositivo : int { sceltaStampante = 0, sceltaDxf = 1, sceltaCad = 2 };
+/// Where a drawing goes; also the numbers of the preview's menu, whose 3 closes it.
+enum SceltaDispositivo : int {
+    sceltaStampante = 0,
+    sceltaDxf = 1,
+    sceltaCad = 2,
+    sceltaSvg = 4,
+    sceltaAppunti = 5
+};
 
 /// Asks the user for the printer and its settings; false when he gives up. The tests put their own in the
 /// place of the print dialog, which also offers a PDF file.
@@ -20,7 +26,8 @@ using SceltaStampante = std::function<bool(QPrinter& stampante, QWidget* sopra)>
 void ImpostaSceltaStampante(SceltaStampante scelta);
 
 /// Sends a drawing to the device of choice: the print dialog and as many copies as it asks for; the save
-/// dialog and a DXF file; the running CAD program. The folder of a file becomes the working folder.
+/// dialog and a DXF or SVG file; the running CAD program; the clipboard, as a picture and as SVG. The folder
+/// of a file becomes the working folder.
 /// @param nome      proposed for the file and the print job
 /// @param maschera  name of the screen that asks, handed on to the drawing
 /// @param esito     when given, receives in a few words where the drawing went

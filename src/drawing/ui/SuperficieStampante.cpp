@@ -1,6 +1,6 @@
 #include "drawing/ui/SuperficieStampante.h"
 
-#include <QPainter>
+#include <QPrinter>
 
 namespace sagomi {
 
@@ -21,5 +21,17 @@ SuperficieStampante::SuperficieStampante(QPainter& pittore)
           carta.inchiostro = Qt::black;
           return carta;
       }()) {}
+
+LavoroDiStampa::LavoroDiStampa(QPrinter& stampante)
+    : stampante_(stampante), iniziato_(pittore_.begin(&stampante)) {}
+
+void LavoroDiStampa::Pagine(int quante, const std::function<void(Superficie&)>& disegna) {
+    for (int i = 0; i < quante; ++i) {
+        if (i > 0)
+            stampante_.newPage();
+        SuperficieStampante page(pittore_);
+        disegna(page);
+    }
+}
 
 } // namespace sagomi

@@ -1,6 +1,12 @@
 #pragma once
 
+#include <QPainter>
+
+#include <functional>
+
 #include "drawing/ui/SuperficieQt.h"
+
+class QPrinter;
 
 namespace sagomi {
 
@@ -10,6 +16,22 @@ class SuperficieStampante : public SuperficieQt {
 public:
     /// @param pittore  at work on a printer, a PDF file, or the pages of a print preview
     explicit SuperficieStampante(QPainter& pittore);
+};
+
+/// A print job at work, from its making to its end.
+class LavoroDiStampa {
+public:
+    explicit LavoroDiStampa(QPrinter& stampante);
+
+    /// False when the printer or its file cannot be had.
+    [[nodiscard]] bool Iniziato() const { return iniziato_; }
+    /// Draws the same page so many times.
+    void Pagine(int quante, const std::function<void(Superficie&)>& disegna);
+
+private:
+    QPrinter& stampante_;
+    QPainter pittore_;
+    bool iniziato_;
 };
 
 } // namespace sagomi

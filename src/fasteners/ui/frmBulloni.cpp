@@ -7,6 +7,7 @@
 
 #include <limits>
 
+#include "fasteners/DisegnoForatura.h"
 #include "fasteners/ui/GeneraleCollegamenti.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
@@ -50,6 +51,7 @@ void MostraForza(QLineEdit* box, Singolo force) {
 
 frmBulloni::frmBulloni() : Schermo(QStringLiteral("frmBulloni")), ui_(new Ui::frmBulloni) {
     ui_->setupUi(this);
+    ui_->Picture1->Mostra(DisegnoForatura({}));
     Txt_Rif_ = Vettore<QLineEdit>(QStringLiteral("Txt_Rif"));
     Txt_FSd_ = Vettore<QLineEdit>(QStringLiteral("Txt_FSd"));
     QSizePolicy place = ui_->List1->sizePolicy(); // keeps its place: nothing jumps when a message comes
@@ -283,7 +285,7 @@ void frmBulloni::Interazione() {
 
 void frmBulloni::Disegna() {
     const Bullone& b = *bullone_;
-    ui_->Picture1->Mostra({double(b.d()), b.do_, b.e1, b.p1, b.e2, b.p2});
+    ui_->Picture1->Mostra(DisegnoForatura({double(b.d()), b.do_, b.e1, b.p1, b.e2, b.p2}));
 }
 
 void frmBulloni::ApreChiudeOsservazioni() {

@@ -10,7 +10,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "fasteners/ui/DisegnoForatura.h"
+#include "drawing/SuperficieFinta.h"
+#include "drawing/ui/ImmagineDisegno.h"
 #include "frame/ui/UpDown.h"
 #include "screens/Ambiente.h"
 
@@ -513,13 +514,18 @@ TEST_F(FrmBulloniTest, PictureFollowsTheDistances) {
     M16();
     Scrive("Txt_Rif_2", "40");
     Scrive("Txt_Rif_5", "70");
-    const ForaturaDisegnata& f = Trova<DisegnoForatura>(b, "Picture1")->Mostrata();
-    EXPECT_EQ(f.d, 16);
-    EXPECT_EQ(f.do_, 18);
-    EXPECT_EQ(f.e1, 40);
-    EXPECT_EQ(f.p1, 67.5);
-    EXPECT_EQ(f.e2, 27);
-    EXPECT_EQ(f.p2, 70);
+    SuperficieFinta su(400, 300);
+    const SuUscita uscita(&su);
+    Trova<ImmagineDisegno>(b, "Picture1")->Mostrato().PlottaInOggetto(&su, "frmBulloni");
+    // Four holes of 18 with their bolts of 16; hole to hole 67.5 along the load and 70 across it.
+    ASSERT_EQ(su.cerchi.size(), 8U);
+    const double scala = su.cerchi[0].r / 9;
+    EXPECT_NEAR(su.cerchi[1].r, 8 * scala, 1e-9);
+    EXPECT_NEAR(su.cerchi[4].x - su.cerchi[0].x, 67.5 * scala, 1e-9);
+    EXPECT_NEAR(su.cerchi[0].y - su.cerchi[2].y, 70 * scala, 1e-9);
+    // 40 from the holes to the end of the plate, 27 to its lower edge: the first line of its outline.
+    EXPECT_NEAR(su.linee[0].x2 - su.cerchi[4].x, 40 * scala, 1e-9);
+    EXPECT_NEAR(su.linee[0].y2 - su.cerchi[4].y, 27 * scala, 1e-9);
     EXPECT_FALSE(b->grab().isNull());
 }
 

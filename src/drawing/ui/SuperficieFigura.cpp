@@ -1,0 +1,30 @@
+#include "drawing/ui/SuperficieFigura.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace sagomi {
+
+namespace {
+
+constexpr int opacitaFine = 170; ///< of the light ink, of 255
+
+QColor Leggero(QColor ink) {
+    ink.setAlpha(opacitaFine);
+    return ink;
+}
+
+} // namespace
+
+SuperficieFigura::SuperficieFigura(QPainter& pittore, const QSizeF& misura, const QFont& carattere,
+                                   const QPalette& colori)
+    : SuperficieQt(pittore, Carta{misura, 1, 1, carattere, colori.color(QPalette::WindowText),
+                                  Leggero(colori.color(QPalette::WindowText)), colori.color(QPalette::Window),
+                                  true}) {}
+
+QSize InPixel(const Misura& misura, const QFont& carattere) {
+    const int text = QFontMetrics(carattere).horizontalAdvance(QString::fromStdString(misura.campione));
+    return {static_cast<int>(misura.larghezza) + text, static_cast<int>(misura.altezza)};
+}
+
+} // namespace sagomi

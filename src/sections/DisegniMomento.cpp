@@ -1,0 +1,156 @@
+#include "sections/DisegniMomento.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string_view>
+
+#include "sections/DiagrammaMomenti.h"
+
+namespace sagomi {
+
+namespace {
+
+/// Moments of a span load, 1 at the middle.
+double Parabola(double x) { return 4 * x * (1 - x); }
+double Triangolo(double x) { return 2 * std::min(x, 1 - x); }
+
+double Lineare(double M1, double M2, double x) { return M1 + (M2 - M1) * x; }
+
+/// End moments and span moment of a shape, in parts of its largest ordinate.
+struct Ordinate {
+    double M1, M2, MQ;
+};
+
+Ordinate OrdinateDi(std::int16_t pict) {
+    switch (pict) {
+    case pictEstremitaConcordi:
+        return {0.9, 0.5, 0};
+    case pictEstremitaDiscordi:
+        return {0.9, -0.6, 0};
+    case pictDistribuitoContro:
+    case pictConcentratoContro:
+        return {0.8, 0.5, -1.35};
+    default:
+        return {0.4, 0.25, 0.6};
+    }
+}
+
+/// Two loads at the quarter points.
+double DueForze(double x) { return std::min({4 * x, 1.0, 4 * (1 - x)}); }
+
+/// Moment of a load between built-in ends; `ai_lati` is what the ends take of the moment of the free span.
+double FraIncastri(double libero, double ai_lati) { return libero - ai_lati; }
+
+constexpr double bordo = 10; ///< free between two bands
+constexpr double trave = 84; ///< length of a beam
+
+void FasciaPsi(const Quadro& quadro, const CampoQuadro& campo, double psi) {
+    const TavolaTrave tavola(quadro, {campo.sinistra, campo.alto, trave, campo.altezza});
+    DisegnaPsi(tavola, psi);
+    tavola.Nome({campo.sinistra + trave + bordo, campo.Centro().y}, "ψ = " + TestoPsi(psi), 1, 0);
+}
+
+void FasciaCaso(const Quadro& quadro, const CampoQuadro& campo, CasoF12 caso) {
+    const CampoQuadro carico{campo.sinistra, campo.alto, trave, campo.altezza};
+    const CampoQuadro diagramma{campo.sinistra + trave + 2 * bordo, campo.alto, trave, campo.altezza};
+    DisegnaCaso({quadro, carico}, {quadro, diagramma}, caso);
+}
+
+} // namespace
+
+void DisegnaPict(const TavolaTrave& tavola, std::int16_t pict) {
+    const Ordinate o = OrdinateDi(pict);
+    const bool distribuito = pict == pictDistribuitoContro || pict == pictDistribuitoConcorde;
+    tavola.Diagramma(
+        [=](double x) { return Lineare(o.M1, o.M2, x) + o.MQ * (distribuito ? Parabola(x) : Triangolo(x)); });
+    tavola.Nome(tavola.Punto(0, o.M1 / 2), "M1", -1, 0);
+    tavola.Nome(tavola.Punto(1, o.M2 / 2), "M2", 1, 0);
+    if (TipoDiPict(pict) == diagrammaCampata)
+        tavola.Nome(tavola.Punto(0.5, 0), "MQ", 0, o.MQ < 0 ? -1 : 1); // clear of the diagram
+}
+
+void DisegnaPsi(const TavolaTrave& tavola, double psi) {
+    tavola.Diagramma([=](double x) { return Lineare(0.9, 0.9 * psi, x); });
+}
+
+void DisegnaCaso(const TavolaTrave& carico, const TavolaTrave& diagramma, CasoF12 caso) {
+    using enum CasoF12;
+    const bool incastri = caso == UniformeIncastri || caso == ConcentratoIncastri;
+    carico.Asse();
+    for (const double end : {0.0, 1.0}) {
+        if (incastri)
+            carico.Incastro(end, 8);
+        else
+            carico.Appoggio(end);
+    }
+    constexpr double quanto_uniforme = 2.0 / 3; // w L^2/12 of w L^2/8
+    constexpr double quanto_forza = 0.5;        // F L/8 of F L/4
+    // moments that pull below are drawn below
+    switch (caso) {
+    case UniformeAppoggi:
+    case UniformeIncastri:
+        carico.CaricoDistribuito();
+        diagramma.Diagramma(
+            [=](double x) { return -FraIncastri(Parabola(x), incastri ? quanto_uniforme : 0); });
+        break;
+    case ConcentratoAppoggi:
+    case ConcentratoIncastri:
+        carico.Forza(0.5);
+        diagramma.Diagramma(
+            [=](double x) { return -FraIncastri(Triangolo(x), incastri ? quanto_forza : 0); });
+        break;
+    case DueCarichiAppoggi:
+        carico.Forza(0.25);
+        carico.Forza(0.75);
+        diagramma.Diagramma([](double x) { return -DueForze(x); });
+        break;
+    }
+}
+
+std::string TestoPsi(double psi) {
+    constexpr std::array<std::string_view, 4> quarti{"0", "1/4", "1/2", "3/4"};
+    const auto n = static_cast<std::size_t>(std::lround(4 * std::abs(psi)));
+    const std::string segno = psi > 0 ? "+" : psi < 0 ? "-" : "";
+    return segno + (n < quarti.size() ? std::string(quarti[n]) : std::to_string(n / 4));
+}
+
+Disegno DisegnoPict(std::int16_t pict) {
+    constexpr double larghezza = 56; // of the diagram between its names
+    constexpr double altezza = 46;
+    constexpr double margine = 5;
+    Disegno disegno{"Diagramma dei momenti", {}, {larghezza + 2 * margine, altezza + 2 * margine, "M1 M1 "}};
+    disegno.PlottaInOggetto = [pict, misura = disegno.misura](Superficie* oggetto, std::string_view) {
+        const Quadro quadro(oggetto, Dispositivo, misura);
+        const double nome = quadro.LarghezzaTesto("M1 ");
+        DisegnaPict({quadro, quadro.Tutto().Dentro(margine + nome, margine, margine + nome, margine)}, pict);
+    };
+    return disegno;
+}
+
+Disegno DisegnoProspetto(int prospetto) {
+    const bool diagrammi = prospetto == 1;
+    Disegno disegno;
+    disegno.nome = diagrammi ? "Prospetto F.1.1" : "Prospetto F.1.2";
+    if (diagrammi)
+        disegno.misura = {trave + 2 * bordo, 48.0 * psiF11, "ψ = +3/4  "};
+    else
+        disegno.misura = {2 * trave + 5 * bordo, 60.0 * casiF12};
+    disegno.PlottaInOggetto = [diagrammi, misura = disegno.misura](Superficie* oggetto, std::string_view) {
+        const Quadro quadro(oggetto, Dispositivo, misura);
+        const std::size_t fasce = diagrammi ? psiF11 : casiF12;
+        CampoQuadro fascia = quadro.Tutto();
+        fascia.altezza /= static_cast<double>(fasce);
+        for (std::size_t i = 0; i < fasce; ++i) {
+            const CampoQuadro dentro = fascia.Dentro(bordo, bordo, bordo, bordo);
+            if (diagrammi)
+                FasciaPsi(quadro, dentro, ProspettoF11()[3 * i].psi);
+            else
+                FasciaCaso(quadro, dentro, ProspettoF12()[2 * i].caso);
+            fascia.alto += fascia.altezza;
+        }
+    };
+    return disegno;
+}
+
+} // namespace sagomi
