@@ -3,9 +3,13 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QTextBrowser>
+#include <QWheelEvent>
+
+#include <algorithm>
 
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
@@ -29,6 +33,17 @@ public:
     }
 
 protected:
+    /// With Ctrl the wheel sizes the text, within what can be read and laid out.
+    void wheelEvent(QWheelEvent* event) override {
+        EventoProtetto([this, event] {
+            if (event->modifiers().testFlag(Qt::ControlModifier)) {
+                Ingrandisci(event->angleDelta().y());
+                event->accept();
+            } else {
+                QTextBrowser::wheelEvent(event);
+            }
+        });
+    }
     void keyPressEvent(QKeyEvent* event) override {
         EventoProtetto([this, event] {
             if (event->key() == Qt::Key_Escape)
@@ -36,6 +51,18 @@ protected:
             else
                 QTextBrowser::keyPressEvent(event);
         });
+    }
+
+private:
+    /// @param giro  of the wheel, eighths of a degree: 120 in a notch, which is a point of the font
+    void Ingrandisci(int giro) {
+        constexpr double scatto = 120;
+        constexpr double minimo = 6; // points
+        constexpr double massimo = 40;
+        const double now = QFontInfo(font()).pointSizeF();
+        const double wanted = std::clamp(now + giro / scatto, minimo, massimo);
+        if (const int points = static_cast<int>(wanted - now); points != 0)
+            zoomIn(points);
     }
 };
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QTextBrowser>
+#include <QWheelEvent>
 
 #include "frame/ui/AmbienteFinestre.h"
 
@@ -52,6 +53,28 @@ TEST_F(GuidaTest, MessageBoxGetsNoHelpBehindIt) {
     QCoreApplication::processEvents();
     QTest::keyClick(&box, Qt::Key_F1);
     EXPECT_EQ(Finestra(), nullptr);
+}
+
+// Notches without number, up and down: the font stays between 6 and 40 points, and what a notch did another
+// one undoes.
+TEST_F(GuidaTest, ZoomHasItsBounds) {
+    Guida::Apri(QStringLiteral("Sagomi.hlp"));
+    QTextBrowser* window = Finestra();
+    ASSERT_NE(window, nullptr);
+    const auto notches = [window](int n) {
+        QWheelEvent event({50, 50}, window->mapToGlobal(QPointF(50, 50)), {}, {0, 120 * n}, Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(window->viewport(), &event);
+        return QFontInfo(window->font()).pointSizeF();
+    };
+    const double start = QFontInfo(window->font()).pointSizeF();
+    EXPECT_NEAR(notches(1), start + 1, 0.1);
+    EXPECT_NEAR(notches(-1), start, 0.1);
+    for (int i = 0; i < 300; ++i)
+        EXPECT_LE(notches(10), 40.1);
+    for (int i = 0; i < 300; ++i)
+        EXPECT_GE(notches(-10), 5.9);
+    EXPECT_LE(notches(1000000), 40.1);
 }
 
 TEST_F(GuidaTest, MissingFileIsToldByName) {
