@@ -158,7 +158,8 @@ std::string RigaDato(std::string_view nome, Singolo valore) {
 }
 
 void DisegnaQuotato(const PezzoQuotato& pezzo, Superficie* oggetto, std::string_view dispositivo) {
-    if (pezzo.contorno == nullptr || !pezzo.contorno->Poligono || pezzo.contorno->Poligono->nVertici() < 3)
+    if (pezzo.contorno == nullptr || !pezzo.contorno->Poligono || pezzo.contorno->Poligono->nVertici() < 3 ||
+        !Disegnabili(pezzo.contorno->Poligono->BoundingBox()))
         return;
     const std::string uscita(dispositivo); // it may be a view of the one in force
     DisegnoQuotato(pezzo, oggetto, uscita).Traccia();

@@ -16,6 +16,7 @@
 #include "drawing/SuperficieFinta.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
+#include "sections/DisegnoSagoma.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneGenerica.h"
 
@@ -277,6 +278,20 @@ TEST_F(DisegnoTest, BeforeItIsInitialisedNothingIsDrawn) {
     s.PlottaSezione(nullptr, "frmDoppioT", "DXF");
     EXPECT_TRUE(superficie.linee.empty());
     EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(DisegnoTest, ASectionBeyondAllMeasureDrawsNothing) {
+    for (const double b : {1e308, 1e16}) {
+        SezioneDoppioT s = Ipe();
+        Poligono& contorno = *s.SezioneGenericaCorrente->Poligono;
+        std::vector<double> x(contorno.CoordX().begin(), contorno.CoordX().end());
+        const std::vector<double> y(contorno.CoordY().begin(), contorno.CoordY().end());
+        x[0] = b;
+        contorno.Coordinate(x, y, contorno.nVertici());
+        s.PlottaSezione(&superficie, "frmDoppioT", "VIDEO");
+        EXPECT_FALSE(DisegnoSagoma(SagomaDi(s)).PlottaInOggetto);
+    }
+    EXPECT_TRUE(superficie.linee.empty() && superficie.scritte.empty() && superficie.cerchi.empty());
 }
 
 TEST_F(DisegnoTest, WithoutFilletsNoLeader) {
