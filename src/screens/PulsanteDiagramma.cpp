@@ -9,6 +9,7 @@
 #include "drawing/ui/ImmagineDisegno.h"
 #include "drawing/ui/MenuDisegno.h"
 #include "drawing/ui/SuperficieFigura.h"
+#include "frame/ui/Protetto.h"
 #include "sections/DisegniMomento.h"
 
 namespace sagomi {
@@ -27,7 +28,7 @@ void PulsanteDiagramma::ImpostaPict(int pict) {
 QSize PulsanteDiagramma::sizeHint() const { return InPixel(DisegnoPict(pict_).misura, font()); }
 
 void PulsanteDiagramma::contextMenuEvent(QContextMenuEvent* event) {
-    MostraMenuDisegno(*this, DisegnoPict(pict_), event->globalPos());
+    EventoProtetto([&] { MostraMenuDisegno(*this, DisegnoPict(pict_), event->globalPos()); });
 }
 
 void PulsanteDiagramma::keyPressEvent(QKeyEvent* event) {

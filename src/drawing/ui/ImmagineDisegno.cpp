@@ -7,6 +7,7 @@
 #include "drawing/ui/DipingeProtetto.h"
 #include "drawing/ui/MenuDisegno.h"
 #include "drawing/ui/SuperficieFigura.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -37,7 +38,7 @@ void ImmagineDisegno::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void ImmagineDisegno::contextMenuEvent(QContextMenuEvent* event) {
-    MostraMenuDisegno(*this, disegno_, event->globalPos());
+    EventoProtetto([&] { MostraMenuDisegno(*this, disegno_, event->globalPos()); });
 }
 
 bool DipingeDisegno(QPainter& pittore, QWidget& widget, const Disegno& disegno) {

@@ -211,6 +211,29 @@ TEST_F(ScegliDispositivoTest, ADrawingThatFailsLeavesTheOldFile) {
     EXPECT_EQ(Dispositivo, "VIDEO");
 }
 
+// SVG ---------------------------------------------------------------------------------------------------
+
+TEST_F(ScegliDispositivoTest, WritesAnSvgFile) {
+    const QString file = cartella.filePath(QStringLiteral("IPE 200"));
+    RispondeFile(file);
+    disegno.PlottaInOggetto = [this](Superficie*, std::string_view) {
+        dispositivi.push_back(Dispositivo);
+        LineaPlt(1, 2, 3, 4);
+    };
+    EXPECT_TRUE(Scegli(sceltaSvg));
+    EXPECT_EQ(proposto, "IPE 200.svg");
+    EXPECT_EQ(dispositivi, std::vector<std::string>{"SVG"});
+    EXPECT_EQ(esito, "FILE: " + file + ".svg");
+    EXPECT_TRUE(Byte(file + ".svg").contains("points=\"1,-2 3,-4\""));
+    EXPECT_EQ(Dispositivo, "VIDEO");
+}
+
+TEST_F(ScegliDispositivoTest, AnSvgFileThatCannotBeWrittenIsTold) {
+    RispondeFile(QStringLiteral("/manca/a.svg"));
+    EXPECT_FALSE(Scegli(sceltaSvg));
+    EXPECT_EQ(registratore.testi, std::vector<std::string>{"Non è possibile scrivere il file /manca/a.svg"});
+}
+
 // CAD ---------------------------------------------------------------------------------------------------
 
 TEST_F(ScegliDispositivoTest, WithoutACadProgramTheTwoLinesAreShown) {

@@ -1,0 +1,67 @@
+#include "sections/DisegniMomento.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "drawing/SuperficieFinta.h"
+#include "sections/DiagrammaMomenti.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class DisegniMomentoTest : public testing::Test {
+protected:
+    /// 10 units of margin and 18 of a name ("M1 " in the fake font) at each side leave 100 x 100 of 146 x
+    /// 110.
+    void Pict(std::int16_t pict) {
+        superficie.linee.clear();
+        superficie.scritte.clear();
+        DisegnoPict(pict).PlottaInOggetto(&superficie, "FrmPresFless");
+    }
+    /// Ordinate of the diagram at a chord's end, upwards from -1 to 1.
+    [[nodiscard]] double Ordinata(std::size_t corda) const {
+        const auto& l = superficie.linee.at(3 + corda);
+        return (55 - l.y1) / 50;
+    }
+    SuperficieFinta superficie{146, 110};
+    SuUscita uscita{&superficie};
+};
+
+// The end ordinates of the shapes, and the one at mid-span: (M1 + M2)/2 + MQ.
+TEST_F(DisegniMomentoTest, ShapesHaveTheirOrdinates) {
+    Pict(pictEstremitaConcordi);
+    ASSERT_EQ(superficie.linee.size(), 3U + 48U);
+    EXPECT_NEAR(superficie.linee[3].x1, 23, 1e-9);
+    EXPECT_NEAR(Ordinata(0), 0.9, 1e-9);
+    EXPECT_NEAR(Ordinata(24), 0.7, 1e-9);
+    Pict(pictEstremitaDiscordi);
+    EXPECT_NEAR(Ordinata(24), 0.15, 1e-9);
+    Pict(pictConcentratoContro);
+    EXPECT_NEAR(Ordinata(24), 0.65 - 1.35, 1e-9);
+    EXPECT_NEAR(Ordinata(12), 0.725 - 0.675, 1e-9) << "a point load bends it straight";
+    Pict(pictDistribuitoConcorde);
+    EXPECT_NEAR(Ordinata(12), 0.3625 + 0.75 * 0.6, 1e-9) << "a parabola is at 3/4 there";
+}
+
+TEST_F(DisegniMomentoTest, ShapesNameTheirMoments) {
+    Pict(pictEstremitaConcordi);
+    EXPECT_EQ(superficie.Testi(), (std::vector<std::string>{"M1", "M2"}));
+    Pict(pictConcentratoConcorde);
+    EXPECT_EQ(superficie.Testi(), (std::vector<std::string>{"M1", "M2", "MQ"}));
+}
+
+TEST_F(DisegniMomentoTest, ATableHasABandForEachOfItsGroups) {
+    DisegnoProspetto(1).PlottaInOggetto(&superficie, "frmMsvergH1");
+    std::vector<std::string> attesi;
+    for (const char* psi : {"+1", "+3/4", "+1/2", "+1/4", "0", "-1/4", "-1/2", "-3/4", "-1"})
+        attesi.push_back(std::string("ψ = ") + psi);
+    EXPECT_EQ(superficie.Testi(), attesi);
+    EXPECT_EQ(superficie.linee.size(), 9U * 51);
+    EXPECT_EQ(DisegnoProspetto(1).misura.altezza, 9 * 48);
+    EXPECT_EQ(DisegnoProspetto(2).misura.altezza, 5 * 60);
+}
+
+} // namespace
