@@ -71,7 +71,7 @@ void GrigliaCatalogo::FormatoGriglia(int count) {
     AdattaColonne();
 }
 
-int GrigliaCatalogo::LarghezzaColonna(int column) const {
+int GrigliaCatalogo::LarghezzaColonna(int column, const QStringList& texts) const {
     const QString heading = model()->headerData(column, Qt::Horizontal).toString();
     if (const auto chosen = larghezzeScelte_.find(heading); chosen != larghezzeScelte_.end())
         return chosen->second;
@@ -79,7 +79,7 @@ int GrigliaCatalogo::LarghezzaColonna(int column) const {
     int width = std::max(qRound(least * scalaLarghezza_),
                          horizontalHeader()->fontMetrics().horizontalAdvance(heading) + ariaColonna);
     QSet<QString> measured;
-    for (const QString& text : lettore_->Modello()->TestiLunghi(column))
+    for (const QString& text : texts)
         if (const QString shape = Forma(text); !measured.contains(shape)) {
             measured.insert(shape);
             width = std::max(width, fontMetrics().horizontalAdvance(text) + ariaColonna);
@@ -94,8 +94,9 @@ int GrigliaCatalogo::Altezza(int rows) const {
 
 void GrigliaCatalogo::AdattaColonne() {
     const QScopedValueRollback guard(adattando_, true);
+    const std::vector<QStringList> texts = lettore_->Modello()->TestiLunghi();
     for (int column = 0; column < model()->columnCount(); ++column)
-        setColumnWidth(column, LarghezzaColonna(column));
+        setColumnWidth(column, LarghezzaColonna(column, texts[static_cast<std::size_t>(column)]));
 }
 
 void GrigliaCatalogo::Scala(double larghezza, double altezza) {

@@ -44,7 +44,7 @@ private:
     void SegueLettore();
     [[nodiscard]] int Altezza(int rows) const;
     void AdattaColonne();
-    [[nodiscard]] int LarghezzaColonna(int column) const;
+    [[nodiscard]] int LarghezzaColonna(int column, const QStringList& texts) const;
 
     LettoreDati* lettore_ = nullptr;
     std::map<QString, int> larghezzeScelte_; ///< by heading, as the user drew them

@@ -2,12 +2,28 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
-#include <utility>
+#include <limits>
 
 #include "frame/Numeri.h"
 
 namespace sagomi {
+
+namespace {
+
+/// The least and the greatest of numbers; without any the least is above the greatest.
+struct Estremi {
+    double minimo = std::numeric_limits<double>::infinity();
+    double massimo = -std::numeric_limits<double>::infinity();
+
+    void Aggiunge(double v) {
+        if (!std::isfinite(v))
+            return;
+        minimo = std::min(minimo, v);
+        massimo = std::max(massimo, v);
+    }
+};
+
+} // namespace
 
 ModelloCatalogo::ModelloCatalogo(const Lettore& lettore, QObject* parent)
     : QAbstractTableModel(parent), lettore_(lettore) {}
@@ -51,26 +67,25 @@ const std::string& ModelloCatalogo::FiguraDi(int column) const {
     return at < figure_.size() ? figure_[at] : nessuna;
 }
 
-QStringList ModelloCatalogo::TestiLunghi(int column) const {
-    const std::string& figura = FiguraDi(column);
-    std::optional<std::pair<double, double>> estremi;
-    QStringList testi;
-    qsizetype longest = 0;
-    for (int row = 0; row < lettore_.Righe(); ++row) {
-        const Valore& cell = lettore_.Cella(row, column);
-        const auto* number = figura.empty() ? nullptr : std::get_if<double>(&cell);
-        if (number != nullptr) {
-            if (std::isfinite(*number))
-                estremi = {std::min(*number, estremi ? estremi->first : *number),
-                           std::max(*number, estremi ? estremi->second : *number)};
-        } else if (const QString text = TestoIntero(row, column); text.size() >= longest) {
-            longest = text.size();
-            testi << text;
+std::vector<QStringList> ModelloCatalogo::TestiLunghi() const {
+    const int columns = lettore_.Campi();
+    std::vector<Estremi> estremi(static_cast<std::size_t>(columns));
+    std::vector<QStringList> testi(estremi.size());
+    for (int row = 0; row < lettore_.Righe(); ++row) // row by row, as they lie in memory
+        for (int column = 0; column < columns; ++column) {
+            const auto at = static_cast<std::size_t>(column);
+            const auto* number = std::get_if<double>(&lettore_.Cella(row, column));
+            if (number != nullptr && !FiguraDi(column).empty())
+                estremi[at].Aggiunge(*number);
+            else if (const QString text = TestoIntero(row, column);
+                     testi[at].isEmpty() || text.size() >= testi[at].back().size())
+                testi[at] << text;
         }
-    }
-    if (estremi)
-        for (const double value : {estremi->first, estremi->second})
-            testi << QString::fromStdString(Formato(figura, value));
+    for (int column = 0; column < columns; ++column)
+        if (const Estremi& e = estremi[static_cast<std::size_t>(column)]; e.minimo <= e.massimo)
+            for (const double value : {e.minimo, e.massimo})
+                testi[static_cast<std::size_t>(column)]
+                    << QString::fromStdString(Formato(FiguraDi(column), value));
     return testi;
 }
 

@@ -27,9 +27,9 @@ public:
     /// A field with all its figures, for other programs to read: no grouping, the decimal separator in use.
     [[nodiscard]] QString TestoIntero(int row, int column) const;
 
-    /// Texts of a column among which its longest stands: of the numbers in a picture the greatest and the
+    /// Texts among which the longest of each column stands: of the numbers in a picture the greatest and the
     /// least, of all else those that none before was longer than.
-    [[nodiscard]] QStringList TestiLunghi(int column) const;
+    [[nodiscard]] std::vector<QStringList> TestiLunghi() const;
 
     /// First row whose designation begins with the text, blanks and case ignored; -1 if none does.
     [[nodiscard]] int CercaIniziale(const QString& testo) const;
