@@ -17,6 +17,33 @@ namespace {
 
 constexpr int cifre = 4;
 
+constexpr int alaInferiore = 2; ///< row of the lower flange
+
+Voce Misura(const char* simbolo, const char* nome, int caratteri, const char* aiuto) {
+    return {{"", simbolo}, nome, caratteri, aiuto, simbolo, Genere::valore};
+}
+
+const std::vector<Piatto>& Piatti() {
+    static const std::vector<Piatto> plates = {
+        {"Anima", "dell'anima", "lblAnima",
+         Misura("d", "Lbl_d", 8, "Altezza libera dell'anima fra i raccordi [mm]"),
+         Misura("tw", "Lbl_tw", 6, "Spessore dell'anima [mm]"),
+         Misura("d/tw/eps", "Lbl_SnellWeb", 7, "Snellezza dell'anima divisa per epsilon, EC3 tabella 5.2"),
+         "Lbl_LimiteWeb", true, "Lbl_ClasseWebF", "Lbl_ClasseWebC"},
+        {"Ala", "dell'ala", "lblAla", Misura("c", "Lbl_c", 8, "Sporgenza dell'ala dal raccordo [mm]"),
+         Misura("tf", "Lbl_tf", 6, "Spessore dell'ala [mm]"),
+         Misura("c/tf/eps", "Lbl_SnellAla", 7, "Snellezza dell'ala divisa per epsilon, EC3 tabella 5.2"),
+         "Lbl_LimiteAla", true, "Lbl_ClasseAlaF", "Lbl_ClasseAlaC"},
+        {"Ala inferiore", "dell'ala inferiore", "lblAlaInf",
+         Misura("c inf", "Lbl_cInf", 8, "Sporgenza dell'ala inferiore dal raccordo [mm]"),
+         Misura("tf inf", "Lbl_tfInf", 6, "Spessore dell'ala inferiore [mm]"),
+         Misura("c/tf/eps inf", "Lbl_SnellAlaInf", 7,
+                "Snellezza dell'ala inferiore divisa per epsilon, EC3 tabella 5.2"),
+         "Lbl_LimiteAlaInf", false, "Lbl_ClasseAlaInfF", "Lbl_ClasseAlaInfC"},
+    };
+    return plates;
+}
+
 void MostraClasse(QLabel* label, int section_class) { label->setText(QString::number(section_class)); }
 
 /// The lower and upper limits in bending, then those in compression.
@@ -30,6 +57,8 @@ void MostraLimiti(const QList<QLabel*>& labels, const std::array<std::string, 4>
 FrmClasseDoppioTU::FrmClasseDoppioTU()
     : SchermoDettaglio(QStringLiteral("FrmClasseDoppioTU")), ui_(new Ui::FrmClasseDoppioTU) {
     ui_->setupUi(this);
+    ui_->piatti->Componi(Piatti());
+    MostraAlaInferiore(false);
     CollegaControlli();
     limitiWeb_ = Vettore<QLabel>(QStringLiteral("Lbl_LimiteWeb"));
     limitiAla_ = Vettore<QLabel>(QStringLiteral("Lbl_LimiteAla"));
@@ -65,22 +94,22 @@ template <typename S> void FrmClasseDoppioTU::MostraMateriale(const S& s) {
 }
 
 template <typename S> void FrmClasseDoppioTU::MostraAnima(const S& s) {
-    Mostra(ui_->Lbl_d, "0.0#", s.d);
-    Mostra(ui_->Lbl_tw, "0.0#", s.tw);
-    Mostra(ui_->Lbl_SnellWeb, "0.0#", s.SnellWeb());
+    Mostra(ui_->piatti->Valore("Lbl_d"), "0.0#", s.d);
+    Mostra(ui_->piatti->Valore("Lbl_tw"), "0.0#", s.tw);
+    Mostra(ui_->piatti->Valore("Lbl_SnellWeb"), "0.0#", s.SnellWeb());
     MostraLimiti(limitiWeb_, {s.Limite0WebF, s.Limite1WebF, s.Limite0WebC, s.Limite1WebC});
-    MostraClasse(ui_->Lbl_ClasseWebF, s.ClasseWebF);
-    MostraClasse(ui_->Lbl_ClasseWebC, s.ClasseWebC);
+    MostraClasse(ui_->piatti->Valore("Lbl_ClasseWebF"), s.ClasseWebF);
+    MostraClasse(ui_->piatti->Valore("Lbl_ClasseWebC"), s.ClasseWebC);
 }
 
 // Of different flanges the limits are those of the lower one, which is classified last.
 template <typename S> void FrmClasseDoppioTU::MostraAla(const S& s) {
-    Mostra(ui_->Lbl_c, "0.00", s.c);
-    Mostra(ui_->Lbl_tf, "0.00", s.tf);
-    Mostra(ui_->Lbl_SnellAla, "0.0#", s.SnellAla());
+    Mostra(ui_->piatti->Valore("Lbl_c"), "0.00", s.c);
+    Mostra(ui_->piatti->Valore("Lbl_tf"), "0.00", s.tf);
+    Mostra(ui_->piatti->Valore("Lbl_SnellAla"), "0.0#", s.SnellAla());
     MostraLimiti(limitiAla_, {s.Limite0AlaF, s.Limite1AlaF, s.Limite0AlaC, s.Limite1AlaC});
-    MostraClasse(ui_->Lbl_ClasseAlaF, s.ClasseAlaF);
-    MostraClasse(ui_->Lbl_ClasseAlaC, s.ClasseAlaC);
+    MostraClasse(ui_->piatti->Valore("Lbl_ClasseAlaF"), s.ClasseAlaF);
+    MostraClasse(ui_->piatti->Valore("Lbl_ClasseAlaC"), s.ClasseAlaC);
 }
 
 template <typename S> void FrmClasseDoppioTU::MostraEfficaci(const S& s) {
@@ -91,24 +120,18 @@ template <typename S> void FrmClasseDoppioTU::MostraEfficaci(const S& s) {
 
 void FrmClasseDoppioTU::CompletaFormAsimmetrici() {
     SullaSezioneInUso([this](const ConAliDiverse auto& s) {
-        Mostra(ui_->Lbl_cInf, "0.00", s.cAlaInf);
-        Mostra(ui_->Lbl_tfInf, "0.00", s.tAlaInf);
-        Mostra(ui_->Lbl_SnellAlaInf, "0.0#", s.SnellAlaInf());
-        Mostra(ui_->Lbl_LimiteAlaInf_0, s.Limite0AlaC);
-        Mostra(ui_->Lbl_LimiteAlaInf_1, s.Limite1AlaC);
-        MostraClasse(ui_->Lbl_ClasseAlaInfF, s.ClasseAlaInfF);
-        MostraClasse(ui_->Lbl_ClasseAlaInfC, s.ClasseAlaInfC);
+        Mostra(ui_->piatti->Valore("Lbl_cInf"), "0.00", s.cAlaInf);
+        Mostra(ui_->piatti->Valore("Lbl_tfInf"), "0.00", s.tAlaInf);
+        Mostra(ui_->piatti->Valore("Lbl_SnellAlaInf"), "0.0#", s.SnellAlaInf());
+        Mostra(ui_->piatti->Valore("Lbl_LimiteAlaInf_0"), s.Limite0AlaC);
+        Mostra(ui_->piatti->Valore("Lbl_LimiteAlaInf_1"), s.Limite1AlaC);
+        MostraClasse(ui_->piatti->Valore("Lbl_ClasseAlaInfF"), s.ClasseAlaInfF);
+        MostraClasse(ui_->piatti->Valore("Lbl_ClasseAlaInfC"), s.ClasseAlaInfC);
     });
 }
 
 void FrmClasseDoppioTU::MostraAlaInferiore(bool visibile) {
-    for (QLabel* label :
-         {ui_->lblAlaInf, ui_->lblAlaInfDim1, ui_->lblAlaInfDim2, ui_->lblAlaInfSn, ui_->lblAlaInfPer,
-          static_cast<QLabel*>(ui_->Lbl_cInf), static_cast<QLabel*>(ui_->Lbl_tfInf),
-          static_cast<QLabel*>(ui_->Lbl_SnellAlaInf), static_cast<QLabel*>(ui_->Lbl_LimiteAlaInf_0),
-          static_cast<QLabel*>(ui_->Lbl_LimiteAlaInf_1), static_cast<QLabel*>(ui_->Lbl_ClasseAlaInfF),
-          static_cast<QLabel*>(ui_->Lbl_ClasseAlaInfC)})
-        label->setVisible(visibile);
+    ui_->piatti->MostraPiatto(alaInferiore, visibile);
 }
 
 void FrmClasseDoppioTU::SpiegaClasse() const {

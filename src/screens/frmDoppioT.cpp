@@ -24,7 +24,7 @@ constexpr int altezzaInizialeTwips = 7680;
 
 SezioneDoppioT* Sezione() { return SezioneInUso<SezioneDoppioT>(); }
 
-void Mostra(QLineEdit* box, double value) { box->setText(QString::fromStdString(FormatoCifre(4, value))); }
+QString Cifre(double value) { return QString::fromStdString(FormatoCifre(4, value)); }
 
 } // namespace
 
@@ -38,9 +38,9 @@ frmDoppioT::frmDoppioT() : SchermoSezione(QStringLiteral("frmDoppioT")), ui_(new
         Sezione()->NSd = kN_a_N(NumeroIn(TxtNsd));
         Risultati();
     });
-    Collega(ui_->lblVplRd, &QPushButton::clicked, this,
+    Collega(Pulsante("lblVplRd"), &QPushButton::clicked, this,
             [] { Avvisa("d/tw > 69 epsilon. Verificare instabilità per taglio EC3 #5.4.6.(7)"); });
-    ui_->lblVplRd->hide();
+    Pulsante("lblVplRd")->hide();
     CollegaDettagli();
     Carica();
 }
@@ -48,9 +48,9 @@ frmDoppioT::frmDoppioT() : SchermoSezione(QStringLiteral("frmDoppioT")), ui_(new
 frmDoppioT::~frmDoppioT() = default;
 
 void frmDoppioT::CollegaDettagli() {
-    const std::pair<QPushButton*, const char*> details[] = {{ui_->LblClasse, "FrmClasseDoppioTU"},
-                                                            {ui_->LblNbRd, "FrmInstabDoppioT"},
-                                                            {ui_->LblMcRd, "FrmMcRd"},
+    const std::pair<QPushButton*, const char*> details[] = {{Pulsante("LblClasse"), "FrmClasseDoppioTU"},
+                                                            {Pulsante("LblNbRd"), "FrmInstabDoppioT"},
+                                                            {Pulsante("LblMcRd"), "FrmMcRd"},
                                                             {ui_->Command1, "FrmPresFless"}};
     for (const auto& [button, name] : details)
         Collega(button, &QPushButton::clicked, this,
@@ -66,7 +66,7 @@ void frmDoppioT::CollegaDettagli() {
 }
 
 void frmDoppioT::Carica() {
-    SeparatoriControlla(ui_->txtNascosto);
+    SeparatoriControlla(findChild<QLineEdit*>(QStringLiteral("txtNascosto")));
     const auto workbook = FileAccanto(PathProgramma, "Sagomi.xls");
     RendiSolaLettura(workbook);
     Data1->DatabaseName(workbook);
@@ -107,33 +107,30 @@ void frmDoppioT::Risultati() {
 
 void frmDoppioT::MostraClassi() {
     const SezioneDoppioT& s = *Sezione();
-    ui_->TxtClasseCompressione->setText(QString::number(s.ClasseCompressione));
-    ui_->TxtClasseFlessioneY->setText(QString::number(s.ClasseFlessioneY));
-    ui_->TxtClasseFlessioneZ->setText(QString::number(s.ClasseFlessioneZ));
-    ui_->TxtClassePressFless->setText(QString::number(s.ClassePressoFlessione));
+    ui_->risultati->Mostra("TxtClasseCompressione", QString::number(s.ClasseCompressione));
+    ui_->risultati->Mostra("TxtClasseFlessioneY", QString::number(s.ClasseFlessioneY));
+    ui_->risultati->Mostra("TxtClasseFlessioneZ", QString::number(s.ClasseFlessioneZ));
+    ui_->risultati->Mostra("TxtClassePressFless", QString::number(s.ClassePressoFlessione));
 }
 
 void frmDoppioT::MostraResistenze() {
     const SezioneDoppioT& s = *Sezione();
-    Mostra(ui_->TxtNbRd_0, N_a_kN(s.NbyRd));
-    Mostra(ui_->TxtNbRd_1, N_a_kN(s.NbzRd));
-    Mostra(ui_->TxtMcRd_0, Nmm_a_kNm(s.McyRd));
-    Mostra(ui_->TxtMcRd_1, Nmm_a_kNm(s.MczRd));
-    Mostra(ui_->TxtVplRd_0, N_a_kN(s.VplyRd));
-    Mostra(ui_->TxtVplRd_1, N_a_kN(s.VplzRd));
+    ui_->risultati->Mostra("TxtNbRd_0", Cifre(N_a_kN(s.NbyRd)));
+    ui_->risultati->Mostra("TxtNbRd_1", Cifre(N_a_kN(s.NbzRd)));
+    ui_->risultati->Mostra("TxtMcRd_0", Cifre(Nmm_a_kNm(s.McyRd)));
+    ui_->risultati->Mostra("TxtMcRd_1", Cifre(Nmm_a_kNm(s.MczRd)));
+    ui_->risultati->Mostra("TxtVplRd_0", Cifre(N_a_kN(s.VplyRd)));
+    ui_->risultati->Mostra("TxtVplRd_1", Cifre(N_a_kN(s.VplzRd)));
     if (!s.ErroreDatiDatabase)
         return;
     // A row whose data do not compute has no buckling resistance, and what follows from it was not reached.
-    for (QLineEdit* box : {ui_->TxtNbRd_0, ui_->TxtNbRd_1, ui_->TxtVplRd_0, ui_->TxtVplRd_1})
-        box->clear();
+    ui_->risultati->Svuota(QStringLiteral("TxtNbRd"));
+    ui_->risultati->Svuota(QStringLiteral("TxtVplRd"));
 }
 
 void frmDoppioT::SvuotaRisultati() {
-    for (QLineEdit* box : {ui_->TxtClasseCompressione, ui_->TxtClasseFlessioneY, ui_->TxtClasseFlessioneZ,
-                           ui_->TxtClassePressFless, ui_->TxtNbRd_0, ui_->TxtNbRd_1, ui_->TxtMcRd_0,
-                           ui_->TxtMcRd_1, ui_->TxtVplRd_0, ui_->TxtVplRd_1})
-        box->clear();
-    ui_->lblVplRd->hide();
+    ui_->risultati->Svuota();
+    Pulsante("lblVplRd")->hide();
     ui_->Picture1->Mostra({});
 }
 

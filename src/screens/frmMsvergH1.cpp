@@ -1,8 +1,10 @@
 #include "screens/frmMsvergH1.h"
 
+#include <QGridLayout>
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "drawing/ui/ImmagineDisegno.h"
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
 #include "sections/DisegniMomento.h"
@@ -12,7 +14,9 @@ namespace sagomi {
 
 frmMsvergH1::frmMsvergH1() : TavolaFattori(QStringLiteral("frmMsvergH1")), ui_(new Ui::frmMsvergH1) {
     ui_->setupUi(this);
-    ui_->Image1->Mostra(DisegnoProspetto(1));
+    ui_->testata->Griglia()->setContentsMargins(9, 0, 9, 0);
+    ui_->tabella->Griglia()->setContentsMargins(9, 6, 9, 6);
+    PosaDiagrammi();
     RiempiRighe();
     AllineaColonne();
     PreparaContenuto();
@@ -31,6 +35,18 @@ frmMsvergH1::frmMsvergH1() : TavolaFattori(QStringLiteral("frmMsvergH1")), ui_(n
 
 frmMsvergH1::~frmMsvergH1() = default;
 
+void frmMsvergH1::PosaDiagrammi() {
+    auto* diagrams = new ImmagineDisegno;
+    diagrams->setObjectName(QStringLiteral("Image1"));
+    diagrams->Mostra(DisegnoProspetto(1));
+    diagrams->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    diagrams->setAccessibleName(QStringLiteral("Diagrammi dei momenti"));
+    ui_->tabella->PosaDiagrammi(diagrams);
+    for (GrigliaFattori* part : {ui_->testata, ui_->tabella})
+        part->Griglia()->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0,
+                                 part->Griglia()->columnCount()); // takes the spare width
+}
+
 void frmMsvergH1::RiempiRighe() {
     const auto C1 = Vettore<QPushButton>(QStringLiteral("lblC1"));
     const auto k = Vettore<QLabel>(QStringLiteral("lblK"));
@@ -47,21 +63,23 @@ void frmMsvergH1::RiempiRighe() {
 
 // The heads stay in place while the rows scroll below them.
 void frmMsvergH1::AllineaColonne() {
-    const int columns = ui_->loTesta->columnCount() - 1; // the last one takes the spare width
+    QGridLayout* const heads = ui_->testata->Griglia();
+    QGridLayout* const rows = ui_->tabella->Griglia();
+    const int columns = heads->columnCount() - 1; // the last one takes the spare width
     for (int c = 0; c < columns; ++c) {
         int width = 0;
-        for (const QGridLayout* grid : {ui_->loTesta, ui_->loTabella})
+        for (const QGridLayout* grid : {heads, rows})
             for (int i = 0; i < grid->count(); ++i)
                 if (int r = 0, at = 0, rs = 0, cs = 0; grid->getItemPosition(i, &r, &at, &rs, &cs), at == c)
                     width = std::max(width, grid->itemAt(i)->sizeHint().width());
-        ui_->loTesta->setColumnMinimumWidth(c, width);
-        ui_->loTabella->setColumnMinimumWidth(c, width);
+        heads->setColumnMinimumWidth(c, width);
+        rows->setColumnMinimumWidth(c, width);
     }
     const int bar = ui_->scorre->verticalScrollBar()->sizeHint().width();
     ui_->scorre->setMinimumWidth(ui_->tabella->sizeHint().width() + bar);
-    const int row = ui_->lblC1_0->sizeHint().height() + ui_->loTabella->verticalSpacing();
+    const int row = ui_->tabella->Bottone(0)->sizeHint().height() + rows->verticalSpacing();
     constexpr int visibili = 18; // six diagrams
-    const QMargins edges = ui_->loTabella->contentsMargins();
+    const QMargins edges = rows->contentsMargins();
     ui_->scorre->setMinimumHeight(visibili * row + edges.top() + edges.bottom());
 }
 

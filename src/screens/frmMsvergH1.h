@@ -19,6 +19,7 @@ public:
     ~frmMsvergH1() override;
 
 private:
+    void PosaDiagrammi();
     void RiempiRighe();
     void AllineaColonne();
     void Scegli(std::size_t riga);

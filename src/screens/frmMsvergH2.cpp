@@ -1,7 +1,9 @@
 #include "screens/frmMsvergH2.h"
 
+#include <QGridLayout>
 #include <QPushButton>
 
+#include "drawing/ui/ImmagineDisegno.h"
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
 #include "sections/DisegniMomento.h"
@@ -11,13 +13,25 @@ namespace sagomi {
 
 frmMsvergH2::frmMsvergH2() : TavolaFattori(QStringLiteral("frmMsvergH2")), ui_(new Ui::frmMsvergH2) {
     ui_->setupUi(this);
-    ui_->Image1->Mostra(DisegnoProspetto(2));
+    PosaCasi();
     RiempiRighe();
     PreparaContenuto();
     DimensionaIniziale({});
 }
 
 frmMsvergH2::~frmMsvergH2() = default;
+
+void frmMsvergH2::PosaCasi() {
+    auto* cases = new ImmagineDisegno;
+    cases->setObjectName(QStringLiteral("Image1"));
+    cases->Mostra(DisegnoProspetto(2));
+    cases->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    cases->setAccessibleName(QStringLiteral("Casi di carico"));
+    ui_->tabella->PosaDiagrammi(cases);
+    constexpr int altezza = 30; // a load case has two rows
+    for (int row = 1; row <= ui_->tabella->Righe(); ++row)
+        ui_->tabella->Griglia()->setRowMinimumHeight(row, altezza);
+}
 
 void frmMsvergH2::RiempiRighe() {
     const auto C1 = Vettore<QPushButton>(QStringLiteral("lblC1"));

@@ -19,6 +19,7 @@ public:
     ~frmMsvergH2() override;
 
 private:
+    void PosaCasi();
     void RiempiRighe();
     void Scegli(std::size_t riga);
 

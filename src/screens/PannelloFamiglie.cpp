@@ -1,0 +1,87 @@
+#include "screens/PannelloFamiglie.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <algorithm>
+
+#include "catalogue/Famiglie.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr int colonneFamiglie = 8;
+constexpr QMargins margini(9, 6, 9, 9);
+
+QString Testo(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// A box or a button of an array of controls.
+template <typename T> T* CreaScelta(const char* array, int i, std::string_view caption, bool checked) {
+    auto* choice = new T(Testo(caption));
+    choice->setObjectName(QString::fromLatin1(array) + u'_' + QString::number(i));
+    choice->setChecked(checked);
+    return choice;
+}
+
+QGroupBox* CreaStanza(const char* name, const QString& title) {
+    auto* room = new QGroupBox(title);
+    room->setObjectName(QString::fromLatin1(name));
+    return room;
+}
+
+} // namespace
+
+PannelloFamiglie::PannelloFamiglie(QWidget* parent) : QWidget(parent) {}
+
+void PannelloFamiglie::ImpostaSchermo(const QByteArray& nome) {
+    schermo_ = nome;
+    const FamigliaSchermo& family = FamigliaDi(nome.toStdString());
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(6);
+    row->addWidget(CreaFamiglie(family), 1);
+    row->addWidget(CreaOrdini(family));
+    auto* refresh = new QPushButton(tr("Aggiorna Tabella"));
+    refresh->setObjectName(QStringLiteral("AggiornaTabella"));
+    refresh->setToolTip(tr("Mostra nella tabella i sagomi delle famiglie scelte"));
+    row->addWidget(refresh, 0, Qt::AlignBottom);
+}
+
+QWidget* PannelloFamiglie::CreaFamiglie(const FamigliaSchermo& famiglia) {
+    auto* room = CreaStanza("fraFamiglie", tr("Famiglie"));
+    auto* grid = new QGridLayout(room);
+    grid->setContentsMargins(margini);
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(4);
+    int i = 0;
+    for (const std::string_view sheet : famiglia.fogli) {
+        auto* box = CreaScelta<QCheckBox>("ChkTipo", i, sheet, sheet == famiglia.primoFoglio);
+        grid->addWidget(box, i / colonneFamiglie, i % colonneFamiglie);
+        ++i;
+    }
+    for (int c = 0; c < std::min(i, colonneFamiglie); ++c)
+        grid->setColumnStretch(c, 1);
+    return room;
+}
+
+QWidget* PannelloFamiglie::CreaOrdini(const FamigliaSchermo& famiglia) {
+    auto* room = CreaStanza("fraOrdina", tr("Ordina per"));
+    auto* row = new QHBoxLayout(room);
+    row->setContentsMargins(margini);
+    row->setSpacing(12);
+    int i = 0;
+    for (const std::string_view key : famiglia.ordini) {
+        row->addWidget(CreaScelta<QRadioButton>("OptionOrdina", i, key, i == famiglia.primoOrdine));
+        ++i;
+    }
+    return room;
+}
+
+} // namespace sagomi

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QWidget>
+
+namespace sagomi {
+
+struct FamigliaSchermo;
+
+/// What the table of a main screen lists: a box for each family, the sort keys, the button that reads anew.
+class PannelloFamiglie : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QByteArray schermo READ NomeSchermo WRITE ImpostaSchermo)
+public:
+    explicit PannelloFamiglie(QWidget* parent = nullptr);
+
+    /// Builds the controls for the families of a main screen; to be set once.
+    [[nodiscard]] QByteArray NomeSchermo() const { return schermo_; }
+    void ImpostaSchermo(const QByteArray& nome);
+
+private:
+    QWidget* CreaFamiglie(const FamigliaSchermo& famiglia);
+    QWidget* CreaOrdini(const FamigliaSchermo& famiglia);
+
+    QByteArray schermo_;
+};
+
+} // namespace sagomi

@@ -1,0 +1,68 @@
+#include "screens/ValoriRiga.h"
+
+#include <QGridLayout>
+
+#include <algorithm>
+#include <string>
+
+#include "catalogue/Famiglie.h"
+#include "screens/VociSezione.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr int righe = 7; ///< of a column of boxes
+constexpr int cifre = 7;
+constexpr int cifreIngobbamento = 9; ///< the only values above a million
+
+bool Ingobbamento(std::string_view heading) { return heading.ends_with("(cm6)"); }
+
+/// Names and captions of the boxes: a Voce points to them.
+struct Testi {
+    std::string nome, etichetta, testo, letta;
+};
+
+std::vector<Testi> ScriveTesti(const std::vector<std::string_view>& headings) {
+    std::vector<Testi> texts;
+    for (std::size_t i = 1; i < headings.size(); ++i) {
+        const std::string index = std::to_string(i);
+        const std::string heading(headings[i]);
+        texts.push_back({"TxtProf_" + index, "LblProf_" + index, heading + ":", heading});
+    }
+    return texts;
+}
+
+/// Boxes of one column are equally wide.
+int Larghezza(const std::vector<Testi>& texts, std::size_t i) {
+    const std::size_t first = i / righe * righe;
+    const std::size_t last = std::min(texts.size(), first + righe);
+    for (std::size_t k = first; k < last; ++k)
+        if (Ingobbamento(texts[k].letta))
+            return cifreIngobbamento;
+    return cifre;
+}
+
+} // namespace
+
+ValoriRiga::ValoriRiga(QWidget* parent) : GruppoVoci(parent) { setTitle(tr("Valori del sagomo")); }
+
+void ValoriRiga::ImpostaSchermo(const QByteArray& nome) {
+    schermo_ = nome;
+    const std::vector<Testi> texts = ScriveTesti(Intestazioni(nome.toStdString()));
+    std::vector<Voce> boxes;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const Testi& t = texts[i];
+        boxes.push_back({{t.etichetta.c_str(), t.testo.c_str()},
+                         t.nome.c_str(),
+                         Larghezza(texts, i),
+                         DescrizioneColonna(t.letta),
+                         t.letta.c_str(),
+                         Genere::risultato});
+    }
+    QGridLayout* grid = InColonne(boxes, righe, 4);
+    grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding), righe, 0);
+    grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, grid->columnCount());
+}
+
+} // namespace sagomi
