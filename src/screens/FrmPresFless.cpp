@@ -11,6 +11,7 @@
 
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/Casella.h"
 #include "frame/ui/Esito.h"
 #include "frame/ui/InvioFra.h"
 #include "frame/ui/Mostra.h"
@@ -127,8 +128,8 @@ FrmPresFless::FrmPresFless() : SchermoDettaglio(QStringLiteral("FrmPresFless")),
     OptMomento_ = Vettore<QRadioButton>(QStringLiteral("OptMomento"));
     for (int i = 1; i <= nPict; ++i)
         Picture1_ << findChild<PulsanteDiagramma*>(QStringLiteral("Picture1_%1").arg(i));
-    CollegaControlli(InvioFra({ui_->fraSezione->Txt_fy, ui_->TxtNsd, Txt_L0_[0], Txt_L0_[1], TxtM1_[0],
-                               TxtM2_[0], TxtMQ_[0], TxtM1_[1], TxtM2_[1], TxtMQ_[1]}));
+    CollegaControlli(InvioFra({ui_->fraSezione->Txt_fy, ui_->fraAzioni->TxtNsd, Txt_L0_[0], Txt_L0_[1],
+                               TxtM1_[0], TxtM2_[0], TxtMQ_[0], TxtM1_[1], TxtM2_[1], TxtMQ_[1]}));
     CollegaEventi();
     CollegaDiagrammi();
     VisualizzaPict(IndicePict);
@@ -138,7 +139,7 @@ FrmPresFless::FrmPresFless() : SchermoDettaglio(QStringLiteral("FrmPresFless")),
 FrmPresFless::~FrmPresFless() = default;
 
 void FrmPresFless::CollegaEventi() {
-    for (QLineEdit* box : QList<QLineEdit*>{ui_->TxtNsd} + Txt_L0_ + TxtM1_ + TxtM2_ + TxtMQ_)
+    for (QLineEdit* box : QList<QLineEdit*>{ui_->fraAzioni->TxtNsd} + Txt_L0_ + TxtM1_ + TxtM2_ + TxtMQ_)
         Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
     Collega(ui_->fraSezione->Txt_fy, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (inCalcolo_ || chiamante_ == nullptr || chiamante_->Txt_fy->text() == text)
@@ -169,11 +170,11 @@ void FrmPresFless::CollegaDiagrammi() {
 
 void FrmPresFless::RiempiDati() {
     if (const SezioneDoppioT* s = Sezione()) {
-        Riempi(ui_->TxtNsd, N_a_kN(s->NSd));
+        Riempi(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
         Riempi(Txt_L0_[0], mm_a_m(s->L0y));
         Riempi(Txt_L0_[1], mm_a_m(s->L0z));
     }
-    FuocoSu(ui_->TxtNsd);
+    FuocoSu(ui_->fraAzioni->TxtNsd);
 }
 
 void FrmPresFless::CompletaForm(SchermoSezione& chiamante) {
@@ -244,11 +245,11 @@ void FrmPresFless::inputMQ(int asse, double& MQ) {
 void FrmPresFless::Leggedati() {
     if (chiamante_ == nullptr)
         return;
-    RiportaTesto(ui_->TxtNsd, chiamante_->TxtNsd);
+    RiportaTesto(ui_->fraAzioni->TxtNsd, chiamante_->TxtNsd);
     for (int i = 0; i < Txt_L0_.size(); ++i)
         RiportaTesto(Txt_L0_[i], chiamante_->Txt_L0[i]);
     if (SezioneDoppioT* s = Sezione()) {
-        s->NSd = kN_a_N(NumeroIn(ui_->TxtNsd)); // another detail may have left its own
+        s->NSd = kN_a_N(NumeroIn(ui_->fraAzioni->TxtNsd)); // another detail may have left its own
         s->ClassePressoFlessioneCalcola();
     }
 }

@@ -1,16 +1,69 @@
 #include "screens/PannelloAzioni.h"
 
-#include "ui_PannelloAzioni.h"
+#include "frame/ui/Casella.h"
 
 namespace sagomi {
 
-PannelloAzioni::PannelloAzioni(QWidget* parent) : QGroupBox(parent), ui_(new Ui::PannelloAzioni) {
-    ui_->setupUi(this);
-    TxtNsd = ui_->TxtNsd;
-    TxtMysd = ui_->TxtMysd;
-    TxtMzsd = ui_->TxtMzsd;
+namespace {
+
+Voce Forza() {
+    return {{"LblTxtNsd", "N     [kN]", "Sd"},
+            "TxtNsd",
+            8,
+            "Forza assiale di progetto, positiva se di compressione",
+            "NSd [kN]"};
 }
 
-PannelloAzioni::~PannelloAzioni() = default;
+const std::vector<Voce>& Azioni() {
+    static const std::vector<Voce> entries = {Forza(),
+                                              {{"LblTxtMysd", "M      [kNm]", "y,Sd"},
+                                               "TxtMysd",
+                                               8,
+                                               "Momento di progetto intorno a y-y",
+                                               "My,Sd [kNm]"},
+                                              {{"LblTxtMzsd", "M      [kNm]", "z,Sd"},
+                                               "TxtMzsd",
+                                               8,
+                                               "Momento di progetto intorno a z-z",
+                                               "Mz,Sd [kNm]"}};
+    return entries;
+}
+
+const std::vector<Voce>& Colonna() {
+    static const std::vector<Voce> entries = {Forza(),
+                                              {{"LblL0_0", "L      [m]", "0y"},
+                                               "Txt_L0_0",
+                                               7,
+                                               "Lunghezza di libera inflessione intorno a y-y, EC3 6.3.1",
+                                               "L0 y-y [m]"},
+                                              {{"LblL0_1", "L      [m]", "0z"},
+                                               "Txt_L0_1",
+                                               7,
+                                               "Lunghezza di libera inflessione intorno a z-z, EC3 6.3.1",
+                                               "L0 z-z [m]"}};
+    return entries;
+}
+
+Casella* Trova(const QWidget& panel, const char* name) {
+    return panel.findChild<Casella*>(QString::fromLatin1(name));
+}
+
+} // namespace
+
+PannelloAzioni::PannelloAzioni(QWidget* parent) : GruppoVoci(parent) {
+    setTitle(tr("Azioni di progetto"));
+    InRiga(Azioni());
+    TxtNsd = Trova(*this, "TxtNsd");
+    TxtMysd = Trova(*this, "TxtMysd");
+    TxtMzsd = Trova(*this, "TxtMzsd");
+}
+
+PannelloColonna::PannelloColonna(QWidget* parent) : GruppoVoci(parent) {
+    setTitle(tr("Azione assiale e lunghezze di libera inflessione"));
+    InRiga(Colonna());
+    TxtNsd = Trova(*this, "TxtNsd");
+    Txt_L0_0 = Trova(*this, "Txt_L0_0");
+    Txt_L0_1 = Trova(*this, "Txt_L0_1");
+}
 
 } // namespace sagomi

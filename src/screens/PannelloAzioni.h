@@ -1,30 +1,31 @@
 #pragma once
 
-#include <QGroupBox>
-
-#include <memory>
-
-namespace Ui {
-class PannelloAzioni;
-}
+#include "frame/ui/GruppoVoci.h"
 
 namespace sagomi {
 
 class Casella;
 
 /// The design actions that a check asks for: axial force and the moments about both axes.
-class PannelloAzioni : public QGroupBox {
+class PannelloAzioni : public GruppoVoci {
     Q_OBJECT
 public:
     explicit PannelloAzioni(QWidget* parent = nullptr);
-    ~PannelloAzioni() override;
 
     Casella* TxtNsd;  ///< axial force [kN], compression positive
     Casella* TxtMysd; ///< moment about y-y [kNm]
     Casella* TxtMzsd; ///< moment about z-z [kNm]
+};
 
-private:
-    std::unique_ptr<Ui::PannelloAzioni> ui_;
+/// What buckling asks for: axial force and the buckling lengths about both axes.
+class PannelloColonna : public GruppoVoci {
+    Q_OBJECT
+public:
+    explicit PannelloColonna(QWidget* parent = nullptr);
+
+    Casella* TxtNsd;   ///< axial force [kN], compression positive
+    Casella* Txt_L0_0; ///< about y-y [m]
+    Casella* Txt_L0_1; ///< about z-z [m]
 };
 
 } // namespace sagomi

@@ -30,4 +30,13 @@ TEST(PannelloAzioniTest, EachEntryHasItsCaptionAndItsUnit) {
     EXPECT_EQ(actions.TxtMzsd->accessibleName(), "Mz,Sd [kNm]");
 }
 
+TEST(PannelloColonnaTest, HoldsTheForceAndTheLengths) {
+    const PannelloColonna column;
+    EXPECT_EQ(Trova<QLineEdit>(&column, "TxtNsd"), column.TxtNsd);
+    EXPECT_EQ(Trova<QLineEdit>(&column, "Txt_L0_0"), column.Txt_L0_0);
+    EXPECT_EQ(Trova<QLineEdit>(&column, "Txt_L0_1"), column.Txt_L0_1);
+    EXPECT_EQ(Trova<QLabel>(&column, "LblL0_1")->buddy(), column.Txt_L0_1);
+    EXPECT_EQ(column.Txt_L0_1->accessibleName(), "L0 z-z [m]");
+}
+
 } // namespace
