@@ -71,7 +71,7 @@ FrmClasseDoppioTU::FrmClasseDoppioTU()
 
 FrmClasseDoppioTU::~FrmClasseDoppioTU() = default;
 
-void FrmClasseDoppioTU::CompletaForm(SchermoSezione& /*chiamante*/) {
+void FrmClasseDoppioTU::Calcola() {
     SullaSezioneInUso([this](const ConAnimaEAli auto& s) {
         MostraMateriale(s);
         MostraAnima(s);

@@ -24,10 +24,11 @@ public:
     FrmClasseDoppioTU();
     ~FrmClasseDoppioTU() override;
 
-    void CompletaForm(SchermoSezione& chiamante) override;
-
     /// The lower flange of a welded section with different flanges.
     void CompletaFormAsimmetrici();
+
+protected:
+    void Calcola() override;
 
 private:
     template <typename S> void MostraMateriale(const S& s);

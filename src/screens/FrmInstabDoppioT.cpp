@@ -20,11 +20,15 @@ namespace sagomi {
 namespace {
 
 constexpr double nessunNumero = std::numeric_limits<double>::quiet_NaN();
+constexpr const char* motivoSnellezza = "La snellezza non può essere negativa";
+constexpr const char* motivoBetaA = "BetaA deve essere <=1";
 constexpr const char* nomeLamda = "lamda";
 constexpr const char* nomeLamdaSegnato = "lamda segnato";
 
-/// A row without a radius of gyration has no slenderness about that axis.
-bool Calcolabile(const SezioneDoppioT& s, int axis) { return (axis == 0 ? s.iY : s.iZ) != 0; }
+/// A row without a radius of gyration has no slenderness about that axis, nor has a negative length.
+bool Calcolabile(const SezioneDoppioT& s, int axis) {
+    return (axis == 0 ? s.iY : s.iZ) != 0 && !((axis == 0 ? s.L0y : s.L0z) < 0);
+}
 
 /// EC3 6.3.1, from the slenderness to the resistance.
 const std::vector<Passo>& Derivazione() {
@@ -80,11 +84,23 @@ FrmInstabDoppioT::FrmInstabDoppioT()
     optChi_ = Vettore<QRadioButton>(QStringLiteral("optChi"));
     optE0_ = Vettore<QRadioButton>(QStringLiteral("optE0"));
     txtChi_ = Vettore<QLineEdit>(QStringLiteral("txtChi"));
+    CollegaRegole();
     CollegaCalcolo();
     DimensionaIniziale({});
 }
 
 FrmInstabDoppioT::~FrmInstabDoppioT() = default;
+
+void FrmInstabDoppioT::CollegaRegole() {
+    const auto results = Controlli({"txtChi_2", "txtChi_4", "txtChi_5"});
+    regole_.Aggiungi({.caselle = {txtChi_[0]},
+                      .motivo = [this] { return NumeroIn(txtChi_[0]) < 0 ? tr(motivoSnellezza) : QString(); },
+                      .risultati = results});
+    regole_.Aggiungi({.caselle = {txtChi_[1]},
+                      .motivo = [this] { return NumeroIn(txtChi_[1]) > 1 ? tr(motivoBetaA) : QString(); },
+                      .corregge = [this] { CorreggiBetaA(); },
+                      .risultati = results});
+}
 
 void FrmInstabDoppioT::CollegaCalcolo() {
     for (QRadioButton* option : optChi_)
@@ -103,7 +119,7 @@ void FrmInstabDoppioT::CollegaCalcolo() {
     Collega(ui_->LblNbRd, &QPushButton::clicked, this, [] { SpiegaFreccia(); });
 }
 
-void FrmInstabDoppioT::CompletaForm(SchermoSezione& /*chiamante*/) {
+void FrmInstabDoppioT::Calcola() {
     const SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;
@@ -124,9 +140,8 @@ void FrmInstabDoppioT::CompletaForm1(int asse) {
 }
 
 void FrmInstabDoppioT::CorreggiBetaA() {
-    if (!(NumeroIn(txtChi_[1]) > 1))
-        return;
-    Avvisa("BetaA deve essere <=1");
+    const QScopedValueRollback guard(correggendo_, true);
+    Avvisa(motivoBetaA);
     txtChi_[1]->setText(QStringLiteral("1"));
 }
 
@@ -135,7 +150,7 @@ void FrmInstabDoppioT::CalcolaChi() {
     if (s == nullptr || correggendo_)
         return;
     const QScopedValueRollback guard(correggendo_, true);
-    CorreggiBetaA();
+    regole_.Applica();
     const bool relativa = optChi_[1]->isChecked();
     ui_->LblChi_0->setText(QString::fromLatin1(relativa ? nomeLamdaSegnato : nomeLamda));
     ui_->LblChi_2->setText(QString::fromLatin1(relativa ? nomeLamda : nomeLamdaSegnato));
@@ -148,6 +163,7 @@ void FrmInstabDoppioT::CalcolaChi() {
     show(3, "0.0#", r.alfa);
     show(4, "0.0###", r.fi);
     show(5, "0.0###", r.chi);
+    regole_.SvuotaRisultati();
 }
 
 void FrmInstabDoppioT::MostraFreccia() {

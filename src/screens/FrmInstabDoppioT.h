@@ -22,14 +22,16 @@ public:
     FrmInstabDoppioT();
     ~FrmInstabDoppioT() override;
 
-    /// Shows the derivation about both axes, the calculator's results and the bow.
-    void CompletaForm(SchermoSezione& chiamante) override;
-
     /// The column of one axis: 0 y-y, 1 z-z.
     void CompletaForm1(int asse);
 
+protected:
+    /// Shows the derivation about both axes, the calculator's results and the bow.
+    void Calcola() override;
+
 private:
     void CollegaCalcolo();
+    void CollegaRegole();
     void CalcolaChi();
     void CorreggiBetaA();
     void MostraFreccia();

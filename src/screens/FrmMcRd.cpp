@@ -54,6 +54,9 @@ FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::Fr
     ui_->setupUi(this);
     ui_->Picture1->Mostra(DisegnoSagoma({}));
     CollegaControlli();
+    regole_.Aggiungi({.caselle = {ui_->txtLstar}, .motivo = [this] {
+                          return NumeroIn(ui_->txtLstar) < 0 ? tr("L* non può essere negativa") : QString();
+                      }});
     for (QLineEdit* box : {ui_->TxtNsd, ui_->txtLstar})
         Collega(box, &QLineEdit::textChanged, this, [this] { Duttilita(); });
     DimensionaIniziale({});
@@ -66,7 +69,7 @@ void FrmMcRd::RiempiDati() {
     FuocoSu(ui_->TxtNsd);
 }
 
-void FrmMcRd::CompletaForm(SchermoSezione& /*chiamante*/) {
+void FrmMcRd::Calcola() {
     SullaSezioneInUso([this](const ConMomenti auto& s) {
         ui_->Lbl_Classe_0->setText(QString::number(s.ClasseFlessioneY));
         ui_->Lbl_Classe_1->setText(QString::number(s.ClasseFlessioneZ));
@@ -79,7 +82,10 @@ void FrmMcRd::CompletaForm(SchermoSezione& /*chiamante*/) {
     Duttilita();
 }
 
-void FrmMcRd::Duttilita() { CalcolaDuttilita(kN_a_N(NumeroIn(ui_->TxtNsd)), NumeroIn(ui_->txtLstar)); }
+void FrmMcRd::Duttilita() {
+    regole_.Applica();
+    CalcolaDuttilita(kN_a_N(NumeroIn(ui_->TxtNsd)), NumeroIn(ui_->txtLstar));
+}
 
 void FrmMcRd::CalcolaDuttilita(double N, double Lstar) {
     SullaSezioneInUso([&]<ConMomenti S>(const S& s) requires ConAnimaEAli<S> {

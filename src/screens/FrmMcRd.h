@@ -20,15 +20,14 @@ public:
     FrmMcRd();
     ~FrmMcRd() override;
 
-    /// Shows class, modulus and moment about both axes, then the ductility parameter.
-    void CompletaForm(SchermoSezione& chiamante) override;
-
     /// Shows the ductility parameter and its limit, the smaller of the two in red.
     /// @param N      axial force [N]
     /// @param Lstar  shear length [mm]; not above 0: unknown
     void CalcolaDuttilita(double N, double Lstar);
 
 protected:
+    /// Shows class, modulus and moment about both axes, then the ductility parameter.
+    void Calcola() override;
     /// The axial force of the section goes into its entry.
     void RiempiDati() override;
 

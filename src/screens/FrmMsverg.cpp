@@ -23,6 +23,8 @@ namespace sagomi {
 namespace {
 
 constexpr auto figura = "0.0##";
+constexpr double nessunNumero = std::numeric_limits<double>::quiet_NaN();
+constexpr const char* motivoLunghezza = "La lunghezza fra i vincoli non può essere negativa";
 constexpr int cifreProdotto = 14; ///< width of a factor times a moment
 
 void Scrive(QLineEdit* box, double value) { box->setText(QString::fromStdString(TestoPiano(value))); }
@@ -121,16 +123,13 @@ FrmMsverg::FrmMsverg() : SchermoDettaglio(QStringLiteral("FrmMsverg")), ui_(new 
 FrmMsverg::~FrmMsverg() = default;
 
 void FrmMsverg::CollegaEventi() {
-    for (QLineEdit* box :
-         {ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd, ui_->Txt_L, ui_->Txt_k,
-          ui_->Txt_Kw, ui_->Txt_Zg, ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3})
-        Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
-    Collega(ui_->fraSezione->Txt_fy, &QLineEdit::textChanged, this, [this](const QString& text) {
-        if (inCalcolo_ || chiamante_ == nullptr || chiamante_->Txt_fy->text() == text)
-            return;
-        chiamante_->Txt_fy->setText(text); // its reaction puts the strength into the section
-        Ricalcola();
-    });
+    regole_.Aggiungi({.caselle = {ui_->Txt_L},
+                      .motivo = [this] { return NumeroIn(ui_->Txt_L) < 0 ? tr(motivoLunghezza) : QString(); },
+                      .risultati = Controlli({"Lbl_Mcr", "Lbl_LamdaLT", "Lbl_chi", "Lbl_MbRd", "LblMbRd",
+                                              "Lbl_Risult", "Lbl_Risultato"}),
+                      .manca = [this] { return ui_->Txt_L->text().trimmed().isEmpty(); }});
+    CalcolaA({ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd, ui_->Txt_L,
+              ui_->Txt_k, ui_->Txt_Kw, ui_->Txt_Zg, ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3});
     Collega(ui_->LblVerifiche, &QPushButton::clicked, this,
             [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmVerifiche"), *this); });
     Collega(ui_->CmdH1, &QPushButton::clicked, this, [this] { ApreTavola(QStringLiteral("frmMsvergH1")); });
@@ -171,9 +170,7 @@ void FrmMsverg::RiportaValori(const SezioneDoppioT& vecchia, SezioneDoppioT& nuo
     nuova.C1 = vecchia.C1;
 }
 
-void FrmMsverg::CompletaForm(SchermoSezione& chiamante) {
-    chiamante_ = &chiamante;
-    const QScopedValueRollback guard(inCalcolo_, true);
+void FrmMsverg::Calcola() {
     SezioneDoppioT* const section = Sezione();
     if (section == nullptr)
         return;
@@ -232,7 +229,10 @@ void FrmMsverg::MostraInterazione() {
     Mostra(f.Sopra(2), Prodotto(t.z.k, t.z.M()));
     Mostra(f.Altro(2), Prodotto(t.z.k, t.z.MSd, t.z.NeN));
     Mostra(f.Sotto(2), figura, Nmm_a_kNm(t.z.MRd));
-    ui_->formula->MostraSomma(Valido(s, s.InterazioneFlessoTorsionale()));
+    ui_->formula->MostraSomma(nessunNumero); // no old sum beside a message
+    const double somma = Valido(s, s.InterazioneFlessoTorsionale());
+    // A factor on its way through 0 is not the user's word yet.
+    ui_->formula->MostraSomma(s.MbRd == 0 && entrate_->InDigitazione() ? nessunNumero : somma);
 }
 
 void FrmMsverg::PrendeFattori(double k, double C1, double C2, double C3) {

@@ -19,13 +19,12 @@ public:
     FrmMsverg();
     ~FrmMsverg() override;
 
-    /// Writes the entries into the section, computes and shows.
-    void CompletaForm(SchermoSezione& chiamante) override;
-
     /// Factors picked from a table; the activation that follows computes with them.
     void PrendeFattori(double k, double C1, double C2, double C3);
 
 protected:
+    /// Writes the entries into the section, computes and shows.
+    void Calcola() override;
     void RiempiDati() override;
     /// The factors of the moment diagram have no box here: a new section takes them from the old one.
     void RiportaValori(const SezioneDoppioT& vecchia, SezioneDoppioT& nuova) override;

@@ -12,6 +12,7 @@
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Casella.h"
+#include "frame/ui/Entrata.h"
 #include "frame/ui/Esito.h"
 #include "frame/ui/InvioFra.h"
 #include "frame/ui/Mostra.h"
@@ -28,6 +29,9 @@ namespace sagomi {
 namespace {
 
 constexpr auto figura = "0.0##";
+constexpr const char* motivoEstremita = "M1 deve essere positivo e non minore di M2 in valore assoluto";
+constexpr const char* motivoCampata = "MQ deve essere positivo";
+constexpr const char* motivoLunghezza = "La lunghezza di libera inflessione non può essere negativa";
 
 /// Writes a corrected number back into its box; a box that holds it already keeps its text.
 void Riscrivi(QLineEdit* box, double value) {
@@ -41,7 +45,7 @@ void RiportaTesto(const QLineEdit* da, QLineEdit* a) {
     const double nuovo = NumeroIn(da);
     const double vecchio = NumeroIn(a);
     if (!(std::abs(nuovo - vecchio) <= cifreSingolo * std::max(std::abs(nuovo), std::abs(vecchio))))
-        a->setText(da->text());
+        a->setText(TestoPulito(da));
 }
 
 QString Titolo(int classe) {
@@ -139,19 +143,57 @@ FrmPresFless::FrmPresFless() : SchermoDettaglio(QStringLiteral("FrmPresFless")),
 FrmPresFless::~FrmPresFless() = default;
 
 void FrmPresFless::CollegaEventi() {
-    for (QLineEdit* box : QList<QLineEdit*>{ui_->fraAzioni->TxtNsd} + Txt_L0_ + TxtM1_ + TxtM2_ + TxtMQ_)
-        Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
-    Collega(ui_->fraSezione->Txt_fy, &QLineEdit::textChanged, this, [this](const QString& text) {
-        if (inCalcolo_ || chiamante_ == nullptr || chiamante_->Txt_fy->text() == text)
-            return;
-        chiamante_->Txt_fy->setText(text); // its reaction puts the strength into the section
-        Ricalcola();
-    });
+    CollegaRegole(0);
+    CollegaRegole(1);
+    CalcolaA(QList<QLineEdit*>{ui_->fraAzioni->TxtNsd} + Txt_L0_ + TxtM1_ + TxtM2_ + TxtMQ_);
     Collega(ui_->LblVerifiche, &QPushButton::clicked, this,
             [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmVerifiche"), *this); });
     for (QPushButton* open : {ui_->LblFlessTors, ui_->LbLFlessTorsHelp})
         Collega(open, &QPushButton::clicked, this,
                 [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmMsverg"), *this); });
+}
+
+void FrmPresFless::CollegaRegole(int asse) {
+    const bool y = asse == 0;
+    const auto sums = Controlli({"Lbl_Risult", "Lbl_Risult4", "Lbl_Risultato"});
+    const auto term = y ? Controlli({"Lbl_Mu_0", "Lbl_k_0", "LblTermineMy", "LblTermineMy4"})
+                        : Controlli({"Lbl_Mu_1", "Lbl_k_1", "LblTermineMz", "LblTermineMz4"});
+    const auto moments =
+        y ? Controlli({"Lbl_MSd_0", "Lbl_BetaM_0", "Lbl_C1"}) : Controlli({"Lbl_MSd_1", "Lbl_BetaM_1"});
+    const auto buckling = y ? Controlli({"Lbl_Lamda_0", "Lbl_NbRd_0", "LblTermineN", "LblTermineN4"})
+                            : Controlli({"Lbl_Lamda_1", "Lbl_NbRd_1", "LblTermineN", "LblTermineN4"});
+    const auto number = [](const QLineEdit* box) { return NumeroIn(box); };
+    regole_.Aggiungi({.caselle = {TxtM1_[asse], TxtM2_[asse]},
+                      .motivo =
+                          [this, asse, number] {
+                              const double M1 = number(TxtM1_[asse]);
+                              return M1 < 0 || std::abs(number(TxtM2_[asse])) > M1 ? tr(motivoEstremita)
+                                                                                   : QString();
+                          },
+                      .corregge =
+                          [this, asse] {
+                              double M1 = 0;
+                              double M2 = 0;
+                              inputM1M2(asse, M1, M2);
+                          },
+                      .risultati = moments + term + sums});
+    regole_.Aggiungi({.caselle = {TxtMQ_[asse]},
+                      .motivo =
+                          [this, asse, number] {
+                              const bool used = TipoDiagramma == diagrammaCampata;
+                              return used && number(TxtMQ_[asse]) < 0 ? tr(motivoCampata) : QString();
+                          },
+                      .corregge =
+                          [this, asse] {
+                              double MQ = 0;
+                              inputMQ(asse, MQ);
+                          },
+                      .risultati = moments + term + sums});
+    regole_.Aggiungi(
+        {.caselle = {Txt_L0_[asse]},
+         .motivo = [this, asse,
+                    number] { return number(Txt_L0_[asse]) < 0 ? tr(motivoLunghezza) : QString(); },
+         .risultati = buckling + term + sums});
 }
 
 void FrmPresFless::CollegaDiagrammi() {
@@ -177,9 +219,7 @@ void FrmPresFless::RiempiDati() {
     FuocoSu(ui_->fraAzioni->TxtNsd);
 }
 
-void FrmPresFless::CompletaForm(SchermoSezione& chiamante) {
-    chiamante_ = &chiamante;
-    const QScopedValueRollback guard(inCalcolo_, true); // the corrections write into their boxes
+void FrmPresFless::Calcola() {
     Leggedati();
     SezioneDoppioT* s = Sezione();
     if (s == nullptr)
@@ -229,6 +269,8 @@ void FrmPresFless::CompletaForm1(int asse, double& M, double& BetaM, double& C1)
 void FrmPresFless::inputM1M2(int asse, double& M1, double& M2) {
     M1 = NumeroIn(TxtM1_[asse]);
     M2 = NumeroIn(TxtM2_[asse]);
+    if (InDigitazione(TxtM1_[asse]) || InDigitazione(TxtM2_[asse]))
+        return; // the correction waits
     CorreggiM1M2(M1, M2);
     const QScopedValueRollback guard(inCalcolo_, true);
     Riscrivi(TxtM1_[asse], M1);
@@ -237,6 +279,8 @@ void FrmPresFless::inputM1M2(int asse, double& M1, double& M2) {
 
 void FrmPresFless::inputMQ(int asse, double& MQ) {
     MQ = NumeroIn(TxtMQ_[asse]);
+    if (InDigitazione(TxtMQ_[asse]))
+        return;
     CorreggiMQ(MQ);
     const QScopedValueRollback guard(inCalcolo_, true);
     Riscrivi(TxtMQ_[asse], MQ);

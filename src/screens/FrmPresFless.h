@@ -30,9 +30,6 @@ public:
     std::int16_t TipoDiagramma = 0; ///< 0 end moments alone, 1 with a load in the span
     std::int16_t IndicePict = 1;    ///< shape of the diagram, 1 to 6
 
-    /// Reads the entries, derives moments and factors, shows the interaction.
-    void CompletaForm(SchermoSezione& chiamante) override;
-
     /// Largest moment [N mm], equivalent uniform moment factor and C1 of an axis, 0 y-y, 1 z-z.
     void CompletaForm1(int asse, double& M, double& BetaM, double& C1);
 
@@ -50,10 +47,13 @@ public:
     void Leggedati();
 
 protected:
+    /// Reads the entries, derives moments and factors, shows the interaction.
+    void Calcola() override;
     void RiempiDati() override;
 
 private:
     void CollegaEventi();
+    void CollegaRegole(int asse);
     void CollegaDiagrammi();
     void MostraAsse(int asse);
     void MostraInterazione();

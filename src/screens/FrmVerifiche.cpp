@@ -116,8 +116,7 @@ FrmVerifiche::FrmVerifiche() : SchermoDettaglio(QStringLiteral("FrmVerifiche")),
     ui_->formula2->Componi(FormulaElastica());
     ui_->formula3->Componi(FormulaEfficace());
     CollegaControlli();
-    for (QLineEdit* box : {ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd})
-        Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
+    CalcolaA({ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd});
     ScegliQuadro(1);
     DimensionaIniziale({});
 }
@@ -133,7 +132,7 @@ void FrmVerifiche::RiempiDati() {
     FuocoSu(ui_->fraAzioni->TxtNsd);
 }
 
-void FrmVerifiche::CompletaForm(SchermoSezione& /*chiamante*/) {
+void FrmVerifiche::Calcola() {
     SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;

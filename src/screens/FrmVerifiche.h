@@ -22,10 +22,9 @@ public:
     FrmVerifiche();
     ~FrmVerifiche() override;
 
-    /// Writes the entries (kN, kNm) into the section, computes its class anew and shows the interaction.
-    void CompletaForm(SchermoSezione& chiamante) override;
-
 protected:
+    /// Writes the entries (kN, kNm) into the section, computes its class anew and shows the interaction.
+    void Calcola() override;
     /// The actions of the section go into the entries.
     void RiempiDati() override;
 

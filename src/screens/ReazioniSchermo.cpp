@@ -7,6 +7,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
+#include "frame/ui/Entrata.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
@@ -119,16 +120,24 @@ void RecordCambiato(SchermoSezione& schermo, int indice) {
     schermo.ControlloDati();
 }
 
+bool FyPossibile(double fy) { return fy > fyMinimo; }
+
 void AcciaioCambiato(SchermoSezione& schermo) {
     if (schermo.CaricaForm)
         return;
     const double fy = NumeroIn(schermo.Txt_fy);
-    if (!(fy > fyMinimo)) {
-        Avvisa("fy deve essere > 0");
+    const bool typed = InDigitazione(schermo.Txt_fy);
+    if (!FyPossibile(fy)) {
+        schermo.SvuotaValori();
+        if (!typed) {
+            Avvisa("fy deve essere > 0");
+            schermo.RimettiFy();
+        }
         return;
     }
     if (!schermo.RigaInMano())
         return;
+    const MessaggiTaciuti quiet(typed);
     SullaSezioneInUso([fy](auto& section) {
         section.fy = fy;
         section.TipoAcciaio = NomeAcciaio[IndiceAcciaio + 1];

@@ -6,7 +6,10 @@
 
 #include "frame/Attesa.h"
 #include "frame/GeneraleSagomi.h"
+#include "frame/Messaggi.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/Entrata.h"
+#include "frame/ui/EtichettaRisultato.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/UpDown.h"
@@ -42,14 +45,74 @@ void SchermoDettaglio::AllAttivazione() {
 
 void SchermoDettaglio::CollegaControlli(std::function<bool(QLineEdit*)> invio) {
     PreparaContenuto();
-    auto* entries = new FiltroCampi(this, std::move(invio));
+    entrate_ = new FiltroCampi(this, std::move(invio));
     for (QLineEdit* box : findChildren<QLineEdit*>())
         if (!box->isReadOnly())
-            entries->Osserva(box);
+            entrate_->Osserva(box);
+    Collega(entrate_, &FiltroCampi::conclusa, this, [this](QLineEdit* box) { Conclusa(box); });
+    CollegaFy();
     if (auto* rows = findChild<UpDown*>(QStringLiteral("UpDown1")))
         Collega(rows, &UpDown::passo, this, [this](bool su) { PassoDiRiga(su); });
     if (auto* steel = findChild<UpDown*>(QStringLiteral("UpDown2")))
         Collega(steel, &UpDown::passo, this, [this](bool su) { PassoDiAcciaio(su); });
+}
+
+// The strength belongs to the caller: its box takes what is typed here, and its reaction puts it into the
+// section.
+void SchermoDettaglio::CollegaFy() {
+    auto* fy = findChild<QLineEdit*>(QStringLiteral("Txt_fy"));
+    if (fy == nullptr || fy->isReadOnly())
+        return;
+    QList<QWidget*> all;
+    for (EtichettaRisultato* result : findChildren<EtichettaRisultato*>())
+        all << result;
+    regole_.Aggiungi(
+        {.caselle = {fy},
+         .motivo = [fy] { return FyPossibile(NumeroIn(fy)) ? QString() : tr("fy deve essere > 0"); },
+         .corregge = [this] { CopiaIntestazione(); },
+         .risultati = all + Controlli({"Lbl_Risultato"})});
+    Collega(fy, &QLineEdit::textChanged, this, [this, fy] { FyCambiato(fy); });
+}
+
+void SchermoDettaglio::FyCambiato(QLineEdit* fy) {
+    if (inCalcolo_ || chiamante_ == nullptr)
+        return;
+    const bool typed = InDigitazione(fy);
+    const double value = NumeroIn(fy);
+    if (value != NumeroIn(chiamante_->Txt_fy) && (!typed || FyPossibile(value))) {
+        const MessaggiTaciuti quiet(typed);
+        chiamante_->Txt_fy->setText(TestoPulito(fy));
+    }
+    Ricalcola();
+}
+
+void SchermoDettaglio::Conclusa(QLineEdit* casella) {
+    if (casella->objectName() == u"Txt_fy")
+        FyCambiato(casella);
+    else
+        Ricalcola();
+}
+
+void SchermoDettaglio::CalcolaA(const QList<QLineEdit*>& caselle) {
+    for (QLineEdit* box : caselle)
+        Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
+}
+
+QList<QWidget*> SchermoDettaglio::Controlli(std::initializer_list<const char*> nomi) const {
+    QList<QWidget*> controls;
+    for (const char* name : nomi)
+        if (auto* control = findChild<QWidget*>(QString::fromLatin1(name)))
+            controls << control;
+    return controls;
+}
+
+void SchermoDettaglio::CompletaForm(SchermoSezione& chiamante) {
+    chiamante_ = &chiamante;
+    const QScopedValueRollback guard(inCalcolo_, true); // the corrections write into their boxes
+    regole_.Applica();
+    const MessaggiTaciuti quiet(entrate_->InDigitazione());
+    Calcola();
+    regole_.SvuotaRisultati();
 }
 
 void SchermoDettaglio::Ricalcola() {
@@ -62,7 +125,8 @@ void SchermoDettaglio::Ricalcola() {
 
 void SchermoDettaglio::CopiaIntestazione() {
     const auto copy = [this](const char* name, const QString& text) {
-        if (auto* box = findChild<QLineEdit*>(QString::fromLatin1(name)))
+        if (auto* box = findChild<QLineEdit*>(QString::fromLatin1(name));
+            box != nullptr && !InDigitazione(box))
             box->setText(text);
     };
     copy("Txt_Prof", chiamante_->TxtProf[0]->text());

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 
+#include "frame/ui/RegoleEntrate.h"
 #include "frame/ui/Schermo.h"
 
 class QLineEdit;
 
 namespace sagomi {
 
+class FiltroCampi;
 class SchermoSezione;
 class SezioneDoppioT;
 
@@ -28,8 +31,10 @@ public:
     /// screen of another kind throws std::logic_error.
     void Apri(Schermo& da);
 
-    /// Fills the screen from SezioneCorrente and the caller's controls.
-    virtual void CompletaForm(SchermoSezione& chiamante) = 0;
+    /// Fills the screen from SezioneCorrente and the caller's controls: mends the entries, each with its
+    /// message, computes, and empties what hangs on entries that cannot stand. While the user types it keeps
+    /// quiet and mends nothing.
+    void CompletaForm(SchermoSezione& chiamante);
 
     void AllAttivazione() override;
 
@@ -37,6 +42,15 @@ protected:
     /// To be called once the controls of the form stand: connects the step buttons, the entry boxes' manners
     /// (Enter goes on in tab order, or as `invio` says) and what all details have in common.
     void CollegaControlli(std::function<bool(QLineEdit*)> invio = {});
+
+    /// Computes with the entries as they are and shows the results.
+    virtual void Calcola() = 0;
+
+    /// A change of one of these entries computes anew.
+    void CalcolaA(const QList<QLineEdit*>& caselle);
+
+    /// Controls by their object names, for the results of a rule; names that the form lacks are left out.
+    [[nodiscard]] QList<QWidget*> Controlli(std::initializer_list<const char*> nomi) const;
 
     /// Refills the entries that have a twin on the section or the caller; runs at each opening.
     virtual void RiempiDati() {}
@@ -56,8 +70,16 @@ protected:
     /// Txt_Prof, Txt_TipoAcciaio and Txt_fy copy the caller's boxes.
     void CopiaIntestazione();
 
+    RegoleEntrate regole_; ///< the conditions of the entries
+    FiltroCampi* entrate_ = nullptr;
+
     SchermoSezione* chiamante_ = nullptr;
     bool inCalcolo_ = false; ///< CompletaForm is writing: handlers of entries return at once
+
+private:
+    void CollegaFy();
+    void FyCambiato(QLineEdit* fy);
+    void Conclusa(QLineEdit* casella);
 };
 
 /// Steps the steel grade of a main screen, held inside its list, and runs the reaction to it; the name and

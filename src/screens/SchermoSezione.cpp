@@ -8,12 +8,15 @@
 #include <QMenuBar>
 #include <QStatusBar>
 
+#include <cmath>
+
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
 #include "frame/ui/ChiudiProgramma.h"
+#include "frame/ui/Entrata.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
@@ -23,6 +26,8 @@
 namespace sagomi {
 
 namespace {
+
+constexpr const char* motivoLunghezza = "La lunghezza di libera inflessione non può essere negativa";
 
 /// Fonts of old screens that are drawn for small sizes only.
 double CorpoScalato(const QFont& font, double ratio) {
@@ -97,6 +102,11 @@ void SchermoSezione::CollegaTabella() {
 }
 
 void SchermoSezione::CollegaDati() {
+    entrate_ = new FiltroCampi(this, [this](QLineEdit* box) { return Invio(box); });
+    for (QLineEdit* box : findChildren<QLineEdit*>())
+        if (!box->isReadOnly() && box->parentWidget() != ComboTipoAcciaio)
+            entrate_->Osserva(box);
+    Collega(entrate_, &FiltroCampi::conclusa, this, [this](QLineEdit* box) { Conclusa(box); });
     Collega(ComboTipoAcciaio, &QComboBox::activated, this, [this] { AcciaioScelto(); });
     Collega(Txt_fy, &QLineEdit::textChanged, this, [this] { AcciaioCambiato(*this); });
     Collega(Txt_fu, &QLineEdit::textChanged, this, [this] {
@@ -105,10 +115,47 @@ void SchermoSezione::CollegaDati() {
     });
     for (int i = 0; i < Txt_L0.size(); ++i)
         Collega(Txt_L0[i], &QLineEdit::textChanged, this, [this, i] { LunghezzaCambiata(i); });
-    auto* entries = new FiltroCampi(this, [this](QLineEdit* box) { return Invio(box); });
-    for (QLineEdit* box : findChildren<QLineEdit*>())
-        if (!box->isReadOnly() && box->parentWidget() != ComboTipoAcciaio)
-            entries->Osserva(box);
+    CollegaRegole();
+}
+
+void SchermoSezione::CollegaRegole() {
+    for (int i = 0; i < Txt_L0.size(); ++i) {
+        QList<QWidget*> results;
+        if (auto* resistance = findChild<QLineEdit*>(QStringLiteral("TxtNbRd_%1").arg(i)))
+            results << resistance;
+        regole_.Aggiungi({.caselle = {Txt_L0[i]},
+                          .motivo = [this, i] { return Lunghezza(i) < 0 ? tr(motivoLunghezza) : QString(); },
+                          .risultati = results});
+    }
+}
+
+void SchermoSezione::ApplicaRegole() {
+    regole_.Applica();
+    regole_.SvuotaRisultati();
+}
+
+void SchermoSezione::Conclusa(QLineEdit* casella) {
+    if (casella == Txt_fy)
+        AcciaioCambiato(*this);
+    else if (!CaricaForm && RigaInMano())
+        Risultati();
+}
+
+double SchermoSezione::FyInForza() const {
+    double fy = NumeroIn(Txt_fy);
+    if (!FyPossibile(fy))
+        SullaSezioneInUso([&fy](const auto& section) { fy = section.fy; });
+    return FyPossibile(fy) ? fy : double(fyAcciaio[IndiceAcciaio + 1]);
+}
+
+void SchermoSezione::RimettiFy() {
+    if (const double fy = FyInForza(); FyPossibile(fy))
+        Txt_fy->setText(QString::fromStdString(TestoPiano(Singolo(fy))));
+}
+
+double SchermoSezione::Lunghezza(int index) const {
+    const double length = m_a_mm(NumeroIn(Txt_L0[index]));
+    return std::isfinite(static_cast<float>(length)) ? length : -1;
 }
 
 void SchermoSezione::Apri(Schermo& da) { NavigaSchermi::Unico().Passa(*this, &da); }
@@ -159,9 +206,9 @@ void SchermoSezione::LunghezzaCambiata(int index) {
         Avvisa("Errore in L0");
         return;
     }
-    SullaSezioneInUso([&](ConLunghezze auto& section) {
-        (index == 0 ? section.L0y : section.L0z) = m_a_mm(NumeroIn(Txt_L0[index]));
-    });
+    SullaSezioneInUso(
+        [&](ConLunghezze auto& section) { (index == 0 ? section.L0y : section.L0z) = Lunghezza(index); });
+    const MessaggiTaciuti quiet(InDigitazione(Txt_L0[index]));
     Risultati();
 }
 

@@ -12,6 +12,7 @@
 #include "catalogue/ui/GrigliaCatalogo.h"
 #include "catalogue/ui/LettoreDati.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/RegoleEntrate.h"
 #include "frame/ui/Schermo.h"
 #include "sections/MostraVplRd.h"
 
@@ -62,6 +63,14 @@ public:
     [[nodiscard]] bool RigaInMano() const;
     /// Empties every result, where there is no row.
     virtual void SvuotaRisultati();
+    /// Empties the boxes of the results alone.
+    virtual void SvuotaValori() {}
+    /// The strength to compute with [N/mm2]: the entry's, or, where that is none, the section's, the grade's.
+    [[nodiscard]] double FyInForza() const;
+    /// Puts the entry of a strength that is none back to the one in force.
+    void RimettiFy();
+    /// A buckling length [mm]; one that no number holds is as impossible as a negative one.
+    [[nodiscard]] double Lunghezza(int index) const;
     /// A buckling length has been typed: index 0 about y-y, 1 about z-z.
     virtual void LunghezzaCambiata(int index);
 
@@ -91,11 +100,16 @@ public:
 protected:
     /// Finds the members above by their names and connects what all main screens have in common.
     void CollegaControlli();
+    /// To be called at the end of Risultati: marks entries that cannot stand, empties what hangs on them.
+    void ApplicaRegole();
     /// What Enter does in the entry boxes; false leaves it to the tab order.
     virtual bool Invio(QLineEdit* casella);
     [[nodiscard]] QPushButton* Pulsante(const char* nome) const;
     /// Opens a detail screen of that name, where there is a row to work on.
     void ApriDettaglio(const QString& nome);
+
+    RegoleEntrate regole_; ///< the conditions of the entries
+    FiltroCampi* entrate_ = nullptr;
 
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -106,6 +120,8 @@ protected:
 private:
     void CollegaMenu();
     void CollegaDati();
+    void CollegaRegole();
+    void Conclusa(QLineEdit* casella);
     void CollegaTabella();
     void RigaNuova();
     bool FrecciaDiRiga(int key);
@@ -132,7 +148,10 @@ void CambioFamiglia(SchermoSezione& schermo, std::string_view foglio = {});
 /// The display field `indice` has changed; for 0, the name, the new row is taken over.
 void RecordCambiato(SchermoSezione& schermo, int indice);
 
-/// The text of Txt_fy has changed.
+/// Whether a number is a strength [N/mm2]: above 0,001.
+bool FyPossibile(double fy);
+
+/// The text of Txt_fy has changed. A strength that is none is told and put back, but not while it is typed.
 void AcciaioCambiato(SchermoSezione& schermo);
 
 /// The window has been maximised, minimised or restored.

@@ -8,6 +8,7 @@
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
+#include "frame/ui/Entrata.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/Twips.h"
@@ -36,6 +37,7 @@ frmDoppioT::frmDoppioT() : SchermoSezione(QStringLiteral("frmDoppioT")), ui_(new
         if (CaricaForm || !RigaInMano() || Sezione() == nullptr)
             return;
         Sezione()->NSd = kN_a_N(NumeroIn(TxtNsd));
+        const MessaggiTaciuti quiet(InDigitazione(TxtNsd));
         Risultati();
     });
     Collega(Pulsante("lblVplRd"), &QPushButton::clicked, this,
@@ -85,9 +87,9 @@ void frmDoppioT::Leggedati() {
     auto section = std::make_shared<SezioneDoppioT>();
     LeggeRiga(Data1->Recordset(), *section);
     section->TipoAcciaio = ComboTipoAcciaio->currentText().toStdString();
-    section->L0y = m_a_mm(NumeroIn(Txt_L0[0]));
-    section->L0z = m_a_mm(NumeroIn(Txt_L0[1]));
-    section->fy = NumeroIn(Txt_fy);
+    section->L0y = Lunghezza(0);
+    section->L0z = Lunghezza(1);
+    section->fy = FyInForza();
     section->fu = NumeroIn(Txt_fu);
     section->NSd = kN_a_N(NumeroIn(TxtNsd));
     SezioneCorrente = std::move(section);
@@ -102,6 +104,7 @@ void frmDoppioT::Risultati() {
     Sezione()->InizializzaSezione(this);
     MostraClassi();
     MostraResistenze();
+    ApplicaRegole();
     ui_->Picture1->Mostra(DisegnoSagoma(SagomaDi(*Sezione())));
 }
 
@@ -128,8 +131,10 @@ void frmDoppioT::MostraResistenze() {
     ui_->risultati->Svuota(QStringLiteral("TxtVplRd"));
 }
 
+void frmDoppioT::SvuotaValori() { ui_->risultati->Svuota(); }
+
 void frmDoppioT::SvuotaRisultati() {
-    ui_->risultati->Svuota();
+    SvuotaValori();
     Pulsante("lblVplRd")->hide();
     ui_->Picture1->Mostra({});
 }

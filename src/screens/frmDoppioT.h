@@ -21,6 +21,7 @@ public:
     void Risultati() override;
     void ControlloDati() override;
     void SvuotaRisultati() override;
+    void SvuotaValori() override;
 
 protected:
     bool Invio(QLineEdit* casella) override;

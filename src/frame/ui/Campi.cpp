@@ -70,6 +70,12 @@ double NumeroIn(const QLineEdit* casella) {
     return ValoreNumerico(NumeroRipulito(casella->text().toStdString()));
 }
 
+QString TestoPulito(const QLineEdit* casella) {
+    return NumeroPulito(casella->text().toStdString())
+               ? casella->text()
+               : QString::fromStdString(TestoPiano(NumeroIn(casella)));
+}
+
 void LeggeScriveTesto(std::string_view modo, QLineEdit* controllo, double& valore) {
     if (modo == "L")
         valore = NumeroIn(controllo);

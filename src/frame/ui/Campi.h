@@ -25,6 +25,9 @@ void FuocoSu(QLineEdit* casella);
 /// that do not break are understood.
 double NumeroIn(const QLineEdit* casella);
 
+/// What to hand on to another box: the text, or the plain number where the text is no clean one.
+QString TestoPulito(const QLineEdit* casella);
+
 /// Moves a number between a box and a variable: "L" reads the box, any other mode writes the plain number.
 void LeggeScriveTesto(std::string_view modo, QLineEdit* controllo, double& valore);
 

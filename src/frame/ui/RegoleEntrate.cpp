@@ -19,7 +19,7 @@ bool Scrivendo(const RegolaEntrata& rule) {
 
 /// Why a rule is broken, after the correction where it has one and nobody is typing.
 QString Esamina(const RegolaEntrata& rule) {
-    QString reason = rule.motivo();
+    QString reason = rule.motivo ? rule.motivo() : QString();
     if (reason.isEmpty() || !rule.corregge || Scrivendo(rule))
         return reason;
     rule.corregge();
@@ -33,7 +33,7 @@ bool RegoleEntrate::Applica() {
     violate_.clear();
     for (const RegolaEntrata& rule : regole_) {
         const QString reason = Esamina(rule);
-        violate_.append(!reason.isEmpty());
+        violate_.append(!reason.isEmpty() || (rule.manca && rule.manca()));
         // A number on its way to one that can stand is not marked: the correction will speak of it.
         const QString shown = rule.corregge && Scrivendo(rule) ? QString() : reason;
         QLineEdit* box = rule.caselle.front();

@@ -12,10 +12,11 @@ namespace sagomi {
 
 /// A condition that entries have to meet before what hangs on them is shown.
 struct RegolaEntrata {
-    QList<QLineEdit*> caselle;       ///< the entries concerned; the first is the one that is marked
-    std::function<QString()> motivo; ///< why they cannot stand; empty when they can
-    std::function<void()> corregge;  ///< tells so and mends them; empty where only a mark says it
-    QList<QWidget*> risultati;       ///< labels and boxes that hang on them
+    QList<QLineEdit*> caselle = {};       ///< the entries concerned; the first is the one that is marked
+    std::function<QString()> motivo = {}; ///< why they cannot stand; empty when they can
+    std::function<void()> corregge = {};  ///< tells so and mends them; empty where only a mark says it
+    QList<QWidget*> risultati = {};       ///< labels and boxes that hang on them
+    std::function<bool()> manca = {};     ///< they are not given yet, which nothing needs to say
 };
 
 /// The conditions of a screen's entries, which it holds whenever it computes: at the start by Applica, and,
