@@ -6,6 +6,7 @@
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/Entrata.h"
 #include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
@@ -36,8 +37,13 @@ frmTimoshenko::frmTimoshenko() : Schermo(QStringLiteral("frmTimoshenko")), ui_(n
         Protetto("Errore", [this] { Calcolo(); });
         return true;
     });
-    for (QLineEdit* box : {ui_->Txt_L, ui_->TxtIz, ui_->TxtIT, ui_->TxtIw})
+    for (QLineEdit* box : {ui_->Txt_L, ui_->TxtIz, ui_->TxtIT, ui_->TxtIw}) {
         entries->Osserva(box);
+        Collega(box, &QLineEdit::textChanged, this, [this, box] {
+            ui_->Lbl_Mcr->clear(); // it was another beam's
+            SegnaEntrata(box, NumeroIn(box) < 0 ? tr("Il valore non può essere negativo") : QString());
+        });
+    }
     CollegaOpzioni();
     Collega(ui_->Command1, &QPushButton::clicked, this, [this] { Calcolo(); });
     DimensionaIniziale({});
@@ -131,6 +137,7 @@ void frmTimoshenko::AllAttivazione() {
 }
 
 void frmTimoshenko::Calcolo() {
+    ui_->Lbl_Mcr->clear();
     L = m_a_mm(NumeroIn(ui_->Txt_L));
     Iz = cm4_a_mm4(NumeroIn(ui_->TxtIz));
     IT = cm4_a_mm4(NumeroIn(ui_->TxtIT));

@@ -13,6 +13,7 @@
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/Entrata.h"
 #include "frame/ui/Esito.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
@@ -41,6 +42,7 @@ constexpr std::pair<int, Singolo Bullone::*> misure[] = {{rifForo, &Bullone::do_
 void Scrive(QLineEdit* box, const std::string& text) {
     const QSignalBlocker quiet(box);
     box->setText(QString::fromStdString(text));
+    SegnaEntrata(box, {}); // it has heard nothing
 }
 
 void MostraForza(QLineEdit* box, Singolo force) {
@@ -61,8 +63,8 @@ frmBulloni::frmBulloni() : Schermo(QStringLiteral("frmBulloni")), ui_(new Ui::fr
                                2 * ui_->List1->frameWidth());
     PreparaContenuto();
     DimensionaIniziale({});
-    CollegaScelte();
     CollegaCaselle();
+    CollegaScelte();
 }
 
 frmBulloni::~frmBulloni() = default;
@@ -80,6 +82,12 @@ void frmBulloni::CollegaScelte() {
 }
 
 void frmBulloni::CollegaCaselle() {
+    auto* entries = new FiltroCampi(this, [this](QLineEdit* box) { return Invio(box); });
+    for (QLineEdit* box : findChildren<QLineEdit*>())
+        if (!box->isReadOnly())
+            entries->Osserva(box);
+    Collega(entries, &FiltroCampi::conclusa, this, [this](QLineEdit* box) { Conclusa(box); });
+    CollegaRegole();
     Collega(ui_->Txt_fub, &QLineEdit::textChanged, this, [this] { ScriveFub(); });
     Collega(ui_->Txt_fu, &QLineEdit::textChanged, this, [this] { ScriveFu(); });
     for (int i = 0; i <= ultimaEntrata; ++i)
@@ -89,10 +97,50 @@ void frmBulloni::CollegaCaselle() {
             if (!Caricamento && bullone_)
                 Interazione();
         });
-    auto* entries = new FiltroCampi(this, [this](QLineEdit* box) { return Invio(box); });
-    for (QLineEdit* box : findChildren<QLineEdit*>())
-        if (!box->isReadOnly())
-            entries->Osserva(box);
+}
+
+void frmBulloni::CollegaRegole() {
+    const QList<QWidget*> verdict{ui_->Lbl_Risultato_0, ui_->Lbl_Risultato_1};
+    const auto negative = [](const QLineEdit* box, const char* reason) {
+        return NumeroIn(box) < 0 ? tr(reason) : QString();
+    };
+    for (QLineEdit* box : Txt_FSd_)
+        regole_.Aggiungi({.caselle = {box},
+                          .motivo = [=] { return negative(box, "La forza non può essere negativa"); },
+                          .risultati = verdict});
+    regole_.Aggiungi({.caselle = Txt_FSd_, .risultati = verdict, .manca = [this] {
+                          return Txt_FSd_[0]->text().trimmed().isEmpty() &&
+                                 Txt_FSd_[1]->text().trimmed().isEmpty();
+                      }});
+    QLineEdit* thickness = Txt_Rif_[rifSpessore];
+    regole_.Aggiungi({.caselle = {thickness},
+                      .motivo = [=] { return negative(thickness, "Lo spessore non può essere negativo"); },
+                      .risultati = {Txt_Rif_[rifResistenza]}});
+}
+
+/// A measure on its way that is none yet: what hangs on it is empty until it is one, or is put back.
+bool frmBulloni::Attende(QLineEdit* casella, const QList<QWidget*>& risultati) const {
+    if (!bullone_ || Singolo(NumeroIn(casella)) > 0 || !InDigitazione(casella))
+        return false;
+    for (QWidget* result : risultati)
+        SvuotaRisultato(result);
+    return true;
+}
+
+/// What nothing could be computed with goes back to what the bolt has; results are shown again.
+void frmBulloni::Conclusa(QLineEdit* casella) {
+    if (!bullone_ || Singolo(NumeroIn(casella)) > 0)
+        return;
+    for (const auto& [place, member] : misure)
+        if (casella == Txt_Rif_[place])
+            Scrive(casella, TestoPiano((*bullone_).*member));
+    if (casella == ui_->Txt_fub)
+        Scrive(casella, Formato("0", bullone_->fub));
+    if (casella == ui_->Txt_fu && bullone_->fu > 0)
+        Scrive(casella, TestoPiano(bullone_->fu));
+    MostraTaglioTrazione();
+    RifollamentoAggiorna();
+    Interazione();
 }
 
 bool frmBulloni::Invio(QLineEdit* casella) {
@@ -170,6 +218,8 @@ void frmBulloni::SceglieSezione() {
 
 void frmBulloni::ScriveFub() {
     const Singolo fub = NumeroIn(ui_->Txt_fub); // too small for a single is 0 too
+    Attende(ui_->Txt_fub, {ui_->Txt_FVRd, ui_->Txt_FtRd, Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza],
+                           ui_->Lbl_Risultato_0, ui_->Lbl_Risultato_1});
     if (Caricamento || !bullone_ || !(fub > 0))
         return;
     bullone_->fub = fub;
@@ -180,11 +230,14 @@ void frmBulloni::ScriveFub() {
 }
 
 void frmBulloni::ScriveFu() {
+    Attende(ui_->Txt_fu, {Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
     if (!Caricamento && bullone_ && Singolo(NumeroIn(ui_->Txt_fu)) > 0)
         RifollamentoAggiorna();
 }
 
 void frmBulloni::ScriveRif(int i) {
+    if (i != rifSpessore)
+        Attende(Txt_Rif_[i], {Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
     if (Caricamento || !bullone_ || (i != rifSpessore && !(Singolo(NumeroIn(Txt_Rif_[i])) > 0)))
         return;
     RifollamentoAggiorna();
@@ -249,6 +302,8 @@ void frmBulloni::RifollamentoAggiorna() {
     bullone_->RifollamentoCalcola();
     Scrive(Txt_Rif_[rifAlfa], FormatoCifre(cifreRisultati, bullone_->alfa));
     MostraForza(Txt_Rif_[rifResistenza], bullone_->FbRd);
+    regole_.Applica();
+    regole_.SvuotaRisultati();
     Messaggi();
     Disegna();
     if (ui_->Txt_Osservazioni->isVisible())
@@ -281,6 +336,8 @@ void frmBulloni::Interazione() {
     ui_->Lbl_Risultato_0->setText(
         QString::fromStdString(text(t.taglio) + " + " + text(t.trazione) + " = " + text(sum)));
     MostraEsito(ui_->Lbl_Risultato_1, sum);
+    regole_.Applica();
+    regole_.SvuotaRisultati();
 }
 
 void frmBulloni::Disegna() {

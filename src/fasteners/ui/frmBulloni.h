@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "fasteners/Bullone.h"
+#include "frame/ui/RegoleEntrate.h"
 #include "frame/ui/Schermo.h"
 
 class QLineEdit;
@@ -37,6 +38,9 @@ protected:
 private:
     void CollegaScelte();
     void CollegaCaselle();
+    void CollegaRegole();
+    void Conclusa(QLineEdit* casella);
+    [[nodiscard]] bool Attende(QLineEdit* casella, const QList<QWidget*>& risultati) const;
     bool Invio(QLineEdit* casella);
 
     void Carica();
@@ -62,6 +66,7 @@ private:
     std::unique_ptr<Ui::frmBulloni> ui_;
     QList<QLineEdit*> Txt_Rif_;
     QList<QLineEdit*> Txt_FSd_;
+    RegoleEntrate regole_;
     std::optional<Bullone> bullone_;
     bool conSuggerimento_ = false; ///< the advice in view also tells how to close it
 };

@@ -177,7 +177,7 @@ TEST_F(FrmTimoshenkoTest, ComingBackToTheSimplySupportedBeamEnablesEverything) {
     EXPECT_EQ(Mcr(t), Locale(" 50.16"));
 }
 
-TEST_F(FrmTimoshenkoTest, ALengthThatIsNoneIsRefusedAndTheResultStays) {
+TEST_F(FrmTimoshenkoTest, ALengthThatIsNoneIsRefusedAndHasNoResult) {
     auto& t = Apre();
     Premi(&t, "Command1");
     for (const char* none : {"", "0", "-1", "abc"}) {
@@ -187,8 +187,23 @@ TEST_F(FrmTimoshenkoTest, ALengthThatIsNoneIsRefusedAndTheResultStays) {
         Premi(&t, "Command1");
         EXPECT_EQ(registratore.testi, Testi{"L deve essere > 0"}) << none;
         EXPECT_EQ(registratore.messaggi[0].icona, Icona::Stop);
-        EXPECT_EQ(Mcr(t), Locale(" 38.22"));
+        EXPECT_EQ(Mcr(t), "");
     }
+}
+
+TEST_F(FrmTimoshenkoTest, AChangedEntryClearsTheResult) {
+    auto& t = Apre();
+    Premi(&t, "Command1");
+    EXPECT_EQ(Mcr(t), Locale(" 38.22"));
+    auto* length = Trova<QLineEdit>(&t, "Txt_L");
+    QTest::keyClicks(length, "-5");
+    EXPECT_EQ(Mcr(t), "");
+    EXPECT_EQ(length->toolTip(), "Il valore non può essere negativo");
+    EXPECT_TRUE(registratore.testi.empty());
+    length->selectAll();
+    QTest::keyClicks(length, "4");
+    QTest::keyClick(length, Qt::Key_Return);
+    EXPECT_EQ(Mcr(t), Locale(" 38.22"));
 }
 
 TEST_F(FrmTimoshenkoTest, EnterInAnEntryCalculates) {

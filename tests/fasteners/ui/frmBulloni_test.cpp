@@ -159,8 +159,8 @@ TEST_F(FrmBulloniTest, LoadsTheFirstClassAndTheFirstDiameter) {
     EXPECT_EQ(Legge("Txt_Rif_5"), "27");
     EXPECT_EQ(Legge("Txt_Rif_6"), " 1");
     EXPECT_EQ(Legge("Txt_Rif_7"), " 0") << "bearing starts with no thickness";
-    EXPECT_EQ(Somma(), " 0 +  0 =  0");
-    EXPECT_EQ(Verdetto(), "OK");
+    EXPECT_EQ(Somma(), "") << "no force, no verdict";
+    EXPECT_EQ(Verdetto(), "");
     EXPECT_EQ(Elenco(), std::vector<std::string>{});
     EXPECT_FALSE(Osservazioni()->isVisible());
     EXPECT_TRUE(registratore.testi.empty());
@@ -386,6 +386,41 @@ TEST_F(FrmBulloniTest, SumAndVerdictOfShearAndTension) {
     EXPECT_EQ(Verdetto(), "OK");
 }
 
+TEST_F(FrmBulloniTest, ForcesAndThicknessesThatCannotBeAreMarked) {
+    Apre();
+    M16();
+    Scrive("Txt_FSd_0", "20");
+    Scrive("Txt_FSd_1", "-5");
+    EXPECT_EQ(Somma(), "");
+    EXPECT_EQ(Verdetto(), "");
+    EXPECT_EQ(Trova<QLineEdit>(b, "Txt_FSd_1")->toolTip(), "La forza non può essere negativa");
+    Scrive("Txt_FSd_1", "5");
+    EXPECT_EQ(Verdetto(), "OK");
+    Scrive("Txt_Rif_0", "-10");
+    EXPECT_EQ(Legge("Txt_Rif_7"), "");
+    EXPECT_EQ(Trova<QLineEdit>(b, "Txt_Rif_0")->toolTip(), "Lo spessore non può essere negativo");
+    Scrive("Txt_Rif_0", "10");
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 115.2"));
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(FrmBulloniTest, ADistanceOnItsWayEmptiesTheResultAndIsPutBack) {
+    Apre();
+    M16();
+    auto* e1 = Trova<QLineEdit>(b, "Txt_Rif_2");
+    e1->setFocus();
+    e1->selectAll();
+    QTest::keyClicks(e1, "0");
+    EXPECT_EQ(Legge("Txt_Rif_7"), "");
+    QTest::keyClick(e1, Qt::Key_Return);
+    EXPECT_EQ(Legge("Txt_Rif_2"), "54");
+    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 115.2"));
+    e1->setFocus();
+    e1->selectAll();
+    QTest::keyClicks(e1, "27"); // 27 / 54, at each key
+    EXPECT_EQ(Legge("Txt_Rif_6"), Locale(" 0.5"));
+}
+
 TEST_F(FrmBulloniTest, ZeroResistanceHasNeitherSumNorVerdict) {
     partenza = &Avvia();
     ClasseBullone[1] = 12.9; // a settings file may hold any
@@ -399,6 +434,7 @@ TEST_F(FrmBulloniTest, ZeroResistanceHasNeitherSumNorVerdict) {
     EXPECT_EQ(Verdetto(), "");
     registratore.testi.clear();
     Classe("8.8");
+    Scrive("Txt_FSd_0", "0");
     EXPECT_EQ(Somma(), " 0 +  0 =  0");
     EXPECT_TRUE(registratore.testi.empty());
     Classe("12.9");
