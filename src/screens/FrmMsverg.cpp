@@ -158,6 +158,8 @@ void FrmMsverg::RiempiDati() {
         Riempi(ui_->Txt_Zg, s->za);
         if (s->LLT > 0)
             Riempi(ui_->Txt_L, mm_a_m(s->LLT));
+        else if (s->L0z > 0 && ui_->Txt_L->text().isEmpty())
+            Riempi(ui_->Txt_L, mm_a_m(s->L0z)); // restraints hold against both, as a rule
     }
     sezione_ = SezioneCorrente;
     FuocoSu(ui_->fraAzioni->TxtNsd);

@@ -189,11 +189,13 @@ void FrmPresFless::CollegaRegole(int asse) {
                               inputMQ(asse, MQ);
                           },
                       .risultati = moments + term + sums});
-    regole_.Aggiungi(
-        {.caselle = {Txt_L0_[asse]},
-         .motivo = [this, asse,
-                    number] { return number(Txt_L0_[asse]) < 0 ? tr(motivoLunghezza) : QString(); },
-         .risultati = buckling + term + sums});
+    regole_.Aggiungi({.caselle = {Txt_L0_[asse]},
+                      .motivo =
+                          [this, asse, number] {
+                              const double L = number(Txt_L0_[asse]);
+                              return L >= 0 && std::isfinite(L) ? QString() : tr(motivoLunghezza);
+                          },
+                      .risultati = buckling + term + sums});
 }
 
 void FrmPresFless::CollegaDiagrammi() {

@@ -196,6 +196,25 @@ TEST_F(FrmInstabDoppioTTest, EffectiveAreaIsAtMostTheWholeOne) {
     EXPECT_EQ(Testo(&f, "txtChi_5"), "");
 }
 
+TEST_F(FrmInstabDoppioTTest, AnAreaAboveTheWholeWaitsForEnter) {
+    auto& f = Apre("IPE 200");
+    Scrive(&f, "txtChi_0", "93.9");
+    auto* area = Trova<QLineEdit>(&f, "txtChi_1");
+    area->setFocus();
+    area->selectAll();
+    QTest::keyClicks(area, "12");
+    EXPECT_TRUE(registratore.testi.empty());
+    EXPECT_EQ(area->text(), "12");
+    EXPECT_EQ(Testo(&f, "txtChi_5"), "");
+    QTest::keyClick(area, Qt::Key_Return);
+    EXPECT_EQ(registratore.testi, std::vector<std::string>{"BetaA deve essere <=1"});
+    EXPECT_EQ(area->text(), "1");
+    EXPECT_EQ(Testo(&f, "txtChi_2"), Locale("1.0"));
+    Scrive(&f, "txtChi_0", "-5");
+    EXPECT_EQ(Testo(&f, "txtChi_5"), "");
+    EXPECT_EQ(Trova<QLineEdit>(&f, "txtChi_0")->toolTip(), "La snellezza non può essere negativa");
+}
+
 // IPE 300, 5 m. y-y: (0.42735 - 0.2) · 0.21 · 1 · 557100 / 5381 = 4.943; z-z: (1.5895 - 0.2) · 0.34 · 1.32685
 // · 80500 / 5381 = 9.378 mm.
 TEST_F(FrmInstabDoppioTTest, InitialBow) {

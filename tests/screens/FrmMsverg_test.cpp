@@ -61,6 +61,7 @@ TEST_F(FrmMsvergTest, OpensFromTheFirstScreenWithPlainEndsAndUniformMoment) {
 
 TEST_F(FrmMsvergTest, NoLengthIsNoReduction) {
     auto& m = Apre();
+    Scrive(&m, "Txt_L", "0");
     EXPECT_EQ(Scritta(&m, "Lbl_Mcr"), "¥");
     EXPECT_EQ(Scritta(&m, "Lbl_LamdaLT"), Locale("0.0"));
     EXPECT_EQ(Scritta(&m, "Lbl_chi"), Locale("1.0"));
@@ -76,6 +77,54 @@ TEST_F(FrmMsvergTest, NoLengthIsNoReduction) {
     main_->AllAttivazione();
     m.AllAttivazione();
     EXPECT_NEAR(Numero(&m, "Lbl_MbRd"), Numero(&m, "Lbl_McRd") / 1.1, 0.001);
+}
+
+TEST_F(FrmMsvergTest, NoLengthGivenIsNoVerdict) {
+    auto& m = Apre();
+    Scrive(&m, "TxtMysd", "60");
+    for (const char* text : {"", "-5"}) {
+        Scrive(&m, "Txt_L", text);
+        for (const char* empty :
+             {"Lbl_Mcr", "Lbl_LamdaLT", "Lbl_chi", "Lbl_MbRd", "LblMbRd", "Lbl_Risult", "Lbl_Risultato"})
+            EXPECT_EQ(Scritta(&m, empty), "") << text << ' ' << empty;
+    }
+    EXPECT_EQ(Trova<QLineEdit>(&m, "Txt_L")->toolTip(), "La lunghezza fra i vincoli non può essere negativa");
+    EXPECT_EQ(Scritta(&m, "Lbl_McRd"), Locale("140.642")) << "hangs on no length";
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(FrmMsvergTest, LengthStartsAsTheOneAboutZOfTheCaller) {
+    main_ = &Avvia();
+    VaiA(*main_, "IPE 300");
+    Scrive(main_, "Txt_L0_1", "2.5");
+    Premi(main_, "Command2");
+    EXPECT_EQ(Testo(&Aperto("FrmMsverg"), "Txt_L"), Locale("2.5"));
+}
+
+// Uniform moment over 5 m: C1 0.972 lowers Mcr of 115.584 in proportion.
+TEST_F(FrmMsvergTest, AFactorBelowOneCanBeTypedKeyByKey) {
+    auto& m = Apre();
+    Scrive(&m, "Txt_L", "5");
+    Scrive(&m, "TxtMysd", "60");
+    auto* C1 = Trova<QLineEdit>(&m, "Txt_C1");
+    C1->setFocus();
+    C1->selectAll();
+    QStringList sums;
+    const QString text = QString::fromStdString(Locale("0.972"));
+    for (const QChar key : text) {
+        QTest::keyClicks(C1, QString(key));
+        sums << QString::fromStdString(Scritta(&m, "Lbl_Risultato"));
+    }
+    EXPECT_TRUE(registratore.testi.empty()) << "nothing speaks while the user types";
+    EXPECT_EQ(C1->text(), text);
+    EXPECT_EQ(sums.mid(0, 2), (QStringList{"", ""})) << "0 and 0, give no verdict";
+    EXPECT_NEAR(Numero(&m, "Lbl_Mcr"), 115.584 * 0.972, 0.01);
+    EXPECT_EQ(Scritta(&m, "Lbl_Risultato"), "OK");
+    C1->selectAll();
+    QTest::keyClicks(C1, "0");
+    EXPECT_EQ(Scritta(&m, "Lbl_Risult"), "");
+    QTest::keyClick(C1, Qt::Key_Return);
+    EXPECT_EQ(registratore.testi, Testi{"MbRd = 0"}) << "now it stands";
 }
 
 TEST_F(FrmMsvergTest, EntriesGoIntoTheSection) {
@@ -239,6 +288,7 @@ TEST_F(FrmMsvergTest, StepOfTheSteel) {
 
 TEST_F(FrmMsvergTest, NoResistanceIsToldAndTheScreenStays) {
     auto& m = Apre();
+    Scrive(&m, "Txt_L", "0");
     Sezione().McyRd = 0;
     Scrive(&m, "TxtMysd", "60");
     EXPECT_EQ(registratore.testi, Testi{"MbRd = 0"});

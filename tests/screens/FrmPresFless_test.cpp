@@ -3,6 +3,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <functional>
+
 #include "frame/ui/UpDown.h"
 #include "screens/Comandi.h"
 #include "screens/FrmMsverg.h"
@@ -180,6 +182,86 @@ TEST_F(FrmPresFlessTest, SecondMomentAboveTheFirstBecomesZero) {
     EXPECT_EQ(Scritta(&f, "Lbl_BetaM_1"), Locale("1.8"));
     Scrive(&f, "TxtM2_1", "-4");
     EXPECT_EQ(registratore.testi.size(), 1U);
+}
+
+// The 8 of 80 is below M2 for a moment.
+TEST_F(FrmPresFlessTest, TypingALargerMomentKeepsTheOtherOne) {
+    auto& f = Apre();
+    Scrive(&f, "TxtM1_0", "60");
+    Scrive(&f, "TxtM2_0", "50");
+    Scrive(&f, "TxtM1_1", "4");
+    const std::string z = Scritta(&f, "Lbl_MSd_1");
+    auto* M1 = Trova<QLineEdit>(&f, "TxtM1_0");
+    M1->setFocus();
+    M1->selectAll();
+    QTest::keyClicks(M1, "8");
+    EXPECT_TRUE(registratore.testi.empty());
+    EXPECT_EQ(Testo(&f, "TxtM2_0"), "50");
+    for (const char* empty :
+         {"Lbl_MSd_0", "Lbl_BetaM_0", "Lbl_C1", "LblTermineMy", "Lbl_Risult", "Lbl_Risultato"})
+        EXPECT_EQ(Scritta(&f, empty), "") << empty;
+    EXPECT_EQ(Scritta(&f, "Lbl_MSd_1"), z) << "the other axis stands";
+    EXPECT_NE(Scritta(&f, "LblTermineN"), "");
+    QTest::keyClicks(M1, "0");
+    EXPECT_EQ(M1->text(), "80");
+    EXPECT_EQ(Scritta(&f, "Lbl_MSd_0"), Locale("80.0"));
+    EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "OK");
+    QTest::keyClick(M1, Qt::Key_Return);
+    EXPECT_EQ(Testo(&f, "TxtM2_0"), "50");
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(FrmPresFlessTest, ACorrectionWaitsForEnterLeavingOrAStep) {
+    auto& f = Apre();
+    auto* M1 = Trova<QLineEdit>(&f, "TxtM1_0");
+    const char* message = "M1 deve essere positivo.\nIl segno viene automaticamente cambiato";
+    const std::function<void()> ends[] = {
+        [&] { QTest::keyClick(M1, Qt::Key_Return); }, [&] { QTest::keyClick(M1, Qt::Key_Tab); },
+        [&] { Trova<UpDown>(&f, "UpDown1")->stepUp(); }, [&] { Premi(&f, "OptMomento_1"); }};
+    for (const auto& end : ends) {
+        registratore.testi.clear();
+        M1->setFocus();
+        M1->selectAll();
+        QTest::keyClicks(M1, "-60");
+        EXPECT_TRUE(registratore.testi.empty());
+        EXPECT_EQ(M1->text(), "-60");
+        end();
+        EXPECT_EQ(registratore.testi, Testi{message});
+        EXPECT_EQ(M1->text(), "60");
+        EXPECT_EQ(Scritta(&f, "Lbl_MSd_0"), Locale("60.0"));
+    }
+}
+
+TEST_F(FrmPresFlessTest, ALengthBelowZeroIsMarkedAndEmptiesItsAxis) {
+    auto& f = Apre();
+    Scrive(&f, "TxtM1_0", "60");
+    Scrive(&f, "Txt_L0_0", "-5");
+    for (const char* empty :
+         {"Lbl_Lamda_0", "Lbl_NbRd_0", "Lbl_k_0", "LblTermineN", "Lbl_Risult", "Lbl_Risultato"})
+        EXPECT_EQ(Scritta(&f, empty), "") << empty;
+    EXPECT_EQ(Scritta(&f, "Lbl_NbRd_1"), Locale("876.37")) << "the other axis stands";
+    EXPECT_EQ(Trova<QLineEdit>(&f, "Txt_L0_0")->toolTip(),
+              "La lunghezza di libera inflessione non può essere negativa");
+    EXPECT_EQ(Testo(main_, "TxtNbRd_0"), "");
+    EXPECT_NE(Testo(main_, "TxtNbRd_1"), "");
+    Scrive(&f, "Txt_L0_0", "5");
+    EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "OK");
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(FrmPresFlessTest, AStrengthThatIsNoneIsPutBackOnLeaving) {
+    auto& f = Apre();
+    auto* fy = Trova<QLineEdit>(&f, "Txt_fy");
+    fy->setFocus();
+    fy->selectAll();
+    QTest::keyClicks(fy, "0");
+    EXPECT_TRUE(registratore.testi.empty());
+    EXPECT_EQ(Testo(main_, "Txt_fy"), "235") << "not handed on";
+    EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "");
+    QTest::keyClick(fy, Qt::Key_Return);
+    EXPECT_EQ(registratore.testi, Testi{"fy deve essere > 0"});
+    EXPECT_EQ(fy->text(), "235");
+    EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "OK");
 }
 
 TEST_F(FrmPresFlessTest, NegativeSpanMomentChangesItsSign) {

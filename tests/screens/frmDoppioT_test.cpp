@@ -178,6 +178,40 @@ TEST_F(FrmDoppioTTest, RefusesAStrengthThatIsNone) {
     Trova<QLineEdit>(&s, "Txt_fy")->setText("abc");
     EXPECT_EQ(registratore.testi.size(), 2U);
     EXPECT_EQ(Sezione().fy.Stretto(), 235.F);
+    EXPECT_EQ(Testo(&s, "Txt_fy"), "235") << "put back";
+}
+
+TEST_F(FrmDoppioTTest, AStrengthOnItsWayReachesNoRow) {
+    auto& s = Avvia();
+    auto* fy = Trova<QLineEdit>(&s, "Txt_fy");
+    fy->setFocus();
+    fy->selectAll();
+    QTest::keyClicks(fy, "0");
+    EXPECT_TRUE(registratore.testi.empty());
+    EXPECT_EQ(Testo(&s, "TxtNbRd_0"), "");
+    s.Data1->MoveNext();
+    EXPECT_EQ(Sezione().fy.Stretto(), 235.F);
+    QTest::keyClick(fy, Qt::Key_Return);
+    EXPECT_EQ(registratore.testi, std::vector<std::string>{"fy deve essere > 0"});
+    EXPECT_EQ(fy->text(), "235");
+    EXPECT_NE(Testo(&s, "TxtNbRd_0"), "");
+    fy->setFocus();
+    fy->selectAll();
+    QTest::keyClicks(fy, "355");
+    EXPECT_EQ(Sezione().fy.Stretto(), 355.F) << "computed at each key";
+    EXPECT_EQ(registratore.testi.size(), 1U);
+}
+
+TEST_F(FrmDoppioTTest, ALengthBelowZeroEmptiesItsAxisAlone) {
+    auto& s = Avvia();
+    for (const char* text : {"-5", "1E999"}) {
+        Trova<QLineEdit>(&s, "Txt_L0_0")->setText(text);
+        EXPECT_EQ(Testo(&s, "TxtNbRd_0"), "") << text;
+        EXPECT_NE(Testo(&s, "TxtNbRd_1"), "") << text;
+    }
+    Trova<QLineEdit>(&s, "Txt_L0_0")->setText("5");
+    EXPECT_NE(Testo(&s, "TxtNbRd_0"), "");
+    EXPECT_TRUE(registratore.testi.empty());
 }
 
 TEST_F(FrmDoppioTTest, SmallestStrengthIsJustAboveTheLimit) {

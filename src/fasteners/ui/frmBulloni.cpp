@@ -119,12 +119,11 @@ void frmBulloni::CollegaRegole() {
 }
 
 /// A measure on its way that is none yet: what hangs on it is empty until it is one, or is put back.
-bool frmBulloni::Attende(QLineEdit* casella, const QList<QWidget*>& risultati) const {
+void frmBulloni::SvuotaSeAttende(const QLineEdit* casella, const QList<QWidget*>& risultati) const {
     if (!bullone_ || Singolo(NumeroIn(casella)) > 0 || !InDigitazione(casella))
-        return false;
+        return;
     for (QWidget* result : risultati)
         SvuotaRisultato(result);
-    return true;
 }
 
 /// What nothing could be computed with goes back to what the bolt has; results are shown again.
@@ -218,8 +217,8 @@ void frmBulloni::SceglieSezione() {
 
 void frmBulloni::ScriveFub() {
     const Singolo fub = NumeroIn(ui_->Txt_fub); // too small for a single is 0 too
-    Attende(ui_->Txt_fub, {ui_->Txt_FVRd, ui_->Txt_FtRd, Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza],
-                           ui_->Lbl_Risultato_0, ui_->Lbl_Risultato_1});
+    SvuotaSeAttende(ui_->Txt_fub, {ui_->Txt_FVRd, ui_->Txt_FtRd, Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza],
+                                   ui_->Lbl_Risultato_0, ui_->Lbl_Risultato_1});
     if (Caricamento || !bullone_ || !(fub > 0))
         return;
     bullone_->fub = fub;
@@ -230,14 +229,14 @@ void frmBulloni::ScriveFub() {
 }
 
 void frmBulloni::ScriveFu() {
-    Attende(ui_->Txt_fu, {Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
+    SvuotaSeAttende(ui_->Txt_fu, {Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
     if (!Caricamento && bullone_ && Singolo(NumeroIn(ui_->Txt_fu)) > 0)
         RifollamentoAggiorna();
 }
 
 void frmBulloni::ScriveRif(int i) {
     if (i != rifSpessore)
-        Attende(Txt_Rif_[i], {Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
+        SvuotaSeAttende(Txt_Rif_[i], {Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
     if (Caricamento || !bullone_ || (i != rifSpessore && !(Singolo(NumeroIn(Txt_Rif_[i])) > 0)))
         return;
     RifollamentoAggiorna();

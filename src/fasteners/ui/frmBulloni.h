@@ -40,7 +40,7 @@ private:
     void CollegaCaselle();
     void CollegaRegole();
     void Conclusa(QLineEdit* casella);
-    [[nodiscard]] bool Attende(QLineEdit* casella, const QList<QWidget*>& risultati) const;
+    void SvuotaSeAttende(const QLineEdit* casella, const QList<QWidget*>& risultati) const;
     bool Invio(QLineEdit* casella);
 
     void Carica();
