@@ -1,6 +1,8 @@
 #include "frame/ui/MessaggiQt.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -23,7 +25,27 @@ QMessageBox::Icon IconaQt(Icona icona) {
     }
 }
 
+/// While a box has just come up, keys do nothing: they were on their way to an entry, and must not answer a
+/// message that nobody has read.
+class PausaTasti : public QObject {
+public:
+    PausaTasti() {
+        daQuando_.start();
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject* /*object*/, QEvent* event) override {
+        constexpr qint64 pausa = 400; // [ms]
+        const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
+                         event->type() == QEvent::ShortcutOverride;
+        return key && daQuando_.elapsed() < pausa;
+    }
+
+private:
+    QElapsedTimer daQuando_;
+};
+
 Risposta Mostra(const Messaggio& m) {
+    const PausaTasti pause;
     QMessageBox box(QApplication::activeWindow());
     box.setWindowTitle(QString::fromStdString(m.titolo));
     box.setTextFormat(Qt::PlainText);
