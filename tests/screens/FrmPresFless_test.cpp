@@ -213,12 +213,14 @@ TEST_F(FrmPresFlessTest, TypingALargerMomentKeepsTheOtherOne) {
 
 TEST_F(FrmPresFlessTest, ACorrectionWaitsForEnterLeavingOrAStep) {
     auto& f = Apre();
+    f.activateWindow();
     auto* M1 = Trova<QLineEdit>(&f, "TxtM1_0");
     const char* message = "M1 deve essere positivo.\nIl segno viene automaticamente cambiato";
     const std::function<void()> ends[] = {
         [&] { QTest::keyClick(M1, Qt::Key_Return); }, [&] { QTest::keyClick(M1, Qt::Key_Tab); },
         [&] { Trova<UpDown>(&f, "UpDown1")->stepUp(); }, [&] { Premi(&f, "OptMomento_1"); }};
     for (const auto& end : ends) {
+        SCOPED_TRACE(&end - ends);
         registratore.testi.clear();
         M1->setFocus();
         M1->selectAll();
