@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFontInfo>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QTextBrowser>
@@ -59,7 +58,7 @@ private:
         constexpr double scatto = 120;
         constexpr double minimo = 6; // points
         constexpr double massimo = 40;
-        const double now = QFontInfo(font()).pointSizeF();
+        const double now = font().pointSizeF();
         const double wanted = std::clamp(now + giro / scatto, minimo, massimo);
         if (const int points = static_cast<int>(wanted - now); points != 0)
             zoomIn(points);

@@ -65,9 +65,9 @@ TEST_F(GuidaTest, ZoomHasItsBounds) {
         QWheelEvent event({50, 50}, window->mapToGlobal(QPointF(50, 50)), {}, {0, 120 * n}, Qt::NoButton,
                           Qt::ControlModifier, Qt::NoScrollPhase, false);
         QApplication::sendEvent(window->viewport(), &event);
-        return QFontInfo(window->font()).pointSizeF();
+        return window->font().pointSizeF();
     };
-    const double start = QFontInfo(window->font()).pointSizeF();
+    const double start = window->font().pointSizeF();
     EXPECT_NEAR(notches(1), start + 1, 0.1);
     EXPECT_NEAR(notches(-1), start, 0.1);
     for (int i = 0; i < 300; ++i)
