@@ -34,13 +34,14 @@ TEST_F(GeneraleSchermiTest, StartShowsTheRolledScreenFirst) {
     EXPECT_FALSE(AvvioInCorso);
 }
 
-TEST_F(GeneraleSchermiTest, ThePreviewIsMadeWhenItIsAskedFor) {
+TEST_F(GeneraleSchermiTest, ThePreviewStandsReadyAndMakesItsControlsWhenItIsAskedFor) {
     auto& s = Avvia();
-    EXPECT_EQ(NavigaSchermi::Unico().Trova(QStringLiteral("FrmPltSezione")), nullptr);
-    Trova<QPushButton>(&s, "CmdPlotta")->click();
     const Schermo* preview = NavigaSchermi::Unico().Trova(QStringLiteral("FrmPltSezione"));
     ASSERT_NE(preview, nullptr);
+    EXPECT_EQ(preview->findChild<QPushButton*>(QStringLiteral("CmdPlotta")), nullptr);
+    Trova<QPushButton>(&s, "CmdPlotta")->click();
     EXPECT_TRUE(preview->isVisible());
+    EXPECT_NE(preview->findChild<QPushButton*>(QStringLiteral("CmdPlotta")), nullptr);
 }
 
 TEST_F(GeneraleSchermiTest, StartedByAClientNothingShows) {

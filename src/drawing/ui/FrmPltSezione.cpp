@@ -18,7 +18,12 @@ constexpr double passoVista = 1.25;
 
 } // namespace
 
-FrmPltSezione::FrmPltSezione() : Schermo(QStringLiteral("FrmPltSezione")), ui_(new Ui::FrmPltSezione) {
+FrmPltSezione::FrmPltSezione() : Schermo(QStringLiteral("FrmPltSezione")) {}
+
+void FrmPltSezione::Componi() {
+    if (ui_)
+        return;
+    ui_ = std::make_unique<Ui::FrmPltSezione>();
     ui_->setupUi(this);
     PreparaContenuto();
     DimensionaIniziale({});
@@ -41,6 +46,7 @@ FrmPltSezione::~FrmPltSezione() = default;
 
 void FrmPltSezione::Mostra(Schermo& da, const QString& nomeChiamante, SorgenteDisegno sorgente) {
     auto& preview = NavigaSchermi::Unico().Prendi<FrmPltSezione>();
+    preview.Componi();
     preview.nomeChiamante_ = nomeChiamante;
     preview.sorgente_ = std::move(sorgente);
     preview.ui_->LblEsito->clear();
@@ -48,7 +54,10 @@ void FrmPltSezione::Mostra(Schermo& da, const QString& nomeChiamante, SorgenteDi
     NavigaSchermi::Unico().Apri(preview, da);
 }
 
-void FrmPltSezione::AllAttivazione() { Ridisegna(); }
+void FrmPltSezione::AllAttivazione() {
+    Componi();
+    Ridisegna();
+}
 
 void FrmPltSezione::Ridisegna() {
     disegno_ = sorgente_ ? sorgente_() : Disegno{};

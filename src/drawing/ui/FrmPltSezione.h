@@ -12,7 +12,8 @@ class FrmPltSezione;
 namespace sagomi {
 
 /// The preview of a drawing, from where it goes to the printer, to a DXF file or to the CAD program. Created
-/// once; every showing hands it the name of the caller and where its drawing comes from.
+/// once, with the first screen; every showing hands it the name of the caller and where its drawing comes
+/// from.
 class FrmPltSezione : public Schermo {
     Q_OBJECT
 public:
@@ -30,6 +31,8 @@ public:
     [[nodiscard]] QString NomeChiamante() const { return nomeChiamante_; }
 
 private:
+    /// Makes the controls, at the first showing: the start of the program does not wait for them.
+    void Componi();
     void Ridisegna();
     void SceltaMenu(int indice);
     void AnteprimaDiStampa();
