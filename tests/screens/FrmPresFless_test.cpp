@@ -223,6 +223,8 @@ TEST_F(FrmPresFlessTest, ACorrectionWaitsForEnterLeavingOrAStep) {
         SCOPED_TRACE(&end - ends);
         registratore.testi.clear();
         M1->setFocus();
+        QCoreApplication::processEvents(); // the window becomes the active one
+        ASSERT_TRUE(M1->hasFocus());
         M1->selectAll();
         QTest::keyClicks(M1, "-60");
         EXPECT_TRUE(registratore.testi.empty());
