@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "frame/ui/Accessibilita.h"
 #include "frame/ui/Voce.h"
 
 namespace sagomi {
@@ -74,8 +75,11 @@ void GrigliaFattori::PosaRiga(int riga) {
         const bool pressed = names.first() == QString::fromLatin1(fattori_[i]);
         QWidget* cell = pressed ? static_cast<QWidget*>(new QPushButton)
                                 : CreaDicitura({}, Qt::AlignRight | Qt::AlignVCenter);
+        if (pressed)
+            cell->setProperty(proprietaValore, true);
         cell->setObjectName(QStringLiteral("lbl") + NomeFattore(fattori_[i]) + u'_' + QString::number(riga));
-        cell->setAccessibleName(QString::fromLatin1(fattori_[i]));
+        cell->setAccessibleName(QString::fromLatin1(fattori_[i]) + QStringLiteral(", riga ") +
+                                QString::number(riga + 1));
         if (pressed)
             cell->setToolTip(tip);
         griglia_->addWidget(cell, riga + 1, static_cast<int>(i) + 1,

@@ -11,13 +11,17 @@
 #include <QStatusBar>
 
 #include "frame/GeneraleSagomi.h"
+#include "frame/ui/Accessibilita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
-Schermo::Schermo(const QString& nome) { setObjectName(nome); }
+Schermo::Schermo(const QString& nome) {
+    setObjectName(nome);
+    InstallaAccessibilita();
+}
 
 void Schermo::PreparaContenuto() {
     for (QLabel* label : findChildren<QLabel*>())
@@ -30,6 +34,7 @@ void Schermo::PreparaContenuto() {
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(takeCentralWidget());
     setCentralWidget(scroll);
+    NominaParti(*this);
 }
 
 void Schermo::ConcludiEntrate() {

@@ -1,0 +1,140 @@
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QAccessibleInterface>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "frame/ui/EtichettaPedice.h"
+#include "frame/ui/EtichettaRisultato.h"
+#include "screens/Comandi.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class AccessibilitaTest : public AmbienteSchermi {};
+
+QString Letto(QWidget* w, QAccessible::Text what = QAccessible::Name) {
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(w);
+    return interface == nullptr ? QString() : interface->text(what);
+}
+
+bool Risultato(const QWidget* w) {
+    const auto* label = qobject_cast<const QLabel*>(w);
+    return label != nullptr &&
+           (qobject_cast<const EtichettaRisultato*>(label) != nullptr || !label->accessibleName().isEmpty());
+}
+
+bool Comando(const QWidget* w) {
+    if (qobject_cast<const QComboBox*>(w->parentWidget()) != nullptr ||
+        w->objectName().startsWith(QStringLiteral("qt_")))
+        return false; // a part of a control of the toolkit
+    return qobject_cast<const QAbstractButton*>(w) != nullptr ||
+           qobject_cast<const QLineEdit*>(w) != nullptr || qobject_cast<const QComboBox*>(w) != nullptr ||
+           qobject_cast<const QAbstractItemView*>(w) != nullptr || (w->focusPolicy() & Qt::TabFocus) != 0;
+}
+
+/// What a user of that window meets: entries, commands, results.
+QList<QWidget*> Controlli(const Schermo& screen) {
+    QList<QWidget*> controls;
+    for (QWidget* w : screen.findChildren<QWidget*>())
+        if (w->isVisibleTo(&screen) && w->window() == &screen && (Comando(w) || Risultato(w)))
+            controls << w;
+    return controls;
+}
+
+std::string Dove(const Schermo& s, const QWidget* w) {
+    return s.objectName().toStdString() + '.' + w->objectName().toStdString() + " (" +
+           w->metaObject()->className() + ")";
+}
+
+void Percorri(const Schermo& screen) {
+    QHash<QString, QWidget*> names;
+    for (QWidget* w : Controlli(screen)) {
+        const QString name = Letto(w);
+        EXPECT_FALSE(name.isEmpty()) << Dove(screen, w) << " has no name";
+        EXPECT_FALSE(names.contains(name)) << Dove(screen, w) << " and " << Dove(screen, names.value(name, w))
+                                           << " are both \"" << name.toStdString() << '"';
+        names.insert(name, w);
+        const QLabel* label = qobject_cast<QLabel*>(w);
+        const QLineEdit* box = qobject_cast<QLineEdit*>(w);
+        if (label != nullptr || box != nullptr) {
+            EXPECT_EQ(Letto(w, QAccessible::Value), label != nullptr ? label->text() : box->text())
+                << Dove(screen, w);
+        }
+    }
+}
+
+const QHash<QString, QString> apritori = {{"FrmMsverg", "FrmPresFless"},
+                                          {"FrmVerifiche", "FrmPresFless"},
+                                          {"frmMsvergH1", "FrmMsverg"},
+                                          {"frmMsvergH2", "FrmMsverg"},
+                                          {"frmTimoshenko", "FrmMsverg"}};
+
+/// @return how many screens there are
+int PercorriTutti(Schermo& main) {
+    auto& n = NavigaSchermi::Unico();
+    Percorri(main);
+    n.Apri("FrmPresFless", main);
+    n.Apri("FrmMsverg", n.Prendi("FrmPresFless"));
+    int screens = 1;
+    for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
+        if (voce.nome == main.objectName())
+            continue;
+        n.Apri(voce.nome, n.Prendi(apritori.value(voce.nome, main.objectName())));
+        Percorri(n.Prendi(voce.nome));
+        ++screens;
+    }
+    return screens;
+}
+
+TEST_F(AccessibilitaTest, EveryControlOfEveryScreenHasANameOfItsOwnAndItsValue) {
+    EXPECT_EQ(PercorriTutti(Avvia()), 15);
+}
+
+TEST_F(AccessibilitaTest, SoItIsWhereASlenderSectionBringsOtherResults) {
+    auto& main = Avvia();
+    VaiA(main, "IPE 500");
+    Scrive(&main, "Txt_fy", "355");
+    Scrive(&main, "TxtNsd", "900");
+    ASSERT_EQ(Sezione().ClasseCompressione, 4);
+    PercorriTutti(main);
+}
+
+TEST_F(AccessibilitaTest, AFactorToBeTakenHasItsNumberAndCanBePressed) {
+    auto& main = Avvia();
+    PercorriTutti(main);
+    auto& table = NavigaSchermi::Unico().Prendi("frmMsvergH1");
+    NavigaSchermi::Unico().Apri(table.objectName(), NavigaSchermi::Unico().Prendi("FrmMsverg"));
+    auto* button = Trova<QPushButton>(&table, "lblC1_1");
+    EXPECT_EQ(Letto(button), "C1, riga 2");
+    EXPECT_EQ(Letto(button, QAccessible::Value), button->text());
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(button);
+    interface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_FALSE(table.isVisible()) << "the factor has been taken";
+}
+
+TEST_F(AccessibilitaTest, AResultIsReadByCharactersAndACaptionWithItsSubscript) {
+    EtichettaRisultato result;
+    result.setAccessibleName("Mb,Rd [kNm]");
+    result.setText("  83.5");
+    auto* interface = QAccessible::queryAccessibleInterface(&result);
+    EXPECT_EQ(interface->text(QAccessible::Name), "Mb,Rd [kNm]");
+    EXPECT_EQ(interface->text(QAccessible::Value), "  83.5");
+    ASSERT_NE(interface->textInterface(), nullptr);
+    EXPECT_EQ(interface->textInterface()->text(2, 4), "83");
+    EXPECT_TRUE(interface->state().readOnly);
+    result.setText("¥");
+    EXPECT_EQ(interface->textInterface()->text(0, -1), "∞");
+
+    EtichettaPedice caption;
+    caption.setText("N         [kN]");
+    caption.ImpostaPedice("b,y,Rd");
+    EXPECT_EQ(Letto(&caption), "Nb,y,Rd [kN]");
+}
+
+} // namespace
