@@ -13,6 +13,9 @@ namespace {
 constexpr std::string_view zeroZ = "0.0"; ///< everything lies in the plane
 constexpr std::string_view strato = "0";  ///< the one layer
 
+// The group codes of the DXF reference: 0 entity, 1 text, 8 layer, 10 20 30 point (11 21 31 the second one),
+// 40 radius or height, 62 colour, 66 vertices follow.
+
 /// A group is two lines: the code in three columns, then the value.
 void Gruppo(std::string_view codice, std::string_view valore) {
     ScriveRiga(nFileDxf, codice);

@@ -8,7 +8,7 @@ namespace sagomi {
 
 namespace {
 
-// In heights of the text.
+// In heights of the text. Extension lines pass a little beyond the dimension line, ISO 129-1.
 constexpr double stacco = 0.4;     ///< between the piece and the extension line, and between line and text
 constexpr double sporgenza = 0.5;  ///< of the extension line beyond the dimension line
 constexpr double mezzaTacca = 0.4; ///< of the oblique tick
@@ -24,6 +24,7 @@ void Quote::Linea(double x1, double y1, double x2, double y2) const {
     LineaPlt(x1, y1, x2, y2);
 }
 
+// The oblique stroke at the end of a dimension line, at 45 degrees, ISO 129-1.
 void Quote::Tacca(double x, double y) const {
     const double t = mezzaTacca * a_;
     PennaPlt(pennaInchiostro);
@@ -31,6 +32,7 @@ void Quote::Tacca(double x, double y) const {
     LineaPlt(x - t, y - t, x + t, y + t);
 }
 
+// Text above its dimension line and readable from below, ISO 129-1.
 void Quote::Orizzontale(double x1, double x2, double yPezzo, double y, std::string_view testo) const {
     const double verso = Verso(yPezzo, y);
     Linea(x1, y, x2, y);
@@ -62,6 +64,7 @@ void Quote::Verticale(const Estremo& basso, const Estremo& alto, double x, std::
     TestoAccanto(basso, alto, x, testo);
 }
 
+// Where there is no room between them, the terminations point from outside, ISO 129-1.
 void Quote::SpessoreVerticale(const Estremo& basso, const Estremo& alto, double x,
                               std::string_view testo) const {
     Riferimento(basso, x);
@@ -88,6 +91,7 @@ void Quote::Richiamo(double x, double y, double xTesto, double yTesto, std::stri
              verso > 0 ? Allinea::Sinistra : Allinea::Destra);
 }
 
+// Centre line: narrow, long dash and dot, ISO 128-2 line type 04.1.
 void Quote::Asse(double x1, double y1, double x2, double y2, std::string_view nome) const {
     PennaPlt(pennaGrigia);
     LineaStilePlt(spessoreFine, TipoLinea::TrattoPunto);

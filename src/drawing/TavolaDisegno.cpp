@@ -11,11 +11,12 @@ namespace sagomi {
 
 namespace {
 
-constexpr double testoCarta = 2.5;   ///< mm, the lettering of technical drawings
+constexpr double testoCarta = 2.5;   ///< mm, the lettering of technical drawings, ISO 3098-1
 constexpr double testiPerPezzo = 40; ///< heights of the text in the longer side, for files and CAD
 constexpr std::string_view campione = "0";
 
-/// Denominators of the scales in use on paper, below 1 for enlargements.
+/// Denominators of the scales in use on paper, below 1 for enlargements: the series 1, 2, 5 of ISO 5455,
+/// and 2.5, 25 and 250 of the building trade.
 constexpr std::array<double, 16> scaleInUso{0.1, 0.2, 0.5, 1,   2,   2.5, 5,   10,
                                             20,  25,  50,  100, 200, 250, 500, 1000};
 
@@ -32,7 +33,7 @@ Area Resto(const Superficie& o, const Margini& m, double corpo) {
 /// Model units in one unit of the target.
 double Rapporto(const Area& area, double l, double h) { return std::max(l / area.l, h / area.h); }
 
-/// The next scale in use, or 0.
+/// The next scale in use, ISO 5455, or 0.
 double ScalaInUso(double rapporto) {
     constexpr double arrotondamento = 1 + 1e-9;
     const auto* trovata = std::find_if(scaleInUso.begin(), scaleInUso.end(),

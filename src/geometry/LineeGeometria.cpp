@@ -28,6 +28,7 @@ double Distanza(double x1, double y1, double x2, double y2) {
     return std::sqrt(dx * dx + dy * dy);
 }
 
+// Green's theorem, side by side.
 bool AreaConSegno(std::int16_t n, std::span<const double> x, std::span<const double> y, double& A) {
     const std::size_t quanti = Quanti(n, x, y);
     double doppia = 0;
@@ -76,6 +77,7 @@ bool PuntiCoincidentiXY(double x1, double y1, double x2, double y2, std::optiona
     return NumeroUguale(x1, x2, tolleranza) && NumeroUguale(y1, y2, tolleranza);
 }
 
+// The cross product of two points in homogeneous coordinates is their line.
 bool RettaPerDuePunti(const Coppia& x, const Coppia& y, const Coppia& w, double& a, double& b, double& c,
                       std::optional<double> zero) {
     if (PuntiCoincidenti(x, y, w, zero))
@@ -86,6 +88,7 @@ bool RettaPerDuePunti(const Coppia& x, const Coppia& y, const Coppia& w, double&
     return true;
 }
 
+// Cramer's rule.
 bool IntersezioneRette(double a1, double b1, double c1, double a2, double b2, double c2, double& x, double& y,
                        double zero) {
     const double determinante = a1 * b2 - a2 * b1;

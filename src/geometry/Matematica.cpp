@@ -25,6 +25,7 @@ double NonConvergente(double x) {
     return x;
 }
 
+/// False position with the halving of a stuck end, Dowell and Jarratt (1971).
 double Illinois(const std::function<double(double)>& f, double& x1, double f1, double& x2, double f2,
                 double tolleranza) {
     int limite = iterazioniPerDomanda;

@@ -94,6 +94,7 @@ void Poligono::Dividi(double rapporto, std::shared_ptr<Poligono>& sopra, std::sh
     DividiY(yN, sopra, sotto, lungoX);
 }
 
+// Twice the first moment of a half disc, D^3 / 12.
 void Poligono::WplasticoCerchio(double De, double Di, double& W) { W = (De * De * De - Di * Di * Di) / 6; }
 
 double Poligono::Wplastico(double* yN, bool attornoY, bool cerchio, double De, double Di) {
@@ -106,8 +107,9 @@ double Poligono::Wplastico(double* yN, bool attornoY, bool cerchio, double De, d
     return ModuloPlastico(BoundingBox(), attornoY, yN);
 }
 
-// The search of Dividi(0.5), step by step, without making polygons: the level stays the same to its last
-// figure.
+// The plastic neutral axis halves the area; the modulus is half the area times the distance of the centroids
+// of the halves. The search of Dividi(0.5), step by step, without making polygons: the level stays the same
+// to its last figure.
 double Poligono::ModuloPlastico(const std::array<double, 4>& box, bool attornoY, double* yN) {
     rapportoArea_ = 0.5;
     const std::vector<double>& u = attornoY ? y_ : x_;

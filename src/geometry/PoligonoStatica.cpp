@@ -8,8 +8,8 @@ namespace sagomi {
 
 namespace {
 
-/// Sums over the fan of triangles on vertex 1, in a frame with its origin there: an outline far from the axes
-/// loses no figures in the differences of large moments.
+/// Green's theorem over a polygon, as sums over the fan of triangles on vertex 1, in a frame with its origin
+/// there: an outline far from the axes loses no figures in the differences of large moments.
 struct Somme {
     double A = 0;
     double Su = 0, Sv = 0; ///< area times u, area times v
@@ -51,6 +51,7 @@ double Poligono::Perimetro() const {
     return somma;
 }
 
+// Green's theorem (the formula of Gauss for a polygon).
 void Poligono::AreaCalcola() {
     Area = 0;
     if (n_ < 3)
@@ -89,6 +90,7 @@ void Poligono::CaratteristicheStatiche(bool azzera, bool cerchio, double Re, dou
     ModuliElastici();
 }
 
+// Moments are carried from vertex 1 to the axes and to the centroid by the theorem of Huygens and Steiner.
 void Poligono::SommeTriangoli() {
     Somme s;
     const double x0 = x_[0];
@@ -130,6 +132,7 @@ void Poligono::BaricentroDegenere() {
     IxyG = Ixy;
 }
 
+// Mohr's circle of the second moments: R is its radius.
 void Poligono::AssiPrincipali() {
     const double a = -Angolo(2 * IxyG, IxG - IyG) / 2;
     const double d = 4 * IxyG * std::sin(2 * a) - 2 * (IxG - IyG) * std::cos(2 * a);
@@ -141,6 +144,7 @@ void Poligono::AssiPrincipali() {
     I2 = (IyG + IxG) / 2 - R;
 }
 
+// Second moment over the distance of the outermost fibre.
 void Poligono::ModuliElastici() {
     if (Area == 0) {
         for (double* v : {&Rho1, &Rho2, &WxSup, &WxInf, &WyDes, &WySin})

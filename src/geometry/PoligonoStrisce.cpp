@@ -85,6 +85,7 @@ double Poligono::RettangolinoArea(int i, double yInf, double ySup) const {
     return RettangolinoMomenti(i, yInf, ySup).Area;
 }
 
+// Theorem of Huygens and Steiner, a rectangle at a time.
 MomentiStriscia Poligono::RettangolinoMomenti(int i, double yInf, double ySup) const {
     const RigaStriscia& riga = Striscia(i);
     const Fetta fetta(riga.y, riga.h, yInf, ySup);

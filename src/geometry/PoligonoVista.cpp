@@ -49,7 +49,8 @@ void AllungaInviluppo(std::vector<Punto>& catena, std::size_t inizio, const Punt
     catena.push_back(p);
 }
 
-/// Counter-clockwise from the first point: up along the right half, down along the left one.
+/// The monotone chain of A. M. Andrew (1979). Counter-clockwise from the first point: up along the right
+/// half, down along the left one.
 std::vector<Punto> Inviluppo(const std::vector<Punto>& punti) {
     if (punti.size() < 2)
         return punti;
@@ -95,6 +96,7 @@ void Poligono::VistaDaDestra(std::vector<double>& xV, std::vector<double>& yV, s
     nV = static_cast<std::int16_t>(xV.size());
 }
 
+// Even-odd rule: a ray from a point inside crosses the outline an odd number of times.
 void Poligono::PuntoInPoligono(double x, double y, double w, double zero, std::int16_t& esito) const {
     esito = -1;
     if (!(std::abs(w) > zero))
