@@ -32,20 +32,21 @@ struct Contorno {
 };
 
 /// A vertex of the thread that holds an effective outline together.
-bool NelFilo(const Poligono& p, int i) { return std::abs(p.xi(i)) < mezzoFilo; }
+bool NelFilo(const Poligono& p, int i, double filo) { return std::abs(p.xi(i) - filo) < mezzoFilo; }
 
 /// The parts that an effective outline shows: where a strip of the web is removed, the thread is left out and
 /// two parts remain, each closed.
-std::vector<Contorno> PartiVisibili(const Poligono& p) {
+/// @param filo  abscissa of the thread [mm]
+std::vector<Contorno> PartiVisibili(const Poligono& p, double filo) {
     const int n = p.nVertici();
     std::vector<int> fili; // sides along the thread
     for (int i = 1; i <= n; ++i)
-        if (NelFilo(p, i) && NelFilo(p, i % n + 1) && p.yi(i) != p.yi(i % n + 1))
+        if (NelFilo(p, i, filo) && NelFilo(p, i % n + 1, filo) && p.yi(i) != p.yi(i % n + 1))
             fili.push_back(i);
     const bool diviso = fili.size() == 2;
     std::vector<Contorno> parti(diviso ? 2 : 1);
     for (int i = 1; i <= n; ++i) {
-        if (diviso && NelFilo(p, i))
+        if (diviso && NelFilo(p, i, filo))
             continue;
         Contorno& parte = parti[diviso && i > fili[0] && i <= fili[1] ? 1 : 0];
         parte.x.push_back(p.xi(i));
@@ -99,7 +100,7 @@ private:
     }
 
     void Sagoma() const {
-        const std::vector<Contorno> parti = PartiVisibili(*Disegnata().Poligono);
+        const std::vector<Contorno> parti = PartiVisibili(*Disegnata().Poligono, pezzo_.efficace.filo);
         const double passo =
             std::max(riquadro_[1] - riquadro_[0], riquadro_[3] - riquadro_[2]) / lineePerDimensione;
         LineaStilePlt(spessoreFine);

@@ -27,6 +27,7 @@ inline constexpr double altezzaSpessore = 0.3; ///< of the thickness of a web, i
 struct ContornoEfficace {
     const SezioneGenerica* sezione = nullptr;
     std::string_view nome;
+    double filo = 0; ///< abscissa of the thread that holds the strips of its web together [mm]
 };
 
 /// What a drawing shows. The outlines live at least as long as the drawing takes.
@@ -54,17 +55,21 @@ void DisegnaQuotato(const PezzoQuotato& pezzo, Superficie* oggetto, std::string_
 /// earlier run is not: the section may have left class 4 since.
 /// @param s         a section with effective outlines in compression and bending
 /// @param maschera  name of the screen that asks
-template <typename S> ContornoEfficace EfficaceChiesto(const S& s, std::string_view maschera) {
+/// @param filo      abscissa of the middle of its web [mm]
+template <typename S>
+ContornoEfficace EfficaceChiesto(const S& s, std::string_view maschera, double filo = 0) {
     if (maschera != "FrmClasseDoppioTU")
         return {};
     switch (s.SezioneEfficaceDaPlottare) {
     case 0:
-        return s.ClasseCompressione == 4 ? ContornoEfficace{s.SezioneComp4.get(), "Aeff Comp."}
+        return s.ClasseCompressione == 4 ? ContornoEfficace{s.SezioneComp4.get(), "Aeff Comp.", filo}
                                          : ContornoEfficace{};
     case 1:
-        return s.ClasseFlessioneY == 4 ? ContornoEfficace{s.SezioneWy4.get(), "Weff,y"} : ContornoEfficace{};
+        return s.ClasseFlessioneY == 4 ? ContornoEfficace{s.SezioneWy4.get(), "Weff,y", filo}
+                                       : ContornoEfficace{};
     case 2:
-        return s.ClasseFlessioneZ == 4 ? ContornoEfficace{s.SezioneWz4.get(), "Weff,z"} : ContornoEfficace{};
+        return s.ClasseFlessioneZ == 4 ? ContornoEfficace{s.SezioneWz4.get(), "Weff,z", filo}
+                                       : ContornoEfficace{};
     default:
         return {};
     }

@@ -65,7 +65,8 @@ std::string SezioneDoppioT::CurvaInstabilita(std::string_view asse) const {
     return asse == "yy" ? curve.yy : curve.zz;
 }
 
-// ENV 1993-1-1 5.4.4 (1).
+// ENV 1993-1-1 5.4.4 (1). The initialiser asks for it before it classifies: the ratio of areas is that of the
+// class which the section still has, not the one that betaA finds and tells later in the run.
 double SezioneDoppioT::NplRdFunz() const { return Area * fy * betaA() / GammaM0; }
 
 // ENV 1993-1-1 5.5.1.4, then 5.5.1.2.
