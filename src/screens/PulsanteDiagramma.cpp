@@ -32,19 +32,27 @@ void PulsanteDiagramma::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void PulsanteDiagramma::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
-        QAbstractButton::keyPressEvent(event);
+    EventoProtetto([this, event] {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            click();
+        else
+            QAbstractButton::keyPressEvent(event);
+    });
 }
 
 bool PulsanteDiagramma::event(QEvent* event) {
-    if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverLeave)
-        update();
-    return QAbstractButton::event(event);
+    return EventoProtetto([this, event] {
+        if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverLeave)
+            update();
+        return QAbstractButton::event(event);
+    });
 }
 
 void PulsanteDiagramma::paintEvent(QPaintEvent* /*event*/) {
+    DipintoProtetto(this, [this] { Dipinge(); });
+}
+
+void PulsanteDiagramma::Dipinge() {
     QPainter painter(this);
     const QRectF frame = QRectF(rect()).adjusted(1, 1, -1, -1);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -27,6 +27,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void Dipinge();
+
     std::int16_t pict_ = 1;
 };
 

@@ -245,46 +245,55 @@ void SchermoSezione::ScalaControlli(double larghezza, double altezza) {
 }
 
 void SchermoSezione::closeEvent(QCloseEvent* event) {
-    event->accept();
-    EventoProtetto([] { ChiudiProgramma(); });
+    EventoProtetto([event] {
+        event->accept();
+        ChiudiProgramma();
+    });
 }
 
 // The table, the steel list and the sort options keep their arrow keys to themselves: these never get here.
 bool SchermoSezione::FrecciaDiRiga(int key) {
     if (key != Qt::Key_Up && key != Qt::Key_Down)
         return false;
-    EventoProtetto([this, key] { MuoviRecord(Data1->Recordset(), key == Qt::Key_Down); });
+    MuoviRecord(Data1->Recordset(), key == Qt::Key_Down);
     return true;
 }
 
 void SchermoSezione::keyPressEvent(QKeyEvent* event) {
-    if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier)
-        if (FrecciaDiRiga(event->key()))
-            return;
-    Schermo::keyPressEvent(event);
+    EventoProtetto([this, event] {
+        const bool plain = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier;
+        if (!plain || !FrecciaDiRiga(event->key()))
+            Schermo::keyPressEvent(event);
+    });
 }
 
 bool SchermoSezione::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && FrecciaDiRiga(static_cast<QKeyEvent*>(event)->key()))
-        return true;
-    return Schermo::eventFilter(object, event);
+    return EventoProtetto([this, object, event] {
+        if (event->type() == QEvent::KeyPress && FrecciaDiRiga(static_cast<QKeyEvent*>(event)->key()))
+            return true;
+        return Schermo::eventFilter(object, event);
+    });
 }
 
 void SchermoSezione::changeEvent(QEvent* event) {
-    Schermo::changeEvent(event);
-    if (event->type() != QEvent::WindowStateChange)
-        return;
-    attendeMisura_ = isMaximized() && !isMinimized(); // the new size arrives after the new state
-    if (!attendeMisura_ || ridimensiona.minimizzata)
-        EventoProtetto([this] { RidimensionaForm(*this); });
+    EventoProtetto([this, event] {
+        Schermo::changeEvent(event);
+        if (event->type() != QEvent::WindowStateChange)
+            return;
+        attendeMisura_ = isMaximized() && !isMinimized(); // the new size arrives after the new state
+        if (!attendeMisura_ || ridimensiona.minimizzata)
+            RidimensionaForm(*this);
+    });
 }
 
 void SchermoSezione::resizeEvent(QResizeEvent* event) {
-    Schermo::resizeEvent(event);
-    if (!attendeMisura_ || !isMaximized())
-        return;
-    attendeMisura_ = false;
-    EventoProtetto([this] { RidimensionaForm(*this); });
+    EventoProtetto([this, event] {
+        Schermo::resizeEvent(event);
+        if (!attendeMisura_ || !isMaximized())
+            return;
+        attendeMisura_ = false;
+        RidimensionaForm(*this);
+    });
 }
 
 } // namespace sagomi

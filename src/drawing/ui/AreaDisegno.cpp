@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "drawing/ui/DipingeProtetto.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -58,46 +59,62 @@ void AreaDisegno::Sposta(const QPointF& passo) {
 void AreaDisegno::paintEvent(QPaintEvent* /*event*/) {
     if (!pittore_)
         return;
-    QPainter painter(this);
-    SuperficieSchermo surface(painter, size(), font(), palette().color(QPalette::Text), vista_);
-    if (!DipingeProtetto(this, [&] { pittore_(surface); }))
-        pittore_ = {};
+    DipintoProtetto(this, [this] {
+        QPainter painter(this);
+        SuperficieSchermo surface(painter, size(), font(), palette().color(QPalette::Text), vista_);
+        if (!DipingeProtetto(this, [&] { pittore_(surface); }))
+            pittore_ = {};
+    });
 }
 
 void AreaDisegno::wheelEvent(QWheelEvent* event) {
     constexpr double scatto = 120; // eighths of a degree in a notch
-    const double notches = event->angleDelta().y() / scatto;
-    if (notches != 0)
-        Ingrandisci(std::pow(passoZoom, notches), event->position());
-    event->accept();
+    EventoProtetto([this, event] {
+        const double notches = event->angleDelta().y() / scatto;
+        if (notches != 0)
+            Ingrandisci(std::pow(passoZoom, notches), event->position());
+        event->accept();
+    });
 }
 
 void AreaDisegno::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton && event->button() != Qt::MiddleButton)
-        return;
-    trascina_ = true;
-    presa_ = event->position();
-    setCursor(Qt::ClosedHandCursor);
+    EventoProtetto([this, event] {
+        if (event->button() != Qt::LeftButton && event->button() != Qt::MiddleButton)
+            return;
+        trascina_ = true;
+        presa_ = event->position();
+        setCursor(Qt::ClosedHandCursor);
+    });
 }
 
 void AreaDisegno::mouseMoveEvent(QMouseEvent* event) {
-    if (!trascina_)
-        return;
-    Sposta(event->position() - presa_);
-    presa_ = event->position();
+    EventoProtetto([this, event] {
+        if (!trascina_)
+            return;
+        Sposta(event->position() - presa_);
+        presa_ = event->position();
+    });
 }
 
 void AreaDisegno::mouseReleaseEvent(QMouseEvent* /*event*/) {
-    trascina_ = false;
-    setCursor(Qt::OpenHandCursor);
+    EventoProtetto([this] {
+        trascina_ = false;
+        setCursor(Qt::OpenHandCursor);
+    });
 }
 
 void AreaDisegno::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
-        Adatta();
+    EventoProtetto([this, event] {
+        if (event->button() == Qt::LeftButton)
+            Adatta();
+    });
 }
 
 void AreaDisegno::keyPressEvent(QKeyEvent* event) {
+    EventoProtetto([this, event] { Tasto(event); });
+}
+
+void AreaDisegno::Tasto(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Plus:
         Ingrandisci(passoZoom);

@@ -45,6 +45,7 @@ protected:
 
 private:
     void Sposta(const QPointF& passo);
+    void Tasto(QKeyEvent* event);
 
     Pittore pittore_;
     VistaSchermo vista_;

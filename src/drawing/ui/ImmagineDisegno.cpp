@@ -2,6 +2,8 @@
 
 #include <QContextMenuEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 
 #include "drawing/Grafica.h"
 #include "drawing/ui/DipingeProtetto.h"
@@ -18,6 +20,7 @@ ImmagineDisegno::ImmagineDisegno(QWidget* parent) : QWidget(parent) {
 void ImmagineDisegno::Mostra(Disegno disegno) {
     const QSize before = sizeHint();
     disegno_ = std::move(disegno);
+    setFocusPolicy(disegno_.PlottaInOggetto ? Qt::TabFocus : Qt::NoFocus);
     if (sizeHint() != before)
         updateGeometry();
     update();
@@ -32,9 +35,16 @@ QSize ImmagineDisegno::minimumSizeHint() const {
 void ImmagineDisegno::paintEvent(QPaintEvent* /*event*/) {
     if (!disegno_.PlottaInOggetto)
         return;
-    QPainter painter(this);
-    if (!DipingeDisegno(painter, *this, disegno_))
-        disegno_.PlottaInOggetto = {};
+    DipintoProtetto(this, [this] {
+        QPainter painter(this);
+        if (!DipingeDisegno(painter, *this, disegno_))
+            disegno_.PlottaInOggetto = {};
+        if (hasFocus()) {
+            QStyleOptionFocusRect option;
+            option.initFrom(this);
+            style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+        }
+    });
 }
 
 void ImmagineDisegno::contextMenuEvent(QContextMenuEvent* event) {

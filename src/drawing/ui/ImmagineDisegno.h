@@ -9,7 +9,8 @@ class QPainter;
 namespace sagomi {
 
 /// A small picture that stands beside the figures of a screen: shows a drawing and offers it to the printer,
-/// files, the clipboard, the CAD program and the preview by its context menu.
+/// files, the clipboard, the CAD program and the preview by its context menu, which the menu key opens where
+/// the picture has the focus.
 class ImmagineDisegno : public QWidget {
     Q_OBJECT
 public:

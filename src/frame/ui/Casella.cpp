@@ -59,8 +59,10 @@ void Casella::MostraTesta() {
 }
 
 void Casella::resizeEvent(QResizeEvent* event) {
-    QLineEdit::resizeEvent(event);
-    MostraTesta();
+    EventoProtetto([this, event] {
+        QLineEdit::resizeEvent(event);
+        MostraTesta();
+    });
 }
 
 QSize Casella::sizeHint() const {

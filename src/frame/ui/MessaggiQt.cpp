@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "frame/Messaggi.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -34,13 +35,17 @@ public:
         qApp->installEventFilter(this);
     }
     bool eventFilter(QObject* /*object*/, QEvent* event) override {
-        constexpr qint64 pausa = 400; // [ms]
-        const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
-                         event->type() == QEvent::ShortcutOverride;
-        return key && daQuando_.elapsed() < pausa;
+        return EventoProtetto([this, event] { return Trattiene(*event); });
     }
 
 private:
+    [[nodiscard]] bool Trattiene(const QEvent& event) const {
+        constexpr qint64 pausa = 400; // [ms]
+        const bool key = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
+                         event.type() == QEvent::ShortcutOverride;
+        return key && daQuando_.elapsed() < pausa;
+    }
+
     QElapsedTimer daQuando_;
 };
 

@@ -1,6 +1,9 @@
 #include "drawing/ui/ImmagineDisegno.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QTimer>
 
 #include <stdexcept>
 
@@ -78,6 +81,24 @@ TEST_F(ImmagineDisegnoTest, ADrawingThatFailsIsToldOnceAndTheNextOneShows) {
     EXPECT_EQ(registratore.testi, std::vector<std::string>{"Errore n° 0 - guasto"});
     immagine.Mostra(Riga());
     EXPECT_FALSE(Inchiostro(immagine.grab().toImage()).isEmpty());
+}
+
+TEST_F(ImmagineDisegnoTest, TheKeyboardReachesAPictureAndItsMenu) {
+    EXPECT_EQ(immagine.focusPolicy(), Qt::NoFocus);
+    immagine.Mostra(Riga());
+    EXPECT_EQ(immagine.focusPolicy(), Qt::TabFocus);
+    int entries = 0;
+    QTimer::singleShot(0, &immagine, [&entries] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        entries = static_cast<int>(menu->actions().size());
+        menu->close();
+    });
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {10, 10}, immagine.mapToGlobal(QPoint(10, 10)));
+    QApplication::sendEvent(&immagine, &key);
+    EXPECT_EQ(entries, 5);
+    immagine.Mostra({});
+    EXPECT_EQ(immagine.focusPolicy(), Qt::NoFocus);
 }
 
 } // namespace
