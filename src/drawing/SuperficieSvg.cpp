@@ -41,7 +41,7 @@ std::string Colore(std::int16_t penna) {
     return "#" + Esadecimale(c.rosso) + Esadecimale(c.verde) + Esadecimale(c.blu);
 }
 
-/// A text as it may stand in a file of tags. Control characters may not.
+/// A text as it may stand in a file of tags, XML 1.0 2.4. Control characters may not, 2.2.
 std::string Protetto(std::string_view testo) {
     std::string protetto;
     for (const char c : testo)
@@ -61,7 +61,7 @@ std::string Protetto(std::string_view testo) {
     return protetto;
 }
 
-/// Dashes and gaps, in widths of the line.
+/// Dashes and gaps, in widths of the line: stroke-dasharray, SVG 1.1 11.4.
 std::string Tratti(TipoLinea tipo, double spessore) {
     std::string tratti;
     for (const double t : TrattiDi(tipo))
@@ -69,6 +69,7 @@ std::string Tratti(TipoLinea tipo, double spessore) {
     return tratti;
 }
 
+/// Value of stroke-linecap, SVG 1.1 11.4.
 std::string_view Nome(Estremi estremi) {
     constexpr std::array<std::string_view, 3> nomi{"round", "square", "butt"};
     return nomi[static_cast<std::size_t>(estremi)];
