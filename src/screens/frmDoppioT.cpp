@@ -12,6 +12,7 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/Twips.h"
+#include "sections/AreaEfficace.h"
 #include "sections/DisegnoSagoma.h"
 #include "sections/SezioneCorrente.h"
 #include "ui_frmDoppioT.h"
@@ -101,7 +102,7 @@ void frmDoppioT::Risultati() {
         return;
     }
     Sezione()->Saldata = false;
-    Sezione()->InizializzaSezione(this);
+    InizializzaConAreaEfficace(*Sezione(), this);
     MostraClassi();
     MostraResistenze();
     ApplicaRegole();

@@ -1,0 +1,97 @@
+#include "sections/Verdetto.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "frame/Numeri.h"
+#include "frame/Unita.h"
+#include "sections/SezioneDoppioT.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr auto figura = "0.0##";
+
+/// The magnitudes of the terms.
+struct Grandezze {
+    double N, My, Mz;
+
+    [[nodiscard]] double Somma() const { return N + My + Mz; }
+};
+
+double Grandezza(const TermineMomento& t) {
+    TermineMomento positivo = t;
+    positivo.MSd = std::abs(t.k * t.M());
+    positivo.NeN = 0;
+    positivo.k = 1;
+    return positivo.Valore();
+}
+
+Grandezze GrandezzeDi(const TerminiInterazione& t, const ResistenzeAssiali& r) {
+    const double N = t.assialeNeiMomenti ? 0 : t.NSd < 0 ? -t.NSd / r.trazione : t.N();
+    return {N, Grandezza(t.y), Grandezza(t.z)};
+}
+
+TermineVerifica Maggiore(const Grandezze& g) {
+    const double massimo = std::max({g.N, g.My, g.Mz});
+    if (!(massimo > 0))
+        return TermineVerifica::Nessuno;
+    return massimo == g.N ? TermineVerifica::N : massimo == g.My ? TermineVerifica::My : TermineVerifica::Mz;
+}
+
+std::string Forza(double N) { return Formato(figura, N_a_kN(N)) + " kN"; }
+
+std::string MotivoAssiale(double N, double resistenza, const std::string& simbolo) {
+    return "NSd = " + Forza(N) + " supera da sola " + simbolo + " = " + Forza(resistenza);
+}
+
+std::string MotivoGrandezze(double somma) {
+    return "I termini contano in valore assoluto: la loro somma è " + Formato(figura, somma);
+}
+
+Verdetto Oltre(double N, double resistenza, const std::string& simbolo) {
+    Verdetto v;
+    v.utilizzo = std::abs(N) / resistenza;
+    v.governa = TermineVerifica::N;
+    v.assialeOltre = true;
+    v.motivo = MotivoAssiale(N, resistenza, simbolo);
+    return v;
+}
+
+/// Buckling resistances are none where the data of the row did not compute.
+ResistenzeAssiali Instabilita(const SezioneDoppioT& s) {
+    const double Nb =
+        s.ErroreDatiDatabase ? std::numeric_limits<double>::quiet_NaN() : std::min(s.NbyRd, s.NbzRd);
+    return {Nb, s.NbyRd < s.NbzRd ? "Nb,y,Rd" : "Nb,z,Rd", s.NplRd};
+}
+
+} // namespace
+
+Verdetto Giudica(const TerminiInterazione& termini, const ResistenzeAssiali& r) {
+    const double N = termini.NSd;
+    if (N > r.compressione)
+        return Oltre(N, r.compressione, r.simboloCompressione);
+    if (-N > r.trazione)
+        return Oltre(N, r.trazione, "Npl,Rd");
+    const Grandezze g = GrandezzeDi(termini, r);
+    Verdetto v;
+    v.somma = termini.Somma();
+    v.governa = Maggiore(g);
+    v.utilizzo = g.Somma();
+    if (std::isnan(v.somma) || (v.utilizzo > 1 && !(v.somma > 1)))
+        v.motivo = std::isfinite(v.utilizzo) ? MotivoGrandezze(v.utilizzo) : "";
+    return v;
+}
+
+Verdetto GiudicaResistenza(const SezioneDoppioT& s) {
+    return Giudica(s.TerminiMNResistenza(), {s.NplRd, "Npl,Rd", s.NplRd});
+}
+
+Verdetto GiudicaInstabilita(const SezioneDoppioT& s) { return Giudica(s.TerminiMNInstab(), Instabilita(s)); }
+
+Verdetto GiudicaFlessoTorsionale(const SezioneDoppioT& s) {
+    return Giudica(s.TerminiFlessoTorsionale(), Instabilita(s));
+}
+
+} // namespace sagomi

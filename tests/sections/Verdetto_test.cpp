@@ -1,0 +1,110 @@
+#include "sections/Verdetto.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "frame/Numeri.h"
+#include "sections/SezioneDoppioT.h"
+
+using namespace sagomi;
+
+namespace {
+
+const double nessuno = std::numeric_limits<double>::quiet_NaN();
+const ResistenzeAssiali resistenze{600e3, "Nb,z,Rd", 1000e3};
+
+/// Axial force in N, moments as shares of their resistances.
+TerminiInterazione Termini(double N, double y, double z) {
+    return {N, 600e3, {.MSd = y, .MRd = 1}, {.MSd = z, .MRd = 1}};
+}
+
+TEST(Verdetto, TermsThatAddUpNeedNoReason) {
+    Verdetto v = Giudica(Termini(300e3, 0.25, 0.125), resistenze);
+    EXPECT_EQ(v.somma, 0.875);
+    EXPECT_EQ(v.utilizzo, 0.875);
+    EXPECT_EQ(v.governa, TermineVerifica::N);
+    v = Giudica(Termini(300e3, 0.75, 0.125), resistenze);
+    EXPECT_EQ(v.utilizzo, 1.375);
+    EXPECT_EQ(v.governa, TermineVerifica::My);
+    EXPECT_EQ(v.motivo, "");
+}
+
+TEST(Verdetto, NothingActingPassesWithoutAGoverningTerm) {
+    const Verdetto v = Giudica(Termini(0, 0, 0), resistenze);
+    EXPECT_EQ(v.utilizzo, 0);
+    EXPECT_EQ(v.governa, TermineVerifica::Nessuno);
+}
+
+TEST(Verdetto, MomentsThatCancelInTheSumFailByTheirMagnitudes) {
+    const Verdetto v = Giudica(Termini(0, 0.75, -0.5), resistenze);
+    EXPECT_EQ(v.somma, 0.25);
+    EXPECT_EQ(v.utilizzo, 1.25);
+    EXPECT_EQ(v.motivo, "I termini contano in valore assoluto: la loro somma è " + Formato("0.0##", 1.25));
+}
+
+// -500/1000 in tension: 0.5 + 0.75, where the sum shown has -500/600 + 0.75.
+TEST(Verdetto, TensionCountsOverThePlasticResistance) {
+    const Verdetto v = Giudica(Termini(-500e3, 0.75, 0), resistenze);
+    EXPECT_NEAR(v.somma, -0.0833333, 1e-6);
+    EXPECT_EQ(v.utilizzo, 1.25);
+    EXPECT_FALSE(v.assialeOltre);
+    EXPECT_NE(v.motivo, "");
+}
+
+TEST(Verdetto, AxialForceBeyondItsResistanceLeavesNoSum) {
+    Verdetto v = Giudica(Termini(750e3, -1, 0), resistenze);
+    EXPECT_TRUE(std::isnan(v.somma));
+    EXPECT_EQ(v.utilizzo, 1.25);
+    EXPECT_TRUE(v.assialeOltre);
+    EXPECT_EQ(v.motivo, "NSd = " + Formato("0.0##", 750) +
+                            " kN supera da sola Nb,z,Rd = " + Formato("0.0##", 600) + " kN");
+    EXPECT_FALSE(Giudica(Termini(600e3, 0, 0), resistenze).assialeOltre) << "the resistance itself passes";
+    EXPECT_FALSE(Giudica(Termini(-1000e3, 0, 0), resistenze).assialeOltre);
+    v = Giudica(Termini(-1250e3, 0, 0), resistenze);
+    EXPECT_TRUE(v.assialeOltre);
+    EXPECT_EQ(v.utilizzo, 1.25);
+    EXPECT_NE(v.motivo.find("Npl,Rd"), std::string::npos);
+}
+
+TEST(Verdetto, PlasticTermsLeaveTheForceToTheMoments) {
+    TerminiInterazione t = Termini(500e3, 0.5, -0.25);
+    t.assialeNeiMomenti = true;
+    t.y.esponente = 2;
+    t.z.esponente = 1.5; // a negative moment to a broken power is no number
+    const Verdetto v = Giudica(t, resistenze);
+    EXPECT_TRUE(std::isnan(v.somma));
+    EXPECT_EQ(v.utilizzo, 0.25 + 0.125);
+    EXPECT_NE(v.motivo, "");
+    EXPECT_EQ(v.governa, TermineVerifica::My);
+}
+
+TEST(Verdetto, TermWithoutAResistanceHasNoVerdict) {
+    TerminiInterazione t = Termini(0, 0, 0);
+    t.z.MRd = 0; // 0/0
+    Verdetto v = Giudica(t, resistenze);
+    EXPECT_TRUE(std::isnan(v.utilizzo));
+    EXPECT_EQ(v.motivo, "");
+    t.z.MSd = 1;
+    v = Giudica(t, resistenze);
+    EXPECT_GT(v.utilizzo, 1) << "without bound";
+    EXPECT_TRUE(std::isnan(Giudica(Termini(nessuno, 0, 0), resistenze).utilizzo));
+}
+
+TEST(Verdetto, EachCheckHasItsOwnAxialResistance) {
+    SezioneDoppioT s;
+    s.NplRd = 1000e3;
+    s.NbyRd = 800e3;
+    s.NbzRd = 600e3;
+    s.NSd = 900e3;
+    EXPECT_FALSE(GiudicaResistenza(s).assialeOltre);
+    EXPECT_NE(GiudicaInstabilita(s).motivo.find("Nb,z,Rd"), std::string::npos);
+    EXPECT_TRUE(GiudicaFlessoTorsionale(s).assialeOltre);
+    s.NSd = -900e3;
+    EXPECT_FALSE(GiudicaFlessoTorsionale(s).assialeOltre);
+    s.NSd = -1100e3;
+    EXPECT_TRUE(GiudicaResistenza(s).assialeOltre);
+    EXPECT_TRUE(GiudicaInstabilita(s).assialeOltre);
+}
+
+} // namespace
