@@ -16,6 +16,7 @@
 #include "screens/SchermoSezione.h"
 #include "screens/TavolaFattori.h"
 #include "sections/Eurocod3.h"
+#include "sections/Verdetto.h"
 #include "ui_FrmMsverg.h"
 
 namespace sagomi {
@@ -23,7 +24,6 @@ namespace sagomi {
 namespace {
 
 constexpr auto figura = "0.0##";
-constexpr double nessunNumero = std::numeric_limits<double>::quiet_NaN();
 constexpr const char* motivoLunghezza = "La lunghezza fra i vincoli non può essere negativa";
 constexpr int cifreProdotto = 14; ///< width of a factor times a moment
 
@@ -123,10 +123,11 @@ FrmMsverg::FrmMsverg() : SchermoDettaglio(QStringLiteral("FrmMsverg")), ui_(new 
 FrmMsverg::~FrmMsverg() = default;
 
 void FrmMsverg::CollegaEventi() {
+    risultati_ = Controlli({"Lbl_Mcr", "Lbl_LamdaLT", "Lbl_chi", "Lbl_MbRd", "LblMbRd", "Lbl_Risult",
+                            "Lbl_Risultato", "LblUtilizzo", "LblMotivo"});
     regole_.Aggiungi({.caselle = {ui_->Txt_L},
                       .motivo = [this] { return NumeroIn(ui_->Txt_L) < 0 ? tr(motivoLunghezza) : QString(); },
-                      .risultati = Controlli({"Lbl_Mcr", "Lbl_LamdaLT", "Lbl_chi", "Lbl_MbRd", "LblMbRd",
-                                              "Lbl_Risult", "Lbl_Risultato"}),
+                      .risultati = risultati_,
                       .manca = [this] { return ui_->Txt_L->text().trimmed().isEmpty(); }});
     CalcolaA({ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd, ui_->Txt_L,
               ui_->Txt_k, ui_->Txt_Kw, ui_->Txt_Zg, ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3});
@@ -186,6 +187,9 @@ void FrmMsverg::Calcola() {
     section->ClassePressoFlessioneCalcola();
     section->McrFunz();
     section->MbRdSub();
+    for (QWidget* result : risultati_) // nothing old beside a message
+        SvuotaRisultato(result);
+    (void)section->InterazioneFlessoTorsionale(); // tells an MbRd of 0
     MostraResistenza();
     MostraInterazione();
 }
@@ -206,6 +210,7 @@ void FrmMsverg::ScriveDati() {
 
 void FrmMsverg::MostraResistenza() {
     const SezioneDoppioT& s = *Sezione();
+    ui_->LblNotaMcr->setVisible(McrSiDiscosta(s));
     Mostra(ui_->Lbl_McRd, figura, Nmm_a_kNm(s.McyRd));
     if (s.LLT > 0)
         Mostra(ui_->Lbl_Mcr, figura, Nmm_a_kNm(s.Mcr));
@@ -231,10 +236,17 @@ void FrmMsverg::MostraInterazione() {
     Mostra(f.Sopra(2), Prodotto(t.z.k, t.z.M()));
     Mostra(f.Altro(2), Prodotto(t.z.k, t.z.MSd, t.z.NeN));
     Mostra(f.Sotto(2), figura, Nmm_a_kNm(t.z.MRd));
-    ui_->formula->MostraSomma(nessunNumero); // no old sum beside a message
-    const double somma = Valido(s, s.InterazioneFlessoTorsionale());
-    // A factor on its way through 0 is not the user's word yet.
-    ui_->formula->MostraSomma(s.MbRd == 0 && entrate_->InDigitazione() ? nessunNumero : somma);
+    const Verdetto v = Giudizio(s);
+    ui_->formula->MostraSomma(v.somma, v.utilizzo);
+    ui_->verdetto->Mostra(v);
+}
+
+// A resistance that is none has no verdict, nor has a factor on its way through 0, which is not the user's
+// word yet; an axial force beyond its own resistance has it all the same.
+Verdetto FrmMsverg::Giudizio(const SezioneDoppioT& s) const {
+    Verdetto v = GiudicaFlessoTorsionale(s);
+    const bool nessuna = (s.LLT > 0 && !std::isfinite(s.Mcr)) || (s.MbRd == 0 && entrate_->InDigitazione());
+    return nessuna && !v.assialeOltre ? Verdetto() : v;
 }
 
 void FrmMsverg::PrendeFattori(double k, double C1, double C2, double C3) {

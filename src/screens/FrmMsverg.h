@@ -11,6 +11,8 @@ class FrmMsverg;
 
 namespace sagomi {
 
+struct Verdetto;
+
 /// Lateral-torsional buckling of a member, ENV 1993-1-1 5.5.2 and annex F: critical moment, reduction factor,
 /// resistance, and the interaction with axial force and bending.
 class FrmMsverg : public SchermoDettaglio {
@@ -36,8 +38,10 @@ private:
     void ScriveDati();
     void MostraResistenza();
     void MostraInterazione();
+    [[nodiscard]] Verdetto Giudizio(const SezioneDoppioT& s) const;
 
     std::unique_ptr<Ui::FrmMsverg> ui_;
+    QList<QWidget*> risultati_;  ///< what hangs on the length
     RiferimentoSezione sezione_; ///< section that was computed last
 };
 

@@ -22,6 +22,7 @@
 #include "screens/SchermoSezione.h"
 #include "sections/DiagrammaMomenti.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/Verdetto.h"
 #include "ui_FrmPresFless.h"
 
 namespace sagomi {
@@ -155,7 +156,7 @@ void FrmPresFless::CollegaEventi() {
 
 void FrmPresFless::CollegaRegole(int asse) {
     const bool y = asse == 0;
-    const auto sums = Controlli({"Lbl_Risult", "Lbl_Risult4", "Lbl_Risultato"});
+    const auto sums = Controlli({"Lbl_Risult", "Lbl_Risult4", "Lbl_Risultato", "LblUtilizzo", "LblMotivo"});
     const auto term = y ? Controlli({"Lbl_Mu_0", "Lbl_k_0", "LblTermineMy", "LblTermineMy4"})
                         : Controlli({"Lbl_Mu_1", "Lbl_k_1", "LblTermineMz", "LblTermineMz4"});
     const auto moments =
@@ -342,13 +343,14 @@ void FrmPresFless::MostraInterazione() {
     ui_->termini4->setVisible(classe4);
 
     const TerminiInterazione t = s.TerminiMNInstab();
-    const double somma = t.Somma();
+    const Verdetto v = GiudicaInstabilita(s);
     LineaFormula* line = classe4 ? ui_->termini4 : ui_->termini;
     Mostra(line->Sopra(0), figura, t.N());
     Mostra(line->Sopra(1), figura, t.y.Valore());
     Mostra(line->Sopra(2), figura, t.z.Valore());
-    line->MostraSomma(somma);
-    MostraEsito(ui_->Lbl_Risultato, somma);
+    line->MostraSomma(v.somma);
+    MostraEsito(ui_->Lbl_Risultato, v.utilizzo);
+    ui_->verdetto->Mostra(v);
 }
 
 } // namespace sagomi

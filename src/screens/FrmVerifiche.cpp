@@ -7,6 +7,7 @@
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/Verdetto.h"
 #include "ui_FrmVerifiche.h"
 
 namespace sagomi {
@@ -141,13 +142,17 @@ void FrmVerifiche::Calcola() {
     s->Mzsd = kNm_a_Nmm(NumeroIn(ui_->fraAzioni->TxtMzsd));
     s->ClassePressoFlessioneCalcola();
     ScegliQuadro(s->ClassePressoFlessione);
-    const TerminiInterazione termini = s->TerminiMNResistenza();
+    const Verdetto verdetto = GiudicaResistenza(*s);
+    TerminiInterazione termini = s->TerminiMNResistenza();
+    if (termini.assialeNeiMomenti && verdetto.assialeOltre)
+        termini.y.MRd = termini.z.MRd = 0; // such a force leaves nothing to the moments
     if (s->ClassePressoFlessione < 3)
-        MostraPlastica(termini);
+        MostraPlastica(termini, verdetto);
     else if (s->ClassePressoFlessione == 3)
-        MostraElastica(termini);
+        MostraElastica(termini, verdetto);
     else
-        MostraEfficace(termini);
+        MostraEfficace(termini, verdetto);
+    ui_->verdetto->Mostra(verdetto);
 }
 
 void FrmVerifiche::ScegliQuadro(int classe) {
@@ -157,7 +162,7 @@ void FrmVerifiche::ScegliQuadro(int classe) {
 }
 
 // The axial force has reduced the moments.
-void FrmVerifiche::MostraPlastica(const TerminiInterazione& t) {
+void FrmVerifiche::MostraPlastica(const TerminiInterazione& t, const Verdetto& v) {
     const LineaFormula& f = *ui_->formula1;
     Mostra(f.Esponente(0), TestoPiano(t.y.esponente));
     Mostra(f.Esponente(1), "0.0##", t.z.esponente);
@@ -165,10 +170,10 @@ void FrmVerifiche::MostraPlastica(const TerminiInterazione& t) {
     MostraM(f.Sotto(0), t.y.MRd);
     MostraM(f.Sopra(1), t.z.MSd);
     MostraM(f.Sotto(1), t.z.MRd);
-    ui_->formula1->MostraSomma(t.Somma());
+    ui_->formula1->MostraSomma(v.somma, v.utilizzo);
 }
 
-void FrmVerifiche::MostraElastica(const TerminiInterazione& t) {
+void FrmVerifiche::MostraElastica(const TerminiInterazione& t, const Verdetto& v) {
     const LineaFormula& f = *ui_->formula2;
     MostraN(f.Sopra(0), t.NSd);
     MostraN(f.Sotto(0), t.NRd);
@@ -176,11 +181,11 @@ void FrmVerifiche::MostraElastica(const TerminiInterazione& t) {
     MostraM(f.Sotto(1), t.y.MRd);
     MostraM(f.Sopra(2), t.z.MSd);
     MostraM(f.Sotto(2), t.z.MRd);
-    ui_->formula2->MostraSomma(t.Somma());
+    ui_->formula2->MostraSomma(v.somma, v.utilizzo);
 }
 
 // The moments carry the shift of the effective section's centroid.
-void FrmVerifiche::MostraEfficace(const TerminiInterazione& t) {
+void FrmVerifiche::MostraEfficace(const TerminiInterazione& t, const Verdetto& v) {
     const LineaFormula& f = *ui_->formula3;
     MostraN(f.Sopra(0), t.NSd);
     MostraN(f.Sotto(0), t.NRd);
@@ -188,7 +193,7 @@ void FrmVerifiche::MostraEfficace(const TerminiInterazione& t) {
     MostraM(f.Sotto(1), t.y.MRd);
     MostraM(f.Sopra(2), t.z.M());
     MostraM(f.Sotto(2), t.z.MRd);
-    ui_->formula3->MostraSomma(t.Somma());
+    ui_->formula3->MostraSomma(v.somma, v.utilizzo);
 }
 
 } // namespace sagomi

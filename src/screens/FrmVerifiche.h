@@ -13,6 +13,7 @@ class FrmVerifiche;
 namespace sagomi {
 
 struct TerminiInterazione;
+struct Verdetto;
 
 /// Resistance of the section to axial force and bending about both axes, EC3 6.2.9: the terms of the
 /// interaction and its verdict, laid out by the class in compression with bending.
@@ -30,9 +31,9 @@ protected:
 
 private:
     void ScegliQuadro(int classe);
-    void MostraPlastica(const TerminiInterazione& t);
-    void MostraElastica(const TerminiInterazione& t);
-    void MostraEfficace(const TerminiInterazione& t);
+    void MostraPlastica(const TerminiInterazione& t, const Verdetto& verdetto);
+    void MostraElastica(const TerminiInterazione& t, const Verdetto& verdetto);
+    void MostraEfficace(const TerminiInterazione& t, const Verdetto& verdetto);
 
     std::unique_ptr<Ui::FrmVerifiche> ui_;
 };

@@ -70,7 +70,7 @@ void SchermoDettaglio::CollegaFy() {
         {.caselle = {fy},
          .motivo = [fy] { return FyPossibile(NumeroIn(fy)) ? QString() : tr("fy deve essere > 0"); },
          .corregge = [this] { CopiaIntestazione(); },
-         .risultati = all + Controlli({"Lbl_Risultato"})});
+         .risultati = all + Controlli({"Lbl_Risultato", "LblUtilizzo", "LblMotivo"})});
     Collega(fy, &QLineEdit::textChanged, this, [this, fy] { FyCambiato(fy); });
 }
 

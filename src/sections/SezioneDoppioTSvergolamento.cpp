@@ -49,7 +49,8 @@ double SezioneDoppioT::McrFunz() {
     const double D = c2 * zg - c3 * zj(*this);
     const double kL2 = std::pow(LLT * k, 2);
     const double T = std::pow(k / Kw, 2) * Jw / Jz + kL2 * G_acciaio * JT / (pi2 * E_acciaio * Jz);
-    const double S = std::sqrt(D * D + T) - D;
+    const double R = std::sqrt(D * D + T);
+    const double S = D > 0 ? T / (R + D) : R - D; // a large D would cancel
     const double critical = S * pi2 * C1 * E_acciaio * Jz / kL2;
     // Kw or k of 0 would make an infinite moment, and that a resistance without any reduction.
     Mcr = std::isfinite(critical) ? critical : std::numeric_limits<double>::quiet_NaN();

@@ -94,4 +94,9 @@ Verdetto GiudicaFlessoTorsionale(const SezioneDoppioT& s) {
     return Giudica(s.TerminiFlessoTorsionale(), Instabilita(s));
 }
 
+bool McrSiDiscosta(const SezioneDoppioT& s) {
+    const bool diverse = s.b != s.bAlaInf || s.tf != s.tAlaInf;
+    return s.SaldataAsimm && diverse && s.LLT > 0 && s.c2 != 0 && s.h / 2 + s.za != s.yG;
+}
+
 } // namespace sagomi

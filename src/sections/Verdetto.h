@@ -46,4 +46,9 @@ Verdetto GiudicaInstabilita(const SezioneDoppioT& sezione);
 /// Judges lateral-torsional buckling in the same way. McrFunz and MbRdSub must have run before.
 Verdetto GiudicaFlessoTorsionale(const SezioneDoppioT& sezione);
 
+/// Whether Mcr departs from what today's codes give: flanges that differ and a load away from the centroid,
+/// the height of which c2 brings in. The shear centre is found with iZ for a divisor, not with the flanges'
+/// inertias.
+bool McrSiDiscosta(const SezioneDoppioT& sezione);
+
 } // namespace sagomi

@@ -187,10 +187,10 @@ void LineaFormula::MostraAltro(bool altro) {
         part->setVisible(altro);
 }
 
-void LineaFormula::MostraSomma(double somma) {
+void LineaFormula::MostraSomma(double somma, double giudizio) {
     somma_->setText(QString::fromStdString(Formato("0.0##", somma)));
     if (esito_ != nullptr)
-        MostraEsito(esito_, somma);
+        MostraEsito(esito_, giudizio);
 }
 
 int LineaFormula::RigheValori() const { return valoriDoppi_ ? righeFrazione : 1; }

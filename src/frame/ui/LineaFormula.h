@@ -64,7 +64,9 @@ public:
     [[nodiscard]] EtichettaRisultato* Somma() const { return somma_; }
 
     /// Shows the sum by the picture "0.0##", and its verdict where the line has one.
-    void MostraSomma(double somma);
+    void MostraSomma(double somma) { MostraSomma(somma, somma); }
+    /// The same with a verdict on another value than the sum.
+    void MostraSomma(double somma, double giudizio);
 
 private:
     void PosaTermine(const Termine& termine, int& colonna);

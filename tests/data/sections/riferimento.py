@@ -19,9 +19,13 @@ corners of the rules.
 """
 
 import csv
+import decimal
 import math
 import pathlib
 import struct
+from decimal import Decimal
+
+decimal.getcontext().prec = 60
 
 QUI = pathlib.Path(__file__).resolve().parent
 CATALOGO = QUI.parents[2] / "data" / "catalogue"
@@ -365,7 +369,9 @@ def calcola(p):
         L2 = (p["k"] * p["LLT"]) ** 2
         Ncr = math.pi**2 * E * p["Jz"] / L2
         T = (p["k"] / p["Kw"]) ** 2 * p["Jw"] / p["Jz"] + G * p["JT"] / Ncr
-        u["Mcr"] = f32(p["C1"] * Ncr * (math.sqrt(T + D * D) - D))
+        # the root less D, of 60 digits: the two cancel where D is large
+        S = (Decimal(T) + Decimal(D) ** 2).sqrt() - Decimal(D)
+        u["Mcr"] = f32(p["C1"] * Ncr * float(S))
         u["LamdaLT"] = f32(math.sqrt(M0 * Mcy / u["Mcr"]))
     else:
         u["Mcr"] = u["LamdaLT"] = 0.0
