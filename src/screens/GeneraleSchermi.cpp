@@ -12,6 +12,7 @@
 #include "frame/Numeri.h"
 #include "frame/ui/AttesaQt.h"
 #include "frame/ui/Guida.h"
+#include "frame/ui/IconaProgramma.h"
 #include "frame/ui/MessaggiQt.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "screens/TavolaSchermi.h"
@@ -41,6 +42,7 @@ void PreparaApplicazione() {
     QCoreApplication::setApplicationName(QStringLiteral("Sagomi"));
     QCoreApplication::setApplicationVersion(QString::fromLatin1(versioneProgramma));
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(IconaProgramma());
     static QTranslator texts; // the toolkit's own dialogs speak Italian too
     if (texts.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&texts);

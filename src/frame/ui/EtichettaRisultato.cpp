@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "frame/ui/Accessibilita.h"
+
 namespace sagomi {
 
 namespace {
@@ -11,6 +13,7 @@ constexpr int margine = 3; ///< between text and frame [px]
 } // namespace
 
 EtichettaRisultato::EtichettaRisultato(QWidget* parent) : EtichettaSimbolo(parent) {
+    InstallaAccessibilita();
     setFrameShape(QFrame::StyledPanel);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setTextFormat(Qt::PlainText);

@@ -13,6 +13,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/Accessibilita.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/Copie.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 
@@ -35,6 +36,7 @@ void Schermo::PreparaContenuto() {
     scroll->setWidget(takeCentralWidget());
     setCentralWidget(scroll);
     NominaParti(*this);
+    new Copie(this);
 }
 
 void Schermo::ConcludiEntrate() {

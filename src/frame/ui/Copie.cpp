@@ -1,0 +1,148 @@
+#include "frame/ui/Copie.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <tuple>
+
+#include "frame/ui/EtichettaRisultato.h"
+#include "frame/ui/Protetto.h"
+#include "frame/ui/Schermo.h"
+
+namespace sagomi {
+
+namespace {
+
+QString Valore(const QWidget* w) {
+    if (const auto* label = qobject_cast<const QLabel*>(w))
+        return label->accessibleName().isEmpty() ? QString()
+                                                 : label->text().trimmed().replace(u'¥', QChar(0x221E));
+    if (const auto* box = qobject_cast<const QComboBox*>(w))
+        return box->currentText().trimmed();
+    const auto* box = qobject_cast<const QLineEdit*>(w);
+    return box == nullptr || box->accessibleName().isEmpty() ? QString() : box->text().trimmed();
+}
+
+/// Room by room, in each line by line.
+std::tuple<int, int, int, int> Posto(const QWidget* w, const QWidget& screen) {
+    const QWidget* room = w;
+    for (const QWidget* p = w; p != nullptr && p != &screen; p = p->parentWidget())
+        if (qobject_cast<const QGroupBox*>(p) != nullptr)
+            room = p;
+    const QPoint corner = room->mapTo(&screen, QPoint());
+    const QPoint own = w->mapTo(&screen, w->rect().center());
+    return {corner.y(), corner.x(), own.y(), own.x()};
+}
+
+RigaDerivazione Riga(const QWidget* w, const QString& value) {
+    static const QRegularExpression unit(QStringLiteral("\\s*[\\[(]([^\\])]*)[\\])]\\s*$"));
+    static const QRegularExpression unitInTip(QStringLiteral("\\[([^\\]]*)\\]"));
+    static const QRegularExpression clause(
+        QStringLiteral("(?:EC\\d|ENV|EN |NTC|Ordinanza|CNR|D\\.?M\\.?)[^;\n]*"));
+    const QString name = w->accessibleName();
+    const auto found = unit.match(name);
+    const QString tip = w->toolTip();
+    return {found.hasMatch() ? name.left(found.capturedStart()) : name, value,
+            found.hasMatch() ? found.captured(1) : unitInTip.match(tip).captured(1),
+            clause.match(tip).captured(0).trimmed()};
+}
+
+QString InHtml(const QStringList& cells, const QString& tag) {
+    QString row = QStringLiteral("<tr>");
+    for (const QString& c : cells)
+        row += u'<' + tag + u'>' + c.toHtmlEscaped() + QStringLiteral("</") + tag + u'>';
+    return row + QStringLiteral("</tr>\n");
+}
+
+bool QualcosaDiScelto(const QObject* object) {
+    if (const auto* label = qobject_cast<const QLabel*>(object))
+        return label->hasSelectedText();
+    const auto* box = qobject_cast<const QLineEdit*>(object);
+    return box != nullptr && box->hasSelectedText();
+}
+
+/// Selects the text of a result but the blanks around it.
+bool ScegliNumero(QObject* object) {
+    auto* label = qobject_cast<QLabel*>(object);
+    auto* box = qobject_cast<QLineEdit*>(object);
+    const QString text = label != nullptr ? label->text() : box != nullptr ? box->text() : QString();
+    const QString number = text.trimmed();
+    if (number.isEmpty())
+        return false;
+    const auto start = static_cast<int>(text.indexOf(number));
+    const auto length = static_cast<int>(number.size());
+    if (label != nullptr) {
+        if (!label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse))
+            return false;
+        label->setSelection(start, length);
+    } else {
+        box->setSelection(start, length);
+    }
+    return true;
+}
+
+} // namespace
+
+QList<RigaDerivazione> Derivazione(const QWidget& schermo) {
+    QList<std::pair<std::tuple<int, int, int, int>, RigaDerivazione>> found;
+    for (const QWidget* w : schermo.findChildren<QWidget*>())
+        if (const QString value = Valore(w); !value.isEmpty() && w->isVisibleTo(&schermo))
+            found.append({Posto(w, schermo), Riga(w, value)});
+    std::stable_sort(found.begin(), found.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    QList<RigaDerivazione> rows;
+    for (const auto& f : found)
+        rows << f.second;
+    return rows;
+}
+
+QMimeData* DerivazioneCopiata(const QWidget& schermo) {
+    const QStringList heads{QObject::tr("Simbolo"), QObject::tr("Valore"), QObject::tr("Unità"),
+                            QObject::tr("Norma")};
+    QString text = heads.join(u'\t') + u'\n';
+    QString html = QStringLiteral("<table>\n<caption>") + schermo.windowTitle().toHtmlEscaped() +
+                   QStringLiteral("</caption>\n") + InHtml(heads, QStringLiteral("th"));
+    for (const RigaDerivazione& r : Derivazione(schermo)) {
+        const QStringList cells{r.simbolo, r.valore, r.unita, r.norma};
+        text += cells.join(u'\t') + u'\n';
+        html += InHtml(cells, QStringLiteral("td"));
+    }
+    auto* data = new QMimeData;
+    data->setText(text);
+    data->setHtml(html + QStringLiteral("</table>\n"));
+    return data;
+}
+
+Copie::Copie(QWidget* schermo) : QObject(schermo), schermo_(schermo) {
+    schermo->installEventFilter(this);
+    for (QWidget* w : schermo->findChildren<QWidget*>())
+        if (qobject_cast<QLineEdit*>(w) != nullptr || qobject_cast<EtichettaRisultato*>(w) != nullptr)
+            w->installEventFilter(this);
+}
+
+bool Copie::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() != QEvent::MouseButtonDblClick && event->type() != QEvent::KeyPress)
+        return QObject::eventFilter(object, event);
+    return EventoProtetto([&] { return Filtra(object, event); });
+}
+
+bool Copie::Filtra(QObject* object, QEvent* event) const {
+    if (event->type() == QEvent::MouseButtonDblClick)
+        return object != schermo_ && ScegliNumero(object);
+    const auto* screen = qobject_cast<const Schermo*>(schermo_);
+    const bool detail = screen != nullptr && screen->origine != nullptr;
+    if (!detail || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) || QualcosaDiScelto(object))
+        return false;
+    QApplication::clipboard()->setMimeData(DerivazioneCopiata(*schermo_));
+    return true;
+}
+
+} // namespace sagomi
