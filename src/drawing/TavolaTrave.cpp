@@ -100,7 +100,7 @@ void TavolaTrave::Nome(PuntoQuadro punto, std::string_view testo, int dx, int dy
     constexpr std::array allinea{Allinea::Destra, Allinea::Centro, Allinea::Sinistra};
     constexpr std::array posa{Posa::Basso, Posa::Mezzo, Posa::Alto};
     q_.Testo(punto + PuntoQuadro{dx * distacco, dy * distacco}, testo,
-             allinea.at(static_cast<std::size_t>(dx + 1)), posa.at(static_cast<std::size_t>(dy + 1)));
+             allinea.at(static_cast<std::size_t>(dx) + 1), posa.at(static_cast<std::size_t>(dy) + 1));
 }
 
 } // namespace sagomi

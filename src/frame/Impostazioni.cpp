@@ -159,7 +159,7 @@ std::filesystem::path PercorsoFile(std::string_view modo) {
     std::error_code errore;
     if (PathImpostazioni.empty())
         return PercorsoSenzaMaiuscole(PathProgramma, nomeFile);
-    const std::filesystem::path proprio = PercorsoSenzaMaiuscole(PathImpostazioni, nomeFile);
+    std::filesystem::path proprio = PercorsoSenzaMaiuscole(PathImpostazioni, nomeFile);
     if (modo == "S") {
         std::filesystem::create_directories(PathImpostazioni, errore);
         return proprio;

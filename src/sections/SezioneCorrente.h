@@ -175,15 +175,12 @@ bool SullaSezione(F&& f, const std::variant<std::monostate, std::shared_ptr<S>..
     static_assert((std::invocable<F&, S&> || ...), "no kind of section fits");
     return std::visit(
         [&f](const auto& sezione) {
-            if constexpr (!requires { *sezione; })
-                return false;
-            else if constexpr (!std::invocable<F&, decltype(*sezione)>)
-                return false;
-            else {
+            if constexpr (requires { f(*sezione); }) {
                 if (sezione)
                     f(*sezione);
                 return sezione != nullptr;
-            }
+            } else
+                return false;
         },
         riferimento);
 }
