@@ -9,7 +9,11 @@
 #include <QStatusBar>
 
 #include <cmath>
+#include <stdexcept>
+#include <type_traits>
 
+#include "catalogue/Catalogo.h"
+#include "catalogue/Famiglie.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
@@ -20,6 +24,7 @@
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/Twips.h"
 #include "screens/PlottaSezioneCorrente.h"
 #include "sections/SezioneCorrente.h"
 
@@ -27,6 +32,8 @@ namespace sagomi {
 
 namespace {
 
+constexpr int larghezzaInizialeTwips = 9600;
+constexpr int altezzaInizialeTwips = 7680;
 constexpr const char* motivoLunghezza = "La lunghezza di libera inflessione non può essere negativa";
 
 /// Fonts of old screens that are drawn for small sizes only.
@@ -115,6 +122,13 @@ void SchermoSezione::CollegaDati() {
     });
     for (int i = 0; i < Txt_L0.size(); ++i)
         Collega(Txt_L0[i], &QLineEdit::textChanged, this, [this, i] { LunghezzaCambiata(i); });
+    if (TxtNsd != nullptr)
+        Collega(TxtNsd, &QLineEdit::textChanged, this, [this] { ForzaCambiata(); });
+    if (QPushButton* slender = Pulsante("lblVplRd")) {
+        slender->hide();
+        Collega(slender, &QPushButton::clicked, this,
+                [] { Avvisa("d/tw > 69 epsilon. Verificare instabilità per taglio EC3 #5.4.6.(7)"); });
+    }
     CollegaRegole();
 }
 
@@ -160,6 +174,33 @@ double SchermoSezione::Lunghezza(int index) const {
 
 void SchermoSezione::Apri(Schermo& da) { NavigaSchermi::Unico().Passa(*this, &da); }
 
+void SchermoSezione::CollegaDettagli(std::initializer_list<std::pair<const char*, const char*>> dettagli) {
+    for (const auto& [button, name] : dettagli) {
+        QPushButton* found = Pulsante(button);
+        if (found == nullptr)
+            throw std::out_of_range(std::string("nessun pulsante si chiama ") + button);
+        Collega(found, &QPushButton::clicked, this,
+                [this, name = QString::fromLatin1(name)] { ApriDettaglio(name); });
+    }
+}
+
+void SchermoSezione::CollegaSvergolamento() {
+    Collega(Pulsante("Command2"), &QPushButton::clicked, this, [this] {
+        // Free ends under a uniform moment to begin with.
+        SullaSezioneInUso(
+            [](auto& section) requires requires {
+                section.Kw;
+                section.k;
+                section.C1;
+            } {
+                section.k = 1;
+                section.Kw = 1;
+                section.C1 = 1;
+            });
+        ApriDettaglio(QStringLiteral("FrmMsverg"));
+    });
+}
+
 void SchermoSezione::ApriDettaglio(const QString& nome) {
     if (RigaInMano())
         NavigaSchermi::Unico().Apri(nome, *this);
@@ -167,6 +208,27 @@ void SchermoSezione::ApriDettaglio(const QString& nome) {
 
 QPushButton* SchermoSezione::Pulsante(const char* nome) const {
     return findChild<QPushButton*>(QString::fromLatin1(nome));
+}
+
+QLineEdit* SchermoSezione::CasellaDi(const char* nome) const {
+    auto* box = findChild<QLineEdit*>(QString::fromLatin1(nome));
+    if (box == nullptr)
+        throw std::out_of_range(std::string("nessuna casella si chiama ") + nome);
+    return box;
+}
+
+void SchermoSezione::Carica() {
+    SeparatoriControlla(CasellaDi("txtNascosto"));
+    const auto workbook = FileAccanto(PathProgramma, "Sagomi.xls");
+    RendiSolaLettura(workbook);
+    Data1->DatabaseName(workbook);
+    SQLstring = FamigliaDi(objectName().toStdString()).primaQuery;
+    DimensionaIniziale(QSize(larghezzaInizialeTwips, altezzaInizialeTwips) / twipsAPixel);
+    WidthIni = width() * twipsAPixel;
+    HeightIni = height() * twipsAPixel;
+    CaricaFormComune(*this);
+    AggiornaCaptionNormativa(*this);
+    DBGrid1->setFocus();
 }
 
 void SchermoSezione::LegaRiga() {
@@ -197,18 +259,38 @@ void SchermoSezione::DatiRisultati() {
 
 bool SchermoSezione::RigaInMano() const { return !Data1->BOF() && !Data1->EOF_(); }
 
-void SchermoSezione::SvuotaRisultati() {}
+void SchermoSezione::SvuotaRisultati() {
+    if (QPushButton* slender = Pulsante("lblVplRd"))
+        slender->hide();
+}
 
 void SchermoSezione::LunghezzaCambiata(int index) {
     if (CaricaForm || !RigaInMano())
         return;
-    if (index != 0 && index != 1) {
+    Singolo* length = nullptr;
+    const bool some = SullaSezioneInUso([&](ConLunghezze auto& section) {
+        if (index == 0 || index == 1)
+            length = index == 0 ? &section.L0y : &section.L0z;
+        if constexpr (ConLunghezzaV<std::decay_t<decltype(section)>>)
+            if (index == 2)
+                length = &section.L0v;
+    });
+    if (some && length == nullptr) {
         Avvisa("Errore in L0");
         return;
     }
-    SullaSezioneInUso(
-        [&](ConLunghezze auto& section) { (index == 0 ? section.L0y : section.L0z) = Lunghezza(index); });
+    if (some)
+        *length = Lunghezza(index);
     const MessaggiTaciuti quiet(InDigitazione(Txt_L0[index]));
+    Risultati();
+}
+
+void SchermoSezione::ForzaCambiata() {
+    if (CaricaForm || !RigaInMano())
+        return;
+    if (!SullaSezioneInUso([this](ConMomenti auto& section) { section.NSd = kN_a_N(NumeroIn(TxtNsd)); }))
+        return;
+    const MessaggiTaciuti quiet(InDigitazione(TxtNsd));
     Risultati();
 }
 
@@ -216,7 +298,20 @@ void SchermoSezione::AllAttivazione() { AttivaForm(*this); }
 
 void SchermoSezione::lblVplRd(bool visibile) { Pulsante("lblVplRd")->setVisible(visibile); }
 
-bool SchermoSezione::Invio(QLineEdit* /*casella*/) { return false; }
+bool SchermoSezione::Invio(QLineEdit* casella) {
+    QList<QLineEdit*> road = QList<QLineEdit*>{Txt_fy} + Txt_L0;
+    if (TxtNsd != nullptr)
+        road << TxtNsd;
+    const auto at = road.indexOf(casella);
+    QPushButton* command = Pulsante("Command1");
+    if (at >= 0 && at + 1 < road.size())
+        FuocoSu(road[at + 1]);
+    else if (at >= 0 && command != nullptr)
+        command->setFocus(Qt::TabFocusReason); // a disabled button refuses and the focus stays
+    else
+        return false;
+    return true;
+}
 
 void SchermoSezione::AggiornaBarraDiStato() {
     const auto families = QString::fromStdString(Data1->RecordSource()).count(QLatin1String("FROM ["));

@@ -5,9 +5,11 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "catalogue/ui/GrigliaCatalogo.h"
 #include "catalogue/ui/LettoreDati.h"
@@ -71,8 +73,11 @@ public:
     void RimettiFy();
     /// A buckling length [mm]; one that no number holds is as impossible as a negative one.
     [[nodiscard]] double Lunghezza(int index) const;
-    /// A buckling length has been typed: index 0 about y-y, 1 about z-z.
+    /// A buckling length has been typed: index 0 about y-y, 1 about z-z, 2 about v-v where the section has
+    /// it.
     virtual void LunghezzaCambiata(int index);
+    /// The axial force has been typed.
+    void ForzaCambiata();
 
     void AllAttivazione() override;
     void lblVplRd(bool visibile) override;
@@ -102,11 +107,20 @@ protected:
     void CollegaControlli();
     /// To be called at the end of Risultati: marks entries that cannot stand, empties what hangs on them.
     void ApplicaRegole();
-    /// What Enter does in the entry boxes; false leaves it to the tab order.
+    /// The load, once the controls stand: workbook and first query of the screen's families, starting size,
+    /// table, steel.
+    void Carica();
+    /// Buttons by name, and the detail screens that they open where there is a row to work on. A button that
+    /// the form does not have throws std::out_of_range.
+    void CollegaDettagli(std::initializer_list<std::pair<const char*, const char*>> dettagli);
+    /// Command2 opens the check of lateral-torsional buckling: the screens of double-T sections.
+    void CollegaSvergolamento();
+    /// What Enter does in the entry boxes: fy, lengths, axial force, then the first command. False leaves it
+    /// to the tab order.
     virtual bool Invio(QLineEdit* casella);
+    /// A control of that name: of buttons nullptr where there is none, of boxes std::out_of_range.
     [[nodiscard]] QPushButton* Pulsante(const char* nome) const;
-    /// Opens a detail screen of that name, where there is a row to work on.
-    void ApriDettaglio(const QString& nome);
+    [[nodiscard]] QLineEdit* CasellaDi(const char* nome) const;
 
     RegoleEntrate regole_; ///< the conditions of the entries
     FiltroCampi* entrate_ = nullptr;
@@ -123,6 +137,7 @@ private:
     void CollegaRegole();
     void Conclusa(QLineEdit* casella);
     void CollegaTabella();
+    void ApriDettaglio(const QString& nome);
     void RigaNuova();
     bool FrecciaDiRiga(int key);
 

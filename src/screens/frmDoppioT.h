@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "screens/SchermoSezione.h"
+#include "screens/SchermoDi.h"
 
 namespace Ui {
 class frmDoppioT;
@@ -11,27 +11,20 @@ class frmDoppioT;
 namespace sagomi {
 
 /// Rolled double-T sections: the first screen of every run.
-class frmDoppioT : public SchermoSezione {
+class frmDoppioT : public SchermoDi<SezioneDoppioT> {
     Q_OBJECT
 public:
     frmDoppioT();
     ~frmDoppioT() override;
 
-    void Leggedati() override;
     void Risultati() override;
-    void ControlloDati() override;
-    void SvuotaRisultati() override;
-    void SvuotaValori() override;
 
 protected:
-    bool Invio(QLineEdit* casella) override;
+    void LeggeSezione(const Lettore& riga, SezioneDoppioT& sezione) override;
+    void ControllaSezione(const Lettore& riga, SezioneDoppioT& sezione) override;
+    void MostraSagoma(const SezioneDoppioT* sezione) override;
 
 private:
-    void Carica();
-    void CollegaDettagli();
-    void MostraClassi();
-    void MostraResistenze();
-
     std::unique_ptr<Ui::frmDoppioT> ui_;
 };
 

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "frame/Unita.h"
+#include "screens/RisultatiSezione.h"
+#include "screens/SchermoSezione.h"
+#include "sections/AreaEfficace.h"
+#include "sections/SezioneCorrente.h"
+
+namespace sagomi {
+
+/// A main screen whose rows are sections of kind S. One of these says how a row is read and held against its
+/// outline, which boxes show the results, and draws its picture; the rest it has from here.
+template <Sagomo S> class SchermoDi : public SchermoSezione {
+public:
+    using SchermoSezione::SchermoSezione;
+
+    /// Steel and entries after the row's own values: from m and kN to mm and N.
+    void Leggedati() override {
+        if (!RigaInMano())
+            return;
+        auto section = std::make_shared<S>();
+        LeggeSezione(Data1->Recordset(), *section);
+        LeggeEntrate(*section);
+        SezioneCorrente = std::move(section);
+    }
+
+    void Risultati() override {
+        S* section = SezioneInUso<S>();
+        if (!RigaInMano() || section == nullptr) {
+            SvuotaRisultati();
+            return;
+        }
+        InizializzaConAreaEfficace(*section, this);
+        for (const auto& [box, text] : risultati_)
+            box->setText(QString::fromStdString(text(*section)));
+        ApplicaRegole();
+        MostraSagoma(section);
+    }
+
+    void ControlloDati() override {
+        if (S* section = SezioneInUso<S>(); section != nullptr && RigaInMano())
+            ControllaSezione(Data1->Recordset(), *section);
+    }
+
+    void SvuotaValori() override {
+        for (const auto& [box, text] : risultati_)
+            box->clear();
+    }
+
+    void SvuotaRisultati() override {
+        SvuotaValori();
+        SchermoSezione::SvuotaRisultati();
+        MostraSagoma(nullptr);
+    }
+
+protected:
+    /// Name, dimensions and constants of the row, and what the kind of rows says of the section.
+    virtual void LeggeSezione(const Lettore& riga, S& sezione) = 0;
+    /// Holds the row against the outline.
+    virtual void ControllaSezione(const Lettore& riga, S& sezione) = 0;
+    /// Draws the section, or nothing for nullptr.
+    virtual void MostraSagoma(const S* sezione) = 0;
+
+    /// The boxes of the results. One that the form does not have throws std::out_of_range.
+    void CollegaRisultati(const std::vector<VoceRisultato<S>>& voci) {
+        for (const VoceRisultato<S>& voce : voci)
+            risultati_.emplace_back(CasellaDi(voce.casella), voce.testo);
+    }
+
+private:
+    void LeggeEntrate(S& section) const {
+        section.TipoAcciaio = ComboTipoAcciaio->currentText().toStdString();
+        section.fy = FyInForza();
+        section.fu = NumeroIn(Txt_fu);
+        if constexpr (ConLunghezze<S>) {
+            section.L0y = Lunghezza(0);
+            section.L0z = Lunghezza(1);
+        }
+        if constexpr (ConLunghezzaV<S>)
+            section.L0v = Lunghezza(2);
+        if constexpr (ConMomenti<S>)
+            section.NSd = kN_a_N(NumeroIn(TxtNsd));
+    }
+
+    std::vector<std::pair<QLineEdit*, std::string (*)(const S&)>> risultati_;
+};
+
+} // namespace sagomi
