@@ -1,0 +1,154 @@
+#include <QComboBox>
+
+#include <cmath>
+
+#include "frame/ui/UpDown.h"
+#include "screens/Comandi.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class VerdettiTest : public AmbienteSchermi {
+protected:
+    frmDoppioT& Ipe500() {
+        auto& s = Avvia();
+        VaiA(s, "IPE 500");
+        return s;
+    }
+    static void Acciaio(frmDoppioT& s, int index) {
+        s.ComboTipoAcciaio->setCurrentIndex(index);
+        emit s.ComboTipoAcciaio->activated(index);
+    }
+    /// Npl,Rd as the check of the section shows it [kN].
+    static double Npl(frmDoppioT& s) {
+        NavigaSchermi::Unico().Apri("FrmVerifiche", s);
+        return Numero(&Aperto("FrmVerifiche"), "LblNrd4");
+    }
+    /// A detail of the row in hand.
+    static Schermo& Dettaglio(frmDoppioT& s, const char* name) {
+        NavigaSchermi::Unico().Apri(QString::fromLatin1(name), s);
+        return Aperto(name);
+    }
+};
+
+// d/tw 41.76, epsilon 0.81362: 51.33, rho 0.8372, of 11552 mm2 0.1628 · 426 · 10.2 are lost: 10845 · 355 /
+// GammaM0 of 1 = 3850, 3853 with the outline's chords.
+TEST_F(VerdettiTest, ClassFourHasNoMemoryByAnyRoad) {
+    auto& s = Ipe500();
+    Normativa = normativaEC3;
+    ImpostaGamma();
+    Acciaio(s, 2);
+    Scrive(&s, "TxtNsd", "900");
+    EXPECT_NEAR(Npl(s), 3853, 0.5) << "steel, then N";
+    Scrive(&s, "TxtNsd", "");
+    Acciaio(s, 0);
+    Scrive(&s, "TxtNsd", "900");
+    Acciaio(s, 2);
+    EXPECT_NEAR(Npl(s), 3853, 0.5) << "N, then steel";
+    Acciaio(s, 1);
+    Acciaio(s, 2);
+    EXPECT_NEAR(Npl(s), 3853, 0.5) << "by way of another steel";
+    s.Data1->MoveNext();
+    VaiA(s, "IPE 500");
+    EXPECT_NEAR(Npl(s), 3853, 0.5) << "from another row, at first sight";
+    Acciaio(s, 0);
+    Scrive(&s, "Txt_fy", "355");
+    EXPECT_NEAR(Npl(s), 3853, 0.5) << "strength typed";
+    Acciaio(s, 1);
+    Trova<UpDown>(&Dettaglio(s, "FrmVerifiche"), "UpDown2")->stepUp();
+    EXPECT_NEAR(Npl(s), 3853, 0.5) << "steel stepped in a detail";
+    Scrive(&s, "Txt_L0_0", "7");
+    s.DatiRisultati();
+    EXPECT_NEAR(Npl(s), 3853, 0.5) << "length, activation";
+}
+
+// Npl of IPE 500, S235, NTC: 11552 · 235 / 1.05 = 2585 kN.
+TEST_F(VerdettiTest, ForceBeyondTheSectionIsNoWhateverTheMoments) {
+    auto& s = Ipe500();
+    auto& f = Dettaglio(s, "FrmVerifiche");
+    for (const char* N : {"2700", "-2700"}) {
+        Scrive(&f, "TxtNsd", N);
+        const bool plastica = Sezione().ClassePressoFlessione < 3;
+        const char* sum = plastica ? "Lbl_Risult3_0" : "Lbl_Risult3_1";
+        EXPECT_EQ(Scritta(&f, sum), "") << N;
+        EXPECT_EQ(Scritta(&f, plastica ? "Lbl_Risultato3_0" : "Lbl_Risultato3_1"), "NO") << N;
+        EXPECT_NE(Scritta(&f, "LblMotivo").find("supera da sola Npl,Rd"), std::string::npos) << N;
+        if (plastica) {
+            EXPECT_EQ(Scritta(&f, "LblMNyRd"), Locale("0.0"));
+            EXPECT_EQ(Scritta(&f, "LblMNzRd"), Locale("0.0"));
+        }
+        EXPECT_TRUE(Scritta(&f, "LblUtilizzo").starts_with("Utilizzo 104") ||
+                    Scritta(&f, "LblUtilizzo").starts_with("Utilizzo " + Locale("104.4")))
+            << Scritta(&f, "LblUtilizzo");
+    }
+    Scrive(&f, "TxtNsd", "100");
+    EXPECT_EQ(Scritta(&f, "Lbl_Risultato3_0"), "OK");
+    EXPECT_EQ(Scritta(&f, "LblMotivo"), "");
+}
+
+TEST_F(VerdettiTest, ForceBeyondBucklingOrTensionIsNo) {
+    auto& s = Ipe500();
+    Scrive(&s, "Txt_L0_1", "8");
+    const double Nbz = Sezione().NbzRd / 1000;
+    ASSERT_LT(Nbz, 1000);
+    for (const char* name : {"FrmPresFless", "FrmMsverg"}) {
+        auto& f = Dettaglio(s, name);
+        if (std::string(name) == "FrmMsverg") {
+            EXPECT_EQ(Testo(&f, "Txt_L"), "8") << "the length about z-z of the caller";
+        }
+        Scrive(&f, "TxtNsd", "1200");
+        EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "NO") << name;
+        EXPECT_EQ(Scritta(&f, "Lbl_Risult"), "") << name;
+        EXPECT_NE(Scritta(&f, "LblMotivo").find("Nb,z,Rd"), std::string::npos) << name;
+        Scrive(&f, "TxtNsd", "-2700");
+        EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "NO") << name;
+        EXPECT_NE(Scritta(&f, "LblMotivo").find("Npl,Rd"), std::string::npos) << name;
+        Scrive(&f, "TxtNsd", "-1200");
+        EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "OK") << name << ": tension below Npl,Rd";
+    }
+}
+
+// N 1200 kN in tension 1200/2585 = 0.464, My and Mz beside it 0.7 and 0.2: the sum shown is negative or
+// small.
+TEST_F(VerdettiTest, SignsThatCancelDoNotPass) {
+    auto& s = Ipe500();
+    Premi(&s, "Command2"); // plain ends, uniform moment
+    auto& f = Aperto("FrmMsverg");
+    Scrive(&f, "Txt_L", "0.5");
+    Scrive(&f, "TxtMysd", "350"); // of 2194 · 235 / 1.05 = 491 kNm
+    EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "OK");
+    Scrive(&f, "TxtMzsd", "-35"); // of 75.2
+    EXPECT_LT(Numero(&f, "Lbl_Risult"), 0.3);
+    EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "NO");
+    EXPECT_NE(Scritta(&f, "LblMotivo").find("valore assoluto"), std::string::npos);
+    EXPECT_NE(Scritta(&f, "LblUtilizzo").find("(governa My)"), std::string::npos);
+    Scrive(&f, "TxtMzsd", "0");
+    Scrive(&f, "TxtNsd", "-1200");
+    EXPECT_LT(Numero(&f, "Lbl_Risult"), 0.3);
+    EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "NO");
+    Scrive(&f, "Txt_L", "-1");
+    for (const char* empty : {"Lbl_Mcr", "Lbl_Risult", "Lbl_Risultato", "LblMotivo", "LblUtilizzo"})
+        EXPECT_EQ(Scritta(&f, empty), "") << empty;
+}
+
+TEST_F(VerdettiTest, NoteStandsForFlangesThatDifferUnderALoadAwayFromTheCentroid) {
+    auto& s = Ipe500();
+    Premi(&s, "Command2"); // plain ends, uniform moment
+    auto& f = Aperto("FrmMsverg");
+    Scrive(&f, "Txt_L", "6");
+    Scrive(&f, "Txt_C2", "0.459");
+    auto* note = Trova<QLabel>(&f, "LblNotaMcr");
+    EXPECT_TRUE(note->isHidden());
+    Sezione().Saldata = true;
+    Sezione().SaldataAsimm = true;
+    Sezione().bAlaInf = 150;
+    Sezione().yG = 270;
+    f.AllAttivazione();
+    EXPECT_FALSE(note->isHidden());
+    Scrive(&f, "Txt_C2", "0");
+    EXPECT_TRUE(note->isHidden());
+}
+
+} // namespace
