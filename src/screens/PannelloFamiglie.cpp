@@ -10,12 +10,15 @@
 #include <algorithm>
 
 #include "catalogue/Famiglie.h"
+#include "catalogue/OrdineQuery.h"
 
 namespace sagomi {
 
 namespace {
 
 constexpr int colonneFamiglie = 8;
+constexpr const char* didascalia = "Aggiorna Tabella";
+constexpr const char* suggerimento = "Mostra nella tabella i sagomi delle famiglie scelte (F5)";
 constexpr QMargins margini(9, 6, 9, 9);
 
 QString Testo(std::string_view text) {
@@ -28,6 +31,12 @@ template <typename T> T* CreaScelta(const char* array, int i, std::string_view c
     choice->setObjectName(QString::fromLatin1(array) + u'_' + QString::number(i));
     choice->setChecked(checked);
     return choice;
+}
+
+/// With the mark of ticks that are not yet in the table.
+QString Didascalia(bool daAggiornare) {
+    const QString text = QString::fromLatin1(didascalia);
+    return daAggiornare ? text + QStringLiteral(" •") : text;
 }
 
 QGroupBox* CreaStanza(const char* name, const QString& title) {
@@ -48,10 +57,29 @@ void PannelloFamiglie::ImpostaSchermo(const QByteArray& nome) {
     row->setSpacing(6);
     row->addWidget(CreaFamiglie(family), 1);
     row->addWidget(CreaOrdini(family));
-    auto* refresh = new QPushButton(tr("Aggiorna Tabella"));
-    refresh->setObjectName(QStringLiteral("AggiornaTabella"));
-    refresh->setToolTip(tr("Mostra nella tabella i sagomi delle famiglie scelte"));
-    row->addWidget(refresh, 0, Qt::AlignBottom);
+    aggiorna_ = new QPushButton(Didascalia(true));
+    aggiorna_->setObjectName(QStringLiteral("AggiornaTabella"));
+    aggiorna_->setMinimumWidth(aggiorna_->sizeHint().width()); // the mark moves nothing
+    aggiorna_->setText(Didascalia(false));
+    aggiorna_->setToolTip(tr(suggerimento));
+    row->addWidget(aggiorna_, 0, Qt::AlignBottom);
+}
+
+void PannelloFamiglie::MostraDifferenze(const std::string& query) {
+    QStringList missing;
+    QStringList left;
+    for (const QCheckBox* box : findChildren<QCheckBox*>()) {
+        const bool listed = NominaFoglio(query, box->text().toStdString());
+        if (box->isChecked() != listed)
+            (listed ? left : missing) << box->text();
+    }
+    QString tip = tr(suggerimento);
+    if (!missing.isEmpty())
+        tip += tr("\nDa aggiungere: ") + missing.join(QStringLiteral(", "));
+    if (!left.isEmpty())
+        tip += tr("\nDa togliere: ") + left.join(QStringLiteral(", "));
+    aggiorna_->setText(Didascalia(!missing.isEmpty() || !left.isEmpty()));
+    aggiorna_->setToolTip(tip);
 }
 
 QWidget* PannelloFamiglie::CreaFamiglie(const FamigliaSchermo& famiglia) {

@@ -3,6 +3,10 @@
 #include <QByteArray>
 #include <QWidget>
 
+#include <string>
+
+class QPushButton;
+
 namespace sagomi {
 
 struct FamigliaSchermo;
@@ -18,10 +22,15 @@ public:
     [[nodiscard]] QByteArray NomeSchermo() const { return schermo_; }
     void ImpostaSchermo(const QByteArray& nome);
 
+    /// Shows on the button which ticks are not yet in the table.
+    /// @param query  what the table lists
+    void MostraDifferenze(const std::string& query);
+
 private:
     QWidget* CreaFamiglie(const FamigliaSchermo& famiglia);
     QWidget* CreaOrdini(const FamigliaSchermo& famiglia);
 
+    QPushButton* aggiorna_ = nullptr;
     QByteArray schermo_;
 };
 

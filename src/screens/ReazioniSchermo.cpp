@@ -3,6 +3,7 @@
 
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/Famiglie.h"
+#include "catalogue/OrdineQuery.h"
 #include "frame/Attesa.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
@@ -43,6 +44,65 @@ void RiempieAcciai(SchermoSezione& schermo) {
     schermo.ComboTipoAcciaio->setCurrentIndex(IndiceAcciaio);
 }
 
+/// The index of the option that is set; -1 where the table is sorted by another column.
+int OrdineScelto(const SchermoSezione& schermo) {
+    for (int i = 0; i < schermo.OptionOrdina.size(); ++i)
+        if (schermo.OptionOrdina[i]->isChecked())
+            return i;
+    return -1;
+}
+
+/// Sets an option, or with -1 none.
+void ImpostaOrdine(SchermoSezione& schermo, int indice) {
+    for (int i = 0; i < schermo.OptionOrdina.size(); ++i) {
+        schermo.OptionOrdina[i]->setAutoExclusive(false);
+        schermo.OptionOrdina[i]->setChecked(i == indice);
+    }
+    for (QRadioButton* option : schermo.OptionOrdina)
+        option->setAutoExclusive(true);
+}
+
+int OrdineDi(const SchermoSezione& schermo, const QString& colonna) {
+    const auto& keys = FamigliaDi(schermo.objectName().toStdString()).chiavi;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        const std::string key = ColonnaOrdine(" ORDER BY " + std::string(keys[i]));
+        if (QString::fromStdString(key).compare(colonna, Qt::CaseInsensitive) == 0)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+/// The query of the boxes; the column sorts it where no option is set.
+std::optional<std::string> QueryScelta(const SchermoSezione& schermo, std::string_view foglio,
+                                       const std::string& colonna) {
+    std::vector<bool> ticks;
+    for (const QCheckBox* box : schermo.ChkTipo)
+        ticks.push_back(box->isChecked());
+    const int order = OrdineScelto(schermo);
+    auto query = CambioFamigliaQuery(schermo.objectName().toStdString(), ticks, std::max(0, order), foglio);
+    if (query && order < 0 && !colonna.empty())
+        query = OrdinaPer(*query, colonna);
+    return query;
+}
+
+bool RileggeTabella(SchermoSezione& schermo, std::string_view foglio, const std::string& colonna) {
+    const auto query = QueryScelta(schermo, foglio, colonna);
+    if (!query)
+        return false;
+    try {
+        schermo.Data1->RecordSource(*query);
+        schermo.Data1->Refresh(schermo.Data1->Recordset().Testo(0)); // its signal takes the row over
+    } catch (const ErroreCatalogo& e) {
+        Avvisa(e.what());
+        return false;
+    }
+    schermo.DBGrid1->FormatoGriglia(schermo.Data1->Recordset().Campi() - 1);
+    if (!schermo.RigaInMano())
+        SvuotaCampi(schermo);
+    schermo.AggiornaBarraDiStato();
+    return true;
+}
+
 } // namespace
 
 void CaricaFormComune(SchermoSezione& schermo) {
@@ -81,28 +141,16 @@ void AggiornaCaptionNormativa(SchermoSezione& schermo) {
     schermo.NormativaMain->setText(QString::fromStdString("Normativa: " + NomeNormativa()));
 }
 
-void CambioFamiglia(SchermoSezione& schermo, std::string_view foglio) {
-    std::vector<bool> ticks;
-    for (const QCheckBox* box : schermo.ChkTipo)
-        ticks.push_back(box->isChecked());
-    int order = 0;
-    for (int i = 0; i < schermo.OptionOrdina.size(); ++i)
-        if (schermo.OptionOrdina[i]->isChecked())
-            order = i;
-    const auto query = CambioFamigliaQuery(schermo.objectName().toStdString(), ticks, order, foglio);
-    if (!query)
-        return;
-    try {
-        schermo.Data1->RecordSource(*query);
-        schermo.Data1->Refresh(); // its signal takes the first row over
-    } catch (const ErroreCatalogo& e) {
-        Avvisa(e.what());
-        return;
-    }
-    schermo.DBGrid1->FormatoGriglia(schermo.Data1->Recordset().Campi() - 1);
-    if (!schermo.RigaInMano())
-        SvuotaCampi(schermo);
-    schermo.AggiornaBarraDiStato();
+bool CambioFamiglia(SchermoSezione& schermo, std::string_view foglio) {
+    return RileggeTabella(schermo, foglio, ColonnaOrdine(schermo.Data1->RecordSource()));
+}
+
+void OrdinaPerColonna(SchermoSezione& schermo, int colonna) {
+    const std::string heading = schermo.Data1->Recordset().NomeCampo(colonna);
+    const int before = OrdineScelto(schermo);
+    ImpostaOrdine(schermo, OrdineDi(schermo, QString::fromStdString(heading)));
+    if (!RileggeTabella(schermo, {}, heading))
+        ImpostaOrdine(schermo, before);
 }
 
 void RecordCambiato(SchermoSezione& schermo, int indice) {

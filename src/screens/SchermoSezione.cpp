@@ -14,6 +14,7 @@
 
 #include "catalogue/Catalogo.h"
 #include "catalogue/Famiglie.h"
+#include "catalogue/OrdineQuery.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
@@ -25,6 +26,7 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/Twips.h"
+#include "screens/PannelloFamiglie.h"
 #include "screens/PlottaSezioneCorrente.h"
 #include "sections/SezioneCorrente.h"
 
@@ -106,6 +108,18 @@ void SchermoSezione::CollegaTabella() {
             if (!CaricaForm)
                 CambioFamiglia(*this);
         });
+    Collega(DBGrid1, &GrigliaCatalogo::ordineChiesto, this,
+            [this](int column) { OrdinaPerColonna(*this, column); });
+    Collega(Data1->Modello(), &QAbstractItemModel::modelReset, this, [this] { MostraStatoTabella(); });
+    for (QCheckBox* box : ChkTipo)
+        Collega(box, &QCheckBox::toggled, this, [this] { MostraStatoTabella(); });
+}
+
+void SchermoSezione::MostraStatoTabella() {
+    const std::string& query = Data1->RecordSource();
+    DBGrid1->MostraOrdine(QString::fromStdString(ColonnaOrdine(query)));
+    if (auto* families = findChild<PannelloFamiglie*>())
+        families->MostraDifferenze(query);
 }
 
 void SchermoSezione::CollegaDati() {
@@ -354,10 +368,23 @@ bool SchermoSezione::FrecciaDiRiga(int key) {
     return true;
 }
 
+// Letters that the control with the focus has no use for look for a section.
+bool SchermoSezione::RicercaDiRiga(const QKeyEvent& event) {
+    const bool plain = (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
+    if (!plain || event.text().isEmpty() || !event.text().front().isPrint())
+        return false;
+    DBGrid1->Digita(event.text());
+    return true;
+}
+
 void SchermoSezione::keyPressEvent(QKeyEvent* event) {
     EventoProtetto([this, event] {
         const bool plain = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier;
-        if (!plain || !FrecciaDiRiga(event->key()))
+        if (plain && FrecciaDiRiga(event->key()))
+            return;
+        if (plain && event->key() == Qt::Key_F5)
+            Pulsante("AggiornaTabella")->click();
+        else if (!RicercaDiRiga(*event))
             Schermo::keyPressEvent(event);
     });
 }

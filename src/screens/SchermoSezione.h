@@ -138,8 +138,10 @@ private:
     void Conclusa(QLineEdit* casella);
     void CollegaTabella();
     void ApriDettaglio(const QString& nome);
+    void MostraStatoTabella();
     void RigaNuova();
     bool FrecciaDiRiga(int key);
+    bool RicercaDiRiga(const QKeyEvent& event);
 
     QLabel* barra_ = nullptr;
     std::map<QWidget*, QFont> caratteriIniziali_;
@@ -157,8 +159,14 @@ void AttivaForm(SchermoSezione& schermo);
 /// Caption of the menu entry that names the code of rules in force.
 void AggiornaCaptionNormativa(SchermoSezione& schermo);
 
-/// Rebuilds the query from the boxes, or over a sheet given as queries name it, and reads the table anew.
-void CambioFamiglia(SchermoSezione& schermo, std::string_view foglio = {});
+/// Rebuilds the query from the boxes, or over a sheet given as queries name it, and reads the table anew. The
+/// section in hand stays in hand where it is still listed. The order is the option's that is set, else the
+/// one in force.
+/// @return whether the table has been read
+bool CambioFamiglia(SchermoSezione& schermo, std::string_view foglio = {});
+
+/// Sorts the table by one of its columns; the option of that column is set, where there is one.
+void OrdinaPerColonna(SchermoSezione& schermo, int colonna);
 
 /// The display field `indice` has changed; for 0, the name, the new row is taken over.
 void RecordCambiato(SchermoSezione& schermo, int indice);

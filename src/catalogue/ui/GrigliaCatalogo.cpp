@@ -1,5 +1,6 @@
 #include "catalogue/ui/GrigliaCatalogo.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
@@ -9,8 +10,11 @@
 #include <QSet>
 
 #include <algorithm>
+#include <numeric>
 
+#include "catalogue/ui/ColonnaFerma.h"
 #include "catalogue/ui/DelegatoNumeri.h"
+#include "catalogue/ui/EtichettaRicerca.h"
 #include "catalogue/ui/LettoreDati.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/Twips.h"
@@ -19,9 +23,11 @@ namespace sagomi {
 
 namespace {
 
-constexpr int larghezzaNome = 1520 / twipsAPixel;  ///< designation
-constexpr int larghezzaNumero = 800 / twipsAPixel; ///< every other column, at least
-constexpr int ariaColonna = 10;                    ///< both sides of a text [px]
+constexpr int larghezzaNome = 1520 / twipsAPixel;   ///< designation
+constexpr int larghezzaNumero = 800 / twipsAPixel;  ///< every other column, at least
+constexpr int ariaColonna = 10;                     ///< both sides of a text [px]
+constexpr int ariaCeduta = 4;                       ///< of it, where the columns just do not fit [px]
+constexpr int larghezzaMassima = 2 * larghezzaNome; ///< of a designation that nobody drew wider
 
 /// Texts of one shape are as wide, for figures all are.
 QString Forma(QString text) {
@@ -31,9 +37,19 @@ QString Forma(QString text) {
     return text;
 }
 
+bool Ctrl(const QEvent* event) {
+    return (static_cast<const QInputEvent*>(event)->modifiers() & Qt::ControlModifier) != 0;
+}
+
+bool Maiusc(const QEvent* event) {
+    return (static_cast<const QInputEvent*>(event)->modifiers() & Qt::ShiftModifier) != 0;
+}
+
 } // namespace
 
 GrigliaCatalogo::GrigliaCatalogo(QWidget* parent) : QTableView(parent) {
+    setAutoFillBackground(true); // what whole rows leave looks like the table
+    setBackgroundRole(QPalette::Base);
     setItemDelegate(new DelegatoNumeri(this));
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
@@ -49,15 +65,39 @@ GrigliaCatalogo::GrigliaCatalogo(QWidget* parent) : QTableView(parent) {
     verticalHeader()->setDefaultSectionSize(altezzaRiga_);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsMovable(false);
+    CollegaIntestazioni(horizontalHeader());
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* copy = new QAction(tr("&Copia") + u'\t' + QKeySequence(QKeySequence::Copy).toString(), this);
+    copy->setObjectName(QStringLiteral("mnuCopia"));
+    addAction(copy);
+    ::sagomi::Collega(copy, &QAction::triggered, this, [this] { Copia(); });
+    ricerca_ = new EtichettaRicerca(this);
+    ferma_ = new ColonnaFerma(*this, [this](const QModelIndex& index, const QEvent* event) {
+        return selectionCommand(index, event);
+    });
+    ferma_->addAction(copy);
+    CollegaIntestazioni(ferma_->horizontalHeader());
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column, int, int width) {
         if (!adattando_ && model() != nullptr && width > 0)
             larghezzeScelte_[model()->headerData(column, Qt::Horizontal).toString()] = width;
+        if (const auto at = static_cast<std::size_t>(column); !adattando_ && at < larghezzePiene_.size())
+            larghezzePiene_[at] = width;
     });
+}
+
+void GrigliaCatalogo::CollegaIntestazioni(QHeaderView* intestazioni) {
+    // A column is nothing to select.
+    disconnect(intestazioni, SIGNAL(sectionPressed(int)), nullptr, nullptr);
+    disconnect(intestazioni, SIGNAL(sectionEntered(int)), nullptr, nullptr);
+    intestazioni->setSectionsClickable(true);
+    ::sagomi::Collega(intestazioni, &QHeaderView::sectionClicked, this,
+                      [this](int column) { emit ordineChiesto(column); });
 }
 
 void GrigliaCatalogo::Collega(LettoreDati* lettore) {
     lettore_ = lettore;
     setModel(lettore->Modello());
+    ferma_->Collega();
     connect(lettore, &LettoreDati::rigaCambiata, this, &GrigliaCatalogo::SegueLettore);
     connect(lettore->Modello(), &QAbstractItemModel::modelReset, this, &GrigliaCatalogo::SegueLettore);
 }
@@ -76,15 +116,19 @@ int GrigliaCatalogo::LarghezzaColonna(int column, const QStringList& texts) cons
     if (const auto chosen = larghezzeScelte_.find(heading); chosen != larghezzeScelte_.end())
         return chosen->second;
     const int least = column == 0 ? larghezzaNome : larghezzaNumero;
-    int width = std::max(qRound(least * scalaLarghezza_),
-                         horizontalHeader()->fontMetrics().horizontalAdvance(heading) + ariaColonna);
+    const QHeaderView* headings = horizontalHeader();
+    const bool sorted = headings->isSortIndicatorShown() && headings->sortIndicatorSection() == column;
+    int width =
+        std::max(qRound(least * scalaLarghezza_),
+                 headings->fontMetrics().horizontalAdvance(heading) + ariaColonna +
+                     (sorted ? style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, headings) : 0));
     QSet<QString> measured;
     for (const QString& text : texts)
         if (const QString shape = Forma(text); !measured.contains(shape)) {
             measured.insert(shape);
             width = std::max(width, fontMetrics().horizontalAdvance(text) + ariaColonna);
         }
-    return width;
+    return column == 0 ? std::min(width, qRound(larghezzaMassima * scalaLarghezza_)) : width;
 }
 
 int GrigliaCatalogo::Altezza(int rows) const {
@@ -93,10 +137,98 @@ int GrigliaCatalogo::Altezza(int rows) const {
 }
 
 void GrigliaCatalogo::AdattaColonne() {
-    const QScopedValueRollback guard(adattando_, true);
     const std::vector<QStringList> texts = lettore_->Modello()->TestiLunghi();
+    larghezzePiene_.clear();
     for (int column = 0; column < model()->columnCount(); ++column)
-        setColumnWidth(column, LarghezzaColonna(column, texts[static_cast<std::size_t>(column)]));
+        larghezzePiene_.push_back(LarghezzaColonna(column, texts[static_cast<std::size_t>(column)]));
+    RipartisceColonne();
+}
+
+/// What each column gives up so that all of them fit; nothing where that is not enough.
+std::vector<int> GrigliaCatalogo::LarghezzeCedute(int eccesso) const {
+    std::vector<int> room;
+    for (std::size_t column = 0; column < larghezzePiene_.size(); ++column) {
+        const int least = qRound((column == 0 ? larghezzaNome : larghezzaNumero) * scalaLarghezza_);
+        const QString heading = model()->headerData(static_cast<int>(column), Qt::Horizontal).toString();
+        const bool drawn = larghezzeScelte_.contains(heading);
+        room.push_back(drawn ? 0 : std::clamp(larghezzePiene_[column] - least, 0, ariaCeduta));
+    }
+    const int total = std::accumulate(room.begin(), room.end(), 0);
+    if (eccesso <= 0 || eccesso > total)
+        return std::vector<int>(room.size());
+    int before = 0;
+    for (int& give : room) {
+        const int after = before + give;
+        give = (after * eccesso / total) - (before * eccesso / total);
+        before = after;
+    }
+    return room;
+}
+
+void GrigliaCatalogo::RipartisceColonne() {
+    if (adattando_ || model() == nullptr ||
+        static_cast<int>(larghezzePiene_.size()) != model()->columnCount())
+        return;
+    const QScopedValueRollback guard(adattando_, true);
+    const int wanted = std::accumulate(larghezzePiene_.begin(), larghezzePiene_.end(), 0);
+    const std::vector<int> given = LarghezzeCedute(wanted - viewport()->width());
+    for (std::size_t i = 0; i < given.size(); ++i)
+        if (const int width = larghezzePiene_[i] - given[i]; columnWidth(static_cast<int>(i)) != width)
+            setColumnWidth(static_cast<int>(i), width);
+}
+
+void GrigliaCatalogo::resizeEvent(QResizeEvent* event) {
+    EventoProtetto([this, event] {
+        QTableView::resizeEvent(event);
+        RipartisceColonne();
+    });
+}
+
+// The last row would be cut by the lower edge: the room of the rows ends with the last whole one.
+void GrigliaCatalogo::updateGeometries() {
+    if (misurando_)
+        return;
+    const QScopedValueRollback guard(misurando_, true);
+    QTableView::updateGeometries();
+    const int row = verticalHeader()->defaultSectionSize();
+    if (const int height = viewport()->height(); height > row) {
+        QMargins around = viewportMargins();
+        around.setBottom(around.bottom() + height % row);
+        setViewportMargins(around);
+        FinisceConUnaRigaIntera();
+    }
+    if (ferma_ != nullptr)
+        ferma_->Allinea();
+}
+
+// The hidden heading of the rows tells where they lie, by a room that ended below.
+void GrigliaCatalogo::FinisceConUnaRigaIntera() {
+    const QRect room = viewport()->geometry();
+    verticalHeader()->setGeometry(room.left(), room.top(), 0, room.height());
+    QMetaObject::invokeMethod(verticalHeader(), "updateGeometries");
+    const QScrollBar* bar = verticalScrollBar();
+    if (bar->maximum() > 0 && bar->value() == bar->maximum())
+        verticalHeader()->setOffsetToLastSection();
+}
+
+// Sideways the user alone scrolls.
+void GrigliaCatalogo::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    const int left = horizontalScrollBar()->value();
+    QTableView::scrollTo(index, hint);
+    horizontalScrollBar()->setValue(left);
+}
+
+void GrigliaCatalogo::MostraOrdine(const QString& intestazione) {
+    int sorted = -1;
+    for (int column = 0; column < model()->columnCount(); ++column)
+        if (model()
+                ->headerData(column, Qt::Horizontal)
+                .toString()
+                .compare(intestazione, Qt::CaseInsensitive) == 0)
+            sorted = column;
+    horizontalHeader()->setSortIndicatorShown(sorted >= 0);
+    horizontalHeader()->setSortIndicator(sorted, Qt::AscendingOrder);
+    ferma_->Allinea();
 }
 
 void GrigliaCatalogo::Scala(double larghezza, double altezza) {
@@ -126,14 +258,56 @@ int GrigliaCatalogo::CercaIniziale(const QString& testo) const {
     return lettore_->Modello()->CercaIniziale(testo);
 }
 
+QModelIndex GrigliaCatalogo::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const int rows = model() == nullptr ? 0 : model()->rowCount();
+    if (rows > 0 && (action == MoveHome || action == MoveEnd))
+        return model()->index(action == MoveHome ? 0 : rows - 1, std::max(0, currentIndex().column()));
+    return QTableView::moveCursor(action, modifiers);
+}
+
+// With Ctrl rows are added, never taken away: the row in hand would be one that is not selected.
+QItemSelectionModel::SelectionFlags GrigliaCatalogo::selectionCommand(const QModelIndex& index,
+                                                                      const QEvent* event) const {
+    constexpr auto rows = QItemSelectionModel::Rows;
+    if (event == nullptr)
+        return QItemSelectionModel::ClearAndSelect | rows;
+    if (!index.isValid())
+        return QItemSelectionModel::NoUpdate;
+    const auto kind = event->type();
+    const bool mouse = kind == QEvent::MouseButtonPress || kind == QEvent::MouseMove;
+    const bool right = kind == QEvent::MouseButtonPress &&
+                       static_cast<const QMouseEvent*>(event)->button() == Qt::RightButton;
+    if (right)
+        return selectionModel()->isSelected(index) ? QItemSelectionModel::SelectionFlags()
+                                                   : QItemSelectionModel::ClearAndSelect | rows;
+    if ((mouse || kind == QEvent::KeyPress) && Ctrl(event)) {
+        if (Maiusc(event))
+            return QItemSelectionModel::SelectCurrent | rows;
+        const bool adds = mouse || static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Space;
+        return (adds ? QItemSelectionModel::Select : QItemSelectionModel::ClearAndSelect) | rows;
+    }
+    return QTableView::selectionCommand(index, event);
+}
+
+bool GrigliaCatalogo::InRicerca() const {
+    return !digitato_.isEmpty() && ultimoTasto_.isValid() &&
+           ultimoTasto_.elapsed() <= QApplication::keyboardInputInterval() * 3LL;
+}
+
 void GrigliaCatalogo::keyboardSearch(const QString& search) {
-    if (!ultimoTasto_.isValid() || ultimoTasto_.elapsed() > QApplication::keyboardInputInterval() * 3LL)
-        digitato_.clear();
+    Cerca(InRicerca() ? digitato_ + search : search);
+}
+
+void GrigliaCatalogo::Cerca(const QString& testo) {
     ultimoTasto_.start();
-    digitato_ += search;
-    if (digitato_.count(u' ') == digitato_.size())
+    digitato_ = testo;
+    if (testo.trimmed().isEmpty()) {
+        ricerca_->hide();
         return;
-    if (const int row = CercaIniziale(digitato_); row >= 0)
+    }
+    const int row = CercaIniziale(testo);
+    ricerca_->Mostra(testo, row >= 0);
+    if (row >= 0)
         setCurrentIndex(model()->index(row, 0));
 }
 
@@ -143,8 +317,7 @@ void GrigliaCatalogo::keyPressEvent(QKeyEvent* event) {
 
 void GrigliaCatalogo::Tasto(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
-        if (const QString rows = RigheSelezionate(); !rows.isEmpty())
-            QApplication::clipboard()->setText(rows);
+        Copia();
         return;
     }
     const bool plain = (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
@@ -152,13 +325,36 @@ void GrigliaCatalogo::Tasto(QKeyEvent* event) {
         keyboardSearch(event->text());
         return;
     }
+    if (event->key() == Qt::Key_Backspace && InRicerca()) {
+        Cerca(digitato_.chopped(1));
+        return;
+    }
+    if (Scorre(event->key()))
+        return;
     QTableView::keyPressEvent(event);
     if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
         event->accept(); // at the first and last row too: nobody else shall move it
 }
 
+/// A row is one thing: left and right scroll the columns.
+bool GrigliaCatalogo::Scorre(int tasto) {
+    if (tasto != Qt::Key_Left && tasto != Qt::Key_Right)
+        return false;
+    horizontalScrollBar()->triggerAction(tasto == Qt::Key_Left ? QScrollBar::SliderSingleStepSub
+                                                               : QScrollBar::SliderSingleStepAdd);
+    return true;
+}
+
+void GrigliaCatalogo::Copia() {
+    if (const QString rows = RigheSelezionate(); !rows.isEmpty())
+        QApplication::clipboard()->setText(rows);
+}
+
 QString GrigliaCatalogo::RigheSelezionate() const {
     QModelIndexList rows = selectionModel()->selectedRows();
+    const QModelIndex inHand = model()->index(lettore_->Recordset().RigaCorrente(), 0);
+    if (inHand.isValid() && !rows.contains(inHand))
+        rows << inHand;
     if (rows.isEmpty())
         return {};
     std::sort(rows.begin(), rows.end());

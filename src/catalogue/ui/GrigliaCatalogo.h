@@ -4,13 +4,18 @@
 #include <QTableView>
 
 #include <map>
+#include <vector>
 
 namespace sagomi {
 
 class LettoreDati;
 
-/// The table of sections: the row in hand follows the reader and leads it, typing goes to the first
-/// designation that begins so, Ctrl+C copies the selected rows with their headings.
+class ColonnaFerma;
+class EtichettaRicerca;
+
+/// The table of sections: the row in hand follows the reader and leads it and is always selected, typing goes
+/// to the first designation that begins so, Ctrl+C copies the selected rows with their headings, a click on a
+/// heading asks for its order. Rows are shown whole; the first column stays where the others scroll.
 class GrigliaCatalogo : public QTableView {
     Q_OBJECT
 public:
@@ -28,31 +33,60 @@ public:
     /// First row whose designation begins with the text, blanks and case ignored; -1 if none does.
     [[nodiscard]] int CercaIniziale(const QString& testo) const;
 
-    /// The selected rows as tab-separated lines under a line of headings.
+    /// Letters typed elsewhere, to search as if they had been typed here.
+    void Digita(const QString& testo) { keyboardSearch(testo); }
+
+    /// Marks the column that the rows are sorted by, given by its heading; an unknown one marks none.
+    void MostraOrdine(const QString& intestazione);
+
+    /// The selected rows, that in hand always among them, as tab-separated lines under a line of headings.
     [[nodiscard]] QString RigheSelezionate() const;
+
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
     [[nodiscard]] QSize sizeHint() const override { return {400, Altezza(9)}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {200, Altezza(4)}; }
 
+signals:
+    /// The heading of a column has been clicked.
+    void ordineChiesto(int colonna);
+
 protected:
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
+    void resizeEvent(QResizeEvent* event) override;
+    void updateGeometries() override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& search) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
+    void CollegaIntestazioni(QHeaderView* intestazioni);
+    void Copia();
     void Tasto(QKeyEvent* event);
+    bool Scorre(int tasto);
+    void Cerca(const QString& testo);
+    [[nodiscard]] bool InRicerca() const;
     void SegueLettore();
     [[nodiscard]] int Altezza(int rows) const;
     void AdattaColonne();
+    void RipartisceColonne();
+    void FinisceConUnaRigaIntera();
+    [[nodiscard]] std::vector<int> LarghezzeCedute(int eccesso) const;
     [[nodiscard]] int LarghezzaColonna(int column, const QStringList& texts) const;
 
     LettoreDati* lettore_ = nullptr;
+    ColonnaFerma* ferma_ = nullptr;
+    EtichettaRicerca* ricerca_ = nullptr;
     std::map<QString, int> larghezzeScelte_; ///< by heading, as the user drew them
+    std::vector<int> larghezzePiene_;        ///< of the columns, where there is room
     double scalaLarghezza_ = 1;
     double scalaAltezza_ = 1;
     int altezzaRiga_ = 0;
     bool seguendo_ = false;
     bool adattando_ = false;
+    bool misurando_ = false;
     QString digitato_;
     QElapsedTimer ultimoTasto_;
 };

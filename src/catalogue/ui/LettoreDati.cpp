@@ -13,7 +13,7 @@ LettoreDati::LettoreDati(QObject* parent) : QObject(parent), modello_(lettore_) 
     };
 }
 
-void LettoreDati::Refresh() {
+void LettoreDati::Refresh(const std::string& nome) {
     annuncio_ = false;
     {
         inCambio_ = true;
@@ -23,6 +23,8 @@ void LettoreDati::Refresh() {
             modello_.FinisceCambio();
         });
         lettore_.Refresh();
+        if (!nome.empty() && !lettore_.CercaRecord(nome))
+            lettore_.MoveFirst();
     }
     if (annuncio_)
         emit rigaCambiata();

@@ -20,7 +20,9 @@ public:
     [[nodiscard]] const std::string& RecordSource() const { return lettore_.RecordSource(); }
 
     /// Runs the query and goes to the first row. Throws ErroreCatalogo; then everything stays as it was.
-    void Refresh();
+    void Refresh() { Refresh({}); }
+    /// The same, but the first row of that name is in hand, where there is one.
+    void Refresh(const std::string& nome);
 
     [[nodiscard]] bool BOF() const { return lettore_.BOF(); }
     [[nodiscard]] bool EOF_() const { return lettore_.EOF_(); }

@@ -40,6 +40,8 @@ QVariant ModelloCatalogo::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole)
         return static_cast<int>(index.column() == 0 ? Qt::AlignLeft | Qt::AlignVCenter
                                                     : Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::ToolTipRole && index.column() == 0)
+        return TestoIntero(index.row(), 0); // a long name may be cut
     if (role != Qt::DisplayRole)
         return {};
     const std::string& figura = FiguraDi(index.column());
