@@ -74,6 +74,8 @@ function(sagomi_precompila target kind)
     target_precompile_headers(${testa} PRIVATE ${ARGN})
   endif()
   target_precompile_headers(${target} REUSE_FROM ${testa})
+  # A compiler cache that reads a precompiled header while another build writes it runs away in memory.
+  set_target_properties(${testa} ${target} PROPERTIES CXX_COMPILER_LAUNCHER "")
   target_compile_options(${target} PRIVATE ${regole})
 endfunction()
 
