@@ -30,17 +30,12 @@ protected:
     void Calcola() override;
 
 private:
-    void CollegaCalcolo();
-    void CollegaRegole();
+    void CollegaFreccia();
     void CalcolaChi();
-    void CorreggiBetaA();
     void MostraFreccia();
 
     std::unique_ptr<Ui::FrmInstabDoppioT> ui_;
-    QList<QRadioButton*> optChi_;
     QList<QRadioButton*> optE0_;
-    QList<QLineEdit*> txtChi_;
-    bool correggendo_ = false; ///< the calculator rewrites its own box
 };
 
 } // namespace sagomi

@@ -164,7 +164,18 @@ TEST_F(FrmInstabDoppioTTest, CalculatorFromTheRelativeSlenderness) {
     Trova<QComboBox>(&f, "ComboChi")->setCurrentText("b");
     EXPECT_EQ(Testo(&f, "txtChi_5"), Locale("0.7245")); // table 5.5.2
     Trova<QRadioButton>(&f, "optChi_0")->click();
-    EXPECT_EQ(Testo(&f, "txtChi_2"), Locale("0.0068")) << "0.8 is the slenderness now";
+    EXPECT_EQ(Testo(&f, "txtChi_0"), Locale("93.9")) << "the same member, said by its slenderness";
+    EXPECT_EQ(Testo(&f, "txtChi_2"), Locale("0.8"));
+    EXPECT_EQ(Testo(&f, "txtChi_5"), Locale("0.7245"));
+}
+
+// Rolled, h/b 2: curve a about y-y, b about z-z.
+TEST_F(FrmInstabDoppioTTest, CalculatorStartsWithTheCurveThatGoverns) {
+    auto& f = Apre("IPE 200", "5", "2.5");
+    EXPECT_EQ(Trova<QComboBox>(&f, "ComboChi")->currentText(), "b");
+    Scrive(s, "Txt_L0_1", "");
+    f.AllAttivazione();
+    EXPECT_EQ(Trova<QComboBox>(&f, "ComboChi")->currentText(), "a");
 }
 
 TEST_F(FrmInstabDoppioTTest, CalculatorFollowsTheStrengthInForce) {

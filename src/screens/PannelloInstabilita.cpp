@@ -1,0 +1,118 @@
+#include "screens/PannelloInstabilita.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "frame/ui/GrigliaDerivazione.h"
+#include "frame/ui/Mostra.h"
+#include "sections/Eurocod3.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr int stacco = 12; ///< between one value and the next caption [px]
+
+const std::vector<Voce>& Comuni() {
+    static const std::vector<Voce> values = {
+        {{"LblEps", "epsilon"},
+         "Lbl_eps",
+         5,
+         "Radice di 235 / fy, EC3 tabella 5.2",
+         "epsilon",
+         Genere::valore},
+        {{"LblLamda1", "lamda1"},
+         "Lbl_Lamda1",
+         6,
+         "Snellezza di confronto 93,9 epsilon, EC3 6.3.1.3",
+         "lamda1",
+         Genere::valore},
+        {{"LblBetaA", "betaA"},
+         "Lbl_betaA",
+         6,
+         "Area efficace su area lorda: 1 fino alla classe 3, EC3 6.3.1.2",
+         "betaA",
+         Genere::valore},
+        {{"LblGammaM1", "gammaM1"},
+         "lblGM1",
+         5,
+         "Coefficiente parziale per l'instabilità, EC3 6.1",
+         "gammaM1",
+         Genere::valore}};
+    return values;
+}
+
+/// EC3 6.3.1, from the slenderness to the resistance.
+const std::vector<Passo>& Derivazione() {
+    static const std::vector<Passo> passi = {
+        {{"", "lamda"}, "Lamda", "lamda", "λ = L0 / i", "Snellezza", "EC3 6.3.1.3"},
+        {{"", "lamda segnato"},
+         "LamdaS",
+         "lamda segnato",
+         "λ̄ = λ / λ1 · √βA",
+         "Snellezza relativa",
+         "EC3 6.3.1.3"},
+        {{"", "curva"}, "Curva", "curva", "", "Curva d'instabilità", "EC3 tabella 6.2"},
+        {{"", "alfa"}, "Alfa", "alfa", "α", "Fattore di imperfezione", "EC3 tabella 6.1"},
+        {{"", "fi"},
+         "Fi",
+         "fi",
+         "φ = ½ [1 + α (λ̄ − 0,2) + λ̄²]",
+         "Termine del coefficiente di riduzione",
+         "EC3 6.3.1.2"},
+        {{"", "chi"},
+         "chi",
+         "chi",
+         "χ = 1 / [φ + √(φ² − λ̄²)]",
+         "Coefficiente di riduzione, al più 1",
+         "EC3 6.3.1.2"},
+        {{"", "N    [kN]", "cr"}, "Ncr", "Ncr", "π² E A / λ²", "Carico critico elastico", "EC3 6.3.1.2"},
+        {{"", "N        [kN]", "b,Rd"},
+         "NbRd",
+         "NbRd",
+         "χ βA A fy / γM1",
+         "Resistenza di progetto all'instabilità",
+         "EC3 6.3.1.1"},
+    };
+    return passi;
+}
+
+QHBoxLayout* CreaComuni() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    for (const Voce& v : Comuni()) {
+        if (row->count() > 0)
+            row->addItem(new QSpacerItem(stacco, 0, QSizePolicy::Fixed));
+        const Coppia pair = CreaCoppia(v);
+        row->addWidget(pair.etichetta);
+        row->addWidget(pair.campo);
+    }
+    row->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding));
+    return row;
+}
+
+} // namespace
+
+PannelloInstabilita::PannelloInstabilita(QWidget* parent) : QGroupBox(parent) {
+    setTitle(tr("Resistenza all'instabilità"));
+}
+
+void PannelloInstabilita::ImpostaAssi(const QByteArray& assi) {
+    assi_ = assi;
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(9, 6, 9, 9);
+    column->setSpacing(6);
+    column->addLayout(CreaComuni());
+    column->addItem(new QSpacerItem(0, 4, QSizePolicy::Minimum, QSizePolicy::Fixed));
+    auto* derivation = new GrigliaDerivazione;
+    derivation->Componi(Derivazione(), QString::fromLatin1(assi).split(u' '));
+    column->addWidget(derivation);
+}
+
+void PannelloInstabilita::MostraAcciaio(double fy) {
+    Mostra(findChild<QLabel*>(QStringLiteral("Lbl_eps")), "0.0#", Epsilon(fy));
+    Mostra(findChild<QLabel*>(QStringLiteral("Lbl_Lamda1")), "0.0#", Lamda1(Epsilon(fy)));
+}
+
+} // namespace sagomi
