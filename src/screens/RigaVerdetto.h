@@ -1,26 +1,19 @@
 #pragma once
 
-#include <QWidget>
-
-class QLabel;
+#include "frame/ui/RigaUtilizzo.h"
 
 namespace sagomi {
 
 struct Verdetto;
 
-/// What stands beside a verdict: the utilisation in per cent with the term that governs ("LblUtilizzo"), and
-/// the reason where the sum shown does not tell it ("LblMotivo").
-class RigaVerdetto : public QWidget {
+/// What stands beside the verdict on a section or a member.
+class RigaVerdetto : public RigaUtilizzo {
     Q_OBJECT
 public:
-    explicit RigaVerdetto(QWidget* parent = nullptr);
+    using RigaUtilizzo::RigaUtilizzo;
 
-    /// A verdict without a number leaves both empty.
+    /// A verdict without a number leaves utilisation and reason empty.
     void Mostra(const Verdetto& verdetto);
-
-private:
-    QLabel* utilizzo_;
-    QLabel* motivo_;
 };
 
 } // namespace sagomi

@@ -5,9 +5,10 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
-#include <limits>
+#include <cmath>
 
 #include "fasteners/DisegnoForatura.h"
+#include "fasteners/VerdettoBullone.h"
 #include "fasteners/ui/GeneraleCollegamenti.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
@@ -43,6 +44,20 @@ void Scrive(QLineEdit* box, const std::string& text) {
     const QSignalBlocker quiet(box);
     box->setText(QString::fromStdString(text));
     SegnaEntrata(box, {}); // it has heard nothing
+}
+
+QString Nome(TermineBullone termine) {
+    switch (termine) {
+    case TermineBullone::Taglio:
+        return QStringLiteral("taglio");
+    case TermineBullone::Trazione:
+        return QStringLiteral("trazione");
+    case TermineBullone::Rifollamento:
+        return QStringLiteral("rifollamento");
+    case TermineBullone::Nessuno:
+        break;
+    }
+    return {};
 }
 
 void MostraForza(QLineEdit* box, Singolo force) {
@@ -89,7 +104,10 @@ void frmBulloni::CollegaCaselle() {
     Collega(entries, &FiltroCampi::conclusa, this, [this](QLineEdit* box) { Conclusa(box); });
     CollegaRegole();
     Collega(ui_->Txt_fub, &QLineEdit::textChanged, this, [this] { ScriveFub(); });
-    Collega(ui_->Txt_fu, &QLineEdit::textChanged, this, [this] { ScriveFu(); });
+    Collega(ui_->Txt_fu, &QLineEdit::textChanged, this, [this] {
+        if (!Caricamento && bullone_)
+            Aggiorna();
+    });
     for (int i = 0; i <= ultimaEntrata; ++i)
         Collega(Txt_Rif_[i], &QLineEdit::textChanged, this, [this, i] { ScriveRif(i); });
     for (QLineEdit* box : Txt_FSd_)
@@ -100,46 +118,70 @@ void frmBulloni::CollegaCaselle() {
 }
 
 void frmBulloni::CollegaRegole() {
-    const QList<QWidget*> verdict{ui_->Lbl_Risultato_0, ui_->Lbl_Risultato_1};
-    const auto negative = [](const QLineEdit* box, const char* reason) {
-        return NumeroIn(box) < 0 ? tr(reason) : QString();
-    };
+    verdetto_ = {ui_->Lbl_Risultato_0, ui_->Lbl_Risultato_1,
+                 findChild<QLabel*>(QStringLiteral("LblUtilizzo")),
+                 findChild<QLabel*>(QStringLiteral("LblMotivo"))};
+    const QList<QWidget*> bearing = verdetto_ + QList<QWidget*>{Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]};
     for (QLineEdit* box : Txt_FSd_)
-        regole_.Aggiungi({.caselle = {box},
-                          .motivo = [=] { return negative(box, "La forza non può essere negativa"); },
-                          .risultati = verdict});
-    regole_.Aggiungi({.caselle = Txt_FSd_, .risultati = verdict, .manca = [this] {
+        RegolaSegno(box, "La forza non può essere negativa", verdetto_);
+    regole_.Aggiungi({.caselle = Txt_FSd_, .risultati = verdetto_, .manca = [this] {
                           return Txt_FSd_[0]->text().trimmed().isEmpty() &&
                                  Txt_FSd_[1]->text().trimmed().isEmpty();
                       }});
-    QLineEdit* thickness = Txt_Rif_[rifSpessore];
-    regole_.Aggiungi({.caselle = {thickness},
-                      .motivo = [=] { return negative(thickness, "Lo spessore non può essere negativo"); },
-                      .risultati = {Txt_Rif_[rifResistenza]}});
+    regole_.Aggiungi({.caselle = {Txt_FSd_[0]}, .motivo = [this] { return MotivoForza(0); }});
+    regole_.Aggiungi({.caselle = {Txt_FSd_[1]}, .motivo = [this] { return MotivoForza(1); }});
+    RegolaSegno(Txt_Rif_[rifSpessore], "Lo spessore non può essere negativo", bearing);
+    RegolaSegno(Txt_Rif_[rifForo], "Il diametro del foro non può essere negativo",
+                bearing + QList<QWidget*>{ui_->Txt_FVRd});
+    for (const int i : {rif_e1, rif_p1, rif_e2, rif_p2})
+        RegolaSegno(Txt_Rif_[i], "La distanza non può essere negativa", bearing);
+    for (const int i : {rifForo, rif_e1, rif_p1, rif_e2, rif_p2})
+        RegolaAttesa(Txt_Rif_[i], bearing);
+    RegolaAttesa(ui_->Txt_fu, bearing);
+    RegolaAttesa(ui_->Txt_fub, bearing + QList<QWidget*>{ui_->Txt_FVRd, ui_->Txt_FtRd});
+}
+
+/// A number that cannot be is marked and stays; what hangs on it is empty.
+void frmBulloni::RegolaSegno(QLineEdit* casella, const char* motivo, const QList<QWidget*>& risultati) {
+    regole_.Aggiungi({.caselle = {casella},
+                      .motivo =
+                          [casella, motivo] {
+                              const double value = Singolo(NumeroIn(casella));
+                              return !std::isfinite(value) ? tr("Il numero è troppo grande")
+                                     : value < 0           ? tr(motivo)
+                                                           : QString();
+                          },
+                      .risultati = risultati});
 }
 
 /// A measure on its way that is none yet: what hangs on it is empty until it is one, or is put back.
-void frmBulloni::SvuotaSeAttende(const QLineEdit* casella, const QList<QWidget*>& risultati) const {
-    if (!bullone_ || Singolo(NumeroIn(casella)) > 0 || !InDigitazione(casella))
-        return;
-    for (QWidget* result : risultati)
-        SvuotaRisultato(result);
+void frmBulloni::RegolaAttesa(QLineEdit* casella, const QList<QWidget*>& risultati) {
+    regole_.Aggiungi({.caselle = {casella}, .risultati = risultati, .manca = [casella] {
+                          return !(Singolo(NumeroIn(casella)) > 0) && InDigitazione(casella);
+                      }});
 }
 
-/// What nothing could be computed with goes back to what the bolt has; results are shown again.
+/// Why a force alone is beyond what resists it.
+QString frmBulloni::MotivoForza(int i) const {
+    if (!bullone_ || Caricamento)
+        return {};
+    const VerdettoBullone v = Giudica(*bullone_);
+    return QString::fromStdString(i == 0 ? v.motivoTaglio : v.motivoTrazione);
+}
+
+/// A measure or a strength of 0, with which nothing is computed, goes back to what the bolt has.
 void frmBulloni::Conclusa(QLineEdit* casella) {
     if (!bullone_ || Singolo(NumeroIn(casella)) > 0)
         return;
+    const bool nullo = Singolo(NumeroIn(casella)) == 0;
     for (const auto& [place, member] : misure)
-        if (casella == Txt_Rif_[place])
+        if (nullo && casella == Txt_Rif_[place])
             Scrive(casella, TestoPiano((*bullone_).*member));
     if (casella == ui_->Txt_fub)
         Scrive(casella, Formato("0", bullone_->fub));
     if (casella == ui_->Txt_fu && bullone_->fu > 0)
         Scrive(casella, TestoPiano(bullone_->fu));
-    MostraTaglioTrazione();
-    RifollamentoAggiorna();
-    Interazione();
+    Aggiorna();
 }
 
 bool frmBulloni::Invio(QLineEdit* casella) {
@@ -216,52 +258,35 @@ void frmBulloni::SceglieSezione() {
 }
 
 void frmBulloni::ScriveFub() {
-    const Singolo fub = NumeroIn(ui_->Txt_fub); // too small for a single is 0 too
-    SvuotaSeAttende(ui_->Txt_fub, {ui_->Txt_FVRd, ui_->Txt_FtRd, Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza],
-                                   ui_->Lbl_Risultato_0, ui_->Lbl_Risultato_1});
-    if (Caricamento || !bullone_ || !(fub > 0))
+    if (Caricamento || !bullone_)
         return;
-    bullone_->fub = fub;
-    bullone_->CalcolaResistenzaTaglio();
-    MostraTaglioTrazione();
-    RifollamentoAggiorna();
-    Interazione();
-}
-
-void frmBulloni::ScriveFu() {
-    SvuotaSeAttende(ui_->Txt_fu, {Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
-    if (!Caricamento && bullone_ && Singolo(NumeroIn(ui_->Txt_fu)) > 0)
-        RifollamentoAggiorna();
+    if (const Singolo fub = NumeroIn(ui_->Txt_fub); fub > 0) { // too small for a single is 0 too
+        bullone_->fub = fub;
+        bullone_->CalcolaResistenzaTaglio();
+    }
+    Aggiorna();
 }
 
 void frmBulloni::ScriveRif(int i) {
-    if (i != rifSpessore)
-        SvuotaSeAttende(Txt_Rif_[i], {Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
-    if (Caricamento || !bullone_ || (i != rifSpessore && !(Singolo(NumeroIn(Txt_Rif_[i])) > 0)))
+    if (Caricamento || !bullone_)
         return;
-    RifollamentoAggiorna();
-    if (i != rifForo)
-        return;
-    bullone_->CalcolaResistenzaTaglio(); // the play of the hole may reduce it
-    MostraTaglioTrazione();
-    Interazione();
+    LeggePiastra();
+    if (i == rifForo)
+        bullone_->CalcolaResistenzaTaglio(); // the play of the hole may reduce it
+    Aggiorna();
 }
 
 void frmBulloni::ClasseCambiata() {
     bullone_->CalcolaResistenzaTaglio();
     Scrive(ui_->Txt_fub, Formato("0", bullone_->fub));
     Scrive(ui_->Txt_fyb, TestoPiano(bullone_->fyb));
-    MostraTaglioTrazione(); // 4.6 and 4.8 share fub, but not the shear resistance
-    if (Caricamento)
-        return;
-    RifollamentoAggiorna();
-    Interazione();
+    if (!Caricamento)
+        Aggiorna(); // 4.6 and 4.8 share fub, but not the shear resistance
 }
 
 void frmBulloni::DiametroCambiato() {
     bullone_->do_ = bullone_->DiametroForoStandard();
     bullone_->CalcolaResistenzaTaglio();
-    MostraTaglioTrazione();
     // Distances that lower nothing: alfa is 1 and no reduction across the load applies.
     const Singolo hole = bullone_->do_;
     Scrive(Txt_Rif_[rifForo], TestoPiano(hole));
@@ -269,6 +294,11 @@ void frmBulloni::DiametroCambiato() {
     Scrive(Txt_Rif_[rif_p1], TestoPiano(Singolo(3.75 * hole)));
     Scrive(Txt_Rif_[rif_e2], TestoPiano(Singolo(1.5 * hole)));
     Scrive(Txt_Rif_[rif_p2], TestoPiano(Singolo(3 * hole)));
+    Aggiorna();
+}
+
+void frmBulloni::Aggiorna() {
+    MostraTaglioTrazione();
     RifollamentoAggiorna();
     Interazione();
 }
@@ -301,8 +331,6 @@ void frmBulloni::RifollamentoAggiorna() {
     bullone_->RifollamentoCalcola();
     Scrive(Txt_Rif_[rifAlfa], FormatoCifre(cifreRisultati, bullone_->alfa));
     MostraForza(Txt_Rif_[rifResistenza], bullone_->FbRd);
-    regole_.Applica();
-    regole_.SvuotaRisultati();
     Messaggi();
     Disegna();
     if (ui_->Txt_Osservazioni->isVisible())
@@ -324,19 +352,22 @@ void frmBulloni::Messaggi() {
 void frmBulloni::Interazione() {
     bullone_->FvSd = kN_a_N(NumeroIn(Txt_FSd_[0]));
     bullone_->FtSd = kN_a_N(NumeroIn(Txt_FSd_[1]));
-    if (bullone_->FvRd == 0 || bullone_->FtRd == 0) {
-        ui_->Lbl_Risultato_0->clear();
-        MostraEsito(ui_->Lbl_Risultato_1, std::numeric_limits<double>::quiet_NaN());
-        return;
-    }
-    const auto text = [](double v) { return FormatoCifre(cifreRisultati, v); };
-    const TerminiTaglioTrazione t = bullone_->TerminiInterazione();
-    const double sum = t.Somma();
-    ui_->Lbl_Risultato_0->setText(
-        QString::fromStdString(text(t.taglio) + " + " + text(t.trazione) + " = " + text(sum)));
-    MostraEsito(ui_->Lbl_Risultato_1, sum);
+    MostraSomma();
+    const VerdettoBullone v = Giudica(*bullone_);
+    MostraEsito(ui_->Lbl_Risultato_1, v.utilizzo);
+    ui_->verdetto->Mostra(v.utilizzo, Nome(v.governa), QString::fromStdString(v.Motivo()));
     regole_.Applica();
     regole_.SvuotaRisultati();
+}
+
+void frmBulloni::MostraSomma() {
+    ui_->Lbl_Risultato_0->clear();
+    if (bullone_->FvRd == 0 || bullone_->FtRd == 0)
+        return;
+    const auto text = [](double v) { return FormatoCifre(cifreRisultati, v); };
+    const TerminiTaglioTrazione t = bullone_->TerminiInterazione();
+    ui_->Lbl_Risultato_0->setText(
+        QString::fromStdString(text(t.taglio) + " + " + text(t.trazione) + " = " + text(t.Somma())));
 }
 
 void frmBulloni::Disegna() {

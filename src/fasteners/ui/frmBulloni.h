@@ -40,7 +40,9 @@ private:
     void CollegaCaselle();
     void CollegaRegole();
     void Conclusa(QLineEdit* casella);
-    void SvuotaSeAttende(const QLineEdit* casella, const QList<QWidget*>& risultati) const;
+    void RegolaSegno(QLineEdit* casella, const char* motivo, const QList<QWidget*>& risultati);
+    void RegolaAttesa(QLineEdit* casella, const QList<QWidget*>& risultati);
+    [[nodiscard]] QString MotivoForza(int i) const;
     bool Invio(QLineEdit* casella);
 
     void Carica();
@@ -48,15 +50,16 @@ private:
     void SceglieDiametro();
     void SceglieSezione();
     void ScriveFub();
-    void ScriveFu();
     void ScriveRif(int i);
 
     void ClasseCambiata();
     void DiametroCambiato();
+    void Aggiorna();
     void LeggePiastra();
     void RifollamentoAggiorna();
     void Messaggi();
     void Interazione();
+    void MostraSomma();
     void MostraTaglioTrazione();
     void Disegna();
 
@@ -66,6 +69,7 @@ private:
     std::unique_ptr<Ui::frmBulloni> ui_;
     QList<QLineEdit*> Txt_Rif_;
     QList<QLineEdit*> Txt_FSd_;
+    QList<QWidget*> verdetto_; ///< what the check says
     RegoleEntrate regole_;
     std::optional<Bullone> bullone_;
     bool conSuggerimento_ = false; ///< the advice in view also tells how to close it

@@ -50,12 +50,15 @@ void frmSaldature::MostraAcciaio() {
 void frmSaldature::Aggiorna() {
     if (!saldatura_)
         saldatura_.emplace();
+    ui_->Txt_betaw->clear(); // nothing old, and nothing new, beside a message
+    ui_->Txt_fvwd->clear();
     saldatura_->fu = NumeroIn(ui_->Txt_fu);
-    ui_->Txt_betaw->setText(QString::fromStdString(TestoPiano(saldatura_->betaW())));
+    const Singolo beta = saldatura_->betaW();
     try {
-        ui_->Txt_fvwd->setText(QString::fromStdString(FormatoCifre(cifreRisultati, saldatura_->fvwd())));
+        const std::string strength = FormatoCifre(cifreRisultati, saldatura_->fvwd());
+        ui_->Txt_betaw->setText(QString::fromStdString(TestoPiano(beta)));
+        ui_->Txt_fvwd->setText(QString::fromStdString(strength));
     } catch (const ErroreAritmetico&) { // no correlation factor, as the message has just said
-        ui_->Txt_fvwd->clear();
     }
 }
 

@@ -1,5 +1,3 @@
-#include "fasteners/ui/frmBulloni.h"
-
 #include <QAction>
 #include <QComboBox>
 #include <QFile>
@@ -12,8 +10,8 @@
 
 #include "drawing/SuperficieFinta.h"
 #include "drawing/ui/ImmagineDisegno.h"
+#include "fasteners/ui/AmbienteBulloni.h"
 #include "frame/ui/UpDown.h"
-#include "screens/Ambiente.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -21,63 +19,6 @@ using namespace sagomi::prove;
 namespace {
 
 constexpr const char* suggerimento = "Cliccare nuovamente sul comando Osservazioni per chiudere la casella";
-
-// Expected figures by hand, gamma M2 1.25. M16, As 157: 8.8 in shear 0.6 · 800 · 157 / 1.25 = 60.288 kN, in
-// tension 0.9 · 800 · 157 / 1.25 = 90.432 kN; 4.6 30.144 and 45.216 kN. Bearing of M16 in 10 mm of S235 with
-// full distances 2.5 · 360 · 16 · 10 / 1.25 = 115.2 kN.
-class FrmBulloniTest : public AmbienteSchermi {
-protected:
-    frmBulloni& Apre() {
-        partenza = &Avvia();
-        return Riapre();
-    }
-    frmBulloni& Riapre() {
-        Trova<QAction>(partenza, "mnuCollegamenti_0")->trigger();
-        b = dynamic_cast<frmBulloni*>(NavigaSchermi::Unico().Trova(QStringLiteral("frmBulloni")));
-        if (b == nullptr || !b->isVisible())
-            throw std::runtime_error("the screen did not open");
-        return *b;
-    }
-    /// As the user chooses an item of a list.
-    void Sceglie(const char* elenco, int indice) const {
-        auto* list = Trova<QComboBox>(b, elenco);
-        list->setCurrentIndex(indice);
-        emit list->activated(indice);
-    }
-    void Classe(const char* testo) const {
-        Sceglie("ComboClassiBulloni", Trova<QComboBox>(b, "ComboClassiBulloni")->findText(testo));
-    }
-    void Diametro(const char* testo) const {
-        Sceglie("ComboDiametriBulloni", Trova<QComboBox>(b, "ComboDiametriBulloni")->findText(testo));
-    }
-    void Scrive(const char* casella, const std::string& testo) const {
-        Trova<QLineEdit>(b, casella)->setText(QString::fromStdString(Locale(testo)));
-    }
-    void M16() const {
-        Classe("8.8");
-        Diametro("16");
-        Scrive("Txt_Rif_0", "10");
-    }
-    [[nodiscard]] std::string Legge(const char* casella) const { return Testo(b, casella); }
-    [[nodiscard]] std::string Somma() const {
-        return Trova<QLabel>(b, "Lbl_Risultato_0")->text().toStdString();
-    }
-    [[nodiscard]] QString Verdetto() const { return Trova<QLabel>(b, "Lbl_Risultato_1")->text(); }
-    [[nodiscard]] std::vector<std::string> Elenco() const {
-        const auto* list = Trova<QListWidget>(b, "List1");
-        std::vector<std::string> rows;
-        for (int i = 0; i < list->count(); ++i)
-            rows.push_back(list->item(i)->text().toStdString());
-        EXPECT_EQ(list->isVisible(), !rows.empty());
-        return rows;
-    }
-    [[nodiscard]] QPlainTextEdit* Osservazioni() const {
-        return Trova<QPlainTextEdit>(b, "Txt_Osservazioni");
-    }
-
-    frmDoppioT* partenza = nullptr;
-    frmBulloni* b = nullptr;
-};
 
 TEST_F(FrmBulloniTest, TextsOfTheScreen) {
     Apre();
@@ -367,78 +308,6 @@ TEST_F(FrmBulloniTest, ListShowsWhatIsTooSmallAndHidesOtherwise) {
     EXPECT_EQ(Elenco()[0], "do deve essere > d = " + Locale("16.0"));
     Scrive("Txt_Rif_1", "16");
     EXPECT_EQ(Elenco(), std::vector<std::string>{});
-}
-
-TEST_F(FrmBulloniTest, SumAndVerdictOfShearAndTension) {
-    Apre();
-    M16();
-    Scrive("Txt_FSd_0", "20");
-    Scrive("Txt_FSd_1", "50");
-    // 20 / 60.288 + 50 / 1.4 / 90.432
-    EXPECT_EQ(Somma(), Locale(" 0.3317 +  0.3949 =  0.7267"));
-    EXPECT_EQ(Verdetto(), "OK");
-    Scrive("Txt_FSd_0", "60");
-    EXPECT_EQ(Somma(), Locale(" 0.9952 +  0.3949 =  1.390"));
-    EXPECT_EQ(Verdetto(), "NO");
-    EXPECT_EQ(Trova<QLabel>(b, "Lbl_Risultato_1")->palette().color(QPalette::WindowText), QColor(255, 0, 0));
-    Scrive("Txt_FSd_0", "");
-    EXPECT_EQ(Somma(), Locale(" 0 +  0.3949 =  0.3949"));
-    EXPECT_EQ(Verdetto(), "OK");
-}
-
-TEST_F(FrmBulloniTest, ForcesAndThicknessesThatCannotBeAreMarked) {
-    Apre();
-    M16();
-    Scrive("Txt_FSd_0", "20");
-    Scrive("Txt_FSd_1", "-5");
-    EXPECT_EQ(Somma(), "");
-    EXPECT_EQ(Verdetto(), "");
-    EXPECT_EQ(Trova<QLineEdit>(b, "Txt_FSd_1")->toolTip(), "La forza non può essere negativa");
-    Scrive("Txt_FSd_1", "5");
-    EXPECT_EQ(Verdetto(), "OK");
-    Scrive("Txt_Rif_0", "-10");
-    EXPECT_EQ(Legge("Txt_Rif_7"), "");
-    EXPECT_EQ(Trova<QLineEdit>(b, "Txt_Rif_0")->toolTip(), "Lo spessore non può essere negativo");
-    Scrive("Txt_Rif_0", "10");
-    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 115.2"));
-    EXPECT_TRUE(registratore.testi.empty());
-}
-
-TEST_F(FrmBulloniTest, ADistanceOnItsWayEmptiesTheResultAndIsPutBack) {
-    Apre();
-    M16();
-    auto* e1 = Trova<QLineEdit>(b, "Txt_Rif_2");
-    e1->setFocus();
-    e1->selectAll();
-    QTest::keyClicks(e1, "0");
-    EXPECT_EQ(Legge("Txt_Rif_7"), "");
-    QTest::keyClick(e1, Qt::Key_Return);
-    EXPECT_EQ(Legge("Txt_Rif_2"), "54");
-    EXPECT_EQ(Legge("Txt_Rif_7"), Locale(" 115.2"));
-    e1->setFocus();
-    e1->selectAll();
-    QTest::keyClicks(e1, "27"); // 27 / 54, at each key
-    EXPECT_EQ(Legge("Txt_Rif_6"), Locale(" 0.5"));
-}
-
-TEST_F(FrmBulloniTest, ZeroResistanceHasNeitherSumNorVerdict) {
-    partenza = &Avvia();
-    ClasseBullone[1] = 12.9; // a settings file may hold any
-    Riapre();
-    EXPECT_FALSE(registratore.testi.empty());
-    for (const std::string& testo : registratore.testi)
-        EXPECT_EQ(testo, "Classe bullone non implementata");
-    EXPECT_EQ(Legge("Txt_FVRd"), " 0");
-    EXPECT_EQ(Legge("Txt_FtRd"), Locale(" 33.35")) << "0.9 · 1200 · 38.6 / 1.25";
-    EXPECT_EQ(Somma(), "");
-    EXPECT_EQ(Verdetto(), "");
-    registratore.testi.clear();
-    Classe("8.8");
-    Scrive("Txt_FSd_0", "0");
-    EXPECT_EQ(Somma(), " 0 +  0 =  0");
-    EXPECT_TRUE(registratore.testi.empty());
-    Classe("12.9");
-    EXPECT_EQ(registratore.testi.size(), 1U);
 }
 
 TEST_F(FrmBulloniTest, SpinnerStepsTheSteelInUseAndStopsAtBothEnds) {

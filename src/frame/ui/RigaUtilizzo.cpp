@@ -1,0 +1,59 @@
+#include "frame/ui/RigaUtilizzo.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+#include <cmath>
+
+#include "frame/Numeri.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr int stacco = 12; ///< between the two texts [px]
+
+QString Percento(double utilizzo) {
+    constexpr double quasiUno = 1.0005; // would show as 100.0
+    constexpr double moltissimo = 100;  // beyond it the figures tell nothing
+    if (utilizzo > 1 && utilizzo < quasiUno)
+        return QStringLiteral("> 100");
+    if (utilizzo > moltissimo)
+        return QStringLiteral("> ") + QString::fromStdString(Formato("#,##0", moltissimo * 100));
+    return QString::fromStdString(Formato("0.0", utilizzo * 100));
+}
+
+QLabel* CreaTesto(const char* nome, const QString& letta) {
+    auto* label = new QLabel;
+    label->setObjectName(QString::fromLatin1(nome));
+    label->setAccessibleName(letta);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+} // namespace
+
+RigaUtilizzo::RigaUtilizzo(QWidget* parent)
+    : QWidget(parent), utilizzo_(CreaTesto("LblUtilizzo", QStringLiteral("Utilizzo"))),
+      motivo_(CreaTesto("LblMotivo", QStringLiteral("Motivo dell'esito"))) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(stacco);
+    row->addWidget(utilizzo_);
+    row->addWidget(motivo_, 1);
+    utilizzo_->setToolTip(
+        QStringLiteral("Somma dei termini in valore assoluto e termine maggiore, passa fino al 100 %"));
+    motivo_->setWordWrap(true);
+    setMinimumHeight(fontMetrics().height()); // nothing jumps when the texts come
+}
+
+void RigaUtilizzo::Mostra(double utilizzo, const QString& governa, const QString& motivo) {
+    QString text = std::isnan(utilizzo) ? QString() : QStringLiteral("Utilizzo %1 %").arg(Percento(utilizzo));
+    if (!text.isEmpty() && !governa.isEmpty())
+        text += QStringLiteral(" (governa %1)").arg(governa);
+    utilizzo_->setText(text);
+    motivo_->setText(motivo);
+}
+
+} // namespace sagomi
