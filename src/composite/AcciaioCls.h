@@ -1,0 +1,142 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/Singolo.h"
+
+namespace sagomi {
+
+class CampiMaschera;
+class Poligono;
+class SezioneDoppioT;
+class Superficie;
+
+/// What the slab of a composite beam is cast on.
+enum : std::int16_t { solettaPiena = 0, nervatureTrasversali = 1, nervatureParallele = 2 };
+
+/// How a composite beam is checked: plastic ("S.L.U.") or elastic ("Metodo n"), sagging or hogging.
+enum : std::int16_t { sluPositivo = 0, sluNegativo = 1, metodoNPositivo = 2, metodoNNegativo = 3 };
+
+/// A steel double-T that works with a concrete slab (EC4): slab, deck, reinforcement, studs, design moment
+/// and results.
+///
+/// Units: mm, N, N mm, N/mm2 unless said. y is measured upwards from the lower fibre of the steel. Materials
+/// are the global fck, fsk and CoeffOmogeneizzazione (n = Es/Ec); the steel has the fy of its section and
+/// GammaM0.
+///
+/// A caller sets the data, makes the section the one in use, runs InizializzaTrave and InizializzaAcciaioCls
+/// and then the operation of the check; VerificaTrave does it all.
+class AcciaioCls {
+public:
+    // Slab, bars and deck
+    Singolo ha;   ///< rib height of the deck
+    Singolo hc;   ///< thickness of the slab, the deck included, from its underside or from the top flange;
+                  ///< below 0, solid slab only: the slab lies between H + hc and H
+    Singolo c;    ///< distance of the bars from the top of the slab
+    Singolo beff; ///< effective width
+    Singolo As;   ///< area of the bars [mm2]
+    Singolo yArmatura;  ///< level of the bars, H + hc - c
+    Singolo bb;         ///< lower width of a rib
+    Singolo bs;         ///< upper width of a rib
+    Singolo iNervature; ///< spacing of the ribs
+    Singolo b0t;        ///< width of the concrete in contact with the beam, parallel ribs
+
+    Singolo Msd; ///< design moment, below 0 when hogging [N mm]
+
+    // Results of the elastic check
+    Singolo Jid;     ///< second moment of the transformed section, in steel [mm4]
+    Singolo Ss;      ///< first moment of slab and bars that react, in steel, without its sign [mm3]
+    Singolo yNeutro; ///< level of the neutral axis, plastic or elastic
+    Singolo Riservato1, Riservato2; ///< kept without a rule
+    Singolo SigmaCls;               ///< top of the concrete, - compression [N/mm2]
+    Singolo SigmaInf;               ///< bottom of the steel, + tension [N/mm2]
+    Singolo SigmaSup;               ///< top of the steel, + tension [N/mm2]
+    Singolo SigmaArm;               ///< bars, + tension [N/mm2]
+
+    Singolo
+        Vl; ///< longitudinal shear force for the studs, of half the beam [N]; elastic: per unit of Msd/Jid
+    Singolo MplRd; ///< resistant moment, below 0 when hogging [N mm]
+
+    std::shared_ptr<SezioneDoppioT> Sezione; ///< the steel
+    std::int16_t TipoSoletta = solettaPiena;
+    std::int16_t TipoVerifica = sluPositivo;
+    std::shared_ptr<Poligono> Soletta; ///< slab; of transverse ribs what lies above them
+    std::int16_t nVerticiSoletta = 0;
+    Singolo yInfSoletta;                    ///< lowest level of the slab
+    std::shared_ptr<Poligono> ClsCompresso; ///< parts of slab and steel; empty where there is none
+    std::shared_ptr<Poligono> ClsTeso;
+    std::shared_ptr<Poligono> AcciaioCompresso;
+    std::shared_ptr<Poligono> AcciaioTeso;
+
+    // Studs
+    std::int16_t TipoConnettore = 0;  ///< kept in the file, without a rule
+    double kRiduzione = 0;            ///< reduction factor for ribs [-], EC4 6.3.3
+    double PRd1 = 0;                  ///< resistance of one stud, steel [N], EC4 6.3.2
+    double PRd2 = 0;                  ///< the same, concrete [N]
+    double PRd = 0;                   ///< design value, 0 where there is none [N]
+    Singolo b0;                       ///< mean width of a rib
+    Singolo fu;                       ///< ultimate strength of the stud [N/mm2]
+    Singolo Luce;                     ///< length that carries the studs of nConnettori [m]
+    Singolo dPiolo, hPiolo;           ///< diameter and height
+    double AreaPiolo = 0;             ///< [mm2]
+    Singolo GammaV;                   ///< partial factor [-]
+    Singolo nConnCalc;                ///< studs of half the beam, not rounded
+    std::int16_t nConnettori = 0;     ///< studs of the beam, full connection
+    Singolo Passo;                    ///< spacing of studs or of pairs, 0 where there is none
+    std::int16_t nParziale = 0;       ///< studs of the beam, partial connection
+    std::int16_t Nr = 1;              ///< studs in a rib or in a row, 1 or 2
+    std::string Unita;                ///< what Passo counts: "connettori" or "coppie conn."
+    std::int16_t nNervaturePasso = 0; ///< ribs in a spacing
+
+    bool SenzaPasso = false;    ///< no spacing is wanted: CalcolaPassoConnettori writes nothing
+    std::string MessaggioPioli; ///< what the design of the studs has to say; lblHsuD shows it
+
+    // Preparation --------------------------------------------------------------------------------------
+
+    /// Has the section in use take its constants from its outline. Nothing where it is no double-T.
+    static void InizializzaTrave();
+
+    /// Checks and mends the data of the deck, takes over the section in use (the one that the beam has stays
+    /// where that is no double-T) and builds the slab. Told: "hc < 0
+    /// ammesso solo per soletta piena", the only one that stops; b0t below bb, which becomes bb; iNervature
+    /// below the greater of bb and bs, which becomes that and 1 more.
+    /// @return false when it has stopped, or where there is no double-T with its outline
+    bool InizializzaAcciaioCls();
+
+    /// Whether the data of the deck pass as they are.
+    [[nodiscard]] bool DatiGrecataAccettabili() const;
+
+    /// Builds Soletta, with its area and centroid, and the levels of bars and slab. Sezione is there.
+    void SolettaOggettoCrea();
+
+    /// Half of the outline of a deck with parallel ribs, from the axis of the beam to beff/2, y from 0.
+    /// @param xs, ys  receive the points
+    void CoordinateGrecata(std::vector<double>& xs, std::vector<double>& ys) const;
+
+    /// One step of it, from (x, y) by (dx, dy); a step that reaches beff/2 is cut there.
+    /// @param continua  becomes false with that step
+    void CoordinataGrecataSuccessiva(double& x, double& y, double dx, double dy, std::vector<double>& xs,
+                                     std::vector<double>& ys, bool& continua) const;
+
+    /// Takes the text of a box into ha, bb, bs, iNervature or b0t, for indices 0 to 4; any other index does
+    /// nothing.
+    void DatoLamiera(std::string_view testo, int indice);
+
+    [[nodiscard]] double fyd() const;     ///< design strength of the steel [N/mm2]
+    [[nodiscard]] static double fcd();    ///< of the concrete, 0.85 fck / 1.5 [N/mm2]
+    [[nodiscard]] static double fsd();    ///< of the bars, fsk / 1.15 [N/mm2]
+    [[nodiscard]] double Sommita() const; ///< top of the section: H + hc, H when hc is below 0
+
+    /// Neutral axis from the top of the section.
+    [[nodiscard]] double yNeutroDaSopra() const { return Sommita() - yNeutro; }
+
+private:
+    std::string Titolo;
+    Singolo Ecm; ///< [N/mm2]
+};
+
+} // namespace sagomi
