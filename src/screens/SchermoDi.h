@@ -5,16 +5,18 @@
 #include <utility>
 #include <vector>
 
+#include "drawing/ui/ImmagineDisegno.h"
 #include "frame/Unita.h"
 #include "screens/RisultatiSezione.h"
 #include "screens/SchermoSezione.h"
 #include "sections/AreaEfficace.h"
+#include "sections/DisegnoSagoma.h"
 #include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 
 /// A main screen whose rows are sections of kind S. One of these says how a row is read and held against its
-/// outline, which boxes show the results, and draws its picture; the rest it has from here.
+/// outline and which boxes show the results; the rest it has from here.
 template <Sagomo S> class SchermoDi : public SchermoSezione {
 public:
     using SchermoSezione::SchermoSezione;
@@ -64,7 +66,9 @@ protected:
     /// Holds the row against the outline.
     virtual void ControllaSezione(const Lettore& riga, S& sezione) = 0;
     /// Draws the section, or nothing for nullptr.
-    virtual void MostraSagoma(const S* sezione) = 0;
+    virtual void MostraSagoma(const S* sezione) {
+        Picture1->Mostra(DisegnoSagoma(sezione == nullptr ? SagomaDisegnata{} : SagomaDi(*sezione)));
+    }
 
     /// The boxes of the results. One that the form does not have throws std::out_of_range.
     void CollegaRisultati(const std::vector<VoceRisultato<S>>& voci) {

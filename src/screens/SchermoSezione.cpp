@@ -15,6 +15,7 @@
 #include "catalogue/Catalogo.h"
 #include "catalogue/Famiglie.h"
 #include "catalogue/OrdineQuery.h"
+#include "drawing/ui/ImmagineDisegno.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
@@ -26,8 +27,11 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/Twips.h"
+#include "screens/CorpoSezione.h"
+#include "screens/MenuSezione.h"
 #include "screens/PannelloFamiglie.h"
 #include "screens/PlottaSezioneCorrente.h"
+#include "screens/VociSezione.h"
 #include "sections/SezioneCorrente.h"
 
 namespace sagomi {
@@ -56,7 +60,18 @@ SchermoSezione::SchermoSezione(const QString& nome) : Schermo(nome), Data1(new L
     Data1->setObjectName(QStringLiteral("Data1"));
 }
 
-void SchermoSezione::CollegaControlli() {
+void SchermoSezione::Componi() {
+    const QByteArray name = objectName().toLatin1();
+    setWindowTitle(QString::fromUtf8(VociDi(name.toStdString()).titolo));
+    setCentralWidget(new CorpoSezione(name, this));
+    auto* menus = new MenuSezione(this);
+    menus->setObjectName(QStringLiteral("menubar"));
+    menus->ImpostaSchermo(name);
+    setMenuBar(menus);
+    statusBar()->setObjectName(QStringLiteral("statusbar"));
+}
+
+void SchermoSezione::TrovaControlli() {
     DBGrid1 = findChild<GrigliaCatalogo*>(QStringLiteral("DBGrid1"));
     TxtProf = Vettore<QLineEdit>(QStringLiteral("TxtProf"));
     ComboTipoAcciaio = findChild<QComboBox*>(QStringLiteral("ComboTipoAcciaio"));
@@ -67,7 +82,13 @@ void SchermoSezione::CollegaControlli() {
     ChkTipo = Vettore<QCheckBox>(QStringLiteral("ChkTipo"));
     OptionOrdina = Vettore<QRadioButton>(QStringLiteral("OptionOrdina"));
     cmdSceltaSagomoGiunto = findChild<QPushButton*>(QStringLiteral("cmdSceltaSagomoGiunto"));
+    Picture1 = findChild<ImmagineDisegno*>(QStringLiteral("Picture1"));
     NormativaMain = findChild<QAction*>(QStringLiteral("NormativaMain"));
+}
+
+void SchermoSezione::CollegaControlli() {
+    Componi();
+    TrovaControlli();
     barra_ = new QLabel(this);
     barra_->setObjectName(QStringLiteral("LblBarra"));
     barra_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window

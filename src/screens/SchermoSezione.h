@@ -23,9 +23,11 @@ class QLabel;
 
 namespace sagomi {
 
+class ImmagineDisegno;
+
 /// A main screen: the catalogue table of a family of sections, what the user types, what the section answers.
-/// The reactions below the class work on these members; a screen fills them by CollegaControlli from the
-/// controls of its form and adds what is its own.
+/// The reactions below the class work on these members; a screen fills them by CollegaControlli and adds what
+/// is its own.
 class SchermoSezione : public Schermo, public MostraVplRd {
     Q_OBJECT
 public:
@@ -47,6 +49,7 @@ public:
     QList<QCheckBox*> ChkTipo;
     QList<QRadioButton*> OptionOrdina;
     QPushButton* cmdSceltaSagomoGiunto = nullptr;
+    ImmagineDisegno* Picture1 = nullptr;
     QAction* NormativaMain = nullptr;
 
     /// Shows the screen in the place of the one that the user comes from.
@@ -103,7 +106,8 @@ public:
     void ScalaControlli(double larghezza, double altezza);
 
 protected:
-    /// Finds the members above by their names and connects what all main screens have in common.
+    /// Builds the form, finds the members above by their names and connects what all main screens have in
+    /// common.
     void CollegaControlli();
     /// To be called at the end of Risultati: marks entries that cannot stand, empties what hangs on them.
     void ApplicaRegole();
@@ -132,6 +136,8 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    void Componi();
+    void TrovaControlli();
     void CollegaMenu();
     void CollegaDati();
     void CollegaRegole();

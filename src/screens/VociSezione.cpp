@@ -106,11 +106,31 @@ RigaResistenze VplRd() {
 
 const std::vector<VociSchermo>& Schermi() {
     static const std::vector<VociSchermo> screens = {
-        {"frmDoppioT", LunghezzeYZ(), true, ClassiDoppioT(), {NbRd(), McRd(), VplRd()}},
-        {"frmSaldati", LunghezzeYZ(), true, ClassiDoppioT(), {NbRd(), McRd(), VplRd()}},
-        {"frmSaldatiAsimm", LunghezzeYZ(), true, ClassiDoppioT(), {NbRd(), McRd(), VplRd()}},
-        {"frmSagomiU", LunghezzeYZ(), true, ClassiU(), {NbRd(), McRd(), VplRd()}},
-        {"frmSagomiL", LunghezzeYZV(), false, {ClasseCompressione()}, {NbRdAngolari()}}};
+        {"frmDoppioT",
+         "Doppio T Laminati - F1 per aiuto",
+         LunghezzeYZ(),
+         true,
+         ClassiDoppioT(),
+         {NbRd(), McRd(), VplRd()}},
+        {"frmSaldati",
+         "Doppio T Saldati Simmetrici - F1 per aiuto",
+         LunghezzeYZ(),
+         true,
+         ClassiDoppioT(),
+         {NbRd(), McRd(), VplRd()}},
+        {"frmSaldatiAsimm",
+         "Doppio T Saldati Asimmetrici - F1 per aiuto",
+         LunghezzeYZ(),
+         true,
+         ClassiDoppioT(),
+         {NbRd(), McRd(), VplRd()}},
+        {"frmSagomiU", "Sagomi U - F1 per aiuto", LunghezzeYZ(), true, ClassiU(), {NbRd(), McRd(), VplRd()}},
+        {"frmSagomiL",
+         "Sagomi L - F1 per aiuto",
+         LunghezzeYZV(),
+         false,
+         {ClasseCompressione()},
+         {NbRdAngolari()}}};
     return screens;
 }
 

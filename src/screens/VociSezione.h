@@ -18,6 +18,7 @@ struct RigaResistenze {
 /// What the user types on a main screen, and what it answers.
 struct VociSchermo {
     std::string_view schermo;
+    const char* titolo = "";     ///< caption of the window
     std::vector<Voce> lunghezze; ///< buckling lengths [m], Txt_L0 by axis
     bool forza = true;           ///< the axial force is an entry
     std::vector<Voce> classi;

@@ -2,14 +2,10 @@
 
 #include "catalogue/ControlloDati.h"
 #include "catalogue/RigaDoppioT.h"
-#include "sections/DisegnoSagoma.h"
-#include "ui_frmDoppioT.h"
 
 namespace sagomi {
 
-frmDoppioT::frmDoppioT() : SchermoDi(QStringLiteral("frmDoppioT")), ui_(new Ui::frmDoppioT) {
-    ui_->setupUi(this);
-    MostraSagoma(nullptr);
+frmDoppioT::frmDoppioT() : SchermoDi(QStringLiteral("frmDoppioT")) {
     CollegaControlli();
     CollegaRisultati(RisultatiDoppioT());
     CollegaDettagli({{"LblClasse", "FrmClasseDoppioTU"},
@@ -19,8 +15,6 @@ frmDoppioT::frmDoppioT() : SchermoDi(QStringLiteral("frmDoppioT")), ui_(new Ui::
     CollegaSvergolamento();
     Carica();
 }
-
-frmDoppioT::~frmDoppioT() = default;
 
 void frmDoppioT::Risultati() {
     if (SezioneDoppioT* section = SezioneInUso<SezioneDoppioT>())
@@ -32,10 +26,6 @@ void frmDoppioT::LeggeSezione(const Lettore& riga, SezioneDoppioT& sezione) { Le
 
 void frmDoppioT::ControllaSezione(const Lettore& riga, SezioneDoppioT& sezione) {
     ControlloDatiLaminati(riga, sezione);
-}
-
-void frmDoppioT::MostraSagoma(const SezioneDoppioT* sezione) {
-    ui_->Picture1->Mostra(DisegnoSagoma(sezione == nullptr ? SagomaDisegnata{} : SagomaDi(*sezione)));
 }
 
 } // namespace sagomi

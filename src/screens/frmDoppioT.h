@@ -1,12 +1,6 @@
 #pragma once
 
-#include <memory>
-
 #include "screens/SchermoDi.h"
-
-namespace Ui {
-class frmDoppioT;
-}
 
 namespace sagomi {
 
@@ -15,17 +9,12 @@ class frmDoppioT : public SchermoDi<SezioneDoppioT> {
     Q_OBJECT
 public:
     frmDoppioT();
-    ~frmDoppioT() override;
 
     void Risultati() override;
 
 protected:
     void LeggeSezione(const Lettore& riga, SezioneDoppioT& sezione) override;
     void ControllaSezione(const Lettore& riga, SezioneDoppioT& sezione) override;
-    void MostraSagoma(const SezioneDoppioT* sezione) override;
-
-private:
-    std::unique_ptr<Ui::frmDoppioT> ui_;
 };
 
 } // namespace sagomi

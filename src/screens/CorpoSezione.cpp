@@ -1,0 +1,119 @@
+#include "screens/CorpoSezione.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+#include "catalogue/ui/GrigliaCatalogo.h"
+#include "drawing/ui/ImmagineDisegno.h"
+#include "frame/ui/Casella.h"
+#include "screens/PannelloDati.h"
+#include "screens/PannelloFamiglie.h"
+#include "screens/PannelloRisultati.h"
+#include "screens/ValoriRiga.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr int spazio = 6; ///< between rooms [px]
+
+/// The designation, read only, above the picture.
+Casella* CreaNome(QWidget* genitore) {
+    auto* name = new Casella(genitore);
+    name->setObjectName(QStringLiteral("TxtProf_0"));
+    name->ImpostaCaratteri(13);
+    name->ImpostaRisultato(true);
+    name->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    name->setAlignment(Qt::AlignCenter);
+    name->setToolTip(QObject::tr("Nome del sagomo nel catalogo"));
+    name->setAccessibleName(QObject::tr("Sagomo"));
+    return name;
+}
+
+QPushButton* CreaComando(QWidget* genitore, const char* nome, const char* testo, const char* aiuto) {
+    auto* command = new QPushButton(QString::fromUtf8(testo), genitore);
+    command->setObjectName(QString::fromLatin1(nome));
+    command->setToolTip(QString::fromUtf8(aiuto));
+    return command;
+}
+
+} // namespace
+
+CorpoSezione::CorpoSezione(QByteArray schermo, QWidget* parent)
+    : QWidget(parent), schermo_(std::move(schermo)) {
+    setObjectName(QStringLiteral("centrale"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(9, 6, 9, 6);
+    column->setSpacing(spazio);
+    PosaTabella(*column);
+    auto* below = new QHBoxLayout;
+    below->setSpacing(spazio);
+    column->addLayout(below);
+    below->addWidget(CreaDisegno(), 1);
+    below->addWidget(CreaValori());
+    PosaDestra(*below);
+}
+
+/// A panel that builds itself for the screen.
+template <typename P> P* CorpoSezione::CreaPannello(const char* nome, QWidget* genitore) {
+    auto* panel = new P(genitore);
+    panel->setObjectName(QString::fromLatin1(nome));
+    panel->ImpostaSchermo(schermo_);
+    return panel;
+}
+
+void CorpoSezione::PosaTabella(QBoxLayout& colonna) {
+    colonna.addWidget(CreaPannello<PannelloFamiglie>("famiglie", this));
+    auto* table = new GrigliaCatalogo(this);
+    table->setObjectName(QStringLiteral("DBGrid1"));
+    table->setAccessibleName(tr("Tabella dei sagomi"));
+    colonna.addWidget(table, 1);
+}
+
+QWidget* CorpoSezione::CreaDisegno() {
+    auto* room = new QGroupBox(tr("Sagomo"), this);
+    room->setObjectName(QStringLiteral("fraDisegno"));
+    auto* column = new QVBoxLayout(room);
+    column->setContentsMargins(9, 6, 9, 9);
+    column->setSpacing(4);
+    column->addWidget(CreaNome(room));
+    auto* picture = new ImmagineDisegno(room);
+    picture->setObjectName(QStringLiteral("Picture1"));
+    picture->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    picture->setAccessibleName(tr("Disegno della sezione"));
+    column->addWidget(picture, 1);
+    return room;
+}
+
+QWidget* CorpoSezione::CreaValori() { return CreaPannello<ValoriRiga>("fraValori", this); }
+
+void CorpoSezione::PosaDestra(QBoxLayout& riga) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(spazio);
+    riga.addLayout(column);
+    column->addWidget(CreaPannello<PannelloDati>("fraDati", this));
+    column->addWidget(CreaPannello<PannelloRisultati>("risultati", this), 1);
+    PosaComandi(*column);
+}
+
+void CorpoSezione::PosaComandi(QBoxLayout& colonna) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(spazio);
+    colonna.addLayout(row);
+    auto* back = CreaComando(this, "cmdSceltaSagomoGiunto", "Ritorna alla Form Giunto",
+                             "Porta nel giunto il sagomo scelto");
+    back->hide();
+    row->addWidget(back);
+    row->addStretch();
+    row->addWidget(CreaComando(this, "Command1", "P&resso Flessione",
+                               "Verifica della membratura a sforzo normale e flessione"));
+    row->addWidget(
+        CreaComando(this, "Command2", "&Svergolamento", "Verifica all'instabilità flesso-torsionale"));
+    row->addWidget(CreaComando(this, "CmdPlotta", "Plotta", "Disegno della sezione in scala"));
+}
+
+} // namespace sagomi
