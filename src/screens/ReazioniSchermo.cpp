@@ -13,6 +13,7 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/Twips.h"
+#include "screens/AggiornaVisibili.h"
 #include "screens/SchermoSezione.h"
 #include "sections/SezioneCorrente.h"
 
@@ -132,6 +133,7 @@ void AttivaForm(SchermoSezione& schermo) {
         IndiceAcciaio = static_cast<std::int16_t>(std::max(0, schermo.ComboTipoAcciaio->currentIndex()));
         AggiornaCaptionNormativa(schermo);
         schermo.CaricaForm = false;
+        const AggiornamentoRinviato filling(schermo); // no detail leaves anything on the section of this one
         schermo.DatiRisultati();
         ScreenAttivo = schermo.objectName().toStdString();
     });

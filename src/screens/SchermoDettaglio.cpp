@@ -13,6 +13,7 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/UpDown.h"
+#include "screens/AggiornaVisibili.h"
 #include "screens/SchermoSezione.h"
 #include "sections/SezioneCorrente.h"
 
@@ -27,6 +28,7 @@ void SchermoDettaglio::ApriDa(SchermoSezione& chiamante, Schermo& da) {
         CopiaIntestazione();
         RiempiDati();
     }
+    RicordaChiamante();
     NavigaSchermi::Unico().Apri(*this, da);
 }
 
@@ -41,6 +43,37 @@ void SchermoDettaglio::Apri(Schermo& da) {
 void SchermoDettaglio::AllAttivazione() {
     if (chiamante_ != nullptr)
         Ricalcola();
+}
+
+// N and the buckling lengths, under the names that they have on both screens.
+QList<QLineEdit*> SchermoDettaglio::CaselleDelChiamante() const {
+    QList<QLineEdit*> boxes = chiamante_->Txt_L0;
+    if (chiamante_->TxtNsd != nullptr)
+        boxes << chiamante_->TxtNsd;
+    return boxes;
+}
+
+void SchermoDettaglio::RicordaChiamante() {
+    visti_.clear();
+    for (const QLineEdit* box : CaselleDelChiamante())
+        visti_ << NumeroIn(box);
+}
+
+void SchermoDettaglio::Aggiorna() {
+    if (inCalcolo_ || chiamante_ == nullptr)
+        return;
+    {
+        const QScopedValueRollback guard(inCalcolo_, true);
+        const auto boxes = CaselleDelChiamante();
+        for (int i = 0; i < boxes.size() && i < visti_.size(); ++i) {
+            auto* own = findChild<QLineEdit*>(boxes[i]->objectName());
+            const bool alike = own != nullptr && !sagomi::InDigitazione(own) && NumeroIn(own) == visti_[i];
+            if (alike && NumeroIn(boxes[i]) != visti_[i])
+                own->setText(TestoPulito(boxes[i]));
+        }
+    }
+    RicordaChiamante();
+    Ricalcola();
 }
 
 void SchermoDettaglio::CollegaControlli(std::function<bool(QLineEdit*)> invio) {
@@ -77,6 +110,7 @@ void SchermoDettaglio::CollegaFy() {
 void SchermoDettaglio::FyCambiato(QLineEdit* fy) {
     if (inCalcolo_ || chiamante_ == nullptr)
         return;
+    const AggiornamentoRinviato filling(*this);
     const bool typed = InDigitazione(fy);
     const double value = NumeroIn(fy);
     if (value != NumeroIn(chiamante_->Txt_fy) && (!typed || FyPossibile(value))) {
@@ -107,6 +141,7 @@ QList<QWidget*> SchermoDettaglio::Controlli(std::initializer_list<const char*> n
 }
 
 void SchermoDettaglio::CompletaForm(SchermoSezione& chiamante) {
+    const AggiornamentoRinviato filling(*this);
     chiamante_ = &chiamante;
     const QScopedValueRollback guard(inCalcolo_, true); // the corrections write into their boxes
     regole_.Applica();
@@ -135,6 +170,7 @@ void SchermoDettaglio::CopiaIntestazione() {
 }
 
 void SchermoDettaglio::PassoDiRiga(bool su) {
+    const AggiornamentoRinviato filling(*this);
     const auto old = SezioneCorrente; // keeps the old section alive while the new one takes its place
     MuoviRecord(chiamante_->Data1->Recordset(), su);
     Prosegue();
@@ -145,6 +181,7 @@ void SchermoDettaglio::PassoDiRiga(bool su) {
 }
 
 void SchermoDettaglio::PassoDiAcciaio(bool su) {
+    const AggiornamentoRinviato filling(*this);
     MuoviAcciaio(su, *chiamante_, findChild<QLineEdit*>(QStringLiteral("Txt_TipoAcciaio")),
                  findChild<QLineEdit*>(QStringLiteral("Txt_fy")));
     Ricalcola();

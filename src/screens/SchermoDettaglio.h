@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+
 #include <functional>
 #include <initializer_list>
 
@@ -37,6 +39,9 @@ public:
     void CompletaForm(SchermoSezione& chiamante);
 
     void AllAttivazione() override;
+
+    /// The boxes that the caller has too follow it as long as they hold what it holds.
+    void Aggiorna() override;
 
 protected:
     /// To be called once the controls of the form stand: connects the step buttons, the entry boxes' manners
@@ -77,9 +82,13 @@ protected:
     bool inCalcolo_ = false; ///< CompletaForm is writing: handlers of entries return at once
 
 private:
+    [[nodiscard]] QList<QLineEdit*> CaselleDelChiamante() const;
+    void RicordaChiamante();
     void CollegaFy();
     void FyCambiato(QLineEdit* fy);
     void Conclusa(QLineEdit* casella);
+
+    QList<double> visti_; ///< numbers of the caller's boxes that this screen has heard of
 };
 
 /// Steps the steel grade of a main screen, held inside its list, and runs the reaction to it; the name and

@@ -7,6 +7,7 @@
 
 #include "drawing/ui/ImmagineDisegno.h"
 #include "frame/Unita.h"
+#include "screens/AggiornaVisibili.h"
 #include "screens/RisultatiSezione.h"
 #include "screens/SchermoSezione.h"
 #include "sections/AreaEfficace.h"
@@ -42,6 +43,7 @@ public:
             box->setText(QString::fromStdString(text(*section)));
         ApplicaRegole();
         MostraSagoma(section);
+        AggiornaVisibili(*this);
     }
 
     void ControlloDati() override {

@@ -93,6 +93,8 @@ void SchermoSezione::CollegaControlli() {
     barra_->setObjectName(QStringLiteral("LblBarra"));
     barra_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text widens no window
     statusBar()->addWidget(barra_, 1);
+    if (auto* picture = findChild<QWidget*>(QStringLiteral("Picture1")))
+        picture->parentWidget()->setProperty("copribile", true);
     DBGrid1->Collega(Data1);
     CollegaMenu();
     CollegaTabella();

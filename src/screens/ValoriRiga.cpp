@@ -45,7 +45,10 @@ int Larghezza(const std::vector<Testi>& texts, std::size_t i) {
 
 } // namespace
 
-ValoriRiga::ValoriRiga(QWidget* parent) : GruppoVoci(parent) { setTitle(tr("Valori del sagomo")); }
+ValoriRiga::ValoriRiga(QWidget* parent) : GruppoVoci(parent) {
+    setTitle(tr("Valori del sagomo"));
+    setProperty("copribile", true); // they stand in the table too
+}
 
 void ValoriRiga::ImpostaSchermo(const QByteArray& nome) {
     schermo_ = nome;

@@ -1,6 +1,7 @@
 #include "screens/frmGamma.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QRadioButton>
 
 #include <array>
@@ -38,7 +39,10 @@ frmGamma::frmGamma() : Schermo(QStringLiteral("frmGamma")), ui_(new Ui::frmGamma
     DimensionaIniziale({});
     optNormativa_ = Vettore<QRadioButton>(QStringLiteral("optNormativa"));
     txtGamma_ = Vettore<QLineEdit>(QStringLiteral("txtGamma"));
-    auto* entries = new FiltroCampi(this);
+    auto* entries = new FiltroCampi(this, [this](QLineEdit* /*box*/) {
+        Accetta();
+        return true;
+    });
     for (QLineEdit* box : txtGamma_)
         entries->Osserva(box);
     for (int i = 0; i < optNormativa_.size(); ++i)
@@ -92,6 +96,13 @@ void frmGamma::Annulla() {
     // Only the code goes back: the factors of the option last clicked stay until they are set again.
     Normativa = normativaPrima_;
     NavigaSchermi::Unico().Lascia(*this);
+}
+
+void frmGamma::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        EventoProtetto([this] { Accetta(); });
+    else
+        Schermo::keyPressEvent(event);
 }
 
 void frmGamma::closeEvent(QCloseEvent* event) {

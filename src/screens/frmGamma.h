@@ -29,6 +29,8 @@ public:
 protected:
     /// The window's own close button is "Annulla".
     void closeEvent(QCloseEvent* event) override;
+    /// Enter presses OK, wherever the focus is but on "Annulla".
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void Riempi();

@@ -20,6 +20,8 @@ namespace {
 
 const SezioneDoppioT* Sezione() { return SezioneInUso<SezioneDoppioT>(); }
 
+std::array<double, 3> Costanti(const SezioneDoppioT& s) { return {s.Jz, s.JT, s.Jw}; }
+
 } // namespace
 
 frmTimoshenko::frmTimoshenko() : Schermo(QStringLiteral("frmTimoshenko")), ui_(new Ui::frmTimoshenko) {
@@ -112,6 +114,7 @@ void frmTimoshenko::Carica() {
     const SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;
+    prese_ = Costanti(*s);
     Iz = s->Jz;
     IT = s->JT;
     Iw = s->Jw;
@@ -134,6 +137,16 @@ void frmTimoshenko::AllAttivazione() {
         Riempi(ui_->Txt_L, mm_a_m(L));
     }
     FuocoSu(ui_->Txt_L);
+}
+
+void frmTimoshenko::Aggiorna() {
+    const SezioneDoppioT* s = Sezione();
+    if (s == nullptr || (Costanti(*s) == prese_ && ui_->Txt_Prof->text().toStdString() == s->Designation))
+        return;
+    const bool shown = !ui_->Lbl_Mcr->text().isEmpty();
+    Carica();
+    if (shown)
+        Calcolo();
 }
 
 void frmTimoshenko::Calcolo() {

@@ -2,6 +2,7 @@
 
 #include <QList>
 
+#include <array>
 #include <memory>
 
 #include "criticalloads/Timoshenko.h"
@@ -37,6 +38,10 @@ public:
     /// Which loads and heights a cantilever has: with warping only the load at its end and centroid.
     void OpzioniMensola();
 
+    /// Takes over the constants of the current section where it is another one, and computes anew what it
+    /// shows.
+    void Aggiorna() override;
+
 private:
     void Carica();
     void CollegaOpzioni();
@@ -46,6 +51,7 @@ private:
     [[nodiscard]] std::int16_t QuotaCarico() const;
 
     std::unique_ptr<Ui::frmTimoshenko> ui_;
+    std::array<double, 3> prese_{}; ///< Iz, IT, Iw as the section had them
     QList<QRadioButton*> Option1_;
     QList<QRadioButton*> optTipoCarico_;
     QList<QRadioButton*> optQuotaCarico_;

@@ -27,6 +27,7 @@ public:
 
     /// Draws anew what the source gives now.
     void AllAttivazione() override;
+    void Aggiorna() override { AllAttivazione(); }
 
     [[nodiscard]] QString NomeChiamante() const { return nomeChiamante_; }
 

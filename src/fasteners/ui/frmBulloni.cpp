@@ -1,6 +1,7 @@
 #include "fasteners/ui/frmBulloni.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -212,6 +213,13 @@ void frmBulloni::AllAttivazione() {
 void frmBulloni::closeEvent(QCloseEvent* event) {
     EventoProtetto([this] { bullone_.reset(); });
     Schermo::closeEvent(event);
+}
+
+void frmBulloni::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && ui_->Txt_Osservazioni->isVisible())
+        EventoProtetto([this] { ApreChiudeOsservazioni(); });
+    else
+        Schermo::keyPressEvent(event);
 }
 
 void frmBulloni::Carica() {

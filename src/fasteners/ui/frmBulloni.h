@@ -34,6 +34,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    /// Esc closes the observations first.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void CollegaScelte();

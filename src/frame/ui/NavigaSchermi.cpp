@@ -9,9 +9,31 @@
 #include <stdexcept>
 
 #include "frame/GeneraleSagomi.h"
+#include "frame/ui/Collocazione.h"
 #include "frame/ui/Protetto.h"
 
 namespace sagomi {
+
+namespace {
+
+/// Where closing leads to.
+Schermo* Ritorno(const Schermo& s) {
+    for (Schermo* opener : s.Catena())
+        if (opener->isVisible())
+            return opener;
+    return s.origine;
+}
+
+/// A window stays in front of the one that opens it; two never each in front of the other.
+void Segue(Schermo& a, Schermo& da) {
+    if (&a == &da || da.Catena().contains(&a))
+        return;
+    a.winId(); // makes the windows that can be bound
+    da.winId();
+    a.windowHandle()->setTransientParent(da.windowHandle());
+}
+
+} // namespace
 
 NavigaSchermi& NavigaSchermi::Unico() {
     static NavigaSchermi navigator;
@@ -84,10 +106,45 @@ Schermo* NavigaSchermi::Trova(const QString& nome) const {
     return nullptr;
 }
 
+QList<Schermo*> NavigaSchermi::VisibiliDa(const Schermo& s) const {
+    QList<Schermo*> found;
+    for (Schermo* screen : schermi_)
+        if (screen->isVisible() && screen->Catena().contains(&s))
+            found << screen;
+    return found;
+}
+
 void NavigaSchermi::Mostra(Schermo& s) {
     s.show();
     s.raise();
+    Riprende(s);
     s.activateWindow();
+}
+
+void NavigaSchermi::Sospende(const Schermo& da) {
+    for (Schermo* s : VisibiliDa(da))
+        if (s != attivo_) {
+            RicordaPosto(*s);
+            s->hide();
+            sospesi_ << s;
+        }
+}
+
+void NavigaSchermi::Riprende(const Schermo& s) {
+    sospesi_.removeOne(&s);
+    for (Schermo* waiting : QList(sospesi_))
+        if (waiting->Catena().contains(&s)) {
+            sospesi_.removeOne(waiting);
+            Colloca(*waiting, s);
+            waiting->show();
+        }
+}
+
+void NavigaSchermi::Affida(const Schermo& chiuso, const Schermo& a) {
+    for (Schermo* s : schermi_)
+        if (s != &a && s->windowHandle() != nullptr &&
+            s->windowHandle()->transientParent() == chiuso.windowHandle())
+            s->windowHandle()->setTransientParent(a.windowHandle());
 }
 
 void NavigaSchermi::ApertaPerUltima(Schermo& s) {
@@ -110,13 +167,18 @@ void NavigaSchermi::Passa(Schermo& a, Schermo* da) {
     ApertaPerUltima(a);
     Mostra(a);
     Attiva(a);
-    if (da != nullptr && da != &a)
+    if (da != nullptr && da != &a) {
+        Sospende(*da);
         da->hide();
+    }
 }
 
 void NavigaSchermi::Apri(Schermo& a, Schermo& da) {
     const QScopedValueRollback guard(inNavigazione_, true);
     da.ConcludiEntrate();
+    Segue(a, da);
+    if (!a.isVisible() && a.windowModality() == Qt::NonModal)
+        Colloca(a, da);
     if (&a != &da)
         a.origine = &da;
     ApertaPerUltima(a);
@@ -127,18 +189,18 @@ void NavigaSchermi::Apri(Schermo& a, Schermo& da) {
 void NavigaSchermi::ApriDialogo(Schermo& a, Schermo& da) {
     a.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     a.setWindowModality(Qt::WindowModal);
-    a.winId(); // makes the window that can be bound to the opener's
-    a.windowHandle()->setTransientParent(da.windowHandle());
     Apri(a, da);
 }
 
 void NavigaSchermi::Lascia(Schermo& s) {
     const QScopedValueRollback guard(inNavigazione_, true);
     s.ConcludiEntrate();
-    Schermo* back = s.origine;
+    Schermo* back = Ritorno(s);
+    RicordaPosto(s);
     s.hide();
-    if (back == nullptr)
+    if (sospesi_.removeOne(&s) || back == nullptr)
         return;
+    Affida(s, *back);
     Mostra(*back);
     Attiva(*back);
 }
@@ -146,8 +208,10 @@ void NavigaSchermi::Lascia(Schermo& s) {
 void NavigaSchermi::ScaricaTutti() {
     const QScopedValueRollback guard(inNavigazione_, true);
     attivo_ = nullptr;
+    sospesi_.clear();
     while (!schermi_.isEmpty()) {
         Schermo* last = schermi_.takeLast();
+        RicordaPosto(*last);
         last->hide();
         emit schermoScaricato(last->objectName());
         last->deleteLater(); // it may be the one whose close event we are in

@@ -51,7 +51,8 @@ public:
     /// Enables the menu entries of a window whose screens stand in the table; each opens its own.
     void CollegaMenu(Schermo& da);
 
-    /// Shows a screen and activates it; then hides the one that it was reached from.
+    /// Shows a screen and activates it; then hides the one that it was reached from, with all that was opened
+    /// from there: it comes back with it.
     void Passa(Schermo& a, Schermo* da);
 
     /// Shows a screen in front of the one that opens it, which stays visible; closing it goes back there.
@@ -60,11 +61,15 @@ public:
     /// The same for a dialog: it keeps its opener from being used until it closes.
     void ApriDialogo(Schermo& a, Schermo& da);
 
-    /// Hides a screen and shows and activates the one that it was opened from.
+    /// Hides a screen and shows and activates the nearest one of those that it was opened from that is still
+    /// visible; its own opener where none is.
     void Lascia(Schermo& s);
 
     /// Unloads all screens, the last opened first.
     void ScaricaTutti();
+
+    /// The visible screens that were opened from one, by whatever way.
+    [[nodiscard]] QList<Schermo*> VisibiliDa(const Schermo& s) const;
 
     /// The screen last activated.
     [[nodiscard]] Schermo* Attivo() const { return attivo_; }
@@ -78,11 +83,15 @@ private:
     Schermo& Crea(const std::function<Schermo*()>& crea);
     void ApertaPerUltima(Schermo& s);
     void Mostra(Schermo& s);
+    void Sospende(const Schermo& da);
+    void Riprende(const Schermo& s);
+    void Affida(const Schermo& chiuso, const Schermo& a);
     void Attiva(Schermo& s);
     void FinestraInPrimoPiano();
 
     QList<VoceSchermo> tavola_;
     QList<Schermo*> schermi_; ///< in the order of their last opening
+    QList<Schermo*> sospesi_; ///< hidden with the screen that they were opened from
     Schermo* attivo_ = nullptr;
     QPointer<QWindow> inPrimoPiano_; ///< has the focus since the last change
     QTimer riposo_;

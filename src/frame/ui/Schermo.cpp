@@ -1,6 +1,7 @@
 #include "frame/ui/Schermo.h"
 
 #include <QCloseEvent>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -10,6 +11,8 @@
 #include <QScrollArea>
 #include <QStatusBar>
 
+#include <algorithm>
+
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/Accessibilita.h"
 #include "frame/ui/Campi.h"
@@ -18,6 +21,17 @@
 #include "frame/ui/Protetto.h"
 
 namespace sagomi {
+
+namespace {
+
+/// Width of a title in the bar of its window, between the menu and the buttons.
+int LarghezzaTitolo(const QString& title) {
+    constexpr int tasti = 4 * 36; // menu, minimise, maximise, close
+    const QFontMetrics metrics(QFontDatabase::systemFont(QFontDatabase::TitleFont));
+    return title.isEmpty() ? 0 : metrics.horizontalAdvance(title) + tasti;
+}
+
+} // namespace
 
 Schermo::Schermo(const QString& nome) {
     setObjectName(nome);
@@ -39,6 +53,13 @@ void Schermo::PreparaContenuto() {
     new Copie(this);
 }
 
+QList<Schermo*> Schermo::Catena() const {
+    QList<Schermo*> chain;
+    for (Schermo* opener = origine; opener != nullptr && !chain.contains(opener); opener = opener->origine)
+        chain << opener;
+    return chain;
+}
+
 void Schermo::ConcludiEntrate() {
     for (FiltroCampi* entries : findChildren<FiltroCampi*>())
         entries->Conclude();
@@ -57,6 +78,8 @@ QSize Schermo::DimensioneContenuto() const {
 void Schermo::DimensionaIniziale(QSize almeno) {
     constexpr QSize cornice(16, 48); // title bar and borders of the window manager
     const QSize room = QGuiApplication::primaryScreen()->availableGeometry().size() - cornice;
+    setMinimumWidth(std::min(LarghezzaTitolo(windowTitle()), room.width()));
+    almeno.rwidth() = std::max(almeno.width(), minimumWidth());
     resize(DimensioneContenuto().expandedTo(almeno).boundedTo(room.expandedTo(almeno)));
 }
 

@@ -15,11 +15,17 @@ public:
     /// What the screen does each time it becomes the active one.
     virtual void AllAttivazione() {}
 
+    /// What it shows of the section in use has changed while another screen is in use: computes anew.
+    virtual void Aggiorna() {}
+
     /// Help file of the screen, looked up beside the program.
     [[nodiscard]] virtual QString FileGuida() const { return QStringLiteral("Sagomi.hlp"); }
 
     /// The screen that opened this one; closing goes back to it.
     Schermo* origine = nullptr;
+
+    /// The screens that this one was opened from, the nearest first.
+    [[nodiscard]] QList<Schermo*> Catena() const;
 
     /// The controls Nome_0, Nome_1, ... in order, up to the first index that is missing.
     template <typename T> [[nodiscard]] QList<T*> Vettore(const QString& nome) const {
