@@ -19,6 +19,10 @@ constexpr double tolTorsioneRastremata = 0.092; ///< JotaT on tapered flanges
 constexpr double tolIngobbamento = 0.04;        ///< JotaOmega takes the flanges' thickness for small
 constexpr double tolIngobbamentoRastremata = 0.05;
 
+bool ConContorno(const SezioneDoppioT& sezione) {
+    return sezione.SezioneGenericaCorrente && sezione.SezioneGenericaCorrente->Area > 0;
+}
+
 } // namespace
 
 bool ConfrontaValore(double db, double calc, double tol) {
@@ -41,7 +45,7 @@ void ConfrontaVoci(const Lettore& riga, const std::vector<VoceControllo>& voci) 
 }
 
 std::vector<VoceControllo> VociLaminati(SezioneDoppioT& sezione) {
-    if (!sezione.SezioneGenericaCorrente || !(sezione.SezioneGenericaCorrente->Area > 0))
+    if (!ConContorno(sezione))
         return {};
     const SezioneGenerica& s = *sezione.SezioneGenericaCorrente;
     const bool rastremata = sezione.r2 > 0;
@@ -58,6 +62,30 @@ std::vector<VoceControllo> VociLaminati(SezioneDoppioT& sezione) {
             {16, mm_a_cm(iz), tolGeometria},
             {17, mm4_a_cm4(sezione.JotaT()), tolT},
             {18, mm6_a_cm6(sezione.JotaOmega()), tolW}};
+}
+
+std::vector<VoceControllo> VociSaldati(const SezioneDoppioT& sezione) {
+    if (!ConContorno(sezione))
+        return {};
+    const SezioneGenerica& s = *sezione.SezioneGenericaCorrente;
+    const double iy = mm_a_cm(std::sqrt(s.JotaXG / s.Area));
+    const double iz = mm_a_cm(std::sqrt(s.JotaYG / s.Area));
+    const double A = mm2_a_cm2(s.Area);
+    const double Iy = mm4_a_cm4(s.JotaXG);
+    const double Wsup = mm3_a_cm3(s.WxSuperiore);
+    if (!sezione.SaldataAsimm)
+        return {{7, A, tolGeometria},
+                {8, Iy, tolGeometria},
+                {9, Wsup, tolGeometria},
+                {11, iy, tolGeometria},
+                {15, iz, tolGeometria}};
+    return {{9, A, tolGeometria},     {10, Iy, tolGeometria},
+            {11, Wsup, tolGeometria}, {12, mm3_a_cm3(s.WxInferiore), tolGeometria},
+            {14, iy, tolGeometria},   {18, iz, tolGeometria}};
+}
+
+void ControlloDatiSaldati(const Lettore& riga, const SezioneDoppioT& sezione) {
+    ConfrontaVoci(riga, VociSaldati(sezione));
 }
 
 void ControlloDatiLaminati(const Lettore& riga, SezioneDoppioT& sezione) {

@@ -30,6 +30,13 @@ void ConfrontaVoci(const Lettore& riga, const std::vector<VoceControllo>& voci);
 /// one of no area, there is nothing to compare.
 std::vector<VoceControllo> VociLaminati(SezioneDoppioT& sezione);
 
+/// What is compared of a welded section, in order: area, second moment, modulus of the upper fibre and, of
+/// different flanges, of the lower one, radii of gyration. As for the rolled ones without an outline nothing.
+std::vector<VoceControllo> VociSaldati(const SezioneDoppioT& sezione);
+
+/// The value check of the screens of welded sections, with equal or different flanges as the section has.
+void ControlloDatiSaldati(const Lettore& riga, const SezioneDoppioT& sezione);
+
 /// The value check of the rolled double-T screen, after each change of row.
 /// @param sezione  made of the row in hand, after InizializzaSezione
 void ControlloDatiLaminati(const Lettore& riga, SezioneDoppioT& sezione);

@@ -1,13 +1,26 @@
 #pragma once
 
+#include <vector>
+
+#include "catalogue/Valore.h"
+
 namespace sagomi {
 
 class Lettore;
 class SezioneDoppioT;
 
-/// Fills a section with the row in hand of the rolled double-T: name, dimensions and constants of the table,
-/// from mm, cm2, cm3, cm4, cm6 and cm to mm and its powers. The weight is not read, an empty field is 0.
-/// At BOF and EOF the section stays as it is. A table with fewer than 19 columns throws std::out_of_range.
-void LeggeRiga(const Lettore& riga, SezioneDoppioT& sezione);
+/// The columns of a table of double-T sections: rolled, welded with equal flanges, welded with different
+/// ones.
+enum class RigheDoppioT { Laminate, Saldate, SaldateAsimmetriche };
+
+/// Fills a section with the row in hand: name, dimensions and constants of the table, from mm, cm2, cm3, cm4,
+/// cm6 and cm to mm and its powers. Of welded sections the kind is set too; equal flanges have one modulus
+/// for both fibres. The weight is not read, an empty field is 0. At BOF and EOF the section stays as it is. A
+/// table with fewer columns than these rows have (19, 18 or 21) throws std::out_of_range.
+void LeggeRiga(const Lettore& riga, SezioneDoppioT& sezione, RigheDoppioT righe = RigheDoppioT::Laminate);
+
+/// The way back: the fields of a row by position, from the section's name and weight [kg/m] to the warping
+/// constant, each the shortest number that the section's single stands for. What is not finite is empty.
+std::vector<Valore> CampiRiga(const SezioneDoppioT& sezione, RigheDoppioT righe);
 
 } // namespace sagomi

@@ -62,7 +62,8 @@ void PannelloDati::ImpostaSchermo(const QByteArray& nome) {
     row = PosaVoci(*griglia_, entries.lunghezze, row);
     if (entries.forza)
         PosaVoci(*griglia_, Forza(), row);
-    PosaNascosto();
+    if (entries.separatori)
+        PosaNascosto();
     griglia_->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, colonnaResto);
 }
 

@@ -255,7 +255,8 @@ QLineEdit* SchermoSezione::CasellaDi(const char* nome) const {
 }
 
 void SchermoSezione::Carica() {
-    SeparatoriControlla(CasellaDi("txtNascosto"));
+    if (VociDi(objectName().toStdString()).separatori)
+        SeparatoriControlla(CasellaDi("txtNascosto"));
     const auto workbook = FileAccanto(PathProgramma, "Sagomi.xls");
     RendiSolaLettura(workbook);
     Data1->DatabaseName(workbook);

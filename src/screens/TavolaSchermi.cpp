@@ -16,12 +16,16 @@
 #include "screens/frmGamma.h"
 #include "screens/frmMsvergH1.h"
 #include "screens/frmMsvergH2.h"
+#include "screens/frmSaldati.h"
+#include "screens/frmSaldatiAsimm.h"
 
 namespace sagomi {
 
 void CaricaTavolaSchermi() {
     for (const VoceSchermo& voce :
-         {RigaDi<frmDoppioT>("frmDoppioT", "mnuTipoT"), RigaDi<frmBulloni>("frmBulloni", "mnuCollegamenti_0"),
+         {RigaDi<frmDoppioT>("frmDoppioT", "mnuTipoT"), RigaDi<frmSaldati>("frmSaldati", "mnuTipoSaldati"),
+          RigaDi<frmSaldatiAsimm>("frmSaldatiAsimm", "mnuTipoSaldatiAsimm"),
+          RigaDi<frmBulloni>("frmBulloni", "mnuCollegamenti_0"),
           RigaDi<frmSaldature>("frmSaldature", "mnuCollegamenti_1"),
           RigaDi<frmGamma>("frmGamma", "NormativaMain"), RigaDi<FrmInform>("FrmInform", "mnuHelp_1"),
           RigaDi<FrmClasseDoppioTU>("FrmClasseDoppioTU"), RigaDi<FrmInstabDoppioT>("FrmInstabDoppioT"),

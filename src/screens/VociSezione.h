@@ -23,6 +23,7 @@ struct VociSchermo {
     bool forza = true;           ///< the axial force is an entry
     std::vector<Voce> classi;
     std::vector<RigaResistenze> resistenze;
+    bool separatori = false; ///< has the hidden box of the separator check, which runs once
 };
 
 /// Entries and results of a main screen. A name that is no main screen throws std::out_of_range.

@@ -1,5 +1,6 @@
 #include "catalogue/ControlloDati.h"
 
+#include <cmath>
 #include <limits>
 #include <memory>
 
@@ -174,6 +175,37 @@ TEST_F(ControlloTest, NoRowNoOutlineNoCheck) {
     lettore.MoveNext();
     ControlloDatiLaminati(lettore, sezione);
     EXPECT_THAT(r.testi, IsEmpty());
+}
+
+/// Fields that are compared of a welded section, and their values against those of its row.
+TEST_F(ControlloTest, WeldedSectionsCompareFiveOrSixFields) {
+    sezione.fy = 235;
+    sezione.InizializzaSezioneUtente(nullptr, 500, 250, 10, 15, 6);
+    std::vector<int> campi;
+    for (const VoceControllo& v : VociSaldati(sezione)) {
+        campi.push_back(v.campo);
+        EXPECT_EQ(v.tolleranza, 0.01);
+    }
+    EXPECT_THAT(campi, ElementsAre(7, 8, 9, 11, 15));
+    sezione.InizializzaSezioneUtente(nullptr, 500, 250, 10, 15, 6, 180, 20);
+    campi.clear();
+    for (const VoceControllo& v : VociSaldati(sezione))
+        campi.push_back(v.campo);
+    EXPECT_THAT(campi, ElementsAre(9, 10, 11, 12, 14, 18));
+}
+
+// By hand, without fillets: 200 x 20 above, 200 x 20 below, web 10 x 260: A = 106 cm2,
+// Iy = 2 (40 14^2 + 20 2^3 / 12) + 26^3 / 12 = 17171.3 cm4, Iz = 2 2 20^3 / 12 + 26 / 12 = 2668.8 cm4.
+TEST_F(ControlloTest, WeldedValuesFollowFromThePlates) {
+    sezione.fy = 235;
+    sezione.InizializzaSezioneUtente(nullptr, 300, 200, 10, 20, 0);
+    const auto voci = VociSaldati(sezione);
+    EXPECT_NEAR(voci[0].calcolato, 106, 1e-9);
+    EXPECT_NEAR(voci[1].calcolato, 17171.333, 1e-3);
+    EXPECT_NEAR(voci[2].calcolato, 17171.333 / 15, 1e-4);
+    EXPECT_NEAR(voci[3].calcolato, std::sqrt(17171.333 / 106), 1e-6);
+    EXPECT_NEAR(voci[4].calcolato, std::sqrt(2668.8333 / 106), 1e-6);
+    EXPECT_THAT(VociSaldati(SezioneDoppioT()), IsEmpty());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "catalogue/RigaDoppioT.h"
 
+#include <limits>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -99,6 +100,66 @@ TEST_F(RigaDoppioTTest, NoRowLeavesTheSection) {
 TEST_F(RigaDoppioTTest, TableWithTooFewColumns) {
     Carica({S("IPE 80"), 6.0, 80.0});
     EXPECT_THROW(LeggeRiga(lettore, s), std::out_of_range);
+}
+
+/// Powers of two in every place of a row, a name in the first.
+std::vector<Valore> Potenze(int campi) {
+    std::vector<Valore> riga = {S("nome")};
+    for (int i = 1; i < campi; ++i)
+        riga.emplace_back(static_cast<double>(1 << i));
+    return riga;
+}
+
+TEST_F(RigaDoppioTTest, WeldedSectionsHaveNoSecondRadius) {
+    Carica(Potenze(18));
+    s.SaldataAsimm = true;
+    LeggeRiga(lettore, s, RigheDoppioT::Saldate);
+    EXPECT_TRUE(s.Saldata);
+    EXPECT_FALSE(s.SaldataAsimm);
+    EXPECT_EQ(double(s.tf), 32);
+    EXPECT_EQ(double(s.r), 64);
+    EXPECT_EQ(double(s.Area), 128.0 * 100);
+    EXPECT_EQ(double(s.Wely), 512.0 * 1000);
+    EXPECT_EQ(double(s.WelyInf), 512.0 * 1000) << "both fibres alike";
+    EXPECT_EQ(double(s.iZ), 32768.0 * 10);
+    EXPECT_EQ(double(s.Jw), 131072.0 * 1000000);
+}
+
+TEST_F(RigaDoppioTTest, DifferentFlangesTakeTheirOwnColumns) {
+    Carica(Potenze(21));
+    LeggeRiga(lettore, s, RigheDoppioT::SaldateAsimmetriche);
+    EXPECT_TRUE(s.Saldata && s.SaldataAsimm);
+    EXPECT_EQ(double(s.b), 8);
+    EXPECT_EQ(double(s.bAlaInf), 16);
+    EXPECT_EQ(double(s.tw), 32);
+    EXPECT_EQ(double(s.tf), 64);
+    EXPECT_EQ(double(s.tAlaInf), 128);
+    EXPECT_EQ(double(s.r), 256);
+    EXPECT_EQ(double(s.Area), 512.0 * 100);
+    EXPECT_EQ(double(s.Wely), 2048.0 * 1000);
+    EXPECT_EQ(double(s.WelyInf), 4096.0 * 1000);
+    EXPECT_EQ(double(s.Wply), 8192.0 * 1000);
+    EXPECT_EQ(double(s.JT), 524288.0 * 10000);
+    EXPECT_EQ(double(s.Jw), 1048576.0 * 1000000);
+}
+
+// A weight of 2 kg/m, which a row that is read does not give.
+TEST_F(RigaDoppioTTest, FieldsGoBackToTheirPlaces) {
+    for (const auto& [righe, campi] :
+         {std::pair{RigheDoppioT::Saldate, 18}, {RigheDoppioT::SaldateAsimmetriche, 21}}) {
+        Carica(Potenze(campi));
+        LeggeRiga(lettore, s, righe);
+        s.g = 2;
+        EXPECT_EQ(CampiRiga(s, righe), Potenze(campi));
+    }
+}
+
+TEST_F(RigaDoppioTTest, FieldsAreWrittenAsAPersonWould) {
+    s.tw = 7.1; // held as 7.099999904632568
+    s.iY = std::numeric_limits<double>::quiet_NaN();
+    const auto campi = CampiRiga(s, RigheDoppioT::Saldate);
+    EXPECT_EQ(campi[4], Valore(7.1));
+    EXPECT_EQ(campi[11], Valore());
 }
 
 } // namespace

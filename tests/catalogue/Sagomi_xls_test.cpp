@@ -16,6 +16,7 @@
 #include "catalogue/ScrittoreXls.h"
 #include "frame/Ambiente.h"
 #include "frame/GeneraleSagomi.h"
+#include "sections/AreaEfficace.h"
 #include "sections/SezioneDoppioT.h"
 
 using namespace sagomi;
@@ -158,24 +159,33 @@ TEST(SagomiXls, HeadingsAreFoundWhateverTheirCapitals) {
     EXPECT_EQ(LettoreSu("SELECT * FROM [UPN$] ORDER BY [g (Kg/m)]").Testo(0), "UPN 50");
 }
 
-TEST(SagomiXls, EveryRolledRowAgreesWithItsGeometry) {
-    Lettore l = LettoreSu(ComponiQuery("frmDoppioT", Tutti("frmDoppioT"), 0));
+/// Every row of a screen's families against its geometry. Returns how many there are.
+int ControllaRighe(const char* schermo, RigheDoppioT righe,
+                   void (*controlla)(const Lettore&, SezioneDoppioT&)) {
+    Lettore l = LettoreSu(ComponiQuery(schermo, Tutti(schermo), 0));
     int controllate = 0;
     for (; !l.EOF_(); l.MoveNext(), ++controllate) {
         const prove::Registratore r;
         auto sezione = std::make_shared<SezioneDoppioT>();
         SezioneCorrente = sezione;
-        LeggeRiga(l, *sezione);
+        LeggeRiga(l, *sezione, righe);
         sezione->TipoAcciaio = "S235 (Fe360)";
         sezione->fy = 235;
         sezione->fu = 360;
-        sezione->InizializzaSezione();
-        ControlloDatiLaminati(l, *sezione);
+        InizializzaConAreaEfficace(*sezione);
+        controlla(l, *sezione);
         EXPECT_THAT(r.testi, testing::IsEmpty()) << sezione->Designation;
         EXPECT_FALSE(sezione->ErroreDatiDatabase) << sezione->Designation;
     }
-    EXPECT_EQ(controllate, 792);
     RipristinaGenerale();
+    return controllate;
+}
+
+TEST(SagomiXls, EveryRowAgreesWithItsGeometry) {
+    const auto saldati = [](const Lettore& l, SezioneDoppioT& s) { ControlloDatiSaldati(l, s); };
+    EXPECT_EQ(ControllaRighe("frmDoppioT", RigheDoppioT::Laminate, ControlloDatiLaminati), 792);
+    EXPECT_EQ(ControllaRighe("frmSaldati", RigheDoppioT::Saldate, saldati), 177);
+    EXPECT_EQ(ControllaRighe("frmSaldatiAsimm", RigheDoppioT::SaldateAsimmetriche, saldati), 38);
 }
 
 } // namespace
