@@ -126,6 +126,53 @@ public:
     /// nothing.
     void DatoLamiera(std::string_view testo, int indice);
 
+    // Resistance ---------------------------------------------------------------------------------------
+
+    /// Plastic resistance in sagging: fills MplRd, Vl, yNeutro and the four parts. The bars count in
+    /// compression. More force in them than in the whole steel is told, and MplRd and yNeutro alone are
+    /// written.
+    void MplRdPositivo();
+
+    /// Plastic resistance in hogging, the bars in tension; the moment is negative.
+    void MplRdNegativo();
+
+    /// Either of them for hc below 0, as TipoVerifica says.
+    void MplRdSolettaSotto();
+
+    /// Level at which the plastic residual is 0; the parts are those of the last trial. A residual that keeps
+    /// its sign is told by the solver, and the level is 0.
+    double yNeutroPlasticoSezioneComposta();
+
+    /// Level at which the first moment of what reacts elastically is 0, likewise.
+    double yNeutroElasticoSezioneComposta();
+
+    /// What the solver drives to zero: EquazionePlastica for hc below 0 and a plastic check, else
+    /// EquazioneElastica.
+    double yEquazione(double y);
+
+    /// Force on the section with the axis at y, compression positive [N]; cuts the four parts there.
+    double EquazionePlastica(double y);
+
+    /// First moment about y of steel, bars and concrete that reacts, in steel [mm3].
+    double EquazioneElastica(double y);
+
+    /// Force of the bars with the plastic axis at y [N]: fsd As, of the sign of y less yArmatura, reversed
+    /// for a hogging check; across yArmatura it changes along a line H/500 long.
+    [[nodiscard]] double ForzaArmatura(double y) const;
+
+    /// Second moment about the level y of steel, bars and ClsCompresso, in steel [mm4].
+    [[nodiscard]] double MomInerziaSezioneComposta(double y) const;
+
+    /// Elastic check: yNeutro, the parts, Jid, the four stresses, Ss and Vl. A ratio n that is not above 0 is
+    /// told and ends it.
+    void SigmaCalcola();
+
+    /// Colour of a stress in the table of 16: 9 above 0, else 12.
+    static std::int16_t ColoreSigma(double valore);
+
+    /// Brings every result back to its start: 0 and no part.
+    void AzzeraRisultati();
+
     [[nodiscard]] double fyd() const;     ///< design strength of the steel [N/mm2]
     [[nodiscard]] static double fcd();    ///< of the concrete, 0.85 fck / 1.5 [N/mm2]
     [[nodiscard]] static double fsd();    ///< of the bars, fsk / 1.15 [N/mm2]
@@ -135,6 +182,12 @@ public:
     [[nodiscard]] double yNeutroDaSopra() const { return Sommita() - yNeutro; }
 
 private:
+    [[nodiscard]] std::shared_ptr<Poligono> ContornoAcciaio() const;
+    [[nodiscard]] double TolleranzaNeutro() const;
+    [[nodiscard]] double LivelloArmatura() const; ///< from the top: H + hc - c, not narrowed
+    void TogliParti();
+    void CompletaParti() const; ///< area and centroid of each part
+
     std::string Titolo;
     Singolo Ecm; ///< [N/mm2]
 };
