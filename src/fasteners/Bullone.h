@@ -12,6 +12,12 @@ namespace sagomi {
 struct DimensioneBullone {
     std::int16_t d = 0; ///< nominal diameter [mm]
     Singolo Ares;       ///< resistant area of the thread [mm2]
+    double k = 0;       ///< height of the head [mm], ISO 4014
+    double e = 0;       ///< head across corners [mm], ISO 4014
+    double s = 0;       ///< head across flats [mm], ISO 4014
+    double m = 0;       ///< height of the nut [mm], ISO 4032
+    double d2 = 0;      ///< outside diameter of the washer [mm], ISO 7089
+    double sr = 0;      ///< thickness of the washer [mm], ISO 7089
 };
 
 /// The 22 bolts from 8 to 68 mm, by their position from 1.

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <numbers>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -76,8 +77,19 @@ public:
     Singolo Mysd;          ///< design moment about y-y [N mm]
     Singolo Mzsd;          ///< design moment about z-z [N mm]
     Singolo g;             ///< weight [kg/m]
-    double Riservato1 = 0; ///< kept in the file, without a rule
-    Singolo Riservato2;    ///< kept in the file, without a rule
+    double Riservato1 = 0; ///< kept in the file; a joint keeps the span of the beam in it
+    Singolo Riservato2;    ///< kept in the file; a joint keeps the shear in it
+
+    // The names by which a joint knows them. In a joint NSd and Mysd hold kN and kNm.
+    Singolo& Nsd() { return NSd; }             ///< design axial force [kN in a joint]
+    double& lunghezza() { return Riservato1; } ///< span of the beam [m]
+    Singolo& Vsd() { return Riservato2; }      ///< design shear [kN]
+    [[nodiscard]] Singolo Nsd() const { return NSd; }
+    [[nodiscard]] double lunghezza() const { return Riservato1; }
+    [[nodiscard]] Singolo Vsd() const { return Riservato2; }
+    [[nodiscard]] Singolo a() const {
+        return r / std::numbers::sqrt2;
+    } ///< throat of the fillet of leg r [mm]
 
     // Classes, 1 to 4; 0 before the first run
     std::int16_t ClasseCompressione = 0;

@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "frame/Singolo.h"
+#include "frame/Tabella1.h"
+#include "joints/AlPrimoUso.h"
+#include "joints/Giunto.h"
+#include "sections/SezioneDoppioT.h"
+
+namespace sagomi {
+
+class OsservatoreProgetto;
+
+/// Kinds of node.
+enum : std::int16_t { nodoCroce = 0, nodoCroceSenzaColonna = 1, nodoT = 2, nodoL = 3 };
+
+/// Actions of one case: of the beams and of the column below [kNm, kN], shear of the column above [kN].
+struct CasoAzioni {
+    double MDx = 0, VDx = 0, NDx = 0;
+    double MSx = 0, VSx = 0, NSx = 0;
+    double MCol = 0, VCol = 0, NCol = 0;
+    double VSup = 0;
+};
+
+/// A beam-to-column node of a structure: one column, one or two beams, a joint for each beam. Inside a node
+/// the sections hold NSd and Vsd in kN and Mysd in kNm.
+class Nodo {
+public:
+    std::int16_t Tipovie = nodoCroce;   ///< two beams with (0) or without (1) column above, one beam (2, 3)
+    std::int16_t NumeroGiunti = 2;      ///< beams at the node, 1 or 2
+    std::int16_t nGiunto = 1;           ///< current joint: 1 right, 2 left
+    AlPrimoUso<SezioneDoppioT> TraveSx; ///< left beam
+    AlPrimoUso<SezioneDoppioT> TraveDx; ///< right beam
+    std::shared_ptr<SezioneDoppioT> Colonnainf;  ///< column below the node
+    std::shared_ptr<Giunto> ConnessioneCorrente; ///< joint being worked on
+    Singolo VColSup;                             ///< shear of the column above [kN]
+    Tabella1<AlPrimoUso<Giunto>> Giunti{{}, {}}; ///< of TraveDx (1) and TraveSx (2)
+
+    void Cambia();             ///< with two beams, makes the joint of nGiunto the current one
+    void CaratterizzaGiunti(); ///< TipiGiunto of the joints, from Tipovie
+    void LiberaOggetti();      ///< drops the current joint and what the joints refer to
+    void CancellaMemoria();    ///< both joints and the three sections are no more
+
+    void No_Acquisito();                     ///< no joint is accepted any more
+    void NOT_Acquisito(std::int16_t indice); ///< the same of one joint
+    /// True when every joint present is accepted.
+    void AcquisizioneGiunti(bool& Risultato) const;
+
+    /// True when the axial force of a beam exceeds a tenth of its resistance, ENV 1993-1-1 J.3.1.1 (6).
+    void ControllaNTravi(bool& Risultato);
+
+    /// Takes a section for a role and wires it; an object that has another role is copied first.
+    void PuntatoreColonna(std::shared_ptr<SezioneDoppioT> colonna);
+    void PuntatoreTraveDestra(std::shared_ptr<SezioneDoppioT> trave);
+    void PuntatoreTraveSinistra(std::shared_ptr<SezioneDoppioT> trave);
+    void PuntatoreColonna();       ///< gives the column to both joints
+    void PuntatoreTraveDestra();   ///< gives right beam and column to joint 1
+    void PuntatoreTraveSinistra(); ///< gives left beam and column to joint 2
+    /// Beam and column of the current joint.
+    void PuntatoreSezioneCorrente(std::shared_ptr<SezioneDoppioT>& trave,
+                                  std::shared_ptr<SezioneDoppioT>& colonna) const;
+
+    void Scrivi_Some_Load(const CasoAzioni& caso); ///< writes the actions into beams and column
+    void ImpostaNodo();                            ///< defaults of the node and of both joints
+    void AzzeraParametriConnessioni();             ///< bolt 1 and no plate in each joint present
+    void PreparaSalvataggio();                     ///< the current joint is the one of the node again
+
+    /// Beta of the current joint: by the signs of the moments, or from the shear of the panel.
+    void Beta_Calcola();
+
+    /// Stiffeners of the column at the current joint; without stiffeners nothing. What cannot be a 16-bit
+    /// whole number throws ErroreAritmetico.
+    void CalcolaIrrigidimenti();
+
+    /// Checks or designs the current joint, in the one order that holds: sections, welds, stiffeners,
+    /// geometry, Beta, the search of a design, resistance and stiffness. It runs on a copy of node, sections
+    /// and factors; the joint gets the results at the end and is then Acquisito.
+    /// @return false where a design found nothing or did not start: the joint is as it was
+    bool EseguiCalcolo(OsservatoreProgetto* osservatore = nullptr);
+
+private:
+    [[nodiscard]] bool DueTravi() const { return NumeroGiunti == 2; }
+    [[nodiscard]] std::shared_ptr<SezioneDoppioT>
+    Propria(std::shared_ptr<SezioneDoppioT> sezione, const std::shared_ptr<SezioneDoppioT>& altra1,
+            const std::shared_ptr<SezioneDoppioT>& altra2) const;
+    void CollegaSezioni();
+    void CopiaOggetti();
+    [[nodiscard]] bool Calcola(OsservatoreProgetto* osservatore);
+    static void PreparaProgetto(Giunto& g);
+    [[nodiscard]] double BetaCautelativo();
+    [[nodiscard]] double BetaAnalitico();
+    [[nodiscard]] double BetaDueTravi(double Vm);
+    [[nodiscard]] double LunghezzaInclinata();
+};
+
+} // namespace sagomi
