@@ -65,12 +65,12 @@ BENCHMARK(CartellaEUnFoglio)->Unit(benchmark::kMicrosecond);
 
 std::string TutteLeFamiglie(int ordine) {
     const auto& screen = FamigliaDi("frmDoppioT");
-    return ComponiQuery("frmDoppioT", {screen.fogli.begin(), screen.fogli.end()}, ordine);
+    return ComponeQuery("frmDoppioT", {screen.fogli.begin(), screen.fogli.end()}, ordine);
 }
 
 void PrimaQuery(benchmark::State& state) {
     for (auto _ : state)
-        benchmark::DoNotOptimize(Catalogo(workbook).Esegui(FamigliaDi("frmDoppioT").primaQuery));
+        benchmark::DoNotOptimize(Catalogo(workbook).Esegue(FamigliaDi("frmDoppioT").primaQuery));
 }
 BENCHMARK(PrimaQuery)->Unit(benchmark::kMicrosecond);
 
@@ -94,14 +94,14 @@ std::filesystem::path CartellaGrande() {
     for (const char* name : {"IPE", "HEA"}) {
         Foglio& sheet = dati.fogli.emplace_back(Foglio{name, {}});
         for (std::size_t c = 0; c < headings.size(); ++c)
-            sheet.Scrivi(0, c, std::string(headings[c]));
+            sheet.Scrive(0, c, std::string(headings[c]));
         for (std::size_t r = 1; r <= 50'000; ++r) {
-            sheet.Scrivi(r, 0, name + std::string(" ") + std::to_string(r));
+            sheet.Scrive(r, 0, name + std::string(" ") + std::to_string(r));
             for (std::size_t c = 1; c < headings.size(); ++c)
-                sheet.Scrivi(r, c, std::round(std::fmod(static_cast<double>(r * c) * 7919.0, 99991.0)) / 100);
+                sheet.Scrive(r, c, std::round(std::fmod(static_cast<double>(r * c) * 7919.0, 99991.0)) / 100);
         }
     }
-    ScriviXls(dati, file);
+    ScriveXls(dati, file);
     return file;
 }
 
@@ -110,7 +110,7 @@ const std::string dueFogli = "SELECT * FROM [IPE$] UNION SELECT * FROM [HEA$] OR
 void GrandeInizio(benchmark::State& state) {
     const auto file = CartellaGrande();
     for (auto _ : state)
-        benchmark::DoNotOptimize(Catalogo(file).Esegui(dueFogli));
+        benchmark::DoNotOptimize(Catalogo(file).Esegue(dueFogli));
     std::filesystem::remove(file);
 }
 BENCHMARK(GrandeInizio)->Unit(benchmark::kMillisecond);
@@ -121,7 +121,7 @@ void GrandeOrdine(benchmark::State& state) {
     rows.DatabaseName(file);
     int order = 0;
     for (auto _ : state) {
-        rows.RecordSource(ComponiQuery("frmDoppioT", {"IPE", "HEA"}, order++ % 3));
+        rows.RecordSource(ComponeQuery("frmDoppioT", {"IPE", "HEA"}, order++ % 3));
         rows.Refresh();
     }
     std::filesystem::remove(file);

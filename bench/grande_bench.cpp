@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
         for (Foglio& foglio : cartella.fogli)
             if (foglio.nome == "IPE" || foglio.nome == "HEA")
                 Allunga(foglio);
-        ScriviXls(cartella, argv[2]);
+        ScriveXls(cartella, argv[2]);
     } catch (const std::exception& e) {
         std::cerr << e.what() << '\n';
         return 1;

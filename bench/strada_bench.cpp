@@ -18,7 +18,7 @@ namespace {
 
 std::string TutteLeFamiglie() {
     const auto& screen = FamigliaDi("frmDoppioT");
-    return ComponiQuery("frmDoppioT", {screen.fogli.begin(), screen.fogli.end()}, 0);
+    return ComponeQuery("frmDoppioT", {screen.fogli.begin(), screen.fogli.end()}, 0);
 }
 
 void Prepara(SezioneDoppioT& s) {

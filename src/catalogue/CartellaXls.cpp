@@ -12,7 +12,7 @@ namespace sagomi {
 CartellaXls::CartellaXls(const std::filesystem::path& file) : CartellaXls(LeggeFile(file, massimoFile)) {}
 
 CartellaXls::CartellaXls(FileLetto file)
-    : impronta_(file.impronta), flusso_(LeggiFlussoOle(file.byte, {"Workbook", "Book"})) {
+    : impronta_(file.impronta), flusso_(LeggeFlussoOle(file.byte, {"Workbook", "Book"})) {
     LeggeInizio();
 }
 

@@ -48,7 +48,7 @@ public:
         return esito == SQLITE_ROW;
     }
 
-    [[nodiscard]] Valore Leggi(int c) const {
+    [[nodiscard]] Valore Legge(int c) const {
         switch (sqlite3_column_type(nodo_, c)) {
         case SQLITE_INTEGER:
         case SQLITE_FLOAT:
@@ -80,7 +80,7 @@ public:
         auto& riga = esito_.righe.emplace_back();
         riga.reserve(n);
         for (std::size_t c = 0; c < n; ++c) {
-            riga.push_back(istruzione.Leggi(static_cast<int>(c)));
+            riga.push_back(istruzione.Legge(static_cast<int>(c)));
             if (const auto* testo = std::get_if<std::string>(&riga.back()))
                 byte_ += testo->size();
         }
@@ -195,7 +195,7 @@ void Catalogo::ApreTabelle() {
     }
 }
 
-EsitoQuery Catalogo::Esegui(std::string_view query) const {
+EsitoQuery Catalogo::Esegue(std::string_view query) const {
     constexpr int passiPerLotto = 10'000, massimiLotti = 2'000;
     stato_->causa.clear();
     stato_->restano = massimiLotti;
@@ -236,7 +236,7 @@ std::filesystem::path FileAccanto(const std::filesystem::path& cartella, std::st
     return trovati.empty() ? esatto : *std::ranges::min_element(trovati);
 }
 
-void RendiSolaLettura(const std::filesystem::path& file) noexcept {
+void RendeSolaLettura(const std::filesystem::path& file) noexcept {
     using std::filesystem::perms;
     std::error_code errore;
     // What a link leads to is somebody else's file: its rights stay.

@@ -40,7 +40,7 @@ public:
     /// Runs a query and fetches all of its rows. Throws ErroreCatalogo, with the file's name and what is
     /// missing; nothing but a single SELECT is run, and none that takes too many steps or gives more than a
     /// workbook may hold.
-    [[nodiscard]] EsitoQuery Esegui(std::string_view query) const;
+    [[nodiscard]] EsitoQuery Esegue(std::string_view query) const;
 
     /// The state of the file when it was opened.
     [[nodiscard]] const ImprontaFile& Impronta() const;
@@ -64,6 +64,6 @@ private:
 std::filesystem::path FileAccanto(const std::filesystem::path& cartella, std::string_view nome);
 
 /// Takes the right to write from a file, as far as the system lets. Never fails.
-void RendiSolaLettura(const std::filesystem::path& file) noexcept;
+void RendeSolaLettura(const std::filesystem::path& file) noexcept;
 
 } // namespace sagomi

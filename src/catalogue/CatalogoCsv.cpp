@@ -51,7 +51,7 @@ Valore NumeroDaCsv(std::string_view foglio, std::size_t riga, const std::string&
     return v;
 }
 
-std::string LeggiTesto(const std::filesystem::path& file) {
+std::string LeggeTesto(const std::filesystem::path& file) {
     const std::ifstream f(file, std::ios::binary);
     std::ostringstream testo;
     if (!f || !(testo << f.rdbuf()))
@@ -63,20 +63,20 @@ std::string LeggiTesto(const std::filesystem::path& file) {
 
 Foglio FoglioDaCsv(std::string_view foglio, std::string_view schermo, std::string_view csv) {
     const auto& intestazioni = Intestazioni(schermo);
-    const auto righe = LeggiCsv(csv);
+    const auto righe = LeggeCsv(csv);
     if (righe.empty())
         Fallisce(foglio, 1, "manca");
     VerificaColonne(foglio, righe.front(), intestazioni);
     Foglio f;
     f.nome = foglio;
     for (std::size_t c = 0; c < intestazioni.size(); ++c)
-        f.Scrivi(0, c, std::string(intestazioni[c]));
+        f.Scrive(0, c, std::string(intestazioni[c]));
     for (std::size_t r = 1; r < righe.size(); ++r) {
         if (righe[r].size() != righe.front().size())
             Fallisce(foglio, r + 1, std::to_string(righe[r].size()) + " valori");
-        f.Scrivi(r, 0, righe[r][0]);
+        f.Scrive(r, 0, righe[r][0]);
         for (std::size_t c = 1; c < intestazioni.size(); ++c)
-            f.Scrivi(r, c, NumeroDaCsv(foglio, r + 1, righe[r][c]));
+            f.Scrive(r, c, NumeroDaCsv(foglio, r + 1, righe[r][c]));
     }
     return f;
 }
@@ -88,7 +88,7 @@ CartellaDati CatalogoDaCsv(const std::filesystem::path& cartella) {
             std::string file(foglio);
             std::ranges::replace(file, ' ', '_');
             catalogo.fogli.push_back(
-                FoglioDaCsv(foglio, famiglia.schermo, LeggiTesto(cartella / (file + ".csv"))));
+                FoglioDaCsv(foglio, famiglia.schermo, LeggeTesto(cartella / (file + ".csv"))));
         }
     return catalogo;
 }

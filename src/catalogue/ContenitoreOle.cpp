@@ -85,7 +85,7 @@ std::vector<std::uint8_t> Contenuto(GsfInput* flusso, std::size_t massimo) {
 
 } // namespace
 
-std::vector<std::uint8_t> LeggiFlussoOle(std::span<const std::uint8_t> file,
+std::vector<std::uint8_t> LeggeFlussoOle(std::span<const std::uint8_t> file,
                                          std::initializer_list<const char*> nomi) {
     AvviaLibreria();
     const Silenzio silenzio;

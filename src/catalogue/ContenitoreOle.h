@@ -19,7 +19,7 @@ std::string ContenitoreOle(std::string_view nome, const std::vector<std::uint8_t
 /// @param file  the bytes of the document
 /// Throws std::runtime_error, in Italian, when they are no compound document, it has no such stream, or the
 /// stream is cut short.
-std::vector<std::uint8_t> LeggiFlussoOle(std::span<const std::uint8_t> file,
+std::vector<std::uint8_t> LeggeFlussoOle(std::span<const std::uint8_t> file,
                                          std::initializer_list<const char*> nomi);
 
 } // namespace sagomi

@@ -15,7 +15,7 @@ public:
             testo_.remove_prefix(segnoOrdine.size());
     }
 
-    std::vector<std::vector<std::string>> Leggi() {
+    std::vector<std::vector<std::string>> Legge() {
         while (i_ < testo_.size())
             Carattere(testo_[i_++]);
         FineRiga();
@@ -77,6 +77,6 @@ private:
 
 } // namespace
 
-std::vector<std::vector<std::string>> LeggiCsv(std::string_view testo) { return LettoreCsv(testo).Leggi(); }
+std::vector<std::vector<std::string>> LeggeCsv(std::string_view testo) { return LettoreCsv(testo).Legge(); }
 
 } // namespace sagomi

@@ -130,7 +130,7 @@ std::string NomeFoglioQuery(std::string_view foglio) {
     return chiudeLeParentesi ? TraVirgolette(tabella) : "[" + tabella + "]";
 }
 
-std::string ComponiQuery(std::string_view schermo, const std::vector<std::string>& scelti, int ordine) {
+std::string ComponeQuery(std::string_view schermo, const std::vector<std::string>& scelti, int ordine) {
     const std::string suffisso = Suffisso(FamigliaDi(schermo), ordine);
     std::string query;
     for (const std::string& foglio : scelti) {
@@ -140,15 +140,15 @@ std::string ComponiQuery(std::string_view schermo, const std::vector<std::string
     return query.empty() ? query : query.append(suffisso);
 }
 
-std::string ComponiQueryFoglio(std::string_view schermo, std::string_view foglioQuery, int ordine) {
+std::string ComponeQueryFoglio(std::string_view schermo, std::string_view foglioQuery, int ordine) {
     return "SELECT * FROM " + std::string(foglioQuery) + Suffisso(FamigliaDi(schermo), ordine);
 }
 
 std::optional<std::string> CambioFamigliaQuery(std::string_view schermo, const std::vector<bool>& spunte,
                                                int ordine, std::string_view foglioQuery) {
     if (!foglioQuery.empty())
-        return ComponiQueryFoglio(schermo, foglioQuery, ordine);
-    std::string query = ComponiQuery(schermo, FogliSpuntati(FamigliaDi(schermo), spunte), ordine);
+        return ComponeQueryFoglio(schermo, foglioQuery, ordine);
+    std::string query = ComponeQuery(schermo, FogliSpuntati(FamigliaDi(schermo), spunte), ordine);
     if (query.empty()) {
         Avvisa(messaggioNessunTipo);
         return std::nullopt;

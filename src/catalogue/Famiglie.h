@@ -45,10 +45,10 @@ std::string NomeFoglioQuery(std::string_view foglio);
 /// @param scelti   names of the ticked sheets, in the order of their boxes
 /// @param ordine   index of the OptionOrdina that is set; outside 0..2 throws std::out_of_range
 /// @return the text for RecordSource; empty when nothing is ticked
-std::string ComponiQuery(std::string_view schermo, const std::vector<std::string>& scelti, int ordine);
+std::string ComponeQuery(std::string_view schermo, const std::vector<std::string>& scelti, int ordine);
 
 /// The same over one sheet that is given as the query names it ("['DoppioT Simmetrico'$]").
-std::string ComponiQueryFoglio(std::string_view schermo, std::string_view foglioQuery, int ordine);
+std::string ComponeQueryFoglio(std::string_view schermo, std::string_view foglioQuery, int ordine);
 
 /// The new RecordSource of a screen from the state of its boxes. With nothing ticked and no sheet given the
 /// user is told, and there is no query: the table stays as it was.

@@ -25,7 +25,7 @@ struct Foglio {
     std::vector<std::vector<Cella>> righe;
 
     /// The value in a cell, empty outside the rows that are held.
-    [[nodiscard]] const Valore& Leggi(std::size_t riga, std::size_t colonna) const {
+    [[nodiscard]] const Valore& Legge(std::size_t riga, std::size_t colonna) const {
         static const Valore vuoto;
         if (riga >= righe.size() || colonna >= righe[riga].size())
             return vuoto;
@@ -33,7 +33,7 @@ struct Foglio {
     }
 
     /// Puts a value into a cell; the sheet grows as far as it must.
-    void Scrivi(std::size_t riga, std::size_t colonna, Valore valore) {
+    void Scrive(std::size_t riga, std::size_t colonna, Valore valore) {
         if (riga >= righe.size())
             righe.resize(riga + 1);
         if (colonna >= righe[riga].size())

@@ -71,7 +71,7 @@ public:
         : flusso_(flusso), foglio_(foglio), stringhe_(stringhe), ingombro_(Misura(foglio)),
           colonne_(Colonne(foglio)), intestata_(HaIntestazione(foglio)) {}
 
-    std::uint32_t Scrivi(bool attivo) {
+    std::uint32_t Scrive(bool attivo) {
         const std::uint32_t inizio = flusso_.Record(
             Biff::Bof, Ottetti().U16(0x0600).U16(0x0010).U16(0x0DBB).U16(0x07CC).U32(0x41).U32(0x06));
         Indice();
@@ -135,7 +135,7 @@ private:
     void LarghezzeColonne() {
         const std::uint32_t posizione = flusso_.Record(Biff::DefColWidth, Ottetti().U16(8));
         if (correggiColonne_ != 0)
-            flusso_.Correggi(correggiColonne_, posizione);
+            flusso_.Corregge(correggiColonne_, posizione);
         for (std::size_t c = 0; c < colonne_.size(); ++c)
             flusso_.Record(Biff::ColInfo, Ottetti()
                                               .U16(Num(c))
@@ -182,7 +182,7 @@ private:
         for (const std::uint8_t byte : distanze.dati())
             o.U8(byte);
         flusso_.Record(Biff::DbCell, o);
-        flusso_.Correggi(correggiBlocco_, posizione);
+        flusso_.Corregge(correggiBlocco_, posizione);
         correggiBlocco_ += 4;
     }
 
@@ -247,9 +247,9 @@ private:
 
 } // namespace
 
-std::uint32_t ScriviFoglio(FlussoBiff& flusso, const Foglio& foglio, const TabellaStringhe& stringhe,
+std::uint32_t ScriveFoglio(FlussoBiff& flusso, const Foglio& foglio, const TabellaStringhe& stringhe,
                            bool attivo) {
-    return ScrittoreFoglio(flusso, foglio, stringhe).Scrivi(attivo);
+    return ScrittoreFoglio(flusso, foglio, stringhe).Scrive(attivo);
 }
 
 } // namespace sagomi

@@ -15,7 +15,7 @@ namespace sagomi {
 /// @param stringhe  has collected the sheet's texts
 /// @param attivo    the sheet that shows when the workbook is opened
 /// @return position of the sheet in the stream
-std::uint32_t ScriviFoglio(FlussoBiff& flusso, const Foglio& foglio, const TabellaStringhe& stringhe,
+std::uint32_t ScriveFoglio(FlussoBiff& flusso, const Foglio& foglio, const TabellaStringhe& stringhe,
                            bool attivo);
 
 } // namespace sagomi

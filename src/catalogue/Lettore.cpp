@@ -20,7 +20,7 @@ std::out_of_range Fuori(const char* cosa, int i, int n) {
 void Lettore::Refresh() {
     EsitoQuery nuovo;
     try {
-        nuovo = Catalogo::Apri(chiesta_.cartella)->Esegui(chiesta_.query);
+        nuovo = Catalogo::Apri(chiesta_.cartella)->Esegue(chiesta_.query);
         if (static_cast<int>(nuovo.campi.size()) < campiAttesi_)
             throw ErroreCatalogo("Errore nella lettura di \"" + chiesta_.cartella.filename().string() +
                                  "\": la tabella ha " + std::to_string(nuovo.campi.size()) +

@@ -27,7 +27,7 @@ CartellaDati LeggeTutto(CartellaXls cartella) {
 
 } // namespace
 
-CartellaDati LeggiXls(const std::filesystem::path& file) {
+CartellaDati LeggeXls(const std::filesystem::path& file) {
     try {
         return LeggeTutto(CartellaXls(file));
     } catch (const std::bad_alloc&) {

@@ -17,7 +17,7 @@ struct Testa {
     char32_t minimo; ///< below this the form is longer than it must be, which is not valid
 };
 
-Testa LeggiTesta(unsigned char c) {
+Testa LeggeTesta(unsigned char c) {
     if (c < 0x80)
         return {1, c, 0};
     if (c >= 0xC2 && c < 0xE0)
@@ -31,7 +31,7 @@ Testa LeggiTesta(unsigned char c) {
 
 /// The character at `i`; moves `i` behind it, or by one byte where there is none.
 char32_t ProssimoCarattere(std::string_view testo, std::size_t& i) {
-    const Testa testa = LeggiTesta(static_cast<unsigned char>(testo[i]));
+    const Testa testa = LeggeTesta(static_cast<unsigned char>(testo[i]));
     const std::size_t fine = i + static_cast<std::size_t>(testa.byte);
     ++i;
     if (testa.byte == 0 || fine > testo.size())
@@ -49,7 +49,7 @@ char32_t ProssimoCarattere(std::string_view testo, std::size_t& i) {
     return c;
 }
 
-void AggiungiUtf8(std::string& utf8, char32_t c) {
+void AggiungeUtf8(std::string& utf8, char32_t c) {
     const auto seguito = [&utf8, c](unsigned spostamento) {
         utf8.push_back(static_cast<char>(0x80U | ((c >> spostamento) & 0x3FU)));
     };
@@ -123,7 +123,7 @@ std::uint32_t FlussoBiff::Record(Biff genere, const Ottetti& corpo) {
     return posizione;
 }
 
-void FlussoBiff::Correggi(std::uint32_t posizione, std::uint32_t valore) {
+void FlussoBiff::Corregge(std::uint32_t posizione, std::uint32_t valore) {
     for (unsigned i = 0; i < 4; ++i)
         dati_.at(posizione + i) = static_cast<std::uint8_t>(valore >> (8 * i));
 }
@@ -158,7 +158,7 @@ std::string Utf8DaUtf16(std::u16string_view testo) {
             c = 0x10000 + ((c & 0x3FFU) << 10U) + (testo[++i] & 0x3FFU);
         else if (c >= 0xD800 && c < 0xE000)
             c = sostituto;
-        AggiungiUtf8(utf8, c);
+        AggiungeUtf8(utf8, c);
     }
     return utf8;
 }

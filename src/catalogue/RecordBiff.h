@@ -94,7 +94,7 @@ public:
     std::uint32_t Record(Biff genere, const Ottetti& corpo = {});
 
     /// Overwrites four bytes that were written before their value was known.
-    void Correggi(std::uint32_t posizione, std::uint32_t valore);
+    void Corregge(std::uint32_t posizione, std::uint32_t valore);
 
     [[nodiscard]] std::uint32_t Posizione() const { return static_cast<std::uint32_t>(dati_.size()); }
     [[nodiscard]] const std::vector<std::uint8_t>& dati() const { return dati_; }

@@ -58,18 +58,18 @@ void Verifica(const CartellaDati& cartella) {
     }
 }
 
-TabellaStringhe RaccogliStringhe(const CartellaDati& cartella) {
+TabellaStringhe RaccoglieStringhe(const CartellaDati& cartella) {
     TabellaStringhe stringhe;
     for (const Foglio& foglio : cartella.fogli)
         for (const auto& riga : foglio.righe)
             for (const Cella& cella : riga)
                 if (const auto* testo = std::get_if<std::string>(&cella.valore); testo && !testo->empty())
-                    stringhe.Raccogli(*testo);
+                    stringhe.Raccoglie(*testo);
     return stringhe;
 }
 
 /// The head of the workbook up to the list of the sheets.
-void ScriviTesta(FlussoBiff& flusso) {
+void ScriveTesta(FlussoBiff& flusso) {
     constexpr unsigned utf16 = 0x04B0;
     flusso.Record(Biff::Bof, Ottetti().U16(0x0600).U16(0x0005).U16(0x0DBB).U16(0x07CC).U32(0x41).U32(0x06));
     flusso.Record(Biff::CodePage, Ottetti().U16(utf16));
@@ -78,12 +78,12 @@ void ScriviTesta(FlussoBiff& flusso) {
                   Ottetti().U16(480).U16(60).U16(18195).U16(8505).U16(0x0038).U16(0).U16(0).U16(1).U16(600));
     flusso.Record(Biff::DateMode, Ottetti().U16(0));
     flusso.Record(Biff::Precision, Ottetti().U16(1));
-    ScriviStili(flusso);
+    ScriveStili(flusso);
     flusso.Record(Biff::UseSelfs, Ottetti().U16(0));
 }
 
 /// Enters a sheet into the list. Returns where its position is to be filled in.
-std::uint32_t ScriviVoceFoglio(FlussoBiff& flusso, const std::string& nome) {
+std::uint32_t ScriveVoceFoglio(FlussoBiff& flusso, const std::string& nome) {
     const std::u16string u = Utf16DaUtf8(nome);
     const bool stretto = EntraInUnByte(u);
     Ottetti o;
@@ -107,28 +107,28 @@ std::string CausaScrittura(const std::filesystem::path& file) {
 
 } // namespace
 
-std::vector<std::uint8_t> ComponiBiff(const CartellaDati& cartella) {
+std::vector<std::uint8_t> ComponeBiff(const CartellaDati& cartella) {
     Verifica(cartella);
-    const TabellaStringhe stringhe = RaccogliStringhe(cartella);
+    const TabellaStringhe stringhe = RaccoglieStringhe(cartella);
     FlussoBiff flusso;
-    ScriviTesta(flusso);
+    ScriveTesta(flusso);
     std::vector<std::uint32_t> posti;
     for (const Foglio& foglio : cartella.fogli)
-        posti.push_back(ScriviVoceFoglio(flusso, foglio.nome));
+        posti.push_back(ScriveVoceFoglio(flusso, foglio.nome));
     flusso.Record(Biff::Country, Ottetti().U16(italia).U16(italia));
-    stringhe.Scrivi(flusso);
+    stringhe.Scrive(flusso);
     flusso.Record(Biff::Eof);
     for (std::size_t i = 0; i < cartella.fogli.size(); ++i)
-        flusso.Correggi(posti[i], ScriviFoglio(flusso, cartella.fogli[i], stringhe, i == 0));
+        flusso.Corregge(posti[i], ScriveFoglio(flusso, cartella.fogli[i], stringhe, i == 0));
     flusso.AllungaA(minimoFlusso);
     return flusso.dati();
 }
 
-void ScriviXls(const CartellaDati& cartella, const std::filesystem::path& file) {
+void ScriveXls(const CartellaDati& cartella, const std::filesystem::path& file) {
     const std::string inizio = "Errore nella scrittura di \"" + file.string() + "\": ";
     std::string byte;
     try {
-        byte = ContenitoreOle("Workbook", ComponiBiff(cartella));
+        byte = ContenitoreOle("Workbook", ComponeBiff(cartella));
     } catch (const std::exception& e) {
         throw ErroreCatalogo(inizio + e.what() + ".");
     }

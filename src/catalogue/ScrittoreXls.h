@@ -9,7 +9,7 @@
 namespace sagomi {
 
 /// Writes a workbook of the format of Excel 97 (BIFF8, ".xls"): every sheet and every cell value, heading
-/// rows in bold and kept in place, columns as wide as what they hold. A CartellaDati that LeggiXls gave comes
+/// rows in bold and kept in place, columns as wide as what they hold. A CartellaDati that LeggeXls gave comes
 /// back from the file as it was. Numbers that are no numbers (infinite, NaN) and empty texts become empty
 /// cells.
 ///
@@ -18,10 +18,10 @@ namespace sagomi {
 /// Throws ErroreCatalogo for a workbook that the format cannot hold (no sheet, a sheet's name that is empty,
 /// longer than 31 characters, used twice or with one of \ / ? * [ ] :, more than 65536 rows or 256 columns, a
 /// text of more than 32767 characters) and for a file that cannot be written.
-void ScriviXls(const CartellaDati& cartella, const std::filesystem::path& file);
+void ScriveXls(const CartellaDati& cartella, const std::filesystem::path& file);
 
 /// The "Workbook" stream alone, without its container. Throws std::length_error or std::invalid_argument for
 /// what the format cannot hold.
-std::vector<std::uint8_t> ComponiBiff(const CartellaDati& cartella);
+std::vector<std::uint8_t> ComponeBiff(const CartellaDati& cartella);
 
 } // namespace sagomi

@@ -14,7 +14,7 @@ constexpr unsigned fontNormale = 0;
 constexpr unsigned fontGrassetto = 5; ///< the format has no font 4
 constexpr std::size_t decimaliMassimi = 4;
 
-void ScriviFont(FlussoBiff& flusso, bool grassetto) {
+void ScriveFont(FlussoBiff& flusso, bool grassetto) {
     constexpr std::u16string_view nome = u"Arial";
     Ottetti f;
     f.U16(200).U16(grassetto ? 1 : 0).U16(0x7FFF).U16(grassetto ? 700 : 400).U16(0); // 10 points, colour of
@@ -23,7 +23,7 @@ void ScriviFont(FlussoBiff& flusso, bool grassetto) {
     flusso.Record(Biff::Font, f);
 }
 
-void ScriviFormato(FlussoBiff& flusso, unsigned numero, std::u16string_view figura) {
+void ScriveFormato(FlussoBiff& flusso, unsigned numero, std::u16string_view figura) {
     Ottetti f;
     f.U16(numero).U16(static_cast<unsigned>(figura.size())).U8(0).Testo(figura, 0, figura.size(), true);
     flusso.Record(Biff::Format, f);
@@ -41,17 +41,17 @@ struct Xf {
     unsigned fondo = 0x20C0; ///< no pattern, in the colours of the system
 };
 
-void ScriviXf(FlussoBiff& flusso, const Xf& xf) {
+void ScriveXf(FlussoBiff& flusso, const Xf& xf) {
     Ottetti o;
     o.U16(xf.font).U16(xf.formato).U16(xf.genere).U8(xf.allineamento).U8(0).U8(0).U8(xf.propri);
     o.U32(xf.bordi).U32(xf.bordiColori).U16(xf.fondo);
     flusso.Record(Biff::Xf, o);
 }
 
-void ScriviXfDiStile(FlussoBiff& flusso) {
-    ScriviXf(flusso, {.genere = 0xFFF5});
+void ScriveXfDiStile(FlussoBiff& flusso) {
+    ScriveXf(flusso, {.genere = 0xFFF5});
     for (int i = 1; i < 15; ++i)
-        ScriviXf(flusso, {.genere = 0xFFF5, .propri = 0xF4});
+        ScriveXf(flusso, {.genere = 0xFFF5, .propri = 0xF4});
 }
 
 Xf XfIntestazione() {
@@ -102,13 +102,13 @@ std::size_t Caratteri(const Cella& cella, std::size_t decimali) {
 std::size_t DecimaliColonna(const Foglio& foglio, std::size_t colonna) {
     std::size_t decimali = 0;
     for (std::size_t r = 1; r < foglio.righe.size(); ++r)
-        if (const auto* v = std::get_if<double>(&foglio.Leggi(r, colonna)); v != nullptr && std::isfinite(*v))
+        if (const auto* v = std::get_if<double>(&foglio.Legge(r, colonna)); v != nullptr && std::isfinite(*v))
             decimali = std::max(decimali, Decimali(TestoCorto(*v)));
     return decimali;
 }
 
 ColonnaXls Colonna(const Foglio& foglio, std::size_t colonna, bool intestata) {
-    const auto* titolo = std::get_if<std::string>(&foglio.Leggi(0, colonna));
+    const auto* titolo = std::get_if<std::string>(&foglio.Legge(0, colonna));
     std::size_t decimali = 0;
     ColonnaXls aspetto;
     if (intestata && titolo != nullptr && UnitaUniforme(*titolo)) {
@@ -129,18 +129,18 @@ ColonnaXls Colonna(const Foglio& foglio, std::size_t colonna, bool intestata) {
 
 } // namespace
 
-void ScriviStili(FlussoBiff& flusso) {
+void ScriveStili(FlussoBiff& flusso) {
     for (int i = 0; i < 4; ++i)
-        ScriviFont(flusso, false);
-    ScriviFont(flusso, true);
-    ScriviFormato(flusso, 164, u"0.0");
-    ScriviFormato(flusso, 165, u"0.000");
-    ScriviFormato(flusso, 166, u"0.0000");
-    ScriviXfDiStile(flusso);
-    ScriviXf(flusso, {});
-    ScriviXf(flusso, XfIntestazione());
+        ScriveFont(flusso, false);
+    ScriveFont(flusso, true);
+    ScriveFormato(flusso, 164, u"0.0");
+    ScriveFormato(flusso, 165, u"0.000");
+    ScriveFormato(flusso, 166, u"0.0000");
+    ScriveXfDiStile(flusso);
+    ScriveXf(flusso, {});
+    ScriveXf(flusso, XfIntestazione());
     for (const unsigned formato : formatiNumerici)
-        ScriviXf(flusso, {.formato = formato, .propri = 0x04});
+        ScriveXf(flusso, {.formato = formato, .propri = 0x04});
     flusso.Record(Biff::Style, Ottetti().U16(0x8000).U8(0).U8(0xFF));
 }
 

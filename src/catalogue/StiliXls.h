@@ -20,7 +20,7 @@ enum class StileXls : unsigned {
 };
 
 /// Appends fonts, number formats, cell styles and the named style that they hang on.
-void ScriviStili(FlussoBiff& flusso);
+void ScriveStili(FlussoBiff& flusso);
 
 /// True when the first row holds headings: texts, and nothing else.
 bool HaIntestazione(const Foglio& foglio);

@@ -22,19 +22,19 @@ public:
         corpo_.U32(usi).U32(static_cast<std::uint32_t>(unici));
     }
 
-    PostoStringa Aggiungi(std::u16string_view t) {
+    PostoStringa Aggiunge(std::u16string_view t) {
         const bool stretto = EntraInUnByte(t);
         const std::size_t largo = stretto ? 1 : 2;
         constexpr std::size_t testaStringa = 3;
         if (corpo_.size() + testaStringa + 2 * largo > massimoRecord)
-            Chiudi();
+            Chiude();
         const PostoStringa posto{flusso_.Posizione() +
                                      static_cast<std::uint32_t>(testaRecord + corpo_.size()),
                                  static_cast<std::uint32_t>(testaRecord + corpo_.size())};
         corpo_.U16(static_cast<unsigned>(t.size())).U8(stretto ? 0 : 1);
         for (std::size_t fatti = 0; fatti < t.size();) {
             if (fatti > 0) {
-                Chiudi();
+                Chiude();
                 corpo_.U8(stretto ? 0 : 1);
             }
             const std::size_t n = Pezzo(t, fatti, (massimoRecord - corpo_.size()) / largo);
@@ -44,7 +44,7 @@ public:
         return posto;
     }
 
-    void Chiudi() {
+    void Chiude() {
         flusso_.Record(genere_, corpo_);
         genere_ = Biff::Continue;
         corpo_.Svuota();
@@ -69,7 +69,7 @@ std::size_t PassoIndice(std::size_t unici) { return std::max<std::size_t>(8, uni
 
 } // namespace
 
-void TabellaStringhe::Raccogli(const std::string& testo) {
+void TabellaStringhe::Raccoglie(const std::string& testo) {
     ++usi_;
     if (indici_.contains(testo))
         return;
@@ -80,17 +80,17 @@ void TabellaStringhe::Raccogli(const std::string& testo) {
     testi_.push_back(std::move(u));
 }
 
-void TabellaStringhe::Scrivi(FlussoBiff& flusso) const {
+void TabellaStringhe::Scrive(FlussoBiff& flusso) const {
     const std::size_t passo = PassoIndice(testi_.size());
     Ottetti indice;
     indice.U16(static_cast<unsigned>(passo));
     RiempieSst sst(flusso, usi_, testi_.size());
     for (std::size_t i = 0; i < testi_.size(); ++i) {
-        const PostoStringa posto = sst.Aggiungi(testi_[i]);
+        const PostoStringa posto = sst.Aggiunge(testi_[i]);
         if (i % passo == 0)
             indice.U32(posto.nelFlusso).U16(posto.nelRecord).U16(0);
     }
-    sst.Chiudi();
+    sst.Chiude();
     flusso.Record(Biff::ExtSst, indice);
 }
 

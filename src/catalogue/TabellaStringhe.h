@@ -18,14 +18,14 @@ public:
 
     /// Counts a cell that holds this text (UTF-8); a new text is entered. One that is too long throws
     /// std::length_error.
-    void Raccogli(const std::string& testo);
+    void Raccoglie(const std::string& testo);
 
     /// The number of a text that has been entered.
     [[nodiscard]] std::uint32_t Indice(const std::string& testo) const { return indici_.at(testo); }
 
     /// Appends the table (SST and what it takes of CONTINUE records) and the positions for a quick look-up
     /// (EXTSST).
-    void Scrivi(FlussoBiff& flusso) const;
+    void Scrive(FlussoBiff& flusso) const;
 
 private:
     std::unordered_map<std::string, std::uint32_t> indici_;

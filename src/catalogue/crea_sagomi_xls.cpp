@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
         const sagomi::CartellaDati catalogo = sagomi::CatalogoDaCsv(argv[1]);
         std::error_code errore;
         std::filesystem::remove(argv[2], errore); // an older one may have been made read-only
-        sagomi::ScriviXls(catalogo, argv[2]);
+        sagomi::ScriveXls(catalogo, argv[2]);
     } catch (const std::exception& e) {
         std::cerr << e.what() << '\n';
         return 1;

@@ -185,7 +185,7 @@ private:
     [[nodiscard]] std::shared_ptr<Poligono> ContornoAcciaio() const;
     [[nodiscard]] double TolleranzaNeutro() const;
     [[nodiscard]] double LivelloArmatura() const; ///< from the top: H + hc - c, not narrowed
-    void TogliParti();
+    void ToglieParti();
     void CompletaParti() const; ///< area and centroid of each part
 
     std::string Titolo;

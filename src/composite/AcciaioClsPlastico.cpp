@@ -41,7 +41,7 @@ double AcciaioCls::LivelloArmatura() const { return Sezione->h + hc - c; }
 
 double AcciaioCls::TolleranzaNeutro() const { return Sezione->h * ContornoAcciaio()->Area / 100000; }
 
-void AcciaioCls::TogliParti() {
+void AcciaioCls::ToglieParti() {
     for (auto* parte : {&ClsCompresso, &ClsTeso, &AcciaioCompresso, &AcciaioTeso})
         parte->reset();
 }
@@ -55,7 +55,7 @@ void AcciaioCls::CompletaParti() const {
 void AcciaioCls::AzzeraRisultati() {
     for (Singolo* risultato : {&MplRd, &Vl, &yNeutro, &SigmaCls, &SigmaInf, &SigmaSup, &SigmaArm, &Jid, &Ss})
         *risultato = 0;
-    TogliParti();
+    ToglieParti();
 }
 
 void AcciaioCls::MplRdPositivo() {
@@ -63,7 +63,7 @@ void AcciaioCls::MplRdPositivo() {
         MplRdSolettaSotto();
         return;
     }
-    TogliParti();
+    ToglieParti();
     const ParteReagente acciaio(ContornoAcciaio());
     const Forze f(*this, acciaio.A);
     const double ySbarre = LivelloArmatura();
@@ -99,7 +99,7 @@ void AcciaioCls::MplRdNegativo() {
         MplRdSolettaSotto();
         return;
     }
-    TogliParti();
+    ToglieParti();
     const ParteReagente acciaio(ContornoAcciaio());
     const Forze f(*this, acciaio.A);
     const double ySbarre = LivelloArmatura();

@@ -29,11 +29,11 @@ constexpr std::array<Colonna, 3> gammaDistribuito = {
      {143, 53, 42.6F, 36.3F, 33.8F, 32.6F, 31.5F, 30.5F, 30.1F, 29.4F, 29, 28.8F, 28.6F, 28.6F},
      {223, 77.4F, 59.6F, 48, 43.6F, 40.5F, 37.8F, 36.4F, 35.1F, 33.3F, 32.1F, 31.3F, 31, 30.7F}}};
 
-void Riempi(std::vector<double>& v, const Colonna& colonna) { v.assign(colonna.begin(), colonna.end()); }
+void Riempie(std::vector<double>& v, const Colonna& colonna) { v.assign(colonna.begin(), colonna.end()); }
 
-void RiempiQuota(std::vector<double>& v, const std::array<Colonna, 3>& quote, std::int16_t QuotaCarico) {
+void RiempieQuota(std::vector<double>& v, const std::array<Colonna, 3>& quote, std::int16_t QuotaCarico) {
     if (QuotaCarico >= quotaEstradosso && QuotaCarico <= quotaIntradosso)
-        Riempi(v, quote[static_cast<std::size_t>(QuotaCarico)]);
+        Riempie(v, quote[static_cast<std::size_t>(QuotaCarico)]);
 }
 
 /// Straight line through the rows around x; the first two below the table, the last two at its end.
@@ -132,21 +132,21 @@ Singolo Timoshenko::a_QuotaCarico(std::int16_t QuotaCarico) {
 }
 
 void Timoshenko::TabellaMensola(std::vector<double>& ascisse, std::vector<double>& ordinate) {
-    Riempi(ascisse, ascisseMensola);
-    Riempi(ordinate, gammaMensola);
+    Riempie(ascisse, ascisseMensola);
+    Riempie(ordinate, gammaMensola);
 }
 
 void Timoshenko::TabellaAppoggiata(std::vector<double>& ascisse, std::vector<double>& ordinate,
                                    std::int16_t TipoCarico, std::int16_t QuotaCarico) {
-    Riempi(ascisse, ascisseAppoggiata);
+    Riempie(ascisse, ascisseAppoggiata);
     if (TipoCarico == caricoDistribuito)
         TabellaAppoggiata1(ordinate, QuotaCarico);
     else
-        RiempiQuota(ordinate, gammaConcentrato, QuotaCarico);
+        RiempieQuota(ordinate, gammaConcentrato, QuotaCarico);
 }
 
 void Timoshenko::TabellaAppoggiata1(std::vector<double>& ordinate, std::int16_t QuotaCarico) {
-    RiempiQuota(ordinate, gammaDistribuito, QuotaCarico);
+    RiempieQuota(ordinate, gammaDistribuito, QuotaCarico);
 }
 
 bool Timoshenko::LunghezzaValida() const {

@@ -39,9 +39,9 @@ Quadro::Quadro(Superficie* oggetto, std::string_view dispositivo, const Misura& 
     superficie_->Scale();
     superficie_->Predefiniti();
     if (superficie_->Limitata() && Dispositivo != dispositivoStampante)
-        DisponiSuSchermo();
+        DisponeSuSchermo();
     else
-        DisponiSuFoglio(misura);
+        DisponeSuFoglio(misura);
     const RigaTesto riga = superficie_->TextLine();
     riga_ = riga.sopra + riga.sotto;
 }
@@ -51,14 +51,14 @@ Quadro::~Quadro() {
         superficie_->Scale();
 }
 
-void Quadro::DisponiSuSchermo() {
+void Quadro::DisponeSuSchermo() {
     superficie_->ScaleMode = Superficie::scalaUtente;
     larghezza_ = superficie_->ScaleWidth;
     altezza_ = superficie_->ScaleHeight;
     altezzaTesto_ = superficie_->TextHeight(campione);
 }
 
-void Quadro::DisponiSuFoglio(const Misura& misura) {
+void Quadro::DisponeSuFoglio(const Misura& misura) {
     Superficie& s = *superficie_;
     const double l = s.ScaleWidth;
     const double h = s.ScaleHeight;

@@ -73,8 +73,8 @@ public:
     void Testo(PuntoQuadro dove, std::string_view testo, Allinea allinea, Posa posa) const;
 
 private:
-    void DisponiSuSchermo();
-    void DisponiSuFoglio(const Misura& misura);
+    void DisponeSuSchermo();
+    void DisponeSuFoglio(const Misura& misura);
 
     Superficie* superficie_;
     double larghezza_, altezza_;

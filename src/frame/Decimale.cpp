@@ -11,7 +11,7 @@ namespace sagomi {
 
 namespace {
 
-void TogliZeri(Decimale& d) {
+void ToglieZeri(Decimale& d) {
     const std::size_t ultima = d.cifre.find_last_not_of('0');
     d.cifre.erase(ultima == std::string::npos ? 0 : ultima + 1);
     const std::size_t prima = std::min(d.cifre.find_first_not_of('0'), d.cifre.size());
@@ -35,7 +35,7 @@ Decimale DaTesto(std::string_view testo) {
         if (c != '.')
             d.cifre += c;
     d.punto = esponente + 1;
-    TogliZeri(d);
+    ToglieZeri(d);
     return d;
 }
 
@@ -77,7 +77,7 @@ Decimale ArrotondaSignificative(Decimale d, int nCifre) {
         if (inSu)
             Incrementa(d);
     }
-    TogliZeri(d);
+    ToglieZeri(d);
     return d;
 }
 

@@ -37,7 +37,7 @@ std::string Raggruppa(std::string_view cifre, std::string_view gruppo) {
     return testo;
 }
 
-std::string Riempi(std::string cifre, int minimo, bool davanti) {
+std::string Riempie(std::string cifre, int minimo, bool davanti) {
     const auto larghezza = static_cast<std::size_t>(minimo);
     if (cifre.size() < larghezza)
         cifre.insert(davanti ? 0 : cifre.size(), larghezza - cifre.size(), '0');
@@ -46,10 +46,10 @@ std::string Riempi(std::string cifre, int minimo, bool davanti) {
 
 std::string Posizionale(const Figura& f, const Decimale& d, std::string_view separatore,
                         std::string_view gruppo) {
-    const std::string intere = Riempi(CifreIntere(d), f.interiMinimi, true);
+    const std::string intere = Riempie(CifreIntere(d), f.interiMinimi, true);
     std::string testo = f.gruppi ? Raggruppa(intere, gruppo) : intere;
     if (f.separatore)
-        testo.append(separatore).append(Riempi(CifreDecimali(d), f.decimaliMinimi, false));
+        testo.append(separatore).append(Riempie(CifreDecimali(d), f.decimaliMinimi, false));
     return testo;
 }
 

@@ -50,7 +50,7 @@ bool Abbandonato(const fs::path& file) {
            stato.st_mtime < std::time(nullptr) - ora;
 }
 
-void TogliAbbandonati(const fs::path& meta) {
+void ToglieAbbandonati(const fs::path& meta) {
     const std::string inizio = InizioTemporaneo(meta);
     std::error_code errore;
     for (fs::directory_iterator voce(meta.parent_path(), errore), fine; !errore && voce != fine;
@@ -125,7 +125,7 @@ bool FileAtomico::Apre(const fs::path& percorso) {
     meta_ = Meta(percorso);
     if (!Scrivibile(meta_))
         return false;
-    TogliAbbandonati(meta_);
+    ToglieAbbandonati(meta_);
     temporaneo_ = (meta_.parent_path() / (InizioTemporaneo(meta_).append(segnaposto))).string();
     fd_ = mkostemp(temporaneo_.data(), O_CLOEXEC);
     if (fd_ < 0)

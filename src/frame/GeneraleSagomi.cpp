@@ -28,7 +28,7 @@ std::vector<void (*)()>& DaSvuotare() {
 
 } // namespace
 
-bool AggiungiRipristino(void (*svuota)()) {
+bool AggiungeRipristino(void (*svuota)()) {
     DaSvuotare().push_back(svuota);
     return true;
 }

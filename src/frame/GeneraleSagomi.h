@@ -49,7 +49,7 @@ std::string NomeNormativa();
 /// Lays down the defaults of everything that the settings file holds.
 void ImpostazioniPredefinite();
 
-/// Brings the whole block back to its state before the start, and with it what AggiungiRipristino was given.
+/// Brings the whole block back to its state before the start, and with it what AggiungeRipristino was given.
 /// For tests.
 void RipristinaGenerale();
 

@@ -34,7 +34,7 @@ void Avvisa(std::string_view testo, std::string_view titolo, Icona icona) {
     Manda({std::string(testo), icona, std::string(titolo), Bottoni::Ok});
 }
 
-bool Chiedi(std::string_view testo, std::string_view titolo, Icona icona) {
+bool Chiede(std::string_view testo, std::string_view titolo, Icona icona) {
     return Manda({std::string(testo), icona, std::string(titolo), Bottoni::SiNo}) == Risposta::Si;
 }
 

@@ -39,7 +39,7 @@ Risposta Inoltra(const PortaMessaggi& porta, const Messaggio& messaggio);
 void Avvisa(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Nessuna);
 
 /// Asks a question; true for yes.
-bool Chiedi(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Domanda);
+bool Chiede(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Domanda);
 
 /// While one lives and is active, no message reaches anybody and questions are answered no: for what is
 /// computed while an entry is still being typed.

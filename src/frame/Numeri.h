@@ -86,7 +86,7 @@ std::string Utf8DaCodice(std::uint16_t codice);
 /// The hidden text box through which the separators are tried out.
 struct CasellaTesto {
     virtual ~CasellaTesto() = default;
-    virtual void Nascondi() = 0;
+    virtual void Nasconde() = 0;
     virtual void Testo(std::string_view testo) = 0;
     [[nodiscard]] virtual std::string Testo() const = 0;
 };

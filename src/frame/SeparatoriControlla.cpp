@@ -50,7 +50,7 @@ bool NumeroTornaUguale(CasellaTesto& casella) {
 } // namespace
 
 void SeparatoriControlla(CasellaTesto& casella, const Separatori& sistema, bool silenzioso, bool* esito) {
-    casella.Nascondi();
+    casella.Nasconde();
     SeparatoriOk = false;
     CarDecimale = sistema.decimale;
     CarMigliaia = sistema.migliaia;

@@ -16,7 +16,7 @@ constexpr int iterazioniPerDomanda = 100;
 
 /// The user's word on a search that does not come to an end.
 bool Prosegue(int limite) {
-    return Chiedi("ERRORE! Il procedimento non converge!\nSuperate " + std::to_string(limite) +
+    return Chiede("ERRORE! Il procedimento non converge!\nSuperate " + std::to_string(limite) +
                   " iterazioni.\nProseguire ?");
 }
 

@@ -16,7 +16,7 @@ struct Somme {
     double Iu = 0, Iv = 0; ///< area times u^2, area times v^2
     double Iuv = 0;
 
-    void Aggiungi(double u1, double v1, double u2, double v2) {
+    void Aggiunge(double u1, double v1, double u2, double v2) {
         const double At = (u1 * v2 - u2 * v1) / 2;
         const double u = u1 + u2;
         const double v = v1 + v2;
@@ -96,7 +96,7 @@ void Poligono::SommeTriangoli() {
     const double x0 = x_[0];
     const double y0 = y_[0];
     for (std::size_t i = 1; i + 1 < Numero(); ++i)
-        s.Aggiungi(x_[i] - x0, y_[i] - y0, x_[i + 1] - x0, y_[i + 1] - y0);
+        s.Aggiunge(x_[i] - x0, y_[i] - y0, x_[i + 1] - x0, y_[i + 1] - y0);
     s.Divide();
     if (s.A < 0)
         s.CambiaSegno();

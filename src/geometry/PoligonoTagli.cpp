@@ -127,8 +127,8 @@ struct TaglioALivello {
 };
 
 /// Takes out of a list of points those that coincide with one before them.
-std::int16_t TogliCoincidenti(std::vector<double>& xI, std::vector<double>& yI,
-                              std::vector<std::int16_t>& iLato, double zero) {
+std::int16_t ToglieCoincidenti(std::vector<double>& xI, std::vector<double>& yI,
+                               std::vector<std::int16_t>& iLato, double zero) {
     std::size_t tenuti = 0;
     for (std::size_t k = 0; k < xI.size(); ++k) {
         bool doppio = false;
@@ -185,7 +185,7 @@ void Poligono::IntersezioneConRetta(double a, double b, double c, std::vector<do
         iLato.push_back(static_cast<std::int16_t>(i + 1));
     }
     if (nTolti)
-        *nTolti = TogliCoincidenti(xI, yI, iLato, zero);
+        *nTolti = ToglieCoincidenti(xI, yI, iLato, zero);
     nI = static_cast<std::int16_t>(xI.size());
 }
 

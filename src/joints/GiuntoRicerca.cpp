@@ -61,7 +61,7 @@ RicercaGiunto::RicercaGiunto(Giunto& giunto, OsservatoreProgetto& osservatore, d
       compressioneIrrigidita_(g_.Irrigidito() || g_.SoloCompressione()), tfMax_(ParteIntera(g_.tf_max)),
       instabilita_(compressioneIrrigidita_ ? 0 : g_.TensioneInstabilita()) {}
 
-bool RicercaGiunto::Esegui() {
+bool RicercaGiunto::Esegue() {
     g_.Kfc_Calcola();
     g_.Kwc_Calcola();
     g_.VplRdPannello_Calcola(g_.Beta);
@@ -222,7 +222,7 @@ void RicercaGiunto::Migliora() {
     record_ = {g_.IndiceBullone(), g_.tf, g_.bf, g_.ef, g_.ex, g_.L, g_.d2, g_.u};
     BulloneIniziale_ = record_.bullone;
     LIniziale_ = g_.L;
-    g_.parametriSelezione_.Aggiungi(Riga());
+    g_.parametriSelezione_.Aggiunge(Riga());
 }
 
 RigaSelezione RicercaGiunto::Riga() const {
@@ -261,7 +261,7 @@ bool Giunto::Cerca(double passo, double obiettivo, Giunto& originale) {
     try {
         sTraveColonna_Calcola();
         RicercaGiunto ricerca(*this, *osservatore_, passo, obiettivo);
-        if (ricerca.Esegui()) {
+        if (ricerca.Esegue()) {
             originale.Riprendi(*this);
             return true;
         }

@@ -78,7 +78,7 @@ public:
     /// geometry, Beta, the search of a design, resistance and stiffness. It runs on a copy of node, sections
     /// and factors; the joint gets the results at the end and is then Acquisito.
     /// @return false where a design found nothing or did not start: the joint is as it was
-    bool EseguiCalcolo(OsservatoreProgetto* osservatore = nullptr);
+    bool EsegueCalcolo(OsservatoreProgetto* osservatore = nullptr);
 
 private:
     [[nodiscard]] bool DueTravi() const { return NumeroGiunti == 2; }

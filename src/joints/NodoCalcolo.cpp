@@ -125,7 +125,7 @@ void Nodo::CopiaOggetti() {
     (sinistro ? TraveSx : TraveDx) = ConnessioneCorrente->Trave;
 }
 
-bool Nodo::EseguiCalcolo(OsservatoreProgetto* osservatore) {
+bool Nodo::EsegueCalcolo(OsservatoreProgetto* osservatore) {
     if (!ConnessioneCorrente)
         PreparaSalvataggio();
     const std::shared_ptr<Giunto> giunto = ConnessioneCorrente;

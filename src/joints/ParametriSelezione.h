@@ -31,7 +31,7 @@ public:
     [[nodiscard]] double Numero(int riga, int colonna) const {
         return std::get<double>((*this)[riga][colonna]);
     }
-    void Aggiungi(RigaSelezione riga) { righe_.push_back(std::move(riga)); }
+    void Aggiunge(RigaSelezione riga) { righe_.push_back(std::move(riga)); }
     void Svuota() { righe_.clear(); }
 
     bool operator==(const TabellaSelezione&) const = default;

@@ -20,7 +20,7 @@ public:
 
     /// Runs the search and puts the best into the joint.
     /// @return false where there is none; the joint then holds what was tried last
-    bool Esegui();
+    bool Esegue();
 
     [[nodiscard]] bool Fermata() const { return fermata_; } ///< the user has stopped it
 

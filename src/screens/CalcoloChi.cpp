@@ -20,7 +20,7 @@ constexpr const char* motivoBetaA = "BetaA deve essere <=1";
 constexpr const char* nomeLamda = "lamda";
 constexpr const char* nomeLamdaSegnato = "lamda segnato";
 
-void Scrivi(QLineEdit* box, std::string_view picture, double value) {
+void Scrive(QLineEdit* box, std::string_view picture, double value) {
     box->setText(QString::fromStdString(Formato(picture, value)));
 }
 
@@ -37,12 +37,12 @@ CalcoloChi::~CalcoloChi() = default;
 
 void CalcoloChi::CollegaRegole() {
     const QList<QWidget*> results{txtChi_[2], txtChi_[4], txtChi_[5]};
-    regole_.Aggiungi({.caselle = {txtChi_[0]},
+    regole_.Aggiunge({.caselle = {txtChi_[0]},
                       .motivo = [this] { return NumeroIn(txtChi_[0]) < 0 ? tr(motivoSnellezza) : QString(); },
                       .risultati = results});
-    regole_.Aggiungi({.caselle = {txtChi_[1]},
+    regole_.Aggiunge({.caselle = {txtChi_[1]},
                       .motivo = [this] { return NumeroIn(txtChi_[1]) > 1 ? tr(motivoBetaA) : QString(); },
-                      .corregge = [this] { CorreggiBetaA(); },
+                      .corregge = [this] { CorreggeBetaA(); },
                       .risultati = results});
 }
 
@@ -65,7 +65,7 @@ void CalcoloChi::ProponiCurva(const std::string& curva) {
     ui_->ComboChi->setCurrentText(QString::fromStdString(curva));
 }
 
-void CalcoloChi::CorreggiBetaA() {
+void CalcoloChi::CorreggeBetaA() {
     Avvisa(motivoBetaA);
     txtChi_[1]->setText(QStringLiteral("1"));
 }
@@ -77,7 +77,7 @@ void CalcoloChi::Converti(bool aRelativa) {
     const bool given = !txtChi_[0]->text().trimmed().isEmpty();
     if (given && fy_ > 0 && std::isfinite(r.altra)) {
         const QScopedValueRollback guard(correggendo_, true);
-        Riempi(txtChi_[0], r.altra);
+        Riempie(txtChi_[0], r.altra);
     }
     Ricalcola();
 }
@@ -96,10 +96,10 @@ void CalcoloChi::Ricalcola() {
     MostraSimboli(relativa);
     const auto r = CalcolaRiduzione(NumeroIn(txtChi_[0]), relativa, fy_, NumeroIn(txtChi_[1]),
                                     ui_->ComboChi->currentText().toStdString());
-    Scrivi(txtChi_[2], relativa ? "0.0#" : "0.0###", r.altra);
-    Scrivi(txtChi_[3], "0.0#", r.alfa);
-    Scrivi(txtChi_[4], "0.0###", r.fi);
-    Scrivi(txtChi_[5], "0.0###", r.chi);
+    Scrive(txtChi_[2], relativa ? "0.0#" : "0.0###", r.altra);
+    Scrive(txtChi_[3], "0.0#", r.alfa);
+    Scrive(txtChi_[4], "0.0###", r.fi);
+    Scrive(txtChi_[5], "0.0###", r.chi);
     regole_.SvuotaRisultati();
 }
 

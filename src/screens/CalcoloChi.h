@@ -38,7 +38,7 @@ private:
     void CollegaRegole();
     void Ricalcola();
     void Converti(bool aRelativa);
-    void CorreggiBetaA();
+    void CorreggeBetaA();
     void MostraSimboli(bool relativa);
 
     std::unique_ptr<Ui::CalcoloChi> ui_;

@@ -19,14 +19,14 @@ class Scrittore {
 public:
     Scrittore(Schermo& screen, int axis) : schermo_(screen), asse_(axis) {}
 
-    void Comune(const char* name, const std::string& text) const { Scrivi(QString::fromLatin1(name), text); }
+    void Comune(const char* name, const std::string& text) const { Scrive(QString::fromLatin1(name), text); }
 
     void Colonna(const char* name, const std::string& text) const {
-        Scrivi(QString::fromLatin1(name) + u'_' + QString::number(asse_), text);
+        Scrive(QString::fromLatin1(name) + u'_' + QString::number(asse_), text);
     }
 
 private:
-    void Scrivi(const QString& name, const std::string& text) const {
+    void Scrive(const QString& name, const std::string& text) const {
         if (auto* label = schermo_.findChild<QLabel*>(name))
             Mostra(label, text);
     }
@@ -35,7 +35,7 @@ private:
     int asse_;
 };
 
-void ScriviColonna(const Scrittore& su, double lamda, const std::string& curva, const ColonnaCalcolata& c) {
+void ScriveColonna(const Scrittore& su, double lamda, const std::string& curva, const ColonnaCalcolata& c) {
     su.Colonna("Lbl_Lamda", Formato("0.0#", lamda));
     su.Colonna("Lbl_LamdaS", Formato("0.0###", c.lamdaSegnato));
     su.Colonna("Lbl_Curva", curva);
@@ -56,7 +56,7 @@ void ColonnaInstabilita(double lamda, int asse, Schermo& schermo) {
         su.Comune("lblGM1", TestoPiano(GammaM1));
         su.Comune("Lbl_betaA", Formato("0.0##", betaA));
         const std::string curva = section.CurvaInstabilita(assi.at(static_cast<std::size_t>(asse)));
-        ScriviColonna(su, lamda, curva, CalcolaColonna(lamda, section.fy, betaA, section.Area, curva));
+        ScriveColonna(su, lamda, curva, CalcolaColonna(lamda, section.fy, betaA, section.Area, curva));
     });
 }
 

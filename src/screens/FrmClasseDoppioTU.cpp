@@ -57,7 +57,7 @@ void MostraLimiti(const QList<QLabel*>& labels, const std::array<std::string, 4>
 FrmClasseDoppioTU::FrmClasseDoppioTU()
     : SchermoDettaglio(QStringLiteral("FrmClasseDoppioTU")), ui_(new Ui::FrmClasseDoppioTU) {
     ui_->setupUi(this);
-    ui_->piatti->Componi(Piatti());
+    ui_->piatti->Compone(Piatti());
     MostraAlaInferiore(false);
     CollegaControlli();
     limitiWeb_ = Vettore<QLabel>(QStringLiteral("Lbl_LimiteWeb"));

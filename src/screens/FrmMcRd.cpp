@@ -54,7 +54,7 @@ FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::Fr
     ui_->setupUi(this);
     ui_->Picture1->Mostra(DisegnoSagoma({}));
     CollegaControlli();
-    regole_.Aggiungi({.caselle = {ui_->txtLstar}, .motivo = [this] {
+    regole_.Aggiunge({.caselle = {ui_->txtLstar}, .motivo = [this] {
                           return NumeroIn(ui_->txtLstar) < 0 ? tr("L* non può essere negativa") : QString();
                       }});
     for (QLineEdit* box : {ui_->TxtNsd, ui_->txtLstar})
@@ -64,8 +64,8 @@ FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::Fr
 
 FrmMcRd::~FrmMcRd() = default;
 
-void FrmMcRd::RiempiDati() {
-    SullaSezioneInUso([this](const ConMomenti auto& s) { Riempi(ui_->TxtNsd, N_a_kN(s.NSd)); });
+void FrmMcRd::RiempieDati() {
+    SullaSezioneInUso([this](const ConMomenti auto& s) { Riempie(ui_->TxtNsd, N_a_kN(s.NSd)); });
     FuocoSu(ui_->TxtNsd);
 }
 

@@ -29,7 +29,7 @@ protected:
     /// Shows class, modulus and moment about both axes, then the ductility parameter.
     void Calcola() override;
     /// The axial force of the section goes into its entry.
-    void RiempiDati() override;
+    void RiempieDati() override;
 
 private:
     void Duttilita();

@@ -112,7 +112,7 @@ Formula Interazione() {
 
 FrmMsverg::FrmMsverg() : SchermoDettaglio(QStringLiteral("FrmMsverg")), ui_(new Ui::FrmMsverg) {
     ui_->setupUi(this);
-    ui_->formula->Componi(Interazione());
+    ui_->formula->Compone(Interazione());
     CollegaControlli(InvioFra({ui_->fraSezione->Txt_fy, ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd,
                                ui_->fraAzioni->TxtMzsd, ui_->Txt_L, ui_->Txt_k, ui_->Txt_Kw, ui_->Txt_Zg,
                                ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3}));
@@ -125,7 +125,7 @@ FrmMsverg::~FrmMsverg() = default;
 void FrmMsverg::CollegaEventi() {
     risultati_ = Controlli({"Lbl_Mcr", "Lbl_LamdaLT", "Lbl_chi", "Lbl_MbRd", "LblMbRd", "Lbl_Risult",
                             "Lbl_Risultato", "LblUtilizzo", "LblMotivo"});
-    regole_.Aggiungi({.caselle = {ui_->Txt_L},
+    regole_.Aggiunge({.caselle = {ui_->Txt_L},
                       .motivo = [this] { return NumeroIn(ui_->Txt_L) < 0 ? tr(motivoLunghezza) : QString(); },
                       .risultati = risultati_,
                       .manca = [this] { return ui_->Txt_L->text().trimmed().isEmpty(); }});
@@ -146,21 +146,21 @@ void FrmMsverg::ApreTavola(const QString& nome) {
     NavigaSchermi::Unico().Apri(nome, *this);
 }
 
-void FrmMsverg::RiempiDati() {
+void FrmMsverg::RiempieDati() {
     if (const SezioneDoppioT* s = Sezione()) {
-        Riempi(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
-        Riempi(ui_->fraAzioni->TxtMysd, Nmm_a_kNm(s->Mysd));
-        Riempi(ui_->fraAzioni->TxtMzsd, Nmm_a_kNm(s->Mzsd));
-        Riempi(ui_->Txt_k, s->k);
-        Riempi(ui_->Txt_Kw, s->Kw);
-        Riempi(ui_->Txt_C1, s->C1);
-        Riempi(ui_->Txt_C2, s->c2);
-        Riempi(ui_->Txt_C3, s->c3);
-        Riempi(ui_->Txt_Zg, s->za);
+        Riempie(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
+        Riempie(ui_->fraAzioni->TxtMysd, Nmm_a_kNm(s->Mysd));
+        Riempie(ui_->fraAzioni->TxtMzsd, Nmm_a_kNm(s->Mzsd));
+        Riempie(ui_->Txt_k, s->k);
+        Riempie(ui_->Txt_Kw, s->Kw);
+        Riempie(ui_->Txt_C1, s->C1);
+        Riempie(ui_->Txt_C2, s->c2);
+        Riempie(ui_->Txt_C3, s->c3);
+        Riempie(ui_->Txt_Zg, s->za);
         if (s->LLT > 0)
-            Riempi(ui_->Txt_L, mm_a_m(s->LLT));
+            Riempie(ui_->Txt_L, mm_a_m(s->LLT));
         else if (s->L0z > 0 && ui_->Txt_L->text().isEmpty())
-            Riempi(ui_->Txt_L, mm_a_m(s->L0z)); // restraints hold against both, as a rule
+            Riempie(ui_->Txt_L, mm_a_m(s->L0z)); // restraints hold against both, as a rule
     }
     sezione_ = SezioneCorrente;
     FuocoSu(ui_->fraAzioni->TxtNsd);

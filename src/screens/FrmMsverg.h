@@ -27,7 +27,7 @@ public:
 protected:
     /// Writes the entries into the section, computes and shows.
     void Calcola() override;
-    void RiempiDati() override;
+    void RiempieDati() override;
     /// The factors of the moment diagram have no box here: a new section takes them from the old one.
     void RiportaValori(const SezioneDoppioT& vecchia, SezioneDoppioT& nuova) override;
 

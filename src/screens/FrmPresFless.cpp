@@ -123,8 +123,8 @@ Formula InterazioneEfficace() {
 
 FrmPresFless::FrmPresFless() : SchermoDettaglio(QStringLiteral("FrmPresFless")), ui_(new Ui::FrmPresFless) {
     ui_->setupUi(this);
-    ui_->termini->Componi(InterazioneLorda());
-    ui_->termini4->Componi(InterazioneEfficace());
+    ui_->termini->Compone(InterazioneLorda());
+    ui_->termini4->Compone(InterazioneEfficace());
     ui_->termini4->hide();
     Txt_L0_ = Vettore<QLineEdit>(QStringLiteral("Txt_L0"));
     TxtM1_ = Vettore<QLineEdit>(QStringLiteral("TxtM1"));
@@ -164,7 +164,7 @@ void FrmPresFless::CollegaRegole(int asse) {
     const auto buckling = y ? Controlli({"Lbl_Lamda_0", "Lbl_NbRd_0", "LblTermineN", "LblTermineN4"})
                             : Controlli({"Lbl_Lamda_1", "Lbl_NbRd_1", "LblTermineN", "LblTermineN4"});
     const auto number = [](const QLineEdit* box) { return NumeroIn(box); };
-    regole_.Aggiungi({.caselle = {TxtM1_[asse], TxtM2_[asse]},
+    regole_.Aggiunge({.caselle = {TxtM1_[asse], TxtM2_[asse]},
                       .motivo =
                           [this, asse, number] {
                               const double M1 = number(TxtM1_[asse]);
@@ -178,7 +178,7 @@ void FrmPresFless::CollegaRegole(int asse) {
                               inputM1M2(asse, M1, M2);
                           },
                       .risultati = moments + term + sums});
-    regole_.Aggiungi({.caselle = {TxtMQ_[asse]},
+    regole_.Aggiunge({.caselle = {TxtMQ_[asse]},
                       .motivo =
                           [this, asse, number] {
                               const bool used = TipoDiagramma == diagrammaCampata;
@@ -190,7 +190,7 @@ void FrmPresFless::CollegaRegole(int asse) {
                               inputMQ(asse, MQ);
                           },
                       .risultati = moments + term + sums});
-    regole_.Aggiungi({.caselle = {Txt_L0_[asse]},
+    regole_.Aggiunge({.caselle = {Txt_L0_[asse]},
                       .motivo =
                           [this, asse, number] {
                               const double L = number(Txt_L0_[asse]);
@@ -213,11 +213,11 @@ void FrmPresFless::CollegaDiagrammi() {
         });
 }
 
-void FrmPresFless::RiempiDati() {
+void FrmPresFless::RiempieDati() {
     if (const SezioneDoppioT* s = Sezione()) {
-        Riempi(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
-        Riempi(Txt_L0_[0], mm_a_m(s->L0y));
-        Riempi(Txt_L0_[1], mm_a_m(s->L0z));
+        Riempie(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
+        Riempie(Txt_L0_[0], mm_a_m(s->L0y));
+        Riempie(Txt_L0_[1], mm_a_m(s->L0z));
     }
     FuocoSu(ui_->fraAzioni->TxtNsd);
 }
@@ -274,7 +274,7 @@ void FrmPresFless::inputM1M2(int asse, double& M1, double& M2) {
     M2 = NumeroIn(TxtM2_[asse]);
     if (InDigitazione(TxtM1_[asse]) || InDigitazione(TxtM2_[asse]))
         return; // the correction waits
-    CorreggiM1M2(M1, M2);
+    CorreggeM1M2(M1, M2);
     const QScopedValueRollback guard(inCalcolo_, true);
     Riscrivi(TxtM1_[asse], M1);
     Riscrivi(TxtM2_[asse], M2);
@@ -284,7 +284,7 @@ void FrmPresFless::inputMQ(int asse, double& MQ) {
     MQ = NumeroIn(TxtMQ_[asse]);
     if (InDigitazione(TxtMQ_[asse]))
         return;
-    CorreggiMQ(MQ);
+    CorreggeMQ(MQ);
     const QScopedValueRollback guard(inCalcolo_, true);
     Riscrivi(TxtMQ_[asse], MQ);
 }

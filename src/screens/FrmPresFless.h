@@ -49,7 +49,7 @@ public:
 protected:
     /// Reads the entries, derives moments and factors, shows the interaction.
     void Calcola() override;
-    void RiempiDati() override;
+    void RiempieDati() override;
 
 private:
     void CollegaEventi();

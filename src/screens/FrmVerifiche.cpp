@@ -113,22 +113,22 @@ FrmVerifiche::FrmVerifiche() : SchermoDettaglio(QStringLiteral("FrmVerifiche")),
         policy.setRetainSizeWhenHidden(true); // one room for all three
         frame->setSizePolicy(policy);
     }
-    ui_->formula1->Componi(FormulaPlastica());
-    ui_->formula2->Componi(FormulaElastica());
-    ui_->formula3->Componi(FormulaEfficace());
+    ui_->formula1->Compone(FormulaPlastica());
+    ui_->formula2->Compone(FormulaElastica());
+    ui_->formula3->Compone(FormulaEfficace());
     CollegaControlli();
     CalcolaA({ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd});
-    ScegliQuadro(1);
+    SceglieQuadro(1);
     DimensionaIniziale({});
 }
 
 FrmVerifiche::~FrmVerifiche() = default;
 
-void FrmVerifiche::RiempiDati() {
+void FrmVerifiche::RiempieDati() {
     if (const SezioneDoppioT* s = Sezione()) {
-        Riempi(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
-        Riempi(ui_->fraAzioni->TxtMysd, Nmm_a_kNm(s->Mysd));
-        Riempi(ui_->fraAzioni->TxtMzsd, Nmm_a_kNm(s->Mzsd));
+        Riempie(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
+        Riempie(ui_->fraAzioni->TxtMysd, Nmm_a_kNm(s->Mysd));
+        Riempie(ui_->fraAzioni->TxtMzsd, Nmm_a_kNm(s->Mzsd));
     }
     FuocoSu(ui_->fraAzioni->TxtNsd);
 }
@@ -141,7 +141,7 @@ void FrmVerifiche::Calcola() {
     s->Mysd = kNm_a_Nmm(NumeroIn(ui_->fraAzioni->TxtMysd));
     s->Mzsd = kNm_a_Nmm(NumeroIn(ui_->fraAzioni->TxtMzsd));
     s->ClassePressoFlessioneCalcola();
-    ScegliQuadro(s->ClassePressoFlessione);
+    SceglieQuadro(s->ClassePressoFlessione);
     const Verdetto verdetto = GiudicaResistenza(*s);
     TerminiInterazione termini = s->TerminiMNResistenza();
     if (termini.assialeNeiMomenti && verdetto.assialeOltre)
@@ -155,7 +155,7 @@ void FrmVerifiche::Calcola() {
     ui_->verdetto->Mostra(verdetto);
 }
 
-void FrmVerifiche::ScegliQuadro(int classe) {
+void FrmVerifiche::SceglieQuadro(int classe) {
     ui_->Frame1->setVisible(classe < 3);
     ui_->Frame2->setVisible(classe == 3);
     ui_->Frame3->setVisible(classe > 3);

@@ -27,10 +27,10 @@ protected:
     /// Writes the entries (kN, kNm) into the section, computes its class anew and shows the interaction.
     void Calcola() override;
     /// The actions of the section go into the entries.
-    void RiempiDati() override;
+    void RiempieDati() override;
 
 private:
-    void ScegliQuadro(int classe);
+    void SceglieQuadro(int classe);
     void MostraPlastica(const TerminiInterazione& t, const Verdetto& verdetto);
     void MostraElastica(const TerminiInterazione& t, const Verdetto& verdetto);
     void MostraEfficace(const TerminiInterazione& t, const Verdetto& verdetto);

@@ -21,7 +21,7 @@ constexpr VoceTipo vociTipo[] = {
     {"mnuTipoU", "Sagomi &U", "frmSagomiU"},
 };
 
-QAction* Aggiungi(QWidget* menu, const char* name, const char* text, bool enabled = true) {
+QAction* Aggiunge(QWidget* menu, const char* name, const char* text, bool enabled = true) {
     auto* entry = new QAction(QString::fromUtf8(text), menu);
     entry->setObjectName(QString::fromLatin1(name));
     entry->setMenuRole(QAction::NoRole);
@@ -30,7 +30,7 @@ QAction* Aggiungi(QWidget* menu, const char* name, const char* text, bool enable
     return entry;
 }
 
-QMenu* AggiungiMenu(QMenuBar* bar, const char* name, const char* title) {
+QMenu* AggiungeMenu(QMenuBar* bar, const char* name, const char* title) {
     QMenu* menu = bar->addMenu(QString::fromUtf8(title));
     menu->setObjectName(QString::fromLatin1(name));
     return menu;
@@ -42,21 +42,21 @@ MenuSezione::MenuSezione(QWidget* parent) : QMenuBar(parent) {}
 
 void MenuSezione::ImpostaSchermo(const QByteArray& nome) {
     schermo_ = nome;
-    QMenu* file = AggiungiMenu(this, "mnuFile", "&File");
-    Aggiungi(file, "mnuFileItem_0", "&Esci")->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
-    QMenu* families = AggiungiMenu(this, "mnuTipo", "&Tipo Sagomo");
+    QMenu* file = AggiungeMenu(this, "mnuFile", "&File");
+    Aggiunge(file, "mnuFileItem_0", "&Esci")->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
+    QMenu* families = AggiungeMenu(this, "mnuTipo", "&Tipo Sagomo");
     for (const VoceTipo& v : vociTipo)
         if (v.schermo != nome.toStdString())
-            Aggiungi(families, v.nome, v.testo, false);
-    QMenu* connections = AggiungiMenu(this, "mnuCollegamenti1", "&Collegamenti");
-    Aggiungi(connections, "mnuCollegamenti_0", "&Bullonati", false);
-    Aggiungi(connections, "mnuCollegamenti_1", "&Saldati", false);
-    Aggiungi(connections, "MnuGiunto", "&Giunto Flangiato", false);
-    Aggiungi(this, "mnuAcciaioCls", "&AcciaioCls", false);
-    Aggiungi(this, "NormativaMain", "Normativa: NTC", false);
-    QMenu* help = AggiungiMenu(this, "mnuHelp", "&?");
-    Aggiungi(help, "mnuHelp_0", "&Guida");
-    Aggiungi(help, "mnuHelp_1", "&Informazioni", false);
+            Aggiunge(families, v.nome, v.testo, false);
+    QMenu* connections = AggiungeMenu(this, "mnuCollegamenti1", "&Collegamenti");
+    Aggiunge(connections, "mnuCollegamenti_0", "&Bullonati", false);
+    Aggiunge(connections, "mnuCollegamenti_1", "&Saldati", false);
+    Aggiunge(connections, "MnuGiunto", "&Giunto Flangiato", false);
+    Aggiunge(this, "mnuAcciaioCls", "&AcciaioCls", false);
+    Aggiunge(this, "NormativaMain", "Normativa: NTC", false);
+    QMenu* help = AggiungeMenu(this, "mnuHelp", "&?");
+    Aggiunge(help, "mnuHelp_0", "&Guida");
+    Aggiunge(help, "mnuHelp_1", "&Informazioni", false);
 }
 
 } // namespace sagomi

@@ -106,7 +106,7 @@ void PannelloInstabilita::ImpostaAssi(const QByteArray& assi) {
     column->addLayout(CreaComuni());
     column->addItem(new QSpacerItem(0, 4, QSizePolicy::Minimum, QSizePolicy::Fixed));
     auto* derivation = new GrigliaDerivazione;
-    derivation->Componi(Derivazione(), QString::fromLatin1(assi).split(u' '));
+    derivation->Compone(Derivazione(), QString::fromLatin1(assi).split(u' '));
     column->addWidget(derivation);
 }
 

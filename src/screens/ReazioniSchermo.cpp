@@ -182,7 +182,7 @@ void AcciaioCambiato(SchermoSezione& schermo) {
         schermo.SvuotaValori();
         if (!typed) {
             Avvisa("fy deve essere > 0");
-            schermo.RimettiFy();
+            schermo.RimetteFy();
         }
         return;
     }

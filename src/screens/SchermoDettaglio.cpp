@@ -26,7 +26,7 @@ void SchermoDettaglio::ApriDa(SchermoSezione& chiamante, Schermo& da) {
     {
         const QScopedValueRollback guard(inCalcolo_, true);
         CopiaIntestazione();
-        RiempiDati();
+        RiempieDati();
     }
     RicordaChiamante();
     NavigaSchermi::Unico().Apri(*this, da);
@@ -99,7 +99,7 @@ void SchermoDettaglio::CollegaFy() {
     QList<QWidget*> all;
     for (EtichettaRisultato* result : findChildren<EtichettaRisultato*>())
         all << result;
-    regole_.Aggiungi(
+    regole_.Aggiunge(
         {.caselle = {fy},
          .motivo = [fy] { return FyPossibile(NumeroIn(fy)) ? QString() : tr("fy deve essere > 0"); },
          .corregge = [this] { CopiaIntestazione(); },

@@ -58,7 +58,7 @@ protected:
     [[nodiscard]] QList<QWidget*> Controlli(std::initializer_list<const char*> nomi) const;
 
     /// Refills the entries that have a twin on the section or the caller; runs at each opening.
-    virtual void RiempiDati() {}
+    virtual void RiempieDati() {}
 
     /// CompletaForm on the caller in force, guarded against what it changes itself.
     void Ricalcola();

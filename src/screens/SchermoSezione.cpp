@@ -60,7 +60,7 @@ SchermoSezione::SchermoSezione(const QString& nome) : Schermo(nome), Data1(new L
     Data1->setObjectName(QStringLiteral("Data1"));
 }
 
-void SchermoSezione::Componi() {
+void SchermoSezione::Compone() {
     const QByteArray name = objectName().toLatin1();
     setWindowTitle(QString::fromUtf8(VociDi(name.toStdString()).titolo));
     setCentralWidget(new CorpoSezione(name, this));
@@ -87,7 +87,7 @@ void SchermoSezione::TrovaControlli() {
 }
 
 void SchermoSezione::CollegaControlli() {
-    Componi();
+    Compone();
     TrovaControlli();
     barra_ = new QLabel(this);
     barra_->setObjectName(QStringLiteral("LblBarra"));
@@ -174,7 +174,7 @@ void SchermoSezione::CollegaRegole() {
         QList<QWidget*> results;
         if (auto* resistance = findChild<QLineEdit*>(QStringLiteral("TxtNbRd_%1").arg(i)))
             results << resistance;
-        regole_.Aggiungi({.caselle = {Txt_L0[i]},
+        regole_.Aggiunge({.caselle = {Txt_L0[i]},
                           .motivo = [this, i] { return Lunghezza(i) < 0 ? tr(motivoLunghezza) : QString(); },
                           .risultati = results});
     }
@@ -199,7 +199,7 @@ double SchermoSezione::FyInForza() const {
     return FyPossibile(fy) ? fy : double(fyAcciaio[IndiceAcciaio + 1]);
 }
 
-void SchermoSezione::RimettiFy() {
+void SchermoSezione::RimetteFy() {
     if (const double fy = FyInForza(); FyPossibile(fy))
         Txt_fy->setText(QString::fromStdString(TestoPiano(Singolo(fy))));
 }
@@ -258,7 +258,7 @@ void SchermoSezione::Carica() {
     if (VociDi(objectName().toStdString()).separatori)
         SeparatoriControlla(CasellaDi("txtNascosto"));
     const auto workbook = FileAccanto(PathProgramma, "Sagomi.xls");
-    RendiSolaLettura(workbook);
+    RendeSolaLettura(workbook);
     Data1->DatabaseName(workbook);
     SQLstring = FamigliaDi(objectName().toStdString()).primaQuery;
     DimensionaIniziale(QSize(larghezzaInizialeTwips, altezzaInizialeTwips) / twipsAPixel);

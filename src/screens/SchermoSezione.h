@@ -73,7 +73,7 @@ public:
     /// The strength to compute with [N/mm2]: the entry's, or, where that is none, the section's, the grade's.
     [[nodiscard]] double FyInForza() const;
     /// Puts the entry of a strength that is none back to the one in force.
-    void RimettiFy();
+    void RimetteFy();
     /// A buckling length [mm]; one that no number holds is as impossible as a negative one.
     [[nodiscard]] double Lunghezza(int index) const;
     /// A buckling length has been typed: index 0 about y-y, 1 about z-z, 2 about v-v where the section has
@@ -136,7 +136,7 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    void Componi();
+    void Compone();
     void TrovaControlli();
     void CollegaMenu();
     void CollegaDati();

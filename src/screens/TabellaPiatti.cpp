@@ -60,7 +60,7 @@ TabellaPiatti::TabellaPiatti(QWidget* parent) : QWidget(parent), griglia_(new QG
     griglia_->setVerticalSpacing(3);
 }
 
-void TabellaPiatti::Componi(const std::vector<Piatto>& piatti) {
+void TabellaPiatti::Compone(const std::vector<Piatto>& piatti) {
     PosaTeste();
     for (const Piatto& p : piatti) {
         piatti_.append(QWidgetList());

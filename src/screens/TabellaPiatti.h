@@ -34,7 +34,7 @@ public:
     explicit TabellaPiatti(QWidget* parent = nullptr);
 
     /// Builds the table; to be called once.
-    void Componi(const std::vector<Piatto>& piatti);
+    void Compone(const std::vector<Piatto>& piatti);
 
     /// A value by its object name; a name that the table does not have throws std::out_of_range.
     [[nodiscard]] QLabel* Valore(const char* nome) const;

@@ -33,7 +33,7 @@ void CaricaTavolaSchermi() {
           RigaDi<frmMsvergH1>("frmMsvergH1"), RigaDi<frmMsvergH2>("frmMsvergH2"),
           RigaDi<FrmVerifiche>("FrmVerifiche"), RigaDi<frmTimoshenko>("frmTimoshenko"),
           RigaDi<FrmPltSezione>("FrmPltSezione")})
-        NavigaSchermi::Unico().Aggiungi(voce);
+        NavigaSchermi::Unico().Aggiunge(voce);
 }
 
 } // namespace sagomi

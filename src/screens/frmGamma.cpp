@@ -57,12 +57,12 @@ frmGamma::~frmGamma() = default;
 void frmGamma::Apri(Schermo& chiamante) {
     normativaPrima_ = Normativa;
     optNormativa_[Normativa]->setChecked(true);
-    Riempi();
+    Riempie();
     NavigaSchermi::Unico().ApriDialogo(*this, chiamante);
     optNormativa_[Normativa]->setFocus();
 }
 
-void frmGamma::Riempi() {
+void frmGamma::Riempie() {
     const std::array<Singolo, 3> factors{GammaM0, GammaM1, GammaM2};
     for (int i = 0; i < txtGamma_.size(); ++i) {
         txtGamma_[i]->setText(QString::fromStdString(TestoPiano(factors[static_cast<std::size_t>(i)])));
@@ -73,7 +73,7 @@ void frmGamma::Riempi() {
 void frmGamma::Scelta(std::int16_t normativa) {
     Normativa = normativa;
     ImpostaGamma();
-    Riempi();
+    Riempie();
 }
 
 void frmGamma::Accetta() {

@@ -33,7 +33,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void Riempi();
+    void Riempie();
     void Scelta(std::int16_t normativa);
     void Accetta();
     void Annulla();

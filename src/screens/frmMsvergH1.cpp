@@ -17,7 +17,7 @@ frmMsvergH1::frmMsvergH1() : TavolaFattori(QStringLiteral("frmMsvergH1")), ui_(n
     ui_->testata->Griglia()->setContentsMargins(9, 0, 9, 0);
     ui_->tabella->Griglia()->setContentsMargins(9, 6, 9, 6);
     PosaDiagrammi();
-    RiempiRighe();
+    RiempieRighe();
     AllineaColonne();
     PreparaContenuto();
     QScrollBar* bar = ui_->scorre->verticalScrollBar();
@@ -47,7 +47,7 @@ void frmMsvergH1::PosaDiagrammi() {
                                  part->Griglia()->columnCount()); // takes the spare width
 }
 
-void frmMsvergH1::RiempiRighe() {
+void frmMsvergH1::RiempieRighe() {
     const auto C1 = Vettore<QPushButton>(QStringLiteral("lblC1"));
     const auto k = Vettore<QLabel>(QStringLiteral("lblK"));
     const auto C3 = Vettore<QLabel>(QStringLiteral("lblC3"));
@@ -57,7 +57,7 @@ void frmMsvergH1::RiempiRighe() {
         Mostra(k[at], "0.0", row.k);
         C1[at]->setText(QString::fromStdString(Formato("0.000", row.C1)));
         Mostra(C3[at], "0.000", row.C3);
-        Collega(C1[at], &QPushButton::clicked, this, [this, i] { Scegli(i); });
+        Collega(C1[at], &QPushButton::clicked, this, [this, i] { Sceglie(i); });
     }
 }
 
@@ -83,7 +83,7 @@ void frmMsvergH1::AllineaColonne() {
     ui_->scorre->setMinimumHeight(visibili * row + edges.top() + edges.bottom());
 }
 
-void frmMsvergH1::Scegli(std::size_t riga) {
+void frmMsvergH1::Sceglie(std::size_t riga) {
     const RigaF11& row = ProspettoF11()[riga];
     Consegna({row.k, row.C1, 0, row.C3}); // no transverse load, no height of it
 }

@@ -20,9 +20,9 @@ public:
 
 private:
     void PosaDiagrammi();
-    void RiempiRighe();
+    void RiempieRighe();
     void AllineaColonne();
-    void Scegli(std::size_t riga);
+    void Sceglie(std::size_t riga);
 
     std::unique_ptr<Ui::frmMsvergH1> ui_;
 };

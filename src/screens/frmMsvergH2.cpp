@@ -14,7 +14,7 @@ namespace sagomi {
 frmMsvergH2::frmMsvergH2() : TavolaFattori(QStringLiteral("frmMsvergH2")), ui_(new Ui::frmMsvergH2) {
     ui_->setupUi(this);
     PosaCasi();
-    RiempiRighe();
+    RiempieRighe();
     PreparaContenuto();
     DimensionaIniziale({});
 }
@@ -33,7 +33,7 @@ void frmMsvergH2::PosaCasi() {
         ui_->tabella->Griglia()->setRowMinimumHeight(row, altezza);
 }
 
-void frmMsvergH2::RiempiRighe() {
+void frmMsvergH2::RiempieRighe() {
     const auto C1 = Vettore<QPushButton>(QStringLiteral("lblC1"));
     const auto k = Vettore<QLabel>(QStringLiteral("lblK"));
     const auto C2 = Vettore<QLabel>(QStringLiteral("lblC2"));
@@ -45,11 +45,11 @@ void frmMsvergH2::RiempiRighe() {
         C1[at]->setText(QString::fromStdString(Formato("0.000", row.C1)));
         Mostra(C2[at], "0.000", row.C2);
         Mostra(C3[at], "0.000", row.C3);
-        Collega(C1[at], &QPushButton::clicked, this, [this, i] { Scegli(i); });
+        Collega(C1[at], &QPushButton::clicked, this, [this, i] { Sceglie(i); });
     }
 }
 
-void frmMsvergH2::Scegli(std::size_t riga) {
+void frmMsvergH2::Sceglie(std::size_t riga) {
     const RigaF12& row = ProspettoF12()[riga];
     Consegna({row.k, row.C1, row.C2, row.C3});
 }

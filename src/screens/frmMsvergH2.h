@@ -20,8 +20,8 @@ public:
 
 private:
     void PosaCasi();
-    void RiempiRighe();
-    void Scegli(std::size_t riga);
+    void RiempieRighe();
+    void Sceglie(std::size_t riga);
 
     std::unique_ptr<Ui::frmMsvergH2> ui_;
 };

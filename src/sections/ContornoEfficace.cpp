@@ -61,8 +61,8 @@ void TagliaPunta(std::vector<double>& x, std::vector<double>& y, const ParteCont
     }
 }
 
-void TogliAnima(std::vector<double>& x, std::vector<double>& y, std::int16_t& n, double y0, double H,
-                std::string_view tipo) {
+void ToglieAnima(std::vector<double>& x, std::vector<double>& y, std::int16_t& n, double y0, double H,
+                 std::string_view tipo) {
     if (H > 0)
         ForoSezione(x, y, n, y0, H, tipo);
 }

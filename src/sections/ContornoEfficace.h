@@ -37,8 +37,8 @@ void TagliaPunta(std::vector<double>& x, std::vector<double>& y, const ParteCont
 /// @param y0    lower edge of the strip [mm]
 /// @param H     its height [mm]
 /// @param tipo  "DoppioT" or "SagomiU", as ForoSezione takes it
-void TogliAnima(std::vector<double>& x, std::vector<double>& y, std::int16_t& n, double y0, double H,
-                std::string_view tipo);
+void ToglieAnima(std::vector<double>& x, std::vector<double>& y, std::int16_t& n, double y0, double H,
+                 std::string_view tipo);
 
 /// An outline on its way to a section; the buffers are kept from one section to the next.
 struct Bozza {

@@ -49,7 +49,7 @@ EffettiDiagramma EffettiDelDiagramma(const MomentiMembratura& m, std::int16_t ti
     return e;
 }
 
-void CorreggiM1M2(double& M1, double& M2) {
+void CorreggeM1M2(double& M1, double& M2) {
     if (M1 < 0) {
         Avvisa("M1 deve essere positivo.\nIl segno viene automaticamente cambiato");
         M1 = -M1;
@@ -60,7 +60,7 @@ void CorreggiM1M2(double& M1, double& M2) {
     }
 }
 
-void CorreggiMQ(double& MQ) {
+void CorreggeMQ(double& MQ) {
     if (MQ < 0) {
         Avvisa("MQ deve essere positivo.\nIl segno viene automaticamente cambiato");
         MQ = -MQ;

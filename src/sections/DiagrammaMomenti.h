@@ -57,9 +57,9 @@ EffettiDiagramma EffettiDelDiagramma(const MomentiMembratura& m, std::int16_t ti
 
 /// Brings end moments into the range of the figure, with a message for each correction: a negative M1 changes
 /// its sign, an M2 larger than M1 in absolute value becomes 0.
-void CorreggiM1M2(double& M1, double& M2);
+void CorreggeM1M2(double& M1, double& M2);
 
 /// The same for the moment of the span load: a negative one changes its sign.
-void CorreggiMQ(double& MQ);
+void CorreggeMQ(double& MQ);
 
 } // namespace sagomi

@@ -23,7 +23,7 @@ using RiferimentoSezione = std::variant<std::monostate, std::shared_ptr<SezioneD
 inline RiferimentoSezione SezioneCorrente; ///< what every detail screen reads
 
 inline const bool SezioneCorrenteSiSvuota =
-    AggiungiRipristino([] { SezioneCorrente.emplace<std::monostate>(); });
+    AggiungeRipristino([] { SezioneCorrente.emplace<std::monostate>(); });
 
 /// What every kind has: name and material, depth and area, buckling, its drawing.
 template <typename S>

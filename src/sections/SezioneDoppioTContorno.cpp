@@ -106,7 +106,7 @@ void SezioneDoppioT::CoordinateComp4() {
         AlaEfficace(x, y, kSigmaAlaCompressa, tAlaInf, cAlaInf, tAlaInf / 2, true, true);
     if (ClasseWebC == 4) {
         const double beff = Rho(d, tw, fy, kSigmaAnimaCompressa) * d;
-        TogliAnima(x, y, n, h / 2 - d / 2 + beff / 2, d - beff, tipoForo);
+        ToglieAnima(x, y, n, h / 2 - d / 2 + beff / 2, d - beff, tipoForo);
     }
     CalcolaContorno(SezioneComp4, x, y, n);
 }
@@ -128,7 +128,7 @@ void SezioneDoppioT::CoordinateWy4() {
     if (!(psi <= 1))
         return;
     const double compressa = psi < 0 ? d / (1 - psi) : d;
-    TogliAnima(x, y, n, ySup - compressa + be2, compressa - be1 - be2, tipoForo);
+    ToglieAnima(x, y, n, ySup - compressa + be2, compressa - be1 - be2, tipoForo);
     CalcolaContorno(SezioneWy4, x, y, n);
 }
 

@@ -47,29 +47,29 @@ Percorso::Percorso(std::vector<double>& x, std::vector<double>& y, const PostoCo
     y_.reserve(n);
 }
 
-void Percorso::Metti(double px, double py) {
+void Percorso::Mette(double px, double py) {
     x_.push_back((px + posto_.x0) / posto_.scala);
     y_.push_back(py + posto_.y0);
 }
 
 void Percorso::InBasso(const Profilo& p) {
     for (std::size_t i = 0; i < p.Numero(); ++i)
-        Metti(p[i].x, p[i].y);
+        Mette(p[i].x, p[i].y);
 }
 
 void Percorso::InAlto(const Profilo& p) {
     for (std::size_t i = p.Numero(); i-- > 0;)
-        Metti(p[i].x, posto_.h - p[i].y);
+        Mette(p[i].x, posto_.h - p[i].y);
 }
 
 void Percorso::InAltoASinistra(const Profilo& p) {
     for (std::size_t i = 0; i < p.Numero(); ++i)
-        Metti(-p[i].x, posto_.h - p[i].y);
+        Mette(-p[i].x, posto_.h - p[i].y);
 }
 
 void Percorso::InBassoASinistra(const Profilo& p) {
     for (std::size_t i = p.Numero(); i-- > 0;)
-        Metti(-p[i].x, p[i].y);
+        Mette(-p[i].x, p[i].y);
 }
 
 } // namespace sagomi

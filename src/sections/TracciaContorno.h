@@ -68,7 +68,7 @@ public:
     void InBassoASinistra(const Profilo& p); ///< mirrored to the left, from the web to the lower corner
 
 private:
-    void Metti(double px, double py);
+    void Mette(double px, double py);
 
     std::vector<double>& x_;
     std::vector<double>& y_;

@@ -76,7 +76,7 @@ public:
         FlussoBiff f;
         Bof(f, 5);
         if (versione_ == biff8)
-            ScriviStili(f);
+            ScriveStili(f);
         for (const auto& [genere, corpo] : testa_)
             f.Record(genere, corpo);
         std::vector<std::uint32_t> voci;
@@ -84,7 +84,7 @@ public:
             voci.push_back(Voce(f, foglio));
         f.Record(Biff::Eof);
         for (std::size_t i = 0; i < fogli_.size(); ++i) {
-            f.Correggi(voci[i], f.Posizione());
+            f.Corregge(voci[i], f.Posizione());
             Bof(f, fogli_[i].tipo == 0 ? 0x10 : 0x20);
             for (const auto& [genere, corpo] : fogli_[i].record)
                 f.Record(genere, corpo);

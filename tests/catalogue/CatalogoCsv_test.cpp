@@ -28,20 +28,20 @@ TEST(FoglioDaCsv, HeadingsOfTheScreenAndFiguresOfTheTable) {
     const Foglio f = FoglioDaCsv("ISE", "frmSaldati", testaSaldati + rigaSaldata);
     EXPECT_EQ(f.nome, "ISE");
     ASSERT_EQ(f.righe.size(), 2U);
-    EXPECT_EQ(f.Leggi(0, 0), Valore(S("Designation")));
-    EXPECT_EQ(f.Leggi(0, 10), Valore(S("Wpl,y (cm3)")));
-    EXPECT_EQ(f.Leggi(1, 0), Valore(S("ISE 300x37")));
-    EXPECT_EQ(f.Leggi(1, 7), Valore(47.3));
-    EXPECT_TRUE(Vuoto(f.Leggi(1, 15))); // an empty field is an empty cell
-    EXPECT_EQ(f.Leggi(1, 17), Valore(118400.0));
+    EXPECT_EQ(f.Legge(0, 0), Valore(S("Designation")));
+    EXPECT_EQ(f.Legge(0, 10), Valore(S("Wpl,y (cm3)")));
+    EXPECT_EQ(f.Legge(1, 0), Valore(S("ISE 300x37")));
+    EXPECT_EQ(f.Legge(1, 7), Valore(47.3));
+    EXPECT_TRUE(Vuoto(f.Legge(1, 15))); // an empty field is an empty cell
+    EXPECT_EQ(f.Legge(1, 17), Valore(118400.0));
 }
 
 TEST(FoglioDaCsv, DistanceOfTheCentroidIsNotWritten) {
     const Foglio f = FoglioDaCsv("UPN", "frmSagomiU", testaCanali + rigaCanale);
     EXPECT_EQ(f.righe[0].size(), 19U);
     EXPECT_EQ(f.righe[1].size(), 19U);
-    EXPECT_EQ(f.Leggi(0, 1), Valore(S("g (kg/m)")));
-    EXPECT_EQ(f.Leggi(1, 18), Valore(30.0));
+    EXPECT_EQ(f.Legge(0, 1), Valore(S("g (kg/m)")));
+    EXPECT_EQ(f.Legge(1, 18), Valore(30.0));
 }
 
 S Errore(const S& csv, const char* schermo = "frmSaldati") {

@@ -24,12 +24,12 @@ using S = std::string;
 class CatalogoTest : public testing::Test {
 protected:
     std::shared_ptr<Catalogo> Con(std::vector<Foglio> fogli) {
-        ScriviXls({std::move(fogli)}, file);
+        ScriveXls({std::move(fogli)}, file);
         return Catalogo::Apri(file);
     }
     static S Errore(const Catalogo& c, const char* query) {
         try {
-            static_cast<void>(c.Esegui(query));
+            static_cast<void>(c.Esegue(query));
         } catch (const ErroreCatalogo& e) {
             return e.what();
         }
@@ -42,19 +42,19 @@ protected:
 TEST_F(CatalogoTest, SheetsAreTablesUnderTheirQueryNames) {
     const auto c = Con({FoglioDi("IPE", {{S("designation"), S("Wy (cm3)")}, {S("IPE 80"), 20.0}}),
                         FoglioDi("L Uguali", {{S("designation"), S("g (kg/m)")}, {S("L 20x20x3"), 0.882}})});
-    const EsitoQuery ipe = c->Esegui("SELECT * FROM [IPE$] ORDER BY [Wy (cm3)]");
+    const EsitoQuery ipe = c->Esegue("SELECT * FROM [IPE$] ORDER BY [Wy (cm3)]");
     EXPECT_THAT(ipe.campi, ElementsAre("designation", "Wy (cm3)"));
     EXPECT_THAT(ipe.righe, ElementsAre(ElementsAre(Valore(S("IPE 80")), Valore(20.0))));
-    const EsitoQuery angoli = c->Esegui("SELECT * FROM ['L Uguali'$] ORDER BY [g (Kg/m)]");
+    const EsitoQuery angoli = c->Esegue("SELECT * FROM ['L Uguali'$] ORDER BY [g (Kg/m)]");
     EXPECT_THAT(angoli.campi, ElementsAre("designation", "g (kg/m)")); // as the sheet writes it
     EXPECT_EQ(angoli.righe.at(0).at(1), Valore(0.882));
-    EXPECT_EQ(c->Esegui("SELECT * FROM [ipe$]").righe.size(), 1U);
+    EXPECT_EQ(c->Esegue("SELECT * FROM [ipe$]").righe.size(), 1U);
 }
 
 TEST_F(CatalogoTest, ValuesKeepTheirKind) {
     const auto c =
         Con({FoglioDi("x", {{S("a"), S("b"), S("c")}, {1.0, S("12"), {}}, {S("1"), 2.5, S("\u20AC")}})});
-    const EsitoQuery e = c->Esegui("SELECT *, typeof(a), typeof(b), typeof(c) FROM [x$]");
+    const EsitoQuery e = c->Esegue("SELECT *, typeof(a), typeof(b), typeof(c) FROM [x$]");
     EXPECT_THAT(e.righe, ElementsAre(ElementsAre(Valore(1.0), Valore(S("12")), Valore(), Valore(S("real")),
                                                  Valore(S("text")), Valore(S("null"))),
                                      ElementsAre(Valore(S("1")), Valore(2.5), Valore(S("\u20AC")),
@@ -63,7 +63,7 @@ TEST_F(CatalogoTest, ValuesKeepTheirKind) {
 
 TEST_F(CatalogoTest, EmptyRowsArePassedOverAndTheRowOfTheSheetIsKept) {
     const auto c = Con({FoglioDi("x", {{S("a")}, {1.0}, {}, {{}}, {2.0}, {}})});
-    const EsitoQuery e = c->Esegui("SELECT _rowid_, a FROM [x$]");
+    const EsitoQuery e = c->Esegue("SELECT _rowid_, a FROM [x$]");
     EXPECT_THAT(e.righe,
                 ElementsAre(ElementsAre(Valore(2.0), Valore(1.0)), ElementsAre(Valore(5.0), Valore(2.0))));
 }
@@ -71,22 +71,22 @@ TEST_F(CatalogoTest, EmptyRowsArePassedOverAndTheRowOfTheSheetIsKept) {
 TEST_F(CatalogoTest, HeadingsMissingDoubledNumbersAndBlanks) {
     const auto c = Con({FoglioDi(
         "x", {{S(" g (Kg/m) "), {}, S("G (kg/M)"), 7.5, S("due \"a\"")}, {1.0, 2.0, 3.0, 4.0, 5.0, 6.0}})});
-    EXPECT_THAT(c->Esegui("SELECT * FROM [x$]").campi,
+    EXPECT_THAT(c->Esegue("SELECT * FROM [x$]").campi,
                 ElementsAre("g (Kg/m)", "F2", "G (kg/M)1", "7.5", "due \"a\"", "F6"));
 }
 
 TEST_F(CatalogoTest, SheetWithoutRowsOrWithoutAnything) {
     const auto c = Con({FoglioDi("x", {{S("a"), S("b")}}), Foglio{"vuoto", {}}});
-    EXPECT_THAT(c->Esegui("SELECT * FROM [x$]").campi, ElementsAre("a", "b"));
-    EXPECT_TRUE(c->Esegui("SELECT * FROM [x$]").righe.empty());
-    EXPECT_THAT(c->Esegui("SELECT * FROM [vuoto$]").campi, ElementsAre("F1"));
+    EXPECT_THAT(c->Esegue("SELECT * FROM [x$]").campi, ElementsAre("a", "b"));
+    EXPECT_TRUE(c->Esegue("SELECT * FROM [x$]").righe.empty());
+    EXPECT_THAT(c->Esegue("SELECT * FROM [vuoto$]").campi, ElementsAre("F1"));
 }
 
 TEST_F(CatalogoTest, UnionIsOneListSortedAcrossBoth) {
     const auto c = Con(
         {FoglioDi("HEA", {{S("designation"), S("Wy (cm3)")}, {S("HEA 100"), 72.76}, {S("HEA 120"), 106.3}}),
          FoglioDi("IPE", {{S("designation"), S("Wy (cm3)")}, {S("IPE 160"), 108.7}, {S("IPE 140"), 77.32}})});
-    const EsitoQuery e = c->Esegui("SELECT * FROM [HEA$] UNION SELECT * FROM [IPE$] ORDER BY [Wy (cm3)] ASC");
+    const EsitoQuery e = c->Esegue("SELECT * FROM [HEA$] UNION SELECT * FROM [IPE$] ORDER BY [Wy (cm3)] ASC");
     std::vector<Valore> nomi;
     for (const auto& riga : e.righe)
         nomi.push_back(riga[0]);
@@ -113,7 +113,7 @@ TEST_F(CatalogoTest, OnlyReads) {
     const auto c = Con({FoglioDi("IPE", {{S("designation")}, {S("IPE 80")}})});
     for (const char* query : {"", "DROP TABLE [IPE$]", "DELETE FROM [IPE$]", "SELECT 1; DROP TABLE [IPE$]"})
         EXPECT_THAT(Errore(*c, query), HasSubstr("non è un SELECT")) << query;
-    EXPECT_EQ(c->Esegui("SELECT * FROM [IPE$];").righe.size(), 1U);
+    EXPECT_EQ(c->Esegue("SELECT * FROM [IPE$];").righe.size(), 1U);
 }
 
 TEST_F(CatalogoTest, ReadOnceWhileHeldAndAgainWhenTheFileChanges) {
@@ -121,8 +121,8 @@ TEST_F(CatalogoTest, ReadOnceWhileHeldAndAgainWhenTheFileChanges) {
     EXPECT_EQ(Catalogo::Apri(file), primo);
     const auto secondo = Con({FoglioDi("IPE", {{S("designation")}, {S("IPE 80")}, {S("IPE 100")}})});
     EXPECT_NE(secondo, primo);
-    EXPECT_EQ(secondo->Esegui("SELECT * FROM [IPE$]").righe.size(), 2U);
-    EXPECT_EQ(primo->Esegui("SELECT * FROM [IPE$]").righe.size(), 1U); // who holds the old one keeps it
+    EXPECT_EQ(secondo->Esegue("SELECT * FROM [IPE$]").righe.size(), 2U);
+    EXPECT_EQ(primo->Esegue("SELECT * FROM [IPE$]").righe.size(), 1U); // who holds the old one keeps it
     std::filesystem::remove(file);
     EXPECT_THROW(Catalogo::Apri(file), ErroreCatalogo);
 }
@@ -131,12 +131,12 @@ TEST_F(CatalogoTest, ASheetThatCannotBeReadHindersNoOtherQuery) {
     prove::ScriveByte(
         file, prove::CartellaAMano().Foglio(u"guasto").Numero(0, 300, 1).Foglio(u"x").Numero(1, 0, 7).File());
     const Catalogo c(file);
-    EXPECT_EQ(c.Esegui("SELECT * FROM [x$]").righe.at(0).at(0), Valore(7.0));
+    EXPECT_EQ(c.Esegue("SELECT * FROM [x$]").righe.at(0).at(0), Valore(7.0));
     for (int volta = 0; volta < 2; ++volta)
         EXPECT_EQ(Errore(c, "SELECT * FROM [x$] UNION SELECT * FROM [guasto$]"),
                   "Errore nella lettura di \"" + file.string() +
                       "\": il foglio \"guasto\" è danneggiato (celle oltre la colonna 256).");
-    EXPECT_EQ(c.Esegui("SELECT * FROM [x$]").righe.size(), 1U);
+    EXPECT_EQ(c.Esegue("SELECT * FROM [x$]").righe.size(), 1U);
     EXPECT_THAT(Errore(c, "SELECT * FROM [manca$]"), HasSubstr("manca il foglio \"manca\""));
 }
 
@@ -146,8 +146,8 @@ TEST_F(CatalogoTest, RowsComeInTheOrderThatSqliteWouldGive) {
     const std::vector<Valore> valori = {3.0,   S("b"),  {},  -1.5, S("B"), 3.0,
                                         S(""), S("bb"), 0.0, -0.0, {},     S("\u00E8")};
     for (std::size_t i = 0; i < 60; ++i) {
-        f.Scrivi(i + 1, 0, valori[i * 7 % valori.size()]);
-        f.Scrivi(i + 1, 1, valori[i * 5 % 11]);
+        f.Scrive(i + 1, 0, valori[i * 7 % valori.size()]);
+        f.Scrive(i + 1, 1, valori[i * 5 % 11]);
     }
     const auto c = Con({f});
     const std::pair<const char*, const char*> casi[] = {
@@ -156,23 +156,23 @@ TEST_F(CatalogoTest, RowsComeInTheOrderThatSqliteWouldGive) {
         {"ORDER BY b, a DESC", "ORDER BY +b, +a DESC, _rowid_"},
         {"ORDER BY b DESC, _rowid_ DESC", "ORDER BY +b DESC, +_rowid_ DESC"}};
     for (const auto& [nostro, suo] : casi)
-        EXPECT_EQ(c->Esegui(S("SELECT _rowid_, * FROM [x$] ") + nostro).righe,
-                  c->Esegui(S("SELECT _rowid_, * FROM [x$] ") + suo).righe)
+        EXPECT_EQ(c->Esegue(S("SELECT _rowid_, * FROM [x$] ") + nostro).righe,
+                  c->Esegue(S("SELECT _rowid_, * FROM [x$] ") + suo).righe)
             << nostro;
-    EXPECT_EQ(c->Esegui("SELECT * FROM [x$] UNION SELECT * FROM [x$] ORDER BY a").righe,
-              c->Esegui("SELECT DISTINCT a, b FROM [x$] ORDER BY +a, +b").righe);
-    EXPECT_EQ(c->Esegui("SELECT * FROM [x$] ORDER BY a COLLATE NOCASE, _rowid_").righe,
-              c->Esegui("SELECT * FROM [x$] ORDER BY +a COLLATE NOCASE, +_rowid_").righe);
+    EXPECT_EQ(c->Esegue("SELECT * FROM [x$] UNION SELECT * FROM [x$] ORDER BY a").righe,
+              c->Esegue("SELECT DISTINCT a, b FROM [x$] ORDER BY +a, +b").righe);
+    EXPECT_EQ(c->Esegue("SELECT * FROM [x$] ORDER BY a COLLATE NOCASE, _rowid_").righe,
+              c->Esegue("SELECT * FROM [x$] ORDER BY +a COLLATE NOCASE, +_rowid_").righe);
 }
 
 TEST_F(CatalogoTest, ConditionsAndJoins) {
     const auto c = Con({FoglioDi("x", {{S("a"), S("b")}, {1.0, S("u")}, {2.0, S("v")}, {3.0, {}}}),
                         FoglioDi("y", {{S("a"), S("c")}, {3.0, 30.0}, {1.0, 10.0}})});
-    EXPECT_THAT(c->Esegui("SELECT b FROM [x$] WHERE a > 1 ORDER BY a DESC").righe,
+    EXPECT_THAT(c->Esegue("SELECT b FROM [x$] WHERE a > 1 ORDER BY a DESC").righe,
                 ElementsAre(ElementsAre(Valore()), ElementsAre(Valore(S("v")))));
-    EXPECT_THAT(c->Esegui("SELECT x.a, y.c FROM [x$] x JOIN [y$] y ON x.a = y.a ORDER BY y.c").righe,
+    EXPECT_THAT(c->Esegue("SELECT x.a, y.c FROM [x$] x JOIN [y$] y ON x.a = y.a ORDER BY y.c").righe,
                 ElementsAre(ElementsAre(Valore(1.0), Valore(10.0)), ElementsAre(Valore(3.0), Valore(30.0))));
-    EXPECT_EQ(c->Esegui("SELECT count(*) FROM [x$]").righe.at(0).at(0), Valore(3.0));
+    EXPECT_EQ(c->Esegue("SELECT count(*) FROM [x$]").righe.at(0).at(0), Valore(3.0));
 }
 
 TEST_F(CatalogoTest, HeldAlthoughNobodyElseDoesAndOnlyTheLastFew) {
@@ -201,7 +201,7 @@ TEST_F(CatalogoTest, HeldOneIsReadAgainWhenTheFileIsChangedInPlace) {
 TEST_F(CatalogoTest, TheLongestTextsComeBack) {
     const S lungo(32767, 'x');
     const auto c = Con({FoglioDi("x", {{S("a")}, {lungo}})});
-    EXPECT_EQ(c->Esegui("SELECT a FROM [x$]").righe.at(0).at(0), Valore(lungo));
+    EXPECT_EQ(c->Esegue("SELECT a FROM [x$]").righe.at(0).at(0), Valore(lungo));
 }
 
 TEST_F(CatalogoTest, MissingOrDamagedWorkbook) {
@@ -223,22 +223,22 @@ TEST(FileAccanto, WhateverTheCapitals) {
     EXPECT_EQ(FileAccanto(dir.percorso / "manca", "Sagomi.xls"), dir.percorso / "manca" / "Sagomi.xls");
 }
 
-TEST(RendiSolaLettura, TakesTheRightToWriteAndNeverFails) {
+TEST(RendeSolaLettura, TakesTheRightToWriteAndNeverFails) {
     const prove::CartellaDiProva dir;
     const auto file = dir.percorso / "Sagomi.xls";
     prove::ScriveByte(file, "");
     std::filesystem::permissions(file, std::filesystem::perms(0664));
-    RendiSolaLettura(file);
+    RendeSolaLettura(file);
     EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(0444));
-    RendiSolaLettura(dir.percorso / "manca.xls");
+    RendeSolaLettura(dir.percorso / "manca.xls");
 }
 
-TEST(RendiSolaLettura, NeverReachesThroughALink) {
+TEST(RendeSolaLettura, NeverReachesThroughALink) {
     const prove::CartellaDiProva dir;
     prove::ScriveByte(dir.percorso / "altrui.xls", "");
     std::filesystem::permissions(dir.percorso / "altrui.xls", std::filesystem::perms(0664));
     std::filesystem::create_symlink("altrui.xls", dir.percorso / "Sagomi.xls");
-    RendiSolaLettura(dir.percorso / "Sagomi.xls");
+    RendeSolaLettura(dir.percorso / "Sagomi.xls");
     EXPECT_EQ(std::filesystem::status(dir.percorso / "altrui.xls").permissions(),
               std::filesystem::perms(0664));
 }

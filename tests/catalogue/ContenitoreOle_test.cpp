@@ -10,7 +10,7 @@ using namespace sagomi;
 namespace {
 
 std::vector<std::uint8_t> Letto(const std::string& byte, std::initializer_list<const char*> nomi) {
-    return LeggiFlussoOle({reinterpret_cast<const std::uint8_t*>(byte.data()), byte.size()}, nomi);
+    return LeggeFlussoOle({reinterpret_cast<const std::uint8_t*>(byte.data()), byte.size()}, nomi);
 }
 
 TEST(ContenitoreOle, HoldsTheStreamByteForByte) {
@@ -25,7 +25,7 @@ TEST(ContenitoreOle, HoldsTheStreamByteForByte) {
     }
 }
 
-TEST(LeggiFlussoOle, TellsWhatIsWrong) {
+TEST(LeggeFlussoOle, TellsWhatIsWrong) {
     const auto con = [](const std::string& byte) { return [byte] { Letto(byte, {"Workbook"}); }; };
     using testing::ThrowsMessage;
     for (const char* byte : {"", "testo"})
@@ -36,7 +36,7 @@ TEST(LeggiFlussoOle, TellsWhatIsWrong) {
 }
 
 /// The length of the stream stands in its entry of the directory, 120 bytes behind its name.
-TEST(LeggiFlussoOle, StreamLongerThanItsFile) {
+TEST(LeggeFlussoOle, StreamLongerThanItsFile) {
     std::string byte = ContenitoreOle("Workbook", std::vector<std::uint8_t>(5000, 1));
     const std::string nome("W\0o\0r\0k\0b\0o\0o\0k\0", 16);
     const std::size_t voce = byte.find(nome);

@@ -68,10 +68,10 @@ protected:
         Foglio f{"IPE", {}};
         const auto& intestazioni = Intestazioni("frmDoppioT");
         for (std::size_t c = 0; c < intestazioni.size(); ++c) {
-            f.Scrivi(0, c, S(intestazioni[c]));
-            f.Scrivi(1, c, riga[c]);
+            f.Scrive(0, c, S(intestazioni[c]));
+            f.Scrive(1, c, riga[c]);
         }
-        ScriviXls({{f}}, dir.percorso / "a.xls");
+        ScriveXls({{f}}, dir.percorso / "a.xls");
         lettore.DatabaseName(dir.percorso / "a.xls");
         lettore.RecordSource("SELECT * FROM [IPE$]");
         lettore.Refresh();

@@ -16,7 +16,7 @@ struct CasoCsv {
 void PrintTo(const CasoCsv& c, std::ostream* os) { *os << c.nome; }
 
 class CsvTest : public testing::TestWithParam<CasoCsv> {};
-TEST_P(CsvTest, Tabella) { EXPECT_EQ(LeggiCsv(GetParam().testo), GetParam().righe); }
+TEST_P(CsvTest, Tabella) { EXPECT_EQ(LeggeCsv(GetParam().testo), GetParam().righe); }
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Testi, CsvTest, testing::Values(

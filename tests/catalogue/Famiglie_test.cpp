@@ -63,13 +63,13 @@ struct CasoQuery {
 };
 void PrintTo(const CasoQuery& c, std::ostream* os) { *os << c.nome; }
 
-class ComponiQueryTest : public testing::TestWithParam<CasoQuery> {};
-TEST_P(ComponiQueryTest, Tabella) {
-    EXPECT_EQ(ComponiQuery(GetParam().schermo, GetParam().scelti, GetParam().ordine), GetParam().query);
+class ComponeQueryTest : public testing::TestWithParam<CasoQuery> {};
+TEST_P(ComponeQueryTest, Tabella) {
+    EXPECT_EQ(ComponeQuery(GetParam().schermo, GetParam().scelti, GetParam().ordine), GetParam().query);
 }
 
 // clang-format off
-INSTANTIATE_TEST_SUITE_P(Schermi, ComponiQueryTest, testing::Values(
+INSTANTIATE_TEST_SUITE_P(Schermi, ComponeQueryTest, testing::Values(
     CasoQuery{"unoPerWy",    "frmDoppioT", {"IPE"}, 0, "SELECT * FROM [IPE$] ORDER BY [Wy (cm3)] ASC"},
     CasoQuery{"unoPerIy",    "frmDoppioT", {"IPE"}, 1, "SELECT * FROM [IPE$] ORDER BY [Iy (cm4)]"},
     CasoQuery{"unoPerPeso",  "frmDoppioT", {"IPE"}, 2, "SELECT * FROM [IPE$] ORDER BY [g (Kg/m)]"},
@@ -108,15 +108,15 @@ TEST(Famiglie, EveryKeyIsAColumn) {
         }
 }
 
-TEST(ComponiQuery, KeyOutsideTheOptions) {
-    EXPECT_THROW(ComponiQuery("frmDoppioT", {"IPE"}, 3), std::out_of_range);
-    EXPECT_THROW(ComponiQuery("frmDoppioT", {"IPE"}, -1), std::out_of_range);
+TEST(ComponeQuery, KeyOutsideTheOptions) {
+    EXPECT_THROW(ComponeQuery("frmDoppioT", {"IPE"}, 3), std::out_of_range);
+    EXPECT_THROW(ComponeQuery("frmDoppioT", {"IPE"}, -1), std::out_of_range);
 }
 
-TEST(ComponiQueryFoglio, SheetInForce) {
-    EXPECT_EQ(ComponiQueryFoglio("frmSaldati", "['DoppioT Simmetrico'$]", 0),
+TEST(ComponeQueryFoglio, SheetInForce) {
+    EXPECT_EQ(ComponeQueryFoglio("frmSaldati", "['DoppioT Simmetrico'$]", 0),
               "SELECT * FROM ['DoppioT Simmetrico'$] ORDER BY [Wy (cm3)] ASC");
-    EXPECT_EQ(ComponiQueryFoglio("frmSaldatiAsimm", "[HSD$]", 2), "SELECT * FROM [HSD$] ORDER BY [g (Kg/m)]");
+    EXPECT_EQ(ComponeQueryFoglio("frmSaldatiAsimm", "[HSD$]", 2), "SELECT * FROM [HSD$] ORDER BY [g (Kg/m)]");
 }
 
 TEST(CambioFamigliaQuery, FromTheTickedBoxes) {

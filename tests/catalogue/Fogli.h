@@ -18,7 +18,7 @@ inline Foglio FoglioDi(std::string nome, std::initializer_list<std::vector<Valor
     for (const auto& riga : righe) {
         f.righe.emplace_back();
         for (std::size_t c = 0; c < riga.size(); ++c)
-            f.Scrivi(r, c, riga[c]);
+            f.Scrive(r, c, riga[c]);
         ++r;
     }
     return f;

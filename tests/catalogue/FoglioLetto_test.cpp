@@ -82,8 +82,8 @@ TEST(FoglioDa, APlaceForEachCellUpToTheLastOfItsRow) {
     ASSERT_EQ(f.righe.size(), 4U);
     EXPECT_EQ(f.righe[0].size(), 0U);
     EXPECT_EQ(f.righe[1].size(), 3U);
-    EXPECT_EQ(f.Leggi(1, 2), Valore(5.0));
-    EXPECT_EQ(f.Leggi(3, 0), Valore(6.0));
+    EXPECT_EQ(f.Legge(1, 2), Valore(5.0));
+    EXPECT_EQ(f.Legge(3, 0), Valore(6.0));
     EXPECT_EQ(PostiDi(Con({})), 0U);
 }
 

@@ -21,10 +21,10 @@ std::vector<RecordProva> Scritto(const Foglio& foglio, bool attivo = true) {
     for (const auto& riga : foglio.righe)
         for (const Cella& c : riga)
             if (const auto* t = std::get_if<std::string>(&c.valore))
-                stringhe.Raccogli(*t);
+                stringhe.Raccoglie(*t);
     FlussoBiff flusso;
     flusso.Record(Biff::CodePage, Ottetti().U16(0x04B0));
-    EXPECT_EQ(ScriviFoglio(flusso, foglio, stringhe, attivo), 6U);
+    EXPECT_EQ(ScriveFoglio(flusso, foglio, stringhe, attivo), 6U);
     auto record = LeggeRecord(flusso.dati());
     record.erase(record.begin());
     return record;
@@ -39,11 +39,11 @@ std::vector<RecordProva> Del(const std::vector<RecordProva>& record, Biff genere
 
 Foglio Tabella(std::size_t righe) {
     Foglio f{"IPE", {}};
-    f.Scrivi(0, 0, std::string("designation"));
-    f.Scrivi(0, 1, std::string("h (mm)"));
+    f.Scrive(0, 0, std::string("designation"));
+    f.Scrive(0, 1, std::string("h (mm)"));
     for (std::size_t r = 1; r < righe; ++r) {
-        f.Scrivi(r, 0, "IPE " + std::to_string(r));
-        f.Scrivi(r, 1, static_cast<double>(r) + 0.333);
+        f.Scrive(r, 0, "IPE " + std::to_string(r));
+        f.Scrive(r, 1, static_cast<double>(r) + 0.333);
     }
     return f;
 }
@@ -58,11 +58,11 @@ TEST(FoglioXls, BeginsAndEnds) {
 
 TEST(FoglioXls, UsedRangeIsThatOfTheCellsWithContents) {
     Foglio f{"x", {}};
-    f.Scrivi(2, 1, 1.0);
-    f.Scrivi(4, 3, 2.0);
-    f.Scrivi(9, 9, std::string());
-    f.Scrivi(10, 10, std::numeric_limits<double>::quiet_NaN());
-    f.Scrivi(11, 0, std::numeric_limits<double>::infinity());
+    f.Scrive(2, 1, 1.0);
+    f.Scrive(4, 3, 2.0);
+    f.Scrive(9, 9, std::string());
+    f.Scrive(10, 10, std::numeric_limits<double>::quiet_NaN());
+    f.Scrive(11, 0, std::numeric_limits<double>::infinity());
     const auto misure = Del(Scritto(f), Biff::Dimensions).at(0);
     EXPECT_EQ(misure.U32(0), 2U);
     EXPECT_EQ(misure.U32(4), 5U);
@@ -139,7 +139,7 @@ TEST(FoglioXls, BlockOffsetsLeadToTheFirstCellOfEachRow) {
 
 TEST(FoglioXls, SheetWithHolesGoesWithoutIndex) {
     Foglio f = Tabella(3);
-    f.Scrivi(500, 0, std::string("lontano"));
+    f.Scrive(500, 0, std::string("lontano"));
     const auto record = Scritto(f);
     EXPECT_TRUE(Del(record, Biff::Index).empty());
     EXPECT_TRUE(Del(record, Biff::DbCell).empty());

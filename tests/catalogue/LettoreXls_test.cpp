@@ -18,13 +18,13 @@ namespace {
 
 using S = std::string;
 
-/// What LeggiXls says of a file with these bytes.
+/// What LeggeXls says of a file with these bytes.
 S ErroreDi(const S& byte) {
     const prove::CartellaDiProva dir;
     const auto file = dir.percorso / "Sagomi.xls";
     prove::ScriveByte(file, byte);
     try {
-        LeggiXls(file);
+        LeggeXls(file);
     } catch (const ErroreCatalogo& e) {
         const S inizio = "Errore nella lettura di \"" + file.string() + "\": ";
         EXPECT_THAT(e.what(), testing::StartsWith(inizio));
@@ -39,14 +39,14 @@ S CartellaBuona() {
     Foglio f{"IPE", {}};
     for (std::size_t r = 0; r < 300; ++r)
         for (std::size_t k = 0; k < 5; ++k)
-            f.Scrivi(r, k,
+            f.Scrive(r, k,
                      k == 0 ? Valore("IPE " + std::to_string(r)) : Valore(static_cast<double>(r) + 0.333));
     c.fogli.push_back(f);
-    ScriviXls(c, dir.percorso / "a.xls");
+    ScriveXls(c, dir.percorso / "a.xls");
     return prove::LeggeByte(dir.percorso / "a.xls");
 }
 
-TEST(LeggiXls, TellsWhatIsWrongWithAFile) {
+TEST(LeggeXls, TellsWhatIsWrongWithAFile) {
     EXPECT_EQ(ErroreDi(CartellaBuona()), "nessun errore");
     EXPECT_EQ(ErroreDi(""), "il file non è una cartella di lavoro .xls.");
     EXPECT_EQ(ErroreDi("designation,g (Kg/m)\nIPE 80,6\n"), "il file non è una cartella di lavoro .xls.");
@@ -58,10 +58,10 @@ TEST(LeggiXls, TellsWhatIsWrongWithAFile) {
     EXPECT_THAT(ErroreDi(danno), HasSubstr("danneggiata"));
 }
 
-TEST(LeggiXls, MissingFileAndFolder) {
+TEST(LeggeXls, MissingFileAndFolder) {
     const prove::CartellaDiProva dir;
     const auto prova = [](const std::filesystem::path& file, const S& causa) {
-        const auto legge = [&] { LeggiXls(file); };
+        const auto legge = [&] { LeggeXls(file); };
         EXPECT_THAT(legge, testing::ThrowsMessage<ErroreCatalogo>("Errore nella lettura di \"" +
                                                                   file.string() + "\": " + causa + "."));
     };
@@ -69,7 +69,7 @@ TEST(LeggiXls, MissingFileAndFolder) {
     prova(dir.percorso, "non è un file");
 }
 
-TEST(LeggiXls, ASheetThatCannotBeReadIsTold) {
+TEST(LeggeXls, ASheetThatCannotBeReadIsTold) {
     const S byte = CartellaAMano().Foglio(u"buono").Foglio(u"guasto").Numero(0, 300, 1).File();
     EXPECT_EQ(ErroreDi(byte), "il foglio \"guasto\" è danneggiato (celle oltre la colonna 256).");
     EXPECT_EQ(ErroreDi(CartellaAMano().File()), "la cartella di lavoro non ha fogli.");
@@ -78,7 +78,7 @@ TEST(LeggiXls, ASheetThatCannotBeReadIsTold) {
 }
 
 /// The format allows them; with a place for each between them they would take gigabytes.
-TEST(LeggiXls, CellsTooFarApartAreRefused) {
+TEST(LeggeXls, CellsTooFarApartAreRefused) {
     CartellaAMano c;
     c.Foglio(u"x");
     for (unsigned r = 0; r < 20000; ++r)
@@ -103,9 +103,9 @@ Valore CellaFreexl(const void* cartella, unsigned r, unsigned short c) {
     }
 }
 
-TEST(LeggiXls, EveryCellOfTheCatalogueIsThatOfFreexl) {
+TEST(LeggeXls, EveryCellOfTheCatalogueIsThatOfFreexl) {
     const std::filesystem::path file = SAGOMI_BIN "/Sagomi.xls";
-    const CartellaDati letta = LeggiXls(file);
+    const CartellaDati letta = LeggeXls(file);
     const void* altra = nullptr;
     ASSERT_EQ(freexl_open(file.c_str(), &altra), FREEXL_OK);
     std::size_t celle = 0;
@@ -120,13 +120,13 @@ TEST(LeggiXls, EveryCellOfTheCatalogueIsThatOfFreexl) {
         ASSERT_EQ(letta.fogli[i].righe.size(), righe);
         for (unsigned r = 0; r < righe; ++r)
             for (unsigned short c = 0; c < colonne; ++c, ++celle)
-                ASSERT_EQ(letta.fogli[i].Leggi(r, c), CellaFreexl(altra, r, c)) << nome << r << ' ' << c;
+                ASSERT_EQ(letta.fogli[i].Legge(r, c), CellaFreexl(altra, r, c)) << nome << r << ' ' << c;
     }
     freexl_close(altra);
     EXPECT_GT(celle, 20000U);
 }
 
-TEST(LeggiXls, DamageAnywhereIsAnErrorOrSomeValuesButNeverACrash) {
+TEST(LeggeXls, DamageAnywhereIsAnErrorOrSomeValuesButNeverACrash) {
     const S buona = CartellaBuona();
     std::uint32_t caso = 12345;
     const auto sorte = [&caso](std::size_t n) {

@@ -21,7 +21,7 @@ using S = std::string;
 class LettoreTest : public testing::Test {
 protected:
     void SetUp() override {
-        ScriviXls({{FoglioDi("IPE", {{S("designation"), S("h (mm)"), S("nota")},
+        ScriveXls({{FoglioDi("IPE", {{S("designation"), S("h (mm)"), S("nota")},
                                      {S("IPE 80"), 80.0, S("1.234,5 x")},
                                      {S("IPE 100"), 100.0, {}},
                                      {S("IPE 100"), 97.5, S("altro")}}),

@@ -42,11 +42,11 @@ TEST(LeggeFoglio, IntegersRealsAndRunsOfNumbers) {
                                                          .U32(0x3FF80000U)
                                                          .U16(4)));
     EXPECT_EQ(f.nome, "IPE");
-    EXPECT_EQ(f.Leggi(0, 0), Valore(80.0));
-    EXPECT_EQ(f.Leggi(0, 1), Valore(3.691));
-    EXPECT_EQ(f.Leggi(1, 2), Valore(1234321.0));
-    EXPECT_EQ(f.Leggi(1, 3), Valore(123.45));
-    EXPECT_EQ(f.Leggi(1, 4), Valore(1.5));
+    EXPECT_EQ(f.Legge(0, 0), Valore(80.0));
+    EXPECT_EQ(f.Legge(0, 1), Valore(3.691));
+    EXPECT_EQ(f.Legge(1, 2), Valore(1234321.0));
+    EXPECT_EQ(f.Legge(1, 3), Valore(123.45));
+    EXPECT_EQ(f.Legge(1, 4), Valore(1.5));
 }
 
 TEST(LeggeFoglio, RunsOfNumbersMustBeAsLongAsTheySay) {
@@ -74,11 +74,11 @@ TEST(LeggeFoglio, FormulasGiveTheValueLastComputed) {
                                .Sciolto(Biff::String, Ottetti().U16(4).U8(0).U8('I').U8('P'))
                                .Sciolto(Biff::Continue, Ottetti().U8(1).U16('E').U16(0x20AC))
                                .Sciolto(Biff::String, Ottetti().U16(1).U8(0).U8('x'))); // of nobody
-    EXPECT_EQ(f.Leggi(1, 2), Valore(1.5));
-    EXPECT_EQ(f.Leggi(3, 4), Valore(1.0));
-    EXPECT_TRUE(Vuoto(f.Leggi(5, 6)));
-    EXPECT_TRUE(Vuoto(f.Leggi(7, 8)));
-    EXPECT_EQ(f.Leggi(9, 0), Valore(S("IPE\u20AC")));
+    EXPECT_EQ(f.Legge(1, 2), Valore(1.5));
+    EXPECT_EQ(f.Legge(3, 4), Valore(1.0));
+    EXPECT_TRUE(Vuoto(f.Legge(5, 6)));
+    EXPECT_TRUE(Vuoto(f.Legge(7, 8)));
+    EXPECT_EQ(f.Legge(9, 0), Valore(S("IPE\u20AC")));
     EXPECT_EQ(f.righe.size(), 10U);
 }
 
@@ -87,8 +87,8 @@ TEST(LeggeFoglio, TextBehindAFormulaThatGaveANumberBelongsToNobody) {
                                .Formula(0, 0, 0, CartellaAMano::marca)
                                .Formula(1, 0, 0, 0x3FF80000U)
                                .Sciolto(Biff::String, Ottetti().U16(1).U8(0).U8('x')));
-    EXPECT_TRUE(Vuoto(f.Leggi(0, 0)));
-    EXPECT_EQ(f.Leggi(1, 0), Valore(1.5));
+    EXPECT_TRUE(Vuoto(f.Legge(0, 0)));
+    EXPECT_EQ(f.Legge(1, 0), Valore(1.5));
 }
 
 TEST(LeggeFoglio, LogicalValuesErrorsTextsInPlaceAndNoNumbers) {
@@ -101,10 +101,10 @@ TEST(LeggeFoglio, LogicalValuesErrorsTextsInPlaceAndNoNumbers) {
                   .Testo(2, 2, u"")
                   .Numero(3, 0, std::numeric_limits<double>::infinity())
                   .Numero(3, 1, std::numeric_limits<double>::quiet_NaN()));
-    EXPECT_EQ(f.Leggi(1, 0), Valore(1.0));
-    EXPECT_TRUE(Vuoto(f.Leggi(1, 1)));
-    EXPECT_EQ(f.Leggi(2, 0), Valore(S("HEA \u20AC")));
-    EXPECT_EQ(f.Leggi(2, 1), Valore(S("ab")));
+    EXPECT_EQ(f.Legge(1, 0), Valore(1.0));
+    EXPECT_TRUE(Vuoto(f.Legge(1, 1)));
+    EXPECT_EQ(f.Legge(2, 0), Valore(S("HEA \u20AC")));
+    EXPECT_EQ(f.Legge(2, 1), Valore(S("ab")));
     EXPECT_EQ(f.righe.size(), 3U);
     EXPECT_EQ(f.righe[2].size(), 2U);
 }
@@ -116,7 +116,7 @@ TEST(LeggeFoglio, SharedTextsByTheirNumber) {
             .Foglio(u"x")
             .Cella(Biff::LabelSst, 0, 0, Ottetti().U32(i));
     };
-    EXPECT_EQ(Letto(con(1)).Leggi(0, 0), Valore(S("b")));
+    EXPECT_EQ(Letto(con(1)).Legge(0, 0), Valore(S("b")));
     EXPECT_THROW(Legge(con(2)), DannoBiff);
     EXPECT_THROW(Legge(con(0xFFFFFFFFU)), DannoBiff);
     EXPECT_THROW(Legge(Ipe().Cella(Biff::LabelSst, 0, 0, Ottetti().U32(0))), DannoBiff); // no table at all
@@ -138,7 +138,7 @@ TEST(LeggeFoglio, CellsTooShortForTheirValue) {
 
 TEST(LeggeFoglio, ColumnsOfTheFormatAndNoOthers) {
     const Foglio f = Letto(Ipe().Numero(65535, 255, 1));
-    EXPECT_EQ(f.Leggi(65535, 255), Valore(1.0));
+    EXPECT_EQ(f.Legge(65535, 255), Valore(1.0));
     for (const unsigned colonna : {256U, 3000U, 65535U})
         EXPECT_THROW(Legge(Ipe().Numero(0, colonna, 1)), DannoBiff);
     EXPECT_THROW(
@@ -207,10 +207,10 @@ TEST(LeggeFoglio, DaysFrom1904AreCountedFrom1900) {
                                .Numero(0, 0, 43538, data) // 15 March 2023
                                .Numero(0, 1, 43538)
                                .Numero(0, 2, 0.5, static_cast<unsigned>(StileXls::Ora)));
-    EXPECT_EQ(f.Leggi(0, 0), Valore(45000.0));
+    EXPECT_EQ(f.Legge(0, 0), Valore(45000.0));
     EXPECT_EQ(f.righe[0][0].genere, GenereNumero::Data);
-    EXPECT_EQ(f.Leggi(0, 1), Valore(43538.0));
-    EXPECT_EQ(f.Leggi(0, 2), Valore(0.5));
+    EXPECT_EQ(f.Legge(0, 1), Valore(43538.0));
+    EXPECT_EQ(f.Legge(0, 2), Valore(0.5));
 }
 
 TEST(LeggeFoglio, WorkbooksBeforeExcel97) {
@@ -219,9 +219,9 @@ TEST(LeggeFoglio, WorkbooksBeforeExcel97) {
                                .Cella(Biff::Label, 0, 1, Ottetti().U16(2).U8('a').U8(0x80))
                                .Formula(1, 0, 0, CartellaAMano::marca)
                                .Sciolto(Biff::String, Ottetti().U16(3).U8('H').U8('E').U8('A')));
-    EXPECT_EQ(f.Leggi(0, 0), Valore(2.5));
-    EXPECT_EQ(f.Leggi(0, 1), Valore(S("a\u20AC")));
-    EXPECT_EQ(f.Leggi(1, 0), Valore(S("HEA")));
+    EXPECT_EQ(f.Legge(0, 0), Valore(2.5));
+    EXPECT_EQ(f.Legge(0, 1), Valore(S("a\u20AC")));
+    EXPECT_EQ(f.Legge(1, 0), Valore(S("HEA")));
 }
 
 } // namespace

@@ -9,26 +9,26 @@ using namespace sagomi;
 namespace {
 
 TEST(OrdineQuery, TellsTheColumnOfEachOption) {
-    EXPECT_EQ(ColonnaOrdine(ComponiQuery("frmDoppioT", {"IPE"}, 0)), "Wy (cm3)");
-    EXPECT_EQ(ColonnaOrdine(ComponiQuery("frmDoppioT", {"IPE", "HEA"}, 2)), "g (Kg/m)");
-    EXPECT_EQ(ColonnaOrdine(ComponiQuery("frmSagomiL", {"L Uguali"}, 0)), "iy (cm)");
+    EXPECT_EQ(ColonnaOrdine(ComponeQuery("frmDoppioT", {"IPE"}, 0)), "Wy (cm3)");
+    EXPECT_EQ(ColonnaOrdine(ComponeQuery("frmDoppioT", {"IPE", "HEA"}, 2)), "g (Kg/m)");
+    EXPECT_EQ(ColonnaOrdine(ComponeQuery("frmSagomiL", {"L Uguali"}, 0)), "iy (cm)");
     EXPECT_EQ(ColonnaOrdine("SELECT * FROM [IPE$]"), "");
     EXPECT_EQ(ColonnaOrdine("SELECT * FROM [IPE$] ORDER BY 1"), "");
 }
 
 TEST(OrdineQuery, PutsAnotherColumnInThePlaceOfTheOldOne) {
-    EXPECT_EQ(OrdinaPer(ComponiQuery("frmDoppioT", {"HEA", "IPE"}, 0), "iz (cm)"),
+    EXPECT_EQ(OrdinaPer(ComponeQuery("frmDoppioT", {"HEA", "IPE"}, 0), "iz (cm)"),
               "SELECT * FROM [HEA$] UNION SELECT * FROM [IPE$] ORDER BY [iz (cm)]");
     EXPECT_EQ(OrdinaPer("SELECT * FROM [IPE$]", "h (mm)"), "SELECT * FROM [IPE$] ORDER BY [h (mm)]");
     EXPECT_EQ(ColonnaOrdine(OrdinaPer("SELECT * FROM [IPE$]", "a]b")), "a]b");
 }
 
 TEST(OrdineQuery, KnowsTheSheetsOfAQuery) {
-    const std::string query = ComponiQuery("frmDoppioT", {"HEAA", "IPE"}, 1);
+    const std::string query = ComponeQuery("frmDoppioT", {"HEAA", "IPE"}, 1);
     EXPECT_TRUE(NominaFoglio(query, "HEAA"));
     EXPECT_TRUE(NominaFoglio(query, "IPE"));
     EXPECT_FALSE(NominaFoglio(query, "HEA"));
-    EXPECT_TRUE(NominaFoglio(ComponiQuery("frmSagomiL", {"L Uguali"}, 0), "L Uguali"));
+    EXPECT_TRUE(NominaFoglio(ComponeQuery("frmSagomiL", {"L Uguali"}, 0), "L Uguali"));
     EXPECT_FALSE(NominaFoglio(query, "L Uguali"));
 }
 

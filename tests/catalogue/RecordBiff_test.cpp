@@ -120,7 +120,7 @@ TEST(FlussoBiff, HeadThenBodyAndPositions) {
     FlussoBiff f;
     EXPECT_EQ(f.Record(Biff::CodePage, Ottetti().U16(0x04B0)), 0U);
     EXPECT_EQ(f.Record(Biff::Eof), 6U);
-    f.Correggi(2, 0x01020304);
+    f.Corregge(2, 0x01020304);
     EXPECT_EQ(f.dati(), (Byte{0x42, 0, 4, 3, 2, 1, 0x0A, 0, 0, 0}));
     f.AllungaA(12);
     EXPECT_EQ(f.dati().size(), 12U);

@@ -22,10 +22,10 @@ protected:
     void Carica(std::vector<Valore> riga) {
         Foglio f{"IPE", {}};
         for (std::size_t c = 0; c < riga.size(); ++c) {
-            f.Scrivi(0, c, "c" + std::to_string(c));
-            f.Scrivi(1, c, riga[c]);
+            f.Scrive(0, c, "c" + std::to_string(c));
+            f.Scrive(1, c, riga[c]);
         }
-        ScriviXls({{f}}, dir.percorso / "a.xls");
+        ScriveXls({{f}}, dir.percorso / "a.xls");
         lettore.DatabaseName(dir.percorso / "a.xls");
         lettore.RecordSource("SELECT * FROM [IPE$]");
         lettore.Refresh();

@@ -55,7 +55,7 @@ std::vector<S> Tutti(const char* schermo) {
 }
 
 TEST(SagomiXls, EveryCellIsThatOfTheTables) {
-    const CartellaDati cartella = LeggiXls(sagomiXls);
+    const CartellaDati cartella = LeggeXls(sagomiXls);
     std::size_t indice = 0;
     std::size_t righe = 0;
     for (const FamigliaSchermo& famiglia : FamiglieSchermi())
@@ -82,16 +82,16 @@ TEST(SagomiXls, EveryCellIsThatOfTheTables) {
 
 TEST(SagomiXls, RewritingKeepsAll) {
     const prove::CartellaDiProva dir;
-    const CartellaDati prima = LeggiXls(sagomiXls);
-    ScriviXls(prima, dir.percorso / "copia.xls");
-    const CartellaDati dopo = LeggiXls(dir.percorso / "copia.xls");
+    const CartellaDati prima = LeggeXls(sagomiXls);
+    ScriveXls(prima, dir.percorso / "copia.xls");
+    const CartellaDati dopo = LeggeXls(dir.percorso / "copia.xls");
     ASSERT_EQ(dopo.fogli.size(), prima.fogli.size());
     for (std::size_t f = 0; f < prima.fogli.size(); ++f) {
         EXPECT_EQ(dopo.fogli[f].nome, prima.fogli[f].nome);
         ASSERT_EQ(dopo.fogli[f].righe.size(), prima.fogli[f].righe.size());
         for (std::size_t r = 0; r < prima.fogli[f].righe.size(); ++r)
             for (std::size_t c = 0; c < prima.fogli[f].righe[r].size(); ++c)
-                ASSERT_EQ(dopo.fogli[f].Leggi(r, c), prima.fogli[f].Leggi(r, c));
+                ASSERT_EQ(dopo.fogli[f].Legge(r, c), prima.fogli[f].Legge(r, c));
     }
     // the bytes as well: styles and widths follow from the cells
     EXPECT_EQ(prove::LeggeByte(dir.percorso / "copia.xls"), prove::LeggeByte(sagomiXls));
@@ -128,8 +128,8 @@ TEST(SagomiXls, EveryFamilyAloneAndAllTogetherByEveryKey) {
         for (int ordine = 0; ordine <= 2; ++ordine) {
             int somma = 0;
             for (const S& foglio : Tutti(schermo.c_str()))
-                somma += LettoreSu(ComponiQuery(schermo, {foglio}, ordine)).Righe();
-            const Lettore tutti = LettoreSu(ComponiQuery(schermo, Tutti(schermo.c_str()), ordine));
+                somma += LettoreSu(ComponeQuery(schermo, {foglio}, ordine)).Righe();
+            const Lettore tutti = LettoreSu(ComponeQuery(schermo, Tutti(schermo.c_str()), ordine));
             EXPECT_EQ(tutti.Righe(), somma) << schermo;
             const int colonna = ColonnaOrdine(schermo, ordine);
             for (int r = 1; r < tutti.Righe(); ++r)
@@ -140,7 +140,7 @@ TEST(SagomiXls, EveryFamilyAloneAndAllTogetherByEveryKey) {
 }
 
 TEST(SagomiXls, TwoFamiliesAreOneSortedList) {
-    Lettore l = LettoreSu(ComponiQuery("frmDoppioT", {"HEA", "HEB"}, 0));
+    Lettore l = LettoreSu(ComponeQuery("frmDoppioT", {"HEA", "HEB"}, 0));
     EXPECT_EQ(l.Righe(), 48);
     EXPECT_EQ(l.Testo(0), "HEA 100"); // 72.76 cm3
     l.MoveNext();
@@ -150,7 +150,7 @@ TEST(SagomiXls, TwoFamiliesAreOneSortedList) {
 }
 
 TEST(SagomiXls, All792RolledRowsAreThere) {
-    const Lettore l = LettoreSu(ComponiQuery("frmDoppioT", Tutti("frmDoppioT"), 0));
+    const Lettore l = LettoreSu(ComponeQuery("frmDoppioT", Tutti("frmDoppioT"), 0));
     EXPECT_EQ(l.Righe(), 792);
 }
 
@@ -162,7 +162,7 @@ TEST(SagomiXls, HeadingsAreFoundWhateverTheirCapitals) {
 /// Every row of a screen's families against its geometry. Returns how many there are.
 int ControllaRighe(const char* schermo, RigheDoppioT righe,
                    void (*controlla)(const Lettore&, SezioneDoppioT&)) {
-    Lettore l = LettoreSu(ComponiQuery(schermo, Tutti(schermo), 0));
+    Lettore l = LettoreSu(ComponeQuery(schermo, Tutti(schermo), 0));
     int controllate = 0;
     for (; !l.EOF_(); l.MoveNext(), ++controllate) {
         const prove::Registratore r;

@@ -33,16 +33,16 @@ void AspettaUguali(const CartellaDati& letta, const CartellaDati& scritta) {
         const std::size_t righe = std::max(a.righe.size(), b.righe.size());
         for (std::size_t r = 0; r < righe; ++r)
             for (std::size_t c = 0; c < 256; ++c)
-                ASSERT_EQ(a.Leggi(r, c), b.Leggi(r, c)) << b.nome << " riga " << r << " colonna " << c;
+                ASSERT_EQ(a.Legge(r, c), b.Legge(r, c)) << b.nome << " riga " << r << " colonna " << c;
     }
 }
 
 CartellaDati Rilegge(const CartellaDati& cartella, const std::filesystem::path& file) {
-    ScriviXls(cartella, file);
-    return LeggiXls(file);
+    ScriveXls(cartella, file);
+    return LeggeXls(file);
 }
 
-TEST(ScriviXls, EveryKindOfCellComesBack) {
+TEST(ScriveXls, EveryKindOfCellComesBack) {
     const prove::CartellaDiProva dir;
     CartellaDati c;
     c.fogli.push_back(FoglioDi("DoppioT Simmetrico", {{S("designation"), S("h (mm)"), S("note")},
@@ -55,21 +55,21 @@ TEST(ScriviXls, EveryKindOfCellComesBack) {
     AspettaUguali(Rilegge(c, dir.percorso / "u.xls"), c);
 }
 
-TEST(ScriviXls, WidthAndLengthOfASheet) {
+TEST(ScriveXls, WidthAndLengthOfASheet) {
     const prove::CartellaDiProva dir;
     CartellaDati c;
     Foglio f{"x", {}};
-    f.Scrivi(0, 255, S("IV1"));
-    f.Scrivi(65535, 0, 65536.0);
-    f.Scrivi(40000, 17, S("in mezzo"));
+    f.Scrive(0, 255, S("IV1"));
+    f.Scrive(65535, 0, 65536.0);
+    f.Scrive(40000, 17, S("in mezzo"));
     c.fogli.push_back(f);
     const CartellaDati letta = Rilegge(c, dir.percorso / "u.xls");
-    EXPECT_EQ(letta.fogli[0].Leggi(0, 255), Valore(S("IV1")));
-    EXPECT_EQ(letta.fogli[0].Leggi(65535, 0), Valore(65536.0));
-    EXPECT_EQ(letta.fogli[0].Leggi(40000, 17), Valore(S("in mezzo")));
+    EXPECT_EQ(letta.fogli[0].Legge(0, 255), Valore(S("IV1")));
+    EXPECT_EQ(letta.fogli[0].Legge(65535, 0), Valore(65536.0));
+    EXPECT_EQ(letta.fogli[0].Legge(40000, 17), Valore(S("in mezzo")));
 }
 
-TEST(ScriviXls, ManyLongTextsOverManyRecords) {
+TEST(ScriveXls, ManyLongTextsOverManyRecords) {
     const prove::CartellaDiProva dir;
     CartellaDati c;
     Foglio f{"testi", {}};
@@ -77,45 +77,45 @@ TEST(ScriviXls, ManyLongTextsOverManyRecords) {
         S t = std::to_string(r);
         for (std::size_t i = 0; i < r * 13 % 997; ++i)
             t += r % 4 == 0 ? "\u20AC" : (r % 4 == 1 ? "\u00E8" : (r % 4 == 2 ? "x" : "\U0001F529"));
-        f.Scrivi(r, r % 5, t);
+        f.Scrive(r, r % 5, t);
     }
     S lungo;
     for (int i = 0; i < 32767; ++i)
         lungo += "\u20AC";
-    f.Scrivi(600, 0, lungo);
+    f.Scrive(600, 0, lungo);
     c.fogli.push_back(f);
     AspettaUguali(Rilegge(c, dir.percorso / "u.xls"), c);
 }
 
-TEST(ScriviXls, ManyNumbersComeBackToTheBit) {
+TEST(ScriveXls, ManyNumbersComeBackToTheBit) {
     const prove::CartellaDiProva dir;
     CartellaDati c;
     Foglio f{"numeri", {}};
     for (std::size_t r = 0; r < 2000; ++r) {
         const auto i = static_cast<double>(r);
-        f.Scrivi(r, 0, i / 10);
-        f.Scrivi(r, 1, i / 100);
-        f.Scrivi(r, 2, i / 1000);
-        f.Scrivi(r, 3, i * 1e5);
-        f.Scrivi(r, 4, std::exp(i / 40 - 20));
-        f.Scrivi(r, 5, -i / 7);
+        f.Scrive(r, 0, i / 10);
+        f.Scrive(r, 1, i / 100);
+        f.Scrive(r, 2, i / 1000);
+        f.Scrive(r, 3, i * 1e5);
+        f.Scrive(r, 4, std::exp(i / 40 - 20));
+        f.Scrive(r, 5, -i / 7);
     }
     c.fogli.push_back(f);
     AspettaUguali(Rilegge(c, dir.percorso / "u.xls"), c);
 }
 
-TEST(ScriviXls, WhatIsNoNumberOrNoTextLeavesTheCellEmpty) {
+TEST(ScriveXls, WhatIsNoNumberOrNoTextLeavesTheCellEmpty) {
     const prove::CartellaDiProva dir;
     CartellaDati c;
     c.fogli.push_back(FoglioDi("x", {{1.0, nonNumero, std::numeric_limits<double>::infinity(), S(), 2.0}}));
     const CartellaDati letta = Rilegge(c, dir.percorso / "u.xls");
-    EXPECT_EQ(letta.fogli[0].Leggi(0, 0), Valore(1.0));
+    EXPECT_EQ(letta.fogli[0].Legge(0, 0), Valore(1.0));
     for (const std::size_t colonna : {1U, 2U, 3U})
-        EXPECT_TRUE(Vuoto(letta.fogli[0].Leggi(0, colonna)));
-    EXPECT_EQ(letta.fogli[0].Leggi(0, 4), Valore(2.0));
+        EXPECT_TRUE(Vuoto(letta.fogli[0].Legge(0, colonna)));
+    EXPECT_EQ(letta.fogli[0].Legge(0, 4), Valore(2.0));
 }
 
-TEST(ScriviXls, DatesStayDates) {
+TEST(ScriveXls, DatesStayDates) {
     const prove::CartellaDiProva dir;
     CartellaDati c;
     // 45000 is 15 March 2023; spreadsheets count a 29 February 1900 as 60
@@ -132,7 +132,7 @@ TEST(ScriviXls, DatesStayDates) {
     EXPECT_EQ(riga[6].genere, GenereNumero::Ora);
 }
 
-TEST(ScriviXls, RewritingKeepsEverySheetAndCell) {
+TEST(ScriveXls, RewritingKeepsEverySheetAndCell) {
     const prove::CartellaDiProva dir;
     const auto file = dir.percorso / "SagomiUtente.xls";
     CartellaDati c;
@@ -140,27 +140,27 @@ TEST(ScriviXls, RewritingKeepsEverySheetAndCell) {
     c.fogli.push_back(FoglioDi("DoppioT Asimmetrico", {{S("designation"), S("h (mm)")}}));
     c.fogli.push_back(FoglioDi("Appunti miei", {{}, {{}, S("non toccare"), 3.25}}));
     CartellaDati letta = Rilegge(c, file);
-    letta.fogli[0].Scrivi(2, 0, S("B"));
-    letta.fogli[0].Scrivi(2, 1, 412.5);
-    c.fogli[0].Scrivi(2, 0, S("B"));
-    c.fogli[0].Scrivi(2, 1, 412.5);
+    letta.fogli[0].Scrive(2, 0, S("B"));
+    letta.fogli[0].Scrive(2, 1, 412.5);
+    c.fogli[0].Scrive(2, 0, S("B"));
+    c.fogli[0].Scrive(2, 1, 412.5);
     AspettaUguali(Rilegge(letta, file), c);
 }
 
-TEST(ScriviXls, SmallestWorkbookIsReadToo) {
+TEST(ScriveXls, SmallestWorkbookIsReadToo) {
     const prove::CartellaDiProva dir;
     CartellaDati c;
     c.fogli.push_back(FoglioDi("a", {{1.0}}));
     AspettaUguali(Rilegge(c, dir.percorso / "u.xls"), c);
-    EXPECT_GE(ComponiBiff(c).size(), 4096U);
+    EXPECT_GE(ComponeBiff(c).size(), 4096U);
 }
 
-TEST(ScriviXls, SameContentsSameBytes) {
+TEST(ScriveXls, SameContentsSameBytes) {
     const prove::CartellaDiProva dir;
     CartellaDati c;
     c.fogli.push_back(FoglioDi("a", {{S("designation")}, {S("IPE 80")}}));
-    ScriviXls(c, dir.percorso / "1.xls");
-    ScriviXls(c, dir.percorso / "2.xls");
+    ScriveXls(c, dir.percorso / "1.xls");
+    ScriveXls(c, dir.percorso / "2.xls");
     EXPECT_EQ(prove::LeggeByte(dir.percorso / "1.xls"), prove::LeggeByte(dir.percorso / "2.xls"));
     EXPECT_EQ(dir.Voci(), 2); // nothing left beside them
 }
@@ -179,7 +179,7 @@ TEST_P(RifiutaTest, TellsWhatTheFormatCannotHoldAndLeavesTheOldFile) {
     const auto file = dir.percorso / "u.xls";
     prove::ScriveByte(file, "vecchio");
     try {
-        ScriviXls(GetParam().cartella, file);
+        ScriveXls(GetParam().cartella, file);
         FAIL() << "nessun errore";
     } catch (const ErroreCatalogo& e) {
         EXPECT_THAT(e.what(), HasSubstr("u.xls"));
@@ -198,7 +198,7 @@ CartellaDati ConFogli(std::vector<S> nomi) {
 
 CartellaDati ConCella(std::size_t riga, std::size_t colonna, Valore v) {
     CartellaDati c = ConFogli({"x"});
-    c.fogli[0].Scrivi(riga, colonna, std::move(v));
+    c.fogli[0].Scrive(riga, colonna, std::move(v));
     return c;
 }
 
@@ -216,18 +216,18 @@ INSTANTIATE_TEST_SUITE_P(Limiti, RifiutaTest, testing::Values(
     [](const auto& i) { return std::string(i.param.nome); });
 // clang-format on
 
-TEST(ScriviXls, NameOf31CharactersIsFine) {
+TEST(ScriveXls, NameOf31CharactersIsFine) {
     const prove::CartellaDiProva dir;
     const CartellaDati c = ConFogli({S(29, 'a') + "\u00E8\u20AC"});
     EXPECT_EQ(Rilegge(c, dir.percorso / "u.xls").fogli[0].nome, c.fogli[0].nome);
 }
 
-TEST(ScriviXls, TellsWhyAFileCannotBeWritten) {
+TEST(ScriveXls, TellsWhyAFileCannotBeWritten) {
     const prove::CartellaDiProva dir;
     const CartellaDati c = ConFogli({"x"});
     const auto testo = [&](const std::filesystem::path& file) {
         try {
-            ScriviXls(c, file);
+            ScriveXls(c, file);
         } catch (const ErroreCatalogo& e) {
             return S(e.what());
         }
@@ -246,17 +246,17 @@ TEST(ScriviXls, TellsWhyAFileCannotBeWritten) {
     std::filesystem::permissions(dir.percorso, std::filesystem::perms::owner_all);
 }
 
-TEST(ComponiBiff, PassesItsOwnCheck) {
+TEST(ComponeBiff, PassesItsOwnCheck) {
     CartellaDati c;
     c.fogli.push_back(FoglioDi("a", {{S("designation"), S("h (mm)")}, {S("IPE 80"), 80.0}}));
-    const auto flusso = ComponiBiff(c);
+    const auto flusso = ComponeBiff(c);
     EXPECT_EQ(CartellaXls(flusso).Legge(0).Celle(), 4U);
 }
 
-TEST(ComponiBiff, ListOfSheetsPointsAtThem) {
+TEST(ComponeBiff, ListOfSheetsPointsAtThem) {
     CartellaDati c = ConFogli({"uno", "due", "tre"});
-    c.fogli[1].Scrivi(0, 0, S("designation"));
-    const auto record = prove::LeggeRecord(ComponiBiff(c));
+    c.fogli[1].Scrive(0, 0, S("designation"));
+    const auto record = prove::LeggeRecord(ComponeBiff(c));
     int voci = 0;
     for (const auto& r : record)
         if (r.E(Biff::BoundSheet)) {

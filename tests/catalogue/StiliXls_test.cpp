@@ -15,9 +15,9 @@ using S = std::string;
 
 StileXls StileDi(const char* intestazione, std::vector<Valore> numeri) {
     Foglio f{"x", {}};
-    f.Scrivi(0, 0, S(intestazione));
+    f.Scrive(0, 0, S(intestazione));
     for (std::size_t i = 0; i < numeri.size(); ++i)
-        f.Scrivi(i + 1, 0, numeri[i]);
+        f.Scrive(i + 1, 0, numeri[i]);
     return Colonne(f).at(0).numeri;
 }
 
@@ -64,9 +64,9 @@ TEST(StileCella, HeadingNumbersDatesTexts) {
     EXPECT_EQ(StileCella({1.0, GenereNumero::Ora}, false, colonna), StileXls::Ora);
 }
 
-TEST(ScriviStili, OneRecordForEachStyleInUse) {
+TEST(ScriveStili, OneRecordForEachStyleInUse) {
     FlussoBiff f;
-    ScriviStili(f);
+    ScriveStili(f);
     std::vector<prove::RecordProva> xf, font;
     for (const auto& r : prove::LeggeRecord(f.dati())) {
         if (r.E(Biff::Xf))

@@ -46,11 +46,11 @@ std::vector<std::u16string> LeggeStringhe(const std::vector<RecordProva>& record
 
 std::vector<RecordProva> Scritta(const TabellaStringhe& t) {
     FlussoBiff f;
-    t.Scrivi(f);
+    t.Scrive(f);
     return LeggeRecord(f.dati());
 }
 
-std::string Ripeti(const std::string& s, int n) {
+std::string Ripete(const std::string& s, int n) {
     std::string r;
     for (int i = 0; i < n; ++i)
         r += s;
@@ -60,7 +60,7 @@ std::string Ripeti(const std::string& s, int n) {
 TEST(TabellaStringhe, EachTextOnceNumberedByFirstUse) {
     TabellaStringhe t;
     for (const char* s : {"designation", "IPE 80", "designation", "HEA 100", "IPE 80"})
-        t.Raccogli(s);
+        t.Raccoglie(s);
     EXPECT_EQ(t.Indice("designation"), 0U);
     EXPECT_EQ(t.Indice("HEA 100"), 2U);
     EXPECT_THROW(static_cast<void>(t.Indice("HEB 100")), std::out_of_range);
@@ -77,9 +77,9 @@ TEST(TabellaStringhe, StringsCrossRecordBorders) {
     for (int i = 0; i < 400; ++i) {
         // lengths and widths that put the border everywhere: in heads, between, inside
         const std::string s = std::to_string(i) +
-                              Ripeti(i % 3 == 0 ? "\u20AC" : (i % 3 == 1 ? "\u00E8" : "x"), i * 7 % 311) +
-                              (i % 50 == 0 ? Ripeti("\U0001F529", 1500 + i) : "");
-        t.Raccogli(s);
+                              Ripete(i % 3 == 0 ? "\u20AC" : (i % 3 == 1 ? "\u00E8" : "x"), i * 7 % 311) +
+                              (i % 50 == 0 ? Ripete("\U0001F529", 1500 + i) : "");
+        t.Raccoglie(s);
         attesi.push_back(Utf16DaUtf8(s));
     }
     const auto record = Scritta(t);
@@ -96,7 +96,7 @@ TabellaStringhe ConSpazio(std::size_t libero, std::vector<std::u16string>& attes
     for (char c = 'a'; resta > 0; ++c) {
         const std::size_t n = resta > 4000 ? 3000 : resta - 3;
         attesi.push_back(Utf16DaUtf8(std::string(n, c)));
-        t.Raccogli(std::string(n, c));
+        t.Raccoglie(std::string(n, c));
         resta -= n + 3;
     }
     return t;
@@ -106,7 +106,7 @@ TEST(TabellaStringhe, HeadAndFirstCharacterStayTogether) {
     for (std::size_t libero = 0; libero < 12; ++libero) {
         std::vector<std::u16string> attesi;
         TabellaStringhe t = ConSpazio(libero, attesi);
-        t.Raccogli("\u20AC\u20AC\u20AC\u20AC");
+        t.Raccoglie("\u20AC\u20AC\u20AC\u20AC");
         attesi.emplace_back(u"\u20AC\u20AC\u20AC\u20AC");
         const auto record = Scritta(t);
         EXPECT_EQ(LeggeStringhe(record), attesi) << libero;
@@ -118,8 +118,8 @@ TEST(TabellaStringhe, HalvesOfACharacterStayTogether) {
     for (std::size_t libero = 7; libero < 30; ++libero) {
         std::vector<std::u16string> attesi;
         TabellaStringhe t = ConSpazio(libero, attesi);
-        const std::string testo = "x" + Ripeti("\U0001F529", 20);
-        t.Raccogli(testo);
+        const std::string testo = "x" + Ripete("\U0001F529", 20);
+        t.Raccoglie(testo);
         attesi.push_back(Utf16DaUtf8(testo));
         const auto record = Scritta(t);
         EXPECT_EQ(LeggeStringhe(record), attesi) << libero;
@@ -131,8 +131,8 @@ TEST(TabellaStringhe, HalvesOfACharacterStayTogether) {
 
 TEST(TabellaStringhe, LongestTextAndOneMore) {
     TabellaStringhe t;
-    EXPECT_NO_THROW(t.Raccogli(std::string(32767, 'x')));
-    EXPECT_THROW(t.Raccogli(std::string(32768, 'x')), std::length_error);
+    EXPECT_NO_THROW(t.Raccoglie(std::string(32767, 'x')));
+    EXPECT_THROW(t.Raccoglie(std::string(32768, 'x')), std::length_error);
 }
 
 TEST(TabellaStringhe, EmptyTableIsStillATable) {
@@ -146,10 +146,10 @@ TEST(TabellaStringhe, EmptyTableIsStillATable) {
 TEST(TabellaStringhe, IndexPointsAtEveryEighthString) {
     TabellaStringhe t;
     for (int i = 0; i < 900; ++i)
-        t.Raccogli("HEA " + std::to_string(100 + i) + std::string(40, 'x'));
+        t.Raccoglie("HEA " + std::to_string(100 + i) + std::string(40, 'x'));
     FlussoBiff f;
     f.Record(Biff::CodePage, Ottetti().U16(0x04B0)); // the table does not begin at 0
-    t.Scrivi(f);
+    t.Scrive(f);
     const auto record = LeggeRecord(f.dati());
     const RecordProva& indice = record.back();
     ASSERT_TRUE(indice.E(Biff::ExtSst));

@@ -26,7 +26,7 @@ TEST(Messaggi, FillsTitleAndIcon) {
 TEST(Messaggi, AnswersNoWhenNobodyListens) {
     CollegaMessaggi({});
     MessaggiRaccolti().clear();
-    EXPECT_FALSE(Chiedi("Proseguire ?"));
+    EXPECT_FALSE(Chiede("Proseguire ?"));
     EXPECT_EQ(MessaggiRaccolti(), std::vector<std::string>{"Proseguire ?"});
 }
 
@@ -35,7 +35,7 @@ TEST(Messaggi, NothingIsHeardWhileMessagesAreSilenced) {
     {
         const MessaggiTaciuti quiet;
         Avvisa("MbRd = 0");
-        EXPECT_FALSE(Chiedi("Proseguire ?"));
+        EXPECT_FALSE(Chiede("Proseguire ?"));
         const MessaggiTaciuti inner(false);
         Avvisa("MbRd = 0");
     }
@@ -46,7 +46,7 @@ TEST(Messaggi, NothingIsHeardWhileMessagesAreSilenced) {
 
 TEST(Messaggi, RecorderAnswersYes) {
     prove::Registratore r(true);
-    EXPECT_TRUE(Chiedi("Proseguire ?"));
+    EXPECT_TRUE(Chiede("Proseguire ?"));
 }
 
 } // namespace

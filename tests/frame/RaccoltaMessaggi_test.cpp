@@ -30,7 +30,7 @@ TEST(RaccoltaMessaggi, TellsEachOnceAndAtTheEnd) {
 TEST(RaccoltaMessaggi, QuestionsGoThroughAtOnce) {
     prove::Registratore r(true);
     const RaccoltaMessaggi raccolta;
-    EXPECT_TRUE(Chiedi("continuo?"));
+    EXPECT_TRUE(Chiede("continuo?"));
     EXPECT_EQ(r.testi, Testi{"continuo?"});
 }
 
@@ -66,7 +66,7 @@ TEST(RaccoltaMessaggi, WithNobodyListeningTheyAreKeptAsEver) {
         const RaccoltaMessaggi raccolta;
         Avvisa("uno");
         Avvisa("uno");
-        EXPECT_FALSE(Chiedi("continuo?"));
+        EXPECT_FALSE(Chiede("continuo?"));
     }
     EXPECT_EQ(MessaggiRaccolti(), (Testi{"continuo?", "uno"}));
     MessaggiRaccolti().clear();

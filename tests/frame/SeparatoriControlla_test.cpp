@@ -12,7 +12,7 @@ namespace {
 /// A text box in memory; one that garbles what is written into it is a system gone wrong.
 class Casella : public CasellaTesto {
 public:
-    void Nascondi() override { nascosta = true; }
+    void Nasconde() override { nascosta = true; }
     void Testo(std::string_view testo) override { contenuto = storpia ? "x" + std::string(testo) : testo; }
     [[nodiscard]] std::string Testo() const override { return contenuto; }
 

@@ -9,7 +9,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     try {
-        sagomi::CartellaXls cartella(sagomi::LeggiFlussoOle(std::span(data, size), {"Workbook", "Book"}));
+        sagomi::CartellaXls cartella(sagomi::LeggeFlussoOle(std::span(data, size), {"Workbook", "Book"}));
         for (std::size_t i = 0; i < cartella.Fogli(); ++i)
             static_cast<void>(cartella.Legge(i));
     } catch (const std::runtime_error&) { // refused

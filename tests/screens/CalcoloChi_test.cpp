@@ -11,7 +11,7 @@ using namespace sagomi::prove;
 namespace {
 
 struct CalcoloChiTest : AmbienteSchermi {
-    void Scrivi(const char* name, const char* text) {
+    void Scrive(const char* name, const char* text) {
         Trova<QLineEdit>(&calcolo, name)->setText(QString::fromStdString(Locale(text)));
     }
     CalcoloChi calcolo;
@@ -21,7 +21,7 @@ struct CalcoloChiTest : AmbienteSchermi {
 TEST_F(CalcoloChiTest, FollowsTheCurve) {
     Trova<QComboBox>(&calcolo, "ComboChi")->setCurrentText("a");
     Trova<QRadioButton>(&calcolo, "optChi_1")->setChecked(true);
-    Scrivi("txtChi_0", "1");
+    Scrive("txtChi_0", "1");
     calcolo.Calcola(235);
     EXPECT_EQ(Testo(&calcolo, "txtChi_2"), Locale("93.9"));
     EXPECT_EQ(Testo(&calcolo, "txtChi_3"), Locale("0.21"));
@@ -30,13 +30,13 @@ TEST_F(CalcoloChiTest, FollowsTheCurve) {
 }
 
 TEST_F(CalcoloChiTest, AnswersEachChangeAndCorrectsWithOneBox) {
-    Scrivi("txtChi_0", "93.9");
+    Scrive("txtChi_0", "93.9");
     EXPECT_EQ(Testo(&calcolo, "txtChi_2"), "") << "the strength is not known yet";
     calcolo.Calcola(235);
     EXPECT_EQ(Testo(&calcolo, "txtChi_2"), Locale("1.0"));
-    Scrivi("txtChi_1", "0.64");
+    Scrive("txtChi_1", "0.64");
     EXPECT_EQ(Testo(&calcolo, "txtChi_2"), Locale("0.8"));
-    Scrivi("txtChi_1", "1.2");
+    Scrive("txtChi_1", "1.2");
     EXPECT_EQ(Testo(&calcolo, "txtChi_1"), "1");
     EXPECT_EQ(registratore.testi, std::vector<std::string>{"BetaA deve essere <=1"});
 }
@@ -46,7 +46,7 @@ TEST_F(CalcoloChiTest, TurnsTheSlendernessIntoTheOtherOne) {
     calcolo.Calcola(235);
     Trova<QRadioButton>(&calcolo, "optChi_1")->click();
     EXPECT_EQ(Testo(&calcolo, "txtChi_0"), "") << "nothing is given yet";
-    Scrivi("txtChi_0", "1");
+    Scrive("txtChi_0", "1");
     Trova<QRadioButton>(&calcolo, "optChi_0")->click();
     EXPECT_EQ(Testo(&calcolo, "txtChi_0"), Locale("93.9"));
     EXPECT_EQ(Testo(&calcolo, "txtChi_2"), Locale("1.0"));

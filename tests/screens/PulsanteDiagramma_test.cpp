@@ -34,7 +34,7 @@ protected:
         ImpostaSceltaStampante({});
         AmbienteSchermi::TearDown();
     }
-    void Scegli(int choice) {
+    void Sceglie(int choice) {
         const auto menu = MenuDisegno(button, DisegnoPict(pictDistribuitoConcorde));
         Trova<QAction>(menu.get(), qPrintable(QStringLiteral("mnuImmagineItem_%1").arg(choice)))->trigger();
     }
@@ -44,7 +44,7 @@ protected:
             EXPECT_EQ(proposal, QStringLiteral("Diagramma dei momenti.") + QLatin1String(extension));
             return file;
         });
-        Scegli(choice);
+        Sceglie(choice);
         EXPECT_TRUE(registratore.testi.empty());
         return Byte(file);
     }
@@ -79,7 +79,7 @@ TEST_F(PulsanteDiagrammaTest, TheDiagramIsPrinted) {
         printer.setPageSize(QPageSize(QPageSize::A4));
         return true;
     });
-    Scegli(sceltaStampante);
+    Sceglie(sceltaStampante);
     EXPECT_TRUE(registratore.testi.empty());
     if (!ConPoppler())
         GTEST_SKIP() << "poppler-utils is not installed";
@@ -95,7 +95,7 @@ TEST_F(PulsanteDiagrammaTest, TheDiagramIsPrinted) {
 }
 
 TEST_F(PulsanteDiagrammaTest, TheDiagramIsCopiedAsPictureAndSvg) {
-    Scegli(sceltaAppunti);
+    Sceglie(sceltaAppunti);
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     ASSERT_NE(data, nullptr);
     EXPECT_TRUE(data->data(QStringLiteral("image/svg+xml")).contains(">M1</text>"));

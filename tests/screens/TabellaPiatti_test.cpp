@@ -21,7 +21,7 @@ const std::vector<Piatto> piatti = {
      "Lbl_ClasseAlaInfF", "Lbl_ClasseAlaInfC"}};
 
 struct TabellaPiattiTest : testing::Test {
-    TabellaPiattiTest() { tabella.Componi(piatti); }
+    TabellaPiattiTest() { tabella.Compone(piatti); }
     QRect Posto(const char* name) const { return Trova<QWidget>(&tabella, name)->geometry(); }
     TabellaPiatti tabella;
 };

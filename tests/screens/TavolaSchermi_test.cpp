@@ -72,13 +72,13 @@ TEST_F(TavolaSchermiTest, OneMoreScreenIsOneRowAndOneClass) {
     auto& n = NavigaSchermi::Unico();
     EXPECT_FALSE(n.Prendi<FrmConMenu>().voce->isEnabled());
     n.ScaricaTutti();
-    n.Aggiungi(RigaDi<FrmNuovo>("FrmNuovo", "mnuNuovo"));
+    n.Aggiunge(RigaDi<FrmNuovo>("FrmNuovo", "mnuNuovo"));
     auto& window = n.Prendi<FrmConMenu>();
     n.Passa(window, nullptr);
     EXPECT_TRUE(window.voce->isEnabled());
     window.voce->trigger();
     EXPECT_EQ(Aperto("FrmNuovo").origine, &window);
-    n.Togli("FrmNuovo");
+    n.Toglie("FrmNuovo");
 }
 
 } // namespace

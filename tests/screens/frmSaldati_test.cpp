@@ -160,7 +160,7 @@ TEST_F(FrmSaldatiTest, OnlyEqualFlangesArePickedForAJoint) {
 
 // The row of a welded section with equal flanges, once among those and once among those with different ones.
 TEST_F(FrmSaldatiTest, EqualFlangesGiveTheSameOnBothScreens) {
-    CartellaDati workbook = LeggiXls(PathProgramma / "Sagomi.xls");
+    CartellaDati workbook = LeggeXls(PathProgramma / "Sagomi.xls");
     Foglio* hsd = nullptr;
     const std::vector<Cella>* ise = nullptr;
     for (Foglio& f : workbook.fogli) {
@@ -171,8 +171,8 @@ TEST_F(FrmSaldatiTest, EqualFlangesGiveTheSameOnBothScreens) {
     }
     const std::size_t from[] = {0, 1, 2, 3, 3, 4, 5, 5, 6, 7, 8, 9, 9, 10, 11, 12, 13, 14, 15, 16, 17};
     for (std::size_t c = 0; c < 21; ++c)
-        hsd->Scrivi(1, c, (*ise)[from[c]].valore);
-    ScriviXls(workbook, PathProgramma / "Sagomi.xls");
+        hsd->Scrive(1, c, (*ise)[from[c]].valore);
+    ScriveXls(workbook, PathProgramma / "Sagomi.xls");
     const std::string name = std::get<std::string>((*ise)[0].valore);
     auto& one = Simmetrici();
     VaiA(one, name.c_str());

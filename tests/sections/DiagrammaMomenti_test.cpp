@@ -131,7 +131,7 @@ TEST_F(DiagrammaMomentiTest, AxialForceCanBringTheRatioOutOfItsRange) {
 TEST_F(DiagrammaMomentiTest, NegativeFirstMomentChangesItsSign) {
     double M1 = -12.5;
     double M2 = 5;
-    CorreggiM1M2(M1, M2);
+    CorreggeM1M2(M1, M2);
     EXPECT_EQ(M1, 12.5);
     EXPECT_EQ(M2, 5);
     EXPECT_EQ(registratore.testi, Testi{"M1 deve essere positivo.\nIl segno viene automaticamente cambiato"});
@@ -142,7 +142,7 @@ TEST_F(DiagrammaMomentiTest, SecondMomentAboveTheFirstBecomesZero) {
         registratore.testi.clear();
         double M1 = 10;
         double M2 = larger;
-        CorreggiM1M2(M1, M2);
+        CorreggeM1M2(M1, M2);
         EXPECT_EQ(M1, 10);
         EXPECT_EQ(M2, 0);
         EXPECT_EQ(registratore.testi,
@@ -154,7 +154,7 @@ TEST_F(DiagrammaMomentiTest, EqualMomentsOfEitherSignStay) {
     for (const double equal : {10.0, -10.0}) {
         double M1 = 10;
         double M2 = equal;
-        CorreggiM1M2(M1, M2);
+        CorreggeM1M2(M1, M2);
         EXPECT_EQ(M2, equal);
     }
     EXPECT_TRUE(registratore.testi.empty());
@@ -163,7 +163,7 @@ TEST_F(DiagrammaMomentiTest, EqualMomentsOfEitherSignStay) {
 TEST_F(DiagrammaMomentiTest, BothCorrectionsAreTold) {
     double M1 = -5;
     double M2 = 8;
-    CorreggiM1M2(M1, M2);
+    CorreggeM1M2(M1, M2);
     EXPECT_EQ(M1, 5);
     EXPECT_EQ(M2, 0);
     EXPECT_EQ(registratore.testi.size(), 2U);
@@ -171,11 +171,11 @@ TEST_F(DiagrammaMomentiTest, BothCorrectionsAreTold) {
 
 TEST_F(DiagrammaMomentiTest, NegativeSpanMomentChangesItsSign) {
     double MQ = -3;
-    CorreggiMQ(MQ);
+    CorreggeMQ(MQ);
     EXPECT_EQ(MQ, 3);
     EXPECT_EQ(registratore.testi, Testi{"MQ deve essere positivo.\nIl segno viene automaticamente cambiato"});
     MQ = 0;
-    CorreggiMQ(MQ);
+    CorreggeMQ(MQ);
     EXPECT_EQ(registratore.testi.size(), 1U);
 }
 

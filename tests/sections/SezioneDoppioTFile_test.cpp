@@ -31,7 +31,7 @@ protected:
         std::ifstream f(percorso, std::ios::binary);
         return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
     }
-    void Scrivi(const std::string& byte) const { std::ofstream(percorso, std::ios::binary) << byte; }
+    void Scrive(const std::string& byte) const { std::ofstream(percorso, std::ios::binary) << byte; }
 
     bool ConFile(std::string_view modo, const std::function<bool(std::int16_t)>& azione) {
         const std::int16_t n = ApreFile(percorso, modo);
@@ -135,7 +135,7 @@ TEST_F(SezioneFileTest, FullRecordHas65LinesInOrder) {
 }
 
 TEST_F(SezioneFileTest, FullRecordReadsBackWhatItWrote) {
-    Scrivi(recordIntero);
+    Scrive(recordIntero);
     SezioneDoppioT letta;
     EXPECT_TRUE(ConFile("L", [&](std::int16_t n) { return letta.FileSagomoInOut("L", n); }));
     EXPECT_EQ(letta.Designation, "IPE 200, S");
@@ -150,7 +150,7 @@ TEST_F(SezioneFileTest, FullRecordReadsBackWhatItWrote) {
 }
 
 TEST_F(SezioneFileTest, AShortFileStopsAtTheFirstMissingField) {
-    Scrivi(recordIntero.substr(0, recordIntero.find("82.6")));
+    Scrive(recordIntero.substr(0, recordIntero.find("82.6")));
     SezioneDoppioT letta;
     letta.LLT = 7;
     EXPECT_FALSE(ConFile("L", [&](std::int16_t n) { return letta.FileSagomoInOut("L", n); }));

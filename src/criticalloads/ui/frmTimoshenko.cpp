@@ -119,9 +119,9 @@ void frmTimoshenko::Carica() {
     IT = s->JT;
     Iw = s->Jw;
     ui_->Txt_Prof->setText(QString::fromStdString(s->Designation));
-    Riempi(ui_->TxtIz, mm4_a_cm4(Iz));
-    Riempi(ui_->TxtIT, mm4_a_cm4(IT));
-    Riempi(ui_->TxtIw, mm6_a_cm6(Iw));
+    Riempie(ui_->TxtIz, mm4_a_cm4(Iz));
+    Riempie(ui_->TxtIT, mm4_a_cm4(IT));
+    Riempie(ui_->TxtIw, mm6_a_cm6(Iw));
     ui_->Lbl_Mcr->clear(); // it was another section's
 }
 
@@ -134,7 +134,7 @@ void frmTimoshenko::Apri(Schermo& da) {
 void frmTimoshenko::AllAttivazione() {
     if (const SezioneDoppioT* s = Sezione()) {
         L = s->LLT;
-        Riempi(ui_->Txt_L, mm_a_m(L));
+        Riempie(ui_->Txt_L, mm_a_m(L));
     }
     FuocoSu(ui_->Txt_L);
 }

@@ -20,7 +20,7 @@ constexpr double passoVista = 1.25;
 
 FrmPltSezione::FrmPltSezione() : Schermo(QStringLiteral("FrmPltSezione")) {}
 
-void FrmPltSezione::Componi() {
+void FrmPltSezione::Compone() {
     if (ui_)
         return;
     ui_ = std::make_unique<Ui::FrmPltSezione>();
@@ -46,7 +46,7 @@ FrmPltSezione::~FrmPltSezione() = default;
 
 void FrmPltSezione::Mostra(Schermo& da, const QString& nomeChiamante, SorgenteDisegno sorgente) {
     auto& preview = NavigaSchermi::Unico().Prendi<FrmPltSezione>();
-    preview.Componi();
+    preview.Compone();
     preview.nomeChiamante_ = nomeChiamante;
     preview.sorgente_ = std::move(sorgente);
     preview.ui_->LblEsito->clear();
@@ -55,7 +55,7 @@ void FrmPltSezione::Mostra(Schermo& da, const QString& nomeChiamante, SorgenteDi
 }
 
 void FrmPltSezione::AllAttivazione() {
-    Componi();
+    Compone();
     Ridisegna();
 }
 

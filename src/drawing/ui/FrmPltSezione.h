@@ -33,7 +33,7 @@ public:
 
 private:
     /// Makes the controls, at the first showing: the start of the program does not wait for them.
-    void Componi();
+    void Compone();
     void Ridisegna();
     void SceltaMenu(int indice);
     void AnteprimaDiStampa();

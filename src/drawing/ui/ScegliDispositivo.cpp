@@ -29,13 +29,13 @@ namespace sagomi {
 
 namespace {
 
-bool ScegliColDialogo(QPrinter& printer, QWidget* parent) {
+bool SceglieColDialogo(QPrinter& printer, QWidget* parent) {
     QPrintDialog dialog(&printer, parent);
     return dialog.exec() == QDialog::Accepted;
 }
 
 SceltaStampante& Scelta() {
-    static SceltaStampante chosen = ScegliColDialogo;
+    static SceltaStampante chosen = SceglieColDialogo;
     return chosen;
 }
 
@@ -92,8 +92,8 @@ private:
 /// The file that the user saves to, with its extension; empty when he gives up.
 QString FileScelto(const QString& name, const QString& extension, std::string_view filter, int index,
                    QWidget* parent) {
-    QString file = ScegliFile(parent, "S", QString::fromUtf8(filter.data()), index,
-                              NomeFile(name) + QLatin1Char('.') + extension);
+    QString file = SceglieFile(parent, "S", QString::fromUtf8(filter.data()), index,
+                               NomeFile(name) + QLatin1Char('.') + extension);
     TieneCartella(file);
     if (!file.isEmpty() && QFileInfo(file).suffix().isEmpty())
         file += QLatin1Char('.') + extension;
@@ -173,7 +173,7 @@ bool DisegnaNelCad(const Disegno& drawing, const QString& maschera, QString& out
 } // namespace
 
 void ImpostaSceltaStampante(SceltaStampante scelta) {
-    Scelta() = scelta ? std::move(scelta) : ScegliColDialogo;
+    Scelta() = scelta ? std::move(scelta) : SceglieColDialogo;
 }
 
 bool StampaSu(QPrinter& stampante, const Disegno& disegno, const QString& maschera) {

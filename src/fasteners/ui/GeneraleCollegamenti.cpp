@@ -52,7 +52,7 @@ void MostraAcciaioCorrente(QLineEdit* tipo, QLineEdit* fu) {
     fu->setText(QString::fromStdString(TestoPiano(fuAcciaio[IndiceAcciaio + 1])));
 }
 
-void DisponiInAlto(QWidget* finestra) {
+void DisponeInAlto(QWidget* finestra) {
     finestra->move(sinistraTwips / twipsAPixel, altoTwips / twipsAPixel);
 }
 

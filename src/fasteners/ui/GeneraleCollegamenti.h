@@ -24,6 +24,6 @@ void PassoAcciaioCorrente(bool su);
 void MostraAcciaioCorrente(QLineEdit* tipo, QLineEdit* fu);
 
 /// Places a window where the screens of connections open.
-void DisponiInAlto(QWidget* finestra);
+void DisponeInAlto(QWidget* finestra);
 
 } // namespace sagomi

@@ -125,12 +125,12 @@ void frmBulloni::CollegaRegole() {
     const QList<QWidget*> bearing = verdetto_ + QList<QWidget*>{Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]};
     for (QLineEdit* box : Txt_FSd_)
         RegolaSegno(box, "La forza non può essere negativa", verdetto_);
-    regole_.Aggiungi({.caselle = Txt_FSd_, .risultati = verdetto_, .manca = [this] {
+    regole_.Aggiunge({.caselle = Txt_FSd_, .risultati = verdetto_, .manca = [this] {
                           return Txt_FSd_[0]->text().trimmed().isEmpty() &&
                                  Txt_FSd_[1]->text().trimmed().isEmpty();
                       }});
-    regole_.Aggiungi({.caselle = {Txt_FSd_[0]}, .motivo = [this] { return MotivoForza(0); }});
-    regole_.Aggiungi({.caselle = {Txt_FSd_[1]}, .motivo = [this] { return MotivoForza(1); }});
+    regole_.Aggiunge({.caselle = {Txt_FSd_[0]}, .motivo = [this] { return MotivoForza(0); }});
+    regole_.Aggiunge({.caselle = {Txt_FSd_[1]}, .motivo = [this] { return MotivoForza(1); }});
     RegolaSegno(Txt_Rif_[rifSpessore], "Lo spessore non può essere negativo", bearing);
     RegolaSegno(Txt_Rif_[rifForo], "Il diametro del foro non può essere negativo",
                 bearing + QList<QWidget*>{ui_->Txt_FVRd});
@@ -144,7 +144,7 @@ void frmBulloni::CollegaRegole() {
 
 /// A number that cannot be is marked and stays; what hangs on it is empty.
 void frmBulloni::RegolaSegno(QLineEdit* casella, const char* motivo, const QList<QWidget*>& risultati) {
-    regole_.Aggiungi({.caselle = {casella},
+    regole_.Aggiunge({.caselle = {casella},
                       .motivo =
                           [casella, motivo] {
                               const double value = Singolo(NumeroIn(casella));
@@ -157,7 +157,7 @@ void frmBulloni::RegolaSegno(QLineEdit* casella, const char* motivo, const QList
 
 /// A measure on its way that is none yet: what hangs on it is empty until it is one, or is put back.
 void frmBulloni::RegolaAttesa(QLineEdit* casella, const QList<QWidget*>& risultati) {
-    regole_.Aggiungi({.caselle = {casella}, .risultati = risultati, .manca = [casella] {
+    regole_.Aggiunge({.caselle = {casella}, .risultati = risultati, .manca = [casella] {
                           return !(Singolo(NumeroIn(casella)) > 0) && InDigitazione(casella);
                       }});
 }
@@ -225,7 +225,7 @@ void frmBulloni::keyPressEvent(QKeyEvent* event) {
 void frmBulloni::Carica() {
     const QScopedValueRollback loading(Caricamento, true);
     bullone_.emplace();
-    DisponiInAlto(this);
+    DisponeInAlto(this);
     ui_->Txt_Osservazioni->hide();
     for (QLineEdit* box : {Txt_Rif_[rifSpessore], Txt_FSd_[0], Txt_FSd_[1]})
         box->clear();

@@ -22,7 +22,7 @@ frmSaldature::frmSaldature() : Schermo(QStringLiteral("frmSaldature")), ui_(new 
     ui_->setupUi(this);
     PreparaContenuto();
     DimensionaIniziale({larghezzaTitolo, 0});
-    DisponiInAlto(this);
+    DisponeInAlto(this);
     Collega(ui_->UpDown2, &UpDown::passo, this, [this](bool su) {
         PassoAcciaioCorrente(su);
         MostraAcciaio();

@@ -33,7 +33,7 @@ public:
         box_->setText(QString::fromUtf8(testo.data(), static_cast<qsizetype>(testo.size())));
     }
     [[nodiscard]] std::string Testo() const override { return box_->text().toStdString(); }
-    void Nascondi() override { box_->hide(); }
+    void Nasconde() override { box_->hide(); }
 
 private:
     QLineEdit* box_;
@@ -117,7 +117,7 @@ void FiltroCampi::Conclude() {
 }
 
 void FiltroCampi::ConcludeCasella(QLineEdit* casella) {
-    if (!ChiusuraInCorso && Entrata::Di(casella)->Concludi())
+    if (!ChiusuraInCorso && Entrata::Di(casella)->Conclude())
         emit conclusa(casella);
 }
 

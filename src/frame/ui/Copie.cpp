@@ -70,7 +70,7 @@ bool QualcosaDiScelto(const QObject* object) {
 }
 
 /// Selects the text of a result but the blanks around it.
-bool ScegliNumero(QObject* object) {
+bool SceglieNumero(QObject* object) {
     auto* label = qobject_cast<QLabel*>(object);
     auto* box = qobject_cast<QLineEdit*>(object);
     const QString text = label != nullptr ? label->text() : box != nullptr ? box->text() : QString();
@@ -136,7 +136,7 @@ bool Copie::eventFilter(QObject* object, QEvent* event) {
 
 bool Copie::Filtra(QObject* object, QEvent* event) const {
     if (event->type() == QEvent::MouseButtonDblClick)
-        return object != schermo_ && ScegliNumero(object);
+        return object != schermo_ && SceglieNumero(object);
     const auto* screen = qobject_cast<const Schermo*>(schermo_);
     const bool detail = screen != nullptr && screen->origine != nullptr;
     if (!detail || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) || QualcosaDiScelto(object))

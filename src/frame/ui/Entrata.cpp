@@ -82,7 +82,7 @@ Entrata* Entrata::Di(const QLineEdit* casella) {
 // The program's own writing ends the typing by itself: the text is no longer the one that was typed.
 bool Entrata::InDigitazione() const { return digitata_ && casella_->text() == testoDigitato_; }
 
-bool Entrata::Concludi() {
+bool Entrata::Conclude() {
     const bool typed = InDigitazione();
     digitata_ = false;
     const QString text = casella_->text();

@@ -28,7 +28,7 @@ public:
 
     /// Ends the typing: a text that is no clean number becomes the number that was read. Announces nothing.
     /// @return whether there was typing to end
-    bool Concludi();
+    bool Conclude();
 
     /// Marks the box with the reason why its number cannot stand; an empty one takes the mark away.
     void Segna(const QString& motivo);

@@ -32,20 +32,20 @@ EtichettaPedice::EtichettaPedice(QWidget* parent)
 void EtichettaPedice::ImpostaPedice(const QString& testo) {
     pedice_->setText(testo);
     updateGeometry();
-    Disponi();
+    Dispone();
 }
 
 void EtichettaPedice::ImpostaApice(const QString& testo) {
     apice_->setText(testo);
     updateGeometry();
-    Disponi();
+    Dispone();
 }
 
 QSize EtichettaPedice::sizeHint() const { return Contenuto().expandedTo(QLabel::sizeHint()); }
 
 void EtichettaPedice::resizeEvent(QResizeEvent* event) {
     QLabel::resizeEvent(event);
-    EventoProtetto([this] { Disponi(); });
+    EventoProtetto([this] { Dispone(); });
 }
 
 void EtichettaPedice::changeEvent(QEvent* event) {
@@ -54,7 +54,7 @@ void EtichettaPedice::changeEvent(QEvent* event) {
         if (event->type() != QEvent::FontChange)
             return;
         AdattaCorpo();
-        Disponi();
+        Dispone();
     });
 }
 
@@ -89,7 +89,7 @@ void EtichettaPedice::AdattaCorpo() {
     apice_->setFont(small);
 }
 
-void EtichettaPedice::Disponi() {
+void EtichettaPedice::Dispone() {
     pedice_->adjustSize();
     apice_->adjustSize();
     const QFontMetrics big = fontMetrics();

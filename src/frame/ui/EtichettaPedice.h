@@ -31,7 +31,7 @@ private:
     [[nodiscard]] int InizioApice() const;
     [[nodiscard]] QSize Contenuto() const;
     void AdattaCorpo();
-    void Disponi();
+    void Dispone();
     QLabel* pedice_;
     QLabel* apice_;
 };

@@ -32,8 +32,8 @@ QStringList FiltriQt(const QString& filter) {
     return result;
 }
 
-QString ScegliColDialogo(QWidget* parent, std::string_view mode, const QString& filter, int index,
-                         const QString& proposal) {
+QString SceglieColDialogo(QWidget* parent, std::string_view mode, const QString& filter, int index,
+                          const QString& proposal) {
     QFileDialog dialog(parent);
     const bool open = mode == "L";
     dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
@@ -52,16 +52,16 @@ QString ScegliColDialogo(QWidget* parent, std::string_view mode, const QString& 
 }
 
 SceltaFile& Scelta() {
-    static SceltaFile chosen = ScegliColDialogo;
+    static SceltaFile chosen = SceglieColDialogo;
     return chosen;
 }
 
 } // namespace
 
-void ImpostaSceltaFile(SceltaFile scelta) { Scelta() = scelta ? std::move(scelta) : ScegliColDialogo; }
+void ImpostaSceltaFile(SceltaFile scelta) { Scelta() = scelta ? std::move(scelta) : SceglieColDialogo; }
 
-QString ScegliFile(QWidget* sopra, std::string_view modo, const QString& filtro, int indiceFiltro,
-                   const QString& proposto) {
+QString SceglieFile(QWidget* sopra, std::string_view modo, const QString& filtro, int indiceFiltro,
+                    const QString& proposto) {
     return Scelta()(sopra, modo, filtro, indiceFiltro, proposto);
 }
 

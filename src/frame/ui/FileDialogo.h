@@ -28,8 +28,8 @@ using SceltaFile = std::function<QString(QWidget* sopra, std::string_view modo, 
 void ImpostaSceltaFile(SceltaFile scelta);
 
 /// Asks with what is plugged in.
-QString ScegliFile(QWidget* sopra, std::string_view modo, const QString& filtro, int indiceFiltro,
-                   const QString& proposto);
+QString SceglieFile(QWidget* sopra, std::string_view modo, const QString& filtro, int indiceFiltro,
+                    const QString& proposto);
 
 /// Opens or saves a data file by the common dialog.
 /// @param descrizione  of the kind of file, for the filter

@@ -51,7 +51,7 @@ void PosaPasso(QGridLayout& grid, int row, const Passo& passo, const QStringList
 
 GrigliaDerivazione::GrigliaDerivazione(QWidget* parent) : QWidget(parent) {}
 
-void GrigliaDerivazione::Componi(const std::vector<Passo>& passi, const QStringList& assi) {
+void GrigliaDerivazione::Compone(const std::vector<Passo>& passi, const QStringList& assi) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(12);

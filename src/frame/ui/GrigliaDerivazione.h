@@ -27,7 +27,7 @@ public:
 
     /// Builds the grid; to be called once.
     /// @param assi  headings of the columns of values ("y-y", "z-z")
-    void Componi(const std::vector<Passo>& passi, const QStringList& assi);
+    void Compone(const std::vector<Passo>& passi, const QStringList& assi);
 };
 
 } // namespace sagomi

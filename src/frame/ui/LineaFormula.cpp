@@ -73,7 +73,7 @@ LineaFormula::LineaFormula(QWidget* parent) : QWidget(parent), griglia_(new QGri
     griglia_->setVerticalSpacing(2);
 }
 
-void LineaFormula::Componi(const Formula& formula) {
+void LineaFormula::Compone(const Formula& formula) {
     valoriDoppi_ = std::any_of(formula.termini.begin(), formula.termini.end(),
                                [](const Termine& t) { return !Manca(t.valoreSotto); });
     int column = 0;

@@ -51,7 +51,7 @@ public:
     explicit LineaFormula(QWidget* parent = nullptr);
 
     /// Builds the line; to be called once.
-    void Componi(const Formula& formula);
+    void Compone(const Formula& formula);
 
     /// Shows the longer numerators, or the shorter ones.
     void MostraAltro(bool altro);

@@ -22,7 +22,7 @@ inline void Mostra(QLabel* etichetta, std::string_view figura, const NumeroMostr
 }
 
 /// Refills an entry with a value of the section, in the figures that sections keep.
-inline void Riempi(QLineEdit* casella, double valore) {
+inline void Riempie(QLineEdit* casella, double valore) {
     casella->setText(QString::fromStdString(TestoPiano(Singolo(valore))));
 }
 

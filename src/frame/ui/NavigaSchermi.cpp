@@ -60,12 +60,12 @@ const VoceSchermo& NavigaSchermi::Voce(const QString& nome) const {
     return *voce;
 }
 
-void NavigaSchermi::Aggiungi(VoceSchermo voce) {
-    Togli(voce.nome);
+void NavigaSchermi::Aggiunge(VoceSchermo voce) {
+    Toglie(voce.nome);
     tavola_.append(std::move(voce));
 }
 
-void NavigaSchermi::Togli(const QString& nome) {
+void NavigaSchermi::Toglie(const QString& nome) {
     tavola_.removeIf(
         [&nome](const VoceSchermo& v) { return v.nome.compare(nome, Qt::CaseInsensitive) == 0; });
 }
@@ -155,7 +155,7 @@ void NavigaSchermi::ApertaPerUltima(Schermo& s) {
 // What was being typed elsewhere stands before another screen computes with it.
 void NavigaSchermi::Attiva(Schermo& s) {
     if (attivo_ != nullptr && attivo_ != &s)
-        attivo_->ConcludiEntrate();
+        attivo_->ConcludeEntrate();
     attivo_ = &s;
     Protetto("Errore", [&s] { s.AllAttivazione(); });
 }
@@ -163,7 +163,7 @@ void NavigaSchermi::Attiva(Schermo& s) {
 void NavigaSchermi::Passa(Schermo& a, Schermo* da) {
     const QScopedValueRollback guard(inNavigazione_, true);
     if (da != nullptr)
-        da->ConcludiEntrate();
+        da->ConcludeEntrate();
     ApertaPerUltima(a);
     Mostra(a);
     Attiva(a);
@@ -175,7 +175,7 @@ void NavigaSchermi::Passa(Schermo& a, Schermo* da) {
 
 void NavigaSchermi::Apri(Schermo& a, Schermo& da) {
     const QScopedValueRollback guard(inNavigazione_, true);
-    da.ConcludiEntrate();
+    da.ConcludeEntrate();
     Segue(a, da);
     if (!a.isVisible() && a.windowModality() == Qt::NonModal)
         Colloca(a, da);
@@ -194,7 +194,7 @@ void NavigaSchermi::ApriDialogo(Schermo& a, Schermo& da) {
 
 void NavigaSchermi::Lascia(Schermo& s) {
     const QScopedValueRollback guard(inNavigazione_, true);
-    s.ConcludiEntrate();
+    s.ConcludeEntrate();
     Schermo* back = Ritorno(s);
     RicordaPosto(s);
     s.hide();

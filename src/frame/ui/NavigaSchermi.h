@@ -31,8 +31,8 @@ public:
     }
 
     /// Adds a row to the table of screens; one of the same name is replaced.
-    void Aggiungi(VoceSchermo voce);
-    void Togli(const QString& nome);
+    void Aggiunge(VoceSchermo voce);
+    void Toglie(const QString& nome);
     [[nodiscard]] const QList<VoceSchermo>& Tavola() const { return tavola_; }
 
     /// The screen of that object name if it has been created, else nullptr.

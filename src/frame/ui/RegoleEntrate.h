@@ -23,7 +23,7 @@ struct RegolaEntrata {
 /// once its results are written, by SvuotaRisultati.
 class RegoleEntrate {
 public:
-    void Aggiungi(RegolaEntrata regola) { regole_.append(std::move(regola)); }
+    void Aggiunge(RegolaEntrata regola) { regole_.append(std::move(regola)); }
 
     /// Mends, each with its message, what is not being typed; marks what cannot be mended.
     /// @return whether all conditions are met

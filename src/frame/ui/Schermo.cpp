@@ -60,7 +60,7 @@ QList<Schermo*> Schermo::Catena() const {
     return chain;
 }
 
-void Schermo::ConcludiEntrate() {
+void Schermo::ConcludeEntrate() {
     for (FiltroCampi* entries : findChildren<FiltroCampi*>())
         entries->Conclude();
 }

@@ -36,7 +36,7 @@ public:
     }
 
     /// Ends the typing in the entry boxes: what was typed is checked and mended now.
-    void ConcludiEntrate();
+    void ConcludeEntrate();
 
     /// Size that shows the whole content, with menus and status bar.
     [[nodiscard]] QSize DimensioneContenuto() const;

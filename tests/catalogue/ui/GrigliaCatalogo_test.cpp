@@ -31,7 +31,7 @@ protected:
         griglia.show();
     }
     void Mostra(const std::vector<std::string>& families) {
-        dati.RecordSource(ComponiQuery("frmDoppioT", families, 0));
+        dati.RecordSource(ComponeQuery("frmDoppioT", families, 0));
         dati.Refresh();
         griglia.FormatoGriglia(dati.Recordset().Campi() - 1);
     }

@@ -26,7 +26,7 @@ protected:
         CopiaAccanto("Sagomi.xls");
         griglia.Collega(&dati);
         dati.DatabaseName(PathProgramma / "Sagomi.xls");
-        dati.RecordSource(ComponiQuery("frmDoppioT", {"HEA", "IPE"}, 0));
+        dati.RecordSource(ComponeQuery("frmDoppioT", {"HEA", "IPE"}, 0));
         dati.Refresh();
         griglia.FormatoGriglia(dati.Recordset().Campi() - 1);
         griglia.resize(700, 400);
@@ -202,7 +202,7 @@ TEST_F(GrigliaManiTest, ShowsWhatIsTypedAndThatNothingFits) {
 
 TEST_F(GrigliaManiTest, KeepsTheRowOfANameThroughARefresh) {
     QSignalSpy rows(&dati, &LettoreDati::rigaCambiata);
-    dati.RecordSource(ComponiQuery("frmDoppioT", {"IPE"}, 2));
+    dati.RecordSource(ComponeQuery("frmDoppioT", {"IPE"}, 2));
     dati.Refresh("IPE 300");
     EXPECT_EQ(dati.Recordset().Testo(0), "IPE 300");
     EXPECT_EQ(griglia.currentIndex().row(), InMano());

@@ -38,7 +38,7 @@ protected:
         return *Anteprima();
     }
     static AreaDisegno& Area(FrmPltSezione& p) { return *Trova<AreaDisegno>(&p, "Picture1"); }
-    static void Scegli(FrmPltSezione& p, const char* action) { Trova<QAction>(&p, action)->trigger(); }
+    static void Sceglie(FrmPltSezione& p, const char* action) { Trova<QAction>(&p, action)->trigger(); }
 
     /// A source that writes down who asked for its drawing, and on which device.
     SorgenteDisegno Sorgente(const std::string& name) {
@@ -168,7 +168,7 @@ TEST_F(FrmPltSezioneTest, AClassScreenPlotsTheCurrentSectionUnderItsOwnName) {
 TEST_F(FrmPltSezioneTest, ClosingGoesBackToTheCaller) {
     auto& s = Avvia();
     FrmPltSezione& p = Plotta(s);
-    Scegli(p, "mnuFileItem_3");
+    Sceglie(p, "mnuFileItem_3");
     EXPECT_FALSE(p.isVisible());
     EXPECT_EQ(NavigaSchermi::Unico().Attivo(), &s);
     Plotta(s);
@@ -182,16 +182,16 @@ TEST_F(FrmPltSezioneTest, ZoomIsShownAndStartsAnewAtEachShowing) {
     FrmPltSezione& p = Plotta(s);
     const auto zoom = [&p] { return Trova<QLabel>(&p, "LblZoom")->text().toStdString(); };
     EXPECT_EQ(zoom(), "100 %");
-    Scegli(p, "mnuVistaItem_1");
+    Sceglie(p, "mnuVistaItem_1");
     EXPECT_EQ(zoom(), "125 %");
-    Scegli(p, "mnuVistaItem_2");
-    Scegli(p, "mnuVistaItem_2");
+    Sceglie(p, "mnuVistaItem_2");
+    Sceglie(p, "mnuVistaItem_2");
     EXPECT_EQ(zoom(), "80 %");
     Trova<QPushButton>(&p, "CmdPlotta")->click();
     EXPECT_EQ(zoom(), "80 %") << "drawing anew keeps the view";
-    Scegli(p, "mnuVistaItem_0");
+    Sceglie(p, "mnuVistaItem_0");
     EXPECT_EQ(zoom(), "100 %");
-    Scegli(p, "mnuVistaItem_1");
+    Sceglie(p, "mnuVistaItem_1");
     Plotta(s);
     EXPECT_EQ(zoom(), "100 %");
 }
@@ -207,7 +207,7 @@ TEST_F(FrmPltSezioneTest, MenuSendsTheDrawingToAFile) {
         proposed = proposal;
         return file;
     });
-    Scegli(p, "mnuFileItem_1");
+    Sceglie(p, "mnuFileItem_1");
     EXPECT_EQ(proposed, "IPE 200.dxf");
     EXPECT_EQ(Trova<QLabel>(&p, "LblEsito")->text(), "FILE: " + file);
     const QByteArray bytes = Byte(file);
@@ -233,7 +233,7 @@ TEST_F(FrmPltSezioneTest, MenuPrints) {
         printer.setPageMargins({10, 10, 10, 10}, QPageLayout::Millimeter);
         return true;
     });
-    Scegli(p, "mnuFileItem_0");
+    Sceglie(p, "mnuFileItem_0");
     EXPECT_EQ(Trova<QLabel>(&p, "LblEsito")->text(), "STAMPANTE: " + pdf);
     if (!ConPoppler())
         GTEST_SKIP() << "poppler-utils is not installed";
@@ -256,7 +256,7 @@ TEST_F(FrmPltSezioneTest, MenuPrints) {
 
 TEST_F(FrmPltSezioneTest, MenuTriesTheCadProgram) {
     FrmPltSezione& p = Plotta(Avvia());
-    Scegli(p, "mnuFileItem_2");
+    Sceglie(p, "mnuFileItem_2");
     EXPECT_EQ(registratore.testi,
               std::vector<std::string>{
                   "Impossibile aprire Autocad.\r\nControllare che la versione di Autocad non sia LT"});
@@ -274,7 +274,7 @@ TEST_F(FrmPltSezioneTest, PrintPreviewDrawsThePage) {
         dialog->grab();
         dialog->reject();
     });
-    Scegli(p, "mnuAnteprima");
+    Sceglie(p, "mnuAnteprima");
     EXPECT_NE(std::find(dispositivi.begin(), dispositivi.end(), "STAMPANTE"), dispositivi.end());
     EXPECT_EQ(Dispositivo, "VIDEO");
     EXPECT_TRUE(registratore.testi.empty());

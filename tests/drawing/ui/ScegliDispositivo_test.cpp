@@ -59,7 +59,7 @@ protected:
             return accepted;
         });
     }
-    bool Scegli(int choice, const char* name = "IPE 200") {
+    bool Sceglie(int choice, const char* name = "IPE 200") {
         return ScegliDispositivo(choice, QString::fromUtf8(name), disegno, QStringLiteral("frmDoppioT"),
                                  nullptr, &esito);
     }
@@ -79,7 +79,7 @@ TEST_F(ScegliDispositivoTest, PrintsToTheFileOfTheDialog) {
     const QString pdf = cartella.filePath(QStringLiteral("foglio.pdf"));
     RispondeStampante(pdf);
     ColorePenna = 3;
-    EXPECT_TRUE(Scegli(sceltaStampante));
+    EXPECT_TRUE(Sceglie(sceltaStampante));
     EXPECT_EQ(lavoro, "IPE 200");
     EXPECT_EQ(dispositivi, std::vector<std::string>{"STAMPANTE"});
     EXPECT_EQ(maschere, std::vector<std::string>{"frmDoppioT"});
@@ -99,7 +99,7 @@ TEST_F(ScegliDispositivoTest, PrintsToTheFileOfTheDialog) {
 TEST_F(ScegliDispositivoTest, EveryCopyIsDrawn) {
     const QString pdf = cartella.filePath(QStringLiteral("foglio.pdf"));
     RispondeStampante(pdf, 3);
-    EXPECT_TRUE(Scegli(sceltaStampante));
+    EXPECT_TRUE(Sceglie(sceltaStampante));
     EXPECT_EQ(dispositivi.size(), 3U);
     if (!ConPoppler())
         GTEST_SKIP() << "poppler-utils is not installed";
@@ -109,7 +109,7 @@ TEST_F(ScegliDispositivoTest, EveryCopyIsDrawn) {
 
 TEST_F(ScegliDispositivoTest, GivingUpThePrinterDrawsNothing) {
     RispondeStampante(cartella.filePath(QStringLiteral("foglio.pdf")), 1, false);
-    EXPECT_FALSE(Scegli(sceltaStampante));
+    EXPECT_FALSE(Sceglie(sceltaStampante));
     EXPECT_TRUE(dispositivi.empty());
     EXPECT_TRUE(registratore.testi.empty());
     EXPECT_EQ(esito, "");
@@ -122,7 +122,7 @@ TEST_F(ScegliDispositivoTest, WithoutAPrinterTheTwoLinesAreShown) {
         printer.setOutputFileName({});
         return true;
     });
-    EXPECT_FALSE(Scegli(sceltaStampante));
+    EXPECT_FALSE(Sceglie(sceltaStampante));
     EXPECT_EQ(registratore.testi, std::vector<std::string>{"Stampante non presente o non disponibile.\r\n"
                                                            "La stampante potrebbe essere spenta."});
     EXPECT_TRUE(dispositivi.empty());
@@ -131,7 +131,7 @@ TEST_F(ScegliDispositivoTest, WithoutAPrinterTheTwoLinesAreShown) {
 
 TEST_F(ScegliDispositivoTest, APdfThatCannotBeWrittenIsTold) {
     RispondeStampante(QStringLiteral("/manca/foglio.pdf"));
-    EXPECT_FALSE(Scegli(sceltaStampante));
+    EXPECT_FALSE(Sceglie(sceltaStampante));
     EXPECT_EQ(registratore.testi,
               std::vector<std::string>{"Non è possibile scrivere il file /manca/foglio.pdf"});
 }
@@ -139,7 +139,7 @@ TEST_F(ScegliDispositivoTest, APdfThatCannotBeWrittenIsTold) {
 TEST_F(ScegliDispositivoTest, ADrawingThatFailsOnPaperIsTold) {
     RispondeStampante(cartella.filePath(QStringLiteral("foglio.pdf")));
     disegno.PlottaInOggetto = [](Superficie*, std::string_view) { throw std::runtime_error("guasto"); };
-    EXPECT_FALSE(Scegli(sceltaStampante));
+    EXPECT_FALSE(Sceglie(sceltaStampante));
     EXPECT_EQ(registratore.testi, std::vector<std::string>{"Errore n° 0 - guasto"});
     EXPECT_EQ(Dispositivo, "VIDEO");
 }
@@ -149,7 +149,7 @@ TEST_F(ScegliDispositivoTest, ADrawingThatFailsOnPaperIsTold) {
 TEST_F(ScegliDispositivoTest, ProposesTheNameAndWritesTheFile) {
     const QString file = cartella.filePath(QStringLiteral("IPE 200.dxf"));
     RispondeFile(file);
-    EXPECT_TRUE(Scegli(sceltaDxf));
+    EXPECT_TRUE(Sceglie(sceltaDxf));
     EXPECT_EQ(modo, "S");
     EXPECT_EQ(filtro, "All Files (*.*)|*.*|Files per Autocad (*.dxf)|*.dxf");
     EXPECT_EQ(indice, 2);
@@ -168,29 +168,29 @@ TEST_F(ScegliDispositivoTest, ProposesTheNameAndWritesTheFile) {
 
 TEST_F(ScegliDispositivoTest, ANameWithoutExtensionGetsOne) {
     RispondeFile(cartella.filePath(QStringLiteral("trave")));
-    EXPECT_TRUE(Scegli(sceltaDxf));
+    EXPECT_TRUE(Sceglie(sceltaDxf));
     EXPECT_TRUE(QFileInfo::exists(cartella.filePath(QStringLiteral("trave.dxf"))));
 }
 
 TEST_F(ScegliDispositivoTest, CharactersThatNoFileMayHaveAreReplaced) {
     RispondeFile({});
-    EXPECT_FALSE(Scegli(sceltaDxf, "W 44/16: \"prova\""));
+    EXPECT_FALSE(Sceglie(sceltaDxf, "W 44/16: \"prova\""));
     EXPECT_EQ(proposto, "W 44-16- -prova-.dxf");
 }
 
 TEST_F(ScegliDispositivoTest, GivingUpTheFileWritesNothing) {
     RispondeFile({});
-    EXPECT_FALSE(Scegli(sceltaDxf));
+    EXPECT_FALSE(Sceglie(sceltaDxf));
     EXPECT_TRUE(dispositivi.empty());
     EXPECT_EQ(PathLavoro, std::filesystem::current_path()) << "the folder in hand becomes the working one";
     PathLavoro = "/tmp";
-    EXPECT_FALSE(Scegli(sceltaDxf));
+    EXPECT_FALSE(Sceglie(sceltaDxf));
     EXPECT_EQ(PathLavoro, "/tmp") << "and stays it";
 }
 
 TEST_F(ScegliDispositivoTest, AFileThatCannotBeWrittenIsToldAndNothingIsLost) {
     RispondeFile(QStringLiteral("/manca/a.dxf"));
-    EXPECT_FALSE(Scegli(sceltaDxf));
+    EXPECT_FALSE(Sceglie(sceltaDxf));
     EXPECT_EQ(registratore.testi, std::vector<std::string>{"Non è possibile scrivere il file /manca/a.dxf"});
     EXPECT_TRUE(dispositivi.empty());
     EXPECT_EQ(nFileDxf, 0);
@@ -205,7 +205,7 @@ TEST_F(ScegliDispositivoTest, ADrawingThatFailsLeavesTheOldFile) {
     }
     disegno.PlottaInOggetto = [](Superficie*, std::string_view) { throw std::runtime_error("guasto"); };
     RispondeFile(file);
-    EXPECT_THROW(Scegli(sceltaDxf), std::runtime_error);
+    EXPECT_THROW(Sceglie(sceltaDxf), std::runtime_error);
     EXPECT_EQ(Byte(file), "vecchio");
     EXPECT_EQ(nFileDxf, 0);
     EXPECT_EQ(Dispositivo, "VIDEO");
@@ -220,7 +220,7 @@ TEST_F(ScegliDispositivoTest, WritesAnSvgFile) {
         dispositivi.push_back(Dispositivo);
         LineaPlt(1, 2, 3, 4);
     };
-    EXPECT_TRUE(Scegli(sceltaSvg));
+    EXPECT_TRUE(Sceglie(sceltaSvg));
     EXPECT_EQ(proposto, "IPE 200.svg");
     EXPECT_EQ(dispositivi, std::vector<std::string>{"SVG"});
     EXPECT_EQ(esito, "FILE: " + file + ".svg");
@@ -230,14 +230,14 @@ TEST_F(ScegliDispositivoTest, WritesAnSvgFile) {
 
 TEST_F(ScegliDispositivoTest, AnSvgFileThatCannotBeWrittenIsTold) {
     RispondeFile(QStringLiteral("/manca/a.svg"));
-    EXPECT_FALSE(Scegli(sceltaSvg));
+    EXPECT_FALSE(Sceglie(sceltaSvg));
     EXPECT_EQ(registratore.testi, std::vector<std::string>{"Non è possibile scrivere il file /manca/a.svg"});
 }
 
 // CAD ---------------------------------------------------------------------------------------------------
 
 TEST_F(ScegliDispositivoTest, WithoutACadProgramTheTwoLinesAreShown) {
-    EXPECT_FALSE(Scegli(sceltaCad));
+    EXPECT_FALSE(Sceglie(sceltaCad));
     EXPECT_EQ(registratore.testi,
               std::vector<std::string>{
                   "Impossibile aprire Autocad.\r\nControllare che la versione di Autocad non sia LT"});
@@ -247,7 +247,7 @@ TEST_F(ScegliDispositivoTest, WithoutACadProgramTheTwoLinesAreShown) {
 
 TEST_F(ScegliDispositivoTest, DrawsIntoTheCadProgramAndShowsAllOfIt) {
     const CadFinto cad("AutoCAD.Application.17");
-    EXPECT_TRUE(Scegli(sceltaCad));
+    EXPECT_TRUE(Sceglie(sceltaCad));
     EXPECT_EQ(dispositivi, std::vector<std::string>{"DWG"});
     EXPECT_EQ(*cad.chiamate, (std::vector<std::string>{"Visible True", "ActiveDocument", "ModelSpace",
                                                        "Attiva", "ModelSpace.AddLine (1 2 0) (3 4 0)",
@@ -259,7 +259,7 @@ TEST_F(ScegliDispositivoTest, DrawsIntoTheCadProgramAndShowsAllOfIt) {
 TEST_F(ScegliDispositivoTest, WithoutADrawingNothingHappens) {
     disegno = {};
     for (const int choice : {0, 1, 2, 3})
-        EXPECT_FALSE(Scegli(choice));
+        EXPECT_FALSE(Sceglie(choice));
     EXPECT_TRUE(registratore.testi.empty());
 }
 

@@ -212,14 +212,14 @@ protected:
     void SetUp() override {
         EntrataTest::SetUp();
         const auto negative = [this] { return NumeroIn(&prima) < 0 ? QString("negativa") : QString(); };
-        regole.Aggiungi({{&prima},
+        regole.Aggiunge({{&prima},
                          negative,
                          [this] {
                              ++corrette;
                              prima.setText(prima.text().mid(1));
                          },
                          {&uno}});
-        regole.Aggiungi({{&seconda},
+        regole.Aggiunge({{&seconda},
                          [this] { return NumeroIn(&seconda) < 0 ? QString("impossibile") : QString(); },
                          {},
                          {&due}});

@@ -17,7 +17,7 @@ const std::vector<Passo> passi = {
 
 TEST(GrigliaDerivazioneTest, EachStepHasAValueForEachAxis) {
     GrigliaDerivazione grid;
-    grid.Componi(passi, {"y-y", "z-z", "v-v"}); // angles have three
+    grid.Compone(passi, {"y-y", "z-z", "v-v"}); // angles have three
     for (const char* name : {"Lbl_Lamda_0", "Lbl_Lamda_1", "Lbl_Lamda_2", "Lbl_NbRd_2"})
         EXPECT_NO_THROW(Trova<EtichettaRisultato>(&grid, name));
     EXPECT_EQ(Trova<QLabel>(&grid, "LblAsse_2")->text(), "v-v");
@@ -26,7 +26,7 @@ TEST(GrigliaDerivazioneTest, EachStepHasAValueForEachAxis) {
 
 TEST(GrigliaDerivazioneTest, SaysWhatAValueIsWithItsAxisAndItsClause) {
     GrigliaDerivazione grid;
-    grid.Componi(passi, {"y-y", "z-z"});
+    grid.Compone(passi, {"y-y", "z-z"});
     const auto* value = Trova<QLabel>(&grid, "Lbl_Lamda_1");
     EXPECT_EQ(value->toolTip(), "Snellezza per inflessione intorno a z-z, EC3 6.3.1.3");
     EXPECT_EQ(value->accessibleName(), "lamda z-z");
@@ -37,7 +37,7 @@ TEST(GrigliaDerivazioneTest, SaysWhatAValueIsWithItsAxisAndItsClause) {
 
 TEST(GrigliaDerivazioneTest, LinesFollowOneAnotherAndColumnsStandBelowTheirAxis) {
     GrigliaDerivazione grid;
-    grid.Componi(passi, {"y-y", "z-z"});
+    grid.Compone(passi, {"y-y", "z-z"});
     grid.show();
     QCoreApplication::processEvents();
     const auto place = [&grid](const char* name) { return Trova<QLabel>(&grid, name)->geometry(); };

@@ -33,7 +33,7 @@ Formula DueTermini() {
 struct LineaFormulaTest : AmbienteFinestre {
     void SetUp() override {
         AmbienteFinestre::SetUp();
-        linea.Componi(DueTermini());
+        linea.Compone(DueTermini());
         linea.resize(linea.sizeHint());
     }
     QRect Posto(const char* name) const { return Trova<QWidget>(&linea, name)->geometry(); }
@@ -90,7 +90,7 @@ TEST_F(LineaFormulaTest, SumBringsItsVerdict) {
 
 TEST(LineaFormula, AnExponentPutsItsTermIntoBrackets) {
     LineaFormula line;
-    line.Componi({.termini = {{.sopra = {{"", "M"}},
+    line.Compone({.termini = {{.sopra = {{"", "M"}},
                                .sotto = {{"", "R"}},
                                .valoreSopra = VoceValore("a", "", ""),
                                .valoreSotto = VoceValore("b", "", ""),

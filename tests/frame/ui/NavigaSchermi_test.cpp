@@ -90,7 +90,7 @@ TEST_F(NavigaSchermiTest, MinimisingAndHidingActivateNothing) {
 
 TEST_F(NavigaSchermiTest, ScreenOpensByItsNameOnceCreated) {
     auto& n = NavigaSchermi::Unico();
-    n.Aggiungi(RigaDi<Secondo>("Secondo"));
+    n.Aggiunge(RigaDi<Secondo>("Secondo"));
     auto& a = n.Prendi<Primo>();
     n.Passa(a, nullptr);
     n.Apri("Secondo", a);
@@ -99,18 +99,18 @@ TEST_F(NavigaSchermiTest, ScreenOpensByItsNameOnceCreated) {
     EXPECT_EQ(b->origine, &a) << "a screen without an opener of its own stays in front";
     EXPECT_EQ(&n.Prendi<Secondo>("secondo"), b);
     EXPECT_THROW(n.Prendi<Terzo>("Secondo"), std::bad_cast);
-    n.Togli("Secondo");
+    n.Toglie("Secondo");
     EXPECT_THROW(n.Apri("Terzo", a), std::out_of_range);
 }
 
 TEST_F(NavigaSchermiTest, RowOfTheSameNameReplacesTheOlderOne) {
     auto& n = NavigaSchermi::Unico();
     const auto before = n.Tavola().size();
-    n.Aggiungi(RigaDi<Primo>("Secondo"));
-    n.Aggiungi(RigaDi<Secondo>("Secondo", "mnuSecondo"));
+    n.Aggiunge(RigaDi<Primo>("Secondo"));
+    n.Aggiunge(RigaDi<Secondo>("Secondo", "mnuSecondo"));
     ASSERT_EQ(n.Tavola().size(), before + 1);
     EXPECT_EQ(n.Tavola().back().menu, "mnuSecondo");
-    n.Togli("Secondo");
+    n.Toglie("Secondo");
     EXPECT_EQ(n.Tavola().size(), before);
 }
 
