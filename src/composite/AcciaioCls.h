@@ -173,6 +173,28 @@ public:
     /// Brings every result back to its start: 0 and no part.
     void AzzeraRisultati();
 
+    // Studs --------------------------------------------------------------------------------------------
+
+    /// Resistance of one stud, EC4 6.3: AreaPiolo, kRiduzione, PRd1, PRd2, PRd. A stud that does not fit is
+    /// told in MessaggioPioli, which is empty otherwise; PRd is then 0, as without a diameter or, on a deck,
+    /// without a height of ribs.
+    void CalcolaPrd();
+
+    /// Studs for full connection: nConnCalc = Vl/PRd of half the beam, nConnettori of both halves, each
+    /// rounded up; then the spacing, by Nr. More than 16 bits hold are told in MessaggioPioli, and there are
+    /// 0.
+    void CalcolaNumeroConnettori();
+
+    /// Spacing of n studs along Luce: Passo, Unita and, on a deck, nNervaturePasso. Below 2 studs there is
+    /// none.
+    /// @param coppie  2: they stand in pairs
+    void CalcolaPassoConnettori(int n, int coppie);
+
+    /// Studs for partial connection, from nConnCalc: nParziale of both halves, then the spacing, by Nr. A Msd
+    /// that the steel carries alone asks for none.
+    /// @return false, with MessaggioPioli "Msd > MplRd", where no number of studs is enough
+    bool ProgettaParzialeRipristino();
+
     [[nodiscard]] double fyd() const;     ///< design strength of the steel [N/mm2]
     [[nodiscard]] static double fcd();    ///< of the concrete, 0.85 fck / 1.5 [N/mm2]
     [[nodiscard]] static double fsd();    ///< of the bars, fsk / 1.15 [N/mm2]

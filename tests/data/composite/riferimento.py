@@ -381,5 +381,97 @@ def scrive_travi():
     (QUI / "travi.txt").write_text("\n".join(righe) + "\n")
 
 
+# --------------------------------------------------------------------------------------------------- studs
+
+PIOLI = dict(TipoSoletta=0, hc=130.0, ha=55.0, bb=60.0, bs=90.0, iNervature=200.0, b0t=80.0, fck=25.0, d=19.0,
+             h=100.0, fu=450.0, GammaV=1.25, Nr=1, Luce=8.0, Vl=1.2e6, MplRd=4e8, Ma=2e8, Msd=3e8)
+
+
+def resistenza(c):
+    """PRd1, PRd2, k, PRd and the message, or zeros."""
+    nulla = (0.0, 0.0, 0.0, 0.0)
+    d, h, ha, lamiera = c["d"], c["h"], c["ha"], c["TipoSoletta"] > 0
+    if d <= 0 or lamiera and ha <= 0:
+        return nulla, ""
+    if h > c["hc"]:
+        return nulla, "Il piolo esce dalla soletta!"
+    if h < 3 * d:
+        return nulla, f"h/d < 3 ({f32(3 * d):g} mm) EC4 #6.4.2.(1)"
+    if lamiera and h < ha:
+        return nulla, f"h deve essere maggiore di ha ({ha:g} mm)"
+    acciaio = 0.8 * c["fu"] * math.pi * (d / 2) ** 2 / c["GammaV"]
+    Ecm = f32(9.5 * 1000 * math.exp(math.log(c["fck"] + 8) / 3))
+    alfa = min(1.0, 0.2 * (h / d + 1))
+    cls = 0.29 * alfa * d ** 2 * math.sqrt(Ecm * c["fck"]) / c["GammaV"]
+    k = 1.0
+    if c["TipoSoletta"] == 1:
+        k = min((0.8 if c["Nr"] == 2 else 1.0), 0.7 * c["b0"] * (h - ha) / ha ** 2 / math.sqrt(c["Nr"]))
+    elif c["TipoSoletta"] == 2:
+        k = min(1.0, 0.6 * c["b0"] * (min(h, ha + 75) - ha) / ha ** 2)
+    return (acciaio, cls, k, k * min(acciaio, cls)), ""
+
+
+def passo(c, n):
+    """Spacing, its unit, ribs in it."""
+    if n < 2:
+        return 0.0, "", 0
+    p = f32(c["Luce"] * 1000 * c["Nr"] / (n - 1))
+    return p, "coppie_conn." if c["Nr"] == 2 else "connettori", int(p // c["iNervature"]) if c["TipoSoletta"] else 0
+
+
+def casi_pioli():
+    variazioni = [{}]
+    variazioni += [dict(d=v) for v in (10.0, 13.0, 16.0, 22.0, 25.0, 0.0)]
+    variazioni += [dict(h=v) for v in (57.0, 56.9, 65.0, 76.0, 130.0, 130.5)]
+    variazioni += [dict(fck=v) for v in (20.0, 40.0, 60.0)]
+    variazioni += [dict(fu=360.0), dict(fu=500.0, GammaV=1.5), dict(Luce=14.5), dict(Vl=3.3e5), dict(Vl=7e4)]
+    variazioni += [dict(Msd=v) for v in (2e8, 1e8, -2.5e8, 3.999e8, 4e8)]
+    for tipo in (0, 1, 2):
+        for Nr in (1, 2):
+            for v in variazioni:
+                c = dict(PIOLI, TipoSoletta=tipo, Nr=Nr) | v
+                c["nome"] = f"{'piena trasversale parallela'.split()[tipo]}_{Nr}_" + "_".join(
+                    f"{k}{x:g}" for k, x in v.items())
+                yield c
+        if tipo:
+            for v in (dict(ha=0.0), dict(ha=85.0, h=120.0), dict(ha=40.0, h=125.0), dict(ha=60.0, h=60.0, hc=140.0),
+                      dict(ha=76.0, h=75.0), dict(ha=73.5, bb=110.0, bs=61.5, iNervature=187.5, h=125.0, b0t=120.0),
+                      dict(ha=40.0, h=125.0, bb=150.0, bs=50.0, b0t=150.0), dict(ha=50.0, h=128.0, hc=140.0)):
+                for Nr in (1, 2):
+                    c = dict(PIOLI, TipoSoletta=tipo, Nr=Nr) | v
+                    c["nome"] = f"{'piena trasversale parallela'.split()[tipo]}_{Nr}_" + "_".join(
+                        f"{k}{x:g}" for k, x in v.items())
+                    yield c
+
+
+def scrive_pioli():
+    righe = ["# Written by riferimento.py. mm, N, N mm, N/mm2; Luce in m."]
+    for c in casi_pioli():
+        nome = c.pop("nome")
+        c = {k: v if isinstance(v, int) else f32(v) for k, v in c.items()}
+        i, bb, bs = c["iNervature"], c["bb"], c["bs"]
+        c["b0"] = f32([0.0, i / 2 - (bs - bb) / 2, c["b0t"] + i / 2 - bs / 2 - bb / 2][c["TipoSoletta"]])
+        (P1, P2, k, P), messaggio = resistenza(c)
+        righe.append("caso " + nome)
+        righe.append("dati " + " ".join(f"{x}={v!r}" for x, v in c.items()))
+        attesi = dict(PRd1=P1, PRd2=P2, kRiduzione=k, PRd=P)
+        if messaggio:
+            attesi["messaggio"] = messaggio.replace(" ", "_")
+        if P > 0:
+            meta = f32(c["Vl"] / P)
+            n = 2 * math.ceil(meta)
+            attesi["nConnettori"] = n
+            attesi["Passo"], attesi["Unita"], attesi["nervature"] = passo(c, n)
+            M = abs(c["Msd"])
+            parte = 0.0 if M <= c["Ma"] else (M - c["Ma"]) / (c["MplRd"] - c["Ma"])
+            parziale = 2 * math.ceil(meta * parte) if c["Nr"] == 1 else 2 * math.ceil(math.ceil(n * parte) / 2)
+            attesi["nParziale"] = parziale
+            attesi["PassoParziale"] = passo(c, parziale)[0]
+        testi = [f"{x}={v if isinstance(v, str) else repr(v)}" for x, v in attesi.items() if v != ""]
+        righe.append("attesi " + " ".join(testi))
+    (QUI / "pioli.txt").write_text("\n".join(righe) + "\n")
+
+
 if __name__ == "__main__":
     scrive_travi()
+    scrive_pioli()
