@@ -14,6 +14,7 @@
 #include "screens/PannelloFamiglie.h"
 #include "screens/PannelloRisultati.h"
 #include "screens/ValoriRiga.h"
+#include "sections/DisegnoSagoma.h"
 
 namespace sagomi {
 
@@ -85,6 +86,7 @@ QWidget* CorpoSezione::CreaDisegno() {
     picture->setObjectName(QStringLiteral("Picture1"));
     picture->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     picture->setAccessibleName(tr("Disegno della sezione"));
+    picture->Mostra(DisegnoSagoma({})); // it draws nothing yet and takes its room
     column->addWidget(picture, 1);
     return room;
 }

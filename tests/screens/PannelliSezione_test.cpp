@@ -5,7 +5,9 @@
 #include <QRadioButton>
 
 #include "catalogue/Famiglie.h"
+#include "drawing/ui/ImmagineDisegno.h"
 #include "screens/Ambiente.h"
+#include "screens/CorpoSezione.h"
 #include "screens/MenuSezione.h"
 #include "screens/PannelloDati.h"
 #include "screens/PannelloFamiglie.h"
@@ -130,6 +132,14 @@ TEST(PannelloRisultatiTest, ShowsAndEmptiesByName) {
     results.Svuota();
     EXPECT_EQ(Testo(&results, "TxtMcRd_0"), "");
     EXPECT_THROW(results.Mostra("TxtNbRd_2", {}), std::out_of_range);
+}
+
+// The window is sized before the first row is drawn.
+TEST(CorpoSezioneTest, PictureTakesItsRoomFromTheStart) {
+    const CorpoSezione body("frmDoppioT");
+    const auto* picture = Trova<ImmagineDisegno>(&body, "Picture1");
+    EXPECT_GT(picture->sizeHint().width(), 150);
+    EXPECT_EQ(Catena(body).last(), "CmdPlotta");
 }
 
 TEST(MenuSezioneTest, OffersTheOtherFamiliesAndLeavesScreensDisabled) {
