@@ -19,6 +19,8 @@ constexpr const char* motivoSnellezza = "La snellezza non può essere negativa";
 constexpr const char* motivoBetaA = "BetaA deve essere <=1";
 constexpr const char* nomeLamda = "lamda";
 constexpr const char* nomeLamdaSegnato = "lamda segnato";
+constexpr const char* simboloLamda = "λ";
+constexpr const char* simboloLamdaSegnato = "λ̄";
 
 void Scrive(QLineEdit* box, std::string_view picture, double value) {
     box->setText(QString::fromStdString(Formato(picture, value)));
@@ -85,6 +87,8 @@ void CalcoloChi::Converti(bool aRelativa) {
 void CalcoloChi::MostraSimboli(bool relativa) {
     ui_->LblChi_0->setText(QString::fromLatin1(relativa ? nomeLamdaSegnato : nomeLamda));
     ui_->LblChi_2->setText(QString::fromLatin1(relativa ? nomeLamda : nomeLamdaSegnato));
+    ui_->LblChi_0->ImpostaSimbolo(QString::fromUtf8(relativa ? simboloLamdaSegnato : simboloLamda));
+    ui_->LblChi_2->ImpostaSimbolo(QString::fromUtf8(relativa ? simboloLamda : simboloLamdaSegnato));
 }
 
 void CalcoloChi::Ricalcola() {

@@ -19,25 +19,29 @@ constexpr int cifre = 4;
 
 constexpr int alaInferiore = 2; ///< row of the lower flange
 
-Voce Misura(const char* simbolo, const char* nome, int caratteri, const char* aiuto) {
-    return {{"", simbolo}, nome, caratteri, aiuto, simbolo, Genere::valore};
+constexpr int decimali = 2; ///< of lengths and slendernesses
+
+Voce Misura(const char* simbolo, const char* letta, const char* nome, int caratteri, const char* aiuto) {
+    return {{"", simbolo}, nome, caratteri, aiuto, letta, Genere::valore, decimali};
 }
 
 const std::vector<Piatto>& Piatti() {
     static const std::vector<Piatto> plates = {
         {"Anima", "dell'anima", "lblAnima",
-         Misura("d", "Lbl_d", 8, "Altezza libera dell'anima fra i raccordi [mm]"),
-         Misura("tw", "Lbl_tw", 6, "Spessore dell'anima [mm]"),
-         Misura("d/tw/eps", "Lbl_SnellWeb", 7, "Snellezza dell'anima divisa per epsilon, EC3 tabella 5.2"),
+         Misura("d", "d", "Lbl_d", 8, "Altezza libera dell'anima fra i raccordi [mm]"),
+         Misura("t{w}", "tw", "Lbl_tw", 6, "Spessore dell'anima [mm]"),
+         Misura("d/t{w}/eps", "d/tw/eps", "Lbl_SnellWeb", 7,
+                "Snellezza dell'anima divisa per epsilon, EC3 tabella 5.2"),
          "Lbl_LimiteWeb", true, "Lbl_ClasseWebF", "Lbl_ClasseWebC"},
-        {"Ala", "dell'ala", "lblAla", Misura("c", "Lbl_c", 8, "Sporgenza dell'ala dal raccordo [mm]"),
-         Misura("tf", "Lbl_tf", 6, "Spessore dell'ala [mm]"),
-         Misura("c/tf/eps", "Lbl_SnellAla", 7, "Snellezza dell'ala divisa per epsilon, EC3 tabella 5.2"),
+        {"Ala", "dell'ala", "lblAla", Misura("c", "c", "Lbl_c", 8, "Sporgenza dell'ala dal raccordo [mm]"),
+         Misura("t{f}", "tf", "Lbl_tf", 6, "Spessore dell'ala [mm]"),
+         Misura("c/t{f}/eps", "c/tf/eps", "Lbl_SnellAla", 7,
+                "Snellezza dell'ala divisa per epsilon, EC3 tabella 5.2"),
          "Lbl_LimiteAla", true, "Lbl_ClasseAlaF", "Lbl_ClasseAlaC"},
         {"Ala inferiore", "dell'ala inferiore", "lblAlaInf",
-         Misura("c inf", "Lbl_cInf", 8, "Sporgenza dell'ala inferiore dal raccordo [mm]"),
-         Misura("tf inf", "Lbl_tfInf", 6, "Spessore dell'ala inferiore [mm]"),
-         Misura("c/tf/eps inf", "Lbl_SnellAlaInf", 7,
+         Misura("c inf", "c inf", "Lbl_cInf", 8, "Sporgenza dell'ala inferiore dal raccordo [mm]"),
+         Misura("t{f} inf", "tf inf", "Lbl_tfInf", 6, "Spessore dell'ala inferiore [mm]"),
+         Misura("c/t{f}/eps inf", "c/tf/eps inf", "Lbl_SnellAlaInf", 7,
                 "Snellezza dell'ala inferiore divisa per epsilon, EC3 tabella 5.2"),
          "Lbl_LimiteAlaInf", false, "Lbl_ClasseAlaInfF", "Lbl_ClasseAlaInfC"},
     };

@@ -4,6 +4,7 @@
 
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/Esito.h"
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
 #include "sections/DisegnoSagoma.h"
@@ -32,17 +33,6 @@ std::string Modulo(int classe, const Moduli& w) {
 }
 
 std::string Momento(double m) { return FormatoCifreEsp(cifre, Nmm_a_kNm(m)); }
-
-/// The value that governs stands out.
-void Evidenzia(QLabel* label, bool governs) {
-    QPalette colours;
-    if (governs)
-        colours.setColor(QPalette::WindowText, QColor(255, 0, 0));
-    label->setPalette(colours);
-    QFont font = label->font();
-    font.setBold(governs);
-    label->setFont(font);
-}
 
 std::string Uguale(int figures, double value) {
     return std::isfinite(value) ? "=" + FormatoCifreEsp(figures, value) : std::string();
@@ -93,8 +83,8 @@ void FrmMcRd::CalcolaDuttilita(double N, double Lstar) {
         const DuttilitaCalcolata r = sagomi::CalcolaDuttilita(section, N, Lstar);
         Mostra(ui_->Lbl_s_0, Lstar > 0 ? Uguale(cifre, r.s) : "L* ?");
         Mostra(ui_->Lbl_s_1, Uguale(cifreLimite, r.limite));
-        Evidenzia(ui_->Lbl_s_0, r.s <= r.limite);
-        Evidenzia(ui_->Lbl_s_1, r.s > r.limite);
+        MostraGoverna(ui_->Lbl_s_0, r.s <= r.limite);
+        MostraGoverna(ui_->Lbl_s_1, r.s > r.limite);
     });
 }
 

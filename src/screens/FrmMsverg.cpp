@@ -25,6 +25,8 @@ namespace {
 
 constexpr auto figura = "0.0##";
 constexpr const char* motivoLunghezza = "La lunghezza fra i vincoli non può essere negativa";
+constexpr const char* notaMcr = "Ali diverse e carico fuori dal baricentro: questo Mcr si discosta da quello "
+                                "delle norme attuali (F1 dice di quanto).";
 constexpr int cifreProdotto = 14; ///< width of a factor times a moment
 
 void Scrive(QLineEdit* box, double value) { box->setText(QString::fromStdString(TestoPiano(value))); }
@@ -210,7 +212,7 @@ void FrmMsverg::ScriveDati() {
 
 void FrmMsverg::MostraResistenza() {
     const SezioneDoppioT& s = *Sezione();
-    ui_->LblNotaMcr->setVisible(McrSiDiscosta(s));
+    ui_->consiglioMcr->Mostra(McrSiDiscosta(s) ? tr(notaMcr) : QString());
     Mostra(ui_->Lbl_McRd, figura, Nmm_a_kNm(s.McyRd));
     if (s.LLT > 0)
         Mostra(ui_->Lbl_Mcr, figura, Nmm_a_kNm(s.Mcr));

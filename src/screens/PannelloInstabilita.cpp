@@ -16,25 +16,25 @@ constexpr int stacco = 12; ///< between one value and the next caption [px]
 
 const std::vector<Voce>& Comuni() {
     static const std::vector<Voce> values = {
-        {{"LblEps", "epsilon"},
+        {{"LblEps", "epsilon", "", "ε"},
          "Lbl_eps",
          5,
          "Radice di 235 / fy, EC3 tabella 5.2",
          "epsilon",
          Genere::valore},
-        {{"LblLamda1", "lamda1"},
+        {{"LblLamda1", "lamda1", "", "λ{1}"},
          "Lbl_Lamda1",
          6,
          "Snellezza di confronto 93,9 epsilon, EC3 6.3.1.3",
          "lamda1",
          Genere::valore},
-        {{"LblBetaA", "betaA"},
+        {{"LblBetaA", "betaA", "", "β{A}"},
          "Lbl_betaA",
          6,
          "Area efficace su area lorda: 1 fino alla classe 3, EC3 6.3.1.2",
          "betaA",
          Genere::valore},
-        {{"LblGammaM1", "gammaM1"},
+        {{"LblGammaM1", "gammaM1", "", "γ{M1}"},
          "lblGM1",
          5,
          "Coefficiente parziale per l'instabilità, EC3 6.1",
@@ -46,11 +46,11 @@ const std::vector<Voce>& Comuni() {
 /// EC3 6.3.1, from the slenderness to the resistance.
 const std::vector<Passo>& Derivazione() {
     static const std::vector<Passo> passi = {
-        {{"", "lamda"}, "Lamda", "lamda", "λ = L0 / i", "Snellezza", "EC3 6.3.1.3"},
+        {{"", "lamda"}, "Lamda", "lamda", "λ = L{0} / i", "Snellezza", "EC3 6.3.1.3"},
         {{"", "lamda segnato"},
          "LamdaS",
          "lamda segnato",
-         "λ̄ = λ / λ1 · √βA",
+         "λ̄ = λ / λ{1} · √β{A}",
          "Snellezza relativa",
          "EC3 6.3.1.3"},
         {{"", "curva"}, "Curva", "curva", "", "Curva d'instabilità", "EC3 tabella 6.2"},
@@ -71,7 +71,7 @@ const std::vector<Passo>& Derivazione() {
         {{"", "N        [kN]", "b,Rd"},
          "NbRd",
          "NbRd",
-         "χ βA A fy / γM1",
+         "χ β{A} A f{y} / γ{M1}",
          "Resistenza di progetto all'instabilità",
          "EC3 6.3.1.1"},
     };

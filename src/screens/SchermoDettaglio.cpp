@@ -15,6 +15,7 @@
 #include "frame/ui/UpDown.h"
 #include "screens/AggiornaVisibili.h"
 #include "screens/SchermoSezione.h"
+#include "screens/TestaDettaglio.h"
 #include "sections/SezioneCorrente.h"
 
 namespace sagomi {
@@ -167,6 +168,8 @@ void SchermoDettaglio::CopiaIntestazione() {
     copy("Txt_Prof", chiamante_->TxtProf[0]->text());
     copy("Txt_TipoAcciaio", chiamante_->ComboTipoAcciaio->currentText());
     copy("Txt_fy", chiamante_->Txt_fy->text());
+    if (auto* head = findChild<TestaDettaglio*>())
+        head->MostraNormativa();
 }
 
 void SchermoDettaglio::PassoDiRiga(bool su) {

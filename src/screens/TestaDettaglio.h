@@ -14,7 +14,8 @@ class Casella;
 class UpDown;
 
 /// Head of a detail screen: section, steel and fy of the caller, with the buttons that step its row and its
-/// steel. The name and the steel are read only; fy can be typed where the screen says so.
+/// steel, then the code of rules in force with its factors. The name and the steel are read only; fy can be
+/// typed where the screen says so.
 class TestaDettaglio : public QGroupBox {
     Q_OBJECT
     Q_PROPERTY(bool fyModificabile READ FyModificabile WRITE ImpostaFyModificabile)
@@ -24,6 +25,9 @@ public:
 
     [[nodiscard]] bool FyModificabile() const;
     void ImpostaFyModificabile(bool modificabile);
+
+    /// Shows the code of rules in force and its partial factors.
+    void MostraNormativa();
 
     Casella* Txt_Prof;        ///< designation
     UpDown* UpDown1;          ///< steps the row

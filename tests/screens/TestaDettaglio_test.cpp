@@ -30,6 +30,24 @@ TEST(TestaDettaglioTest, ShowsOnlyUnlessTheStrengthCanBeTyped) {
     EXPECT_TRUE(head.Txt_Prof->isReadOnly());
 }
 
+// NTC: both 1.05.
+TEST(TestaDettaglioTest, ShowsTheCodeOfRulesAndItsFactors) {
+    RipristinaGenerale();
+    TestaDettaglio head;
+    EXPECT_EQ(Trova<QLabel>(&head, "Lbl_Normativa")->text(), "NTC");
+    EXPECT_EQ(Trova<QLabel>(&head, "Lbl_GammaM0")->text().toStdString(), Locale("1.05"));
+    EXPECT_EQ(Trova<QLabel>(&head, "Lbl_GammaM1")->text().toStdString(), Locale("1.05"));
+    Normativa = normativaAltro;
+    GammaM0Altro = 1.2;
+    GammaM1Altro = 1.3;
+    ImpostaGamma();
+    head.MostraNormativa();
+    EXPECT_EQ(Trova<QLabel>(&head, "Lbl_Normativa")->text(), "Altro");
+    EXPECT_EQ(Trova<QLabel>(&head, "Lbl_GammaM0")->text().toStdString(), Locale("1.2"));
+    EXPECT_EQ(Trova<QLabel>(&head, "Lbl_GammaM1")->text().toStdString(), Locale("1.3"));
+    RipristinaGenerale();
+}
+
 TEST(TestaDettaglioTest, EveryControlHasANameOfItsOwnAndATip) {
     const TestaDettaglio head;
     QStringList names;

@@ -148,6 +148,11 @@ void DistingueFormule(const QWidget& maschera) {
             w->setAccessibleName(w->accessibleName() + QObject::tr(", nella formula"));
 }
 
+AscoltoAnnunci& Ascolto() {
+    static AscoltoAnnunci listener;
+    return listener;
+}
+
 } // namespace
 
 void InstallaAccessibilita() { QAccessible::installFactory(Crea); }
@@ -162,6 +167,19 @@ void NominaParti(QWidget& maschera) {
             table->horizontalHeader()->setAccessibleName(QObject::tr("Intestazioni, ") + name);
     }
     DistingueFormule(maschera);
+}
+
+void ImpostaAscolto(AscoltoAnnunci ascolto) { Ascolto() = std::move(ascolto); }
+
+void Annuncia(QWidget& widget, const QString& testo) {
+    if (Ascolto()) {
+        Ascolto()(widget, testo);
+        return;
+    }
+    QAccessibleValueChangeEvent value(&widget, testo);
+    QAccessible::updateAccessibility(&value);
+    QAccessibleEvent alert(&widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 } // namespace sagomi

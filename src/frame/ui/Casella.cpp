@@ -4,21 +4,15 @@
 #include <QEvent>
 #include <QScopedValueRollback>
 
+#include "frame/ui/Colori.h"
 #include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
 namespace {
 
-constexpr int margine = 14; ///< between text and edges, both sides together [px]
-
-/// A colour over another, so far as to be seen in light and dark palettes and to leave the text readable.
-QColor Velo(const QColor& ground, const QColor& tint) {
-    constexpr float parte = 0.3F;
-    const auto mix = [](float a, float b) { return a + (b - a) * parte; };
-    return QColor::fromRgbF(mix(ground.redF(), tint.redF()), mix(ground.greenF(), tint.greenF()),
-                            mix(ground.blueF(), tint.blueF()));
-}
+constexpr int margine = 14;  ///< between text and edges, both sides together [px]
+constexpr float velo = 0.3F; ///< of the tints: seen in light and dark palettes, the text stays readable
 
 } // namespace
 
@@ -91,7 +85,7 @@ void Casella::Colora() {
         colours.setBrush(QPalette::Base, QApplication::palette().brush(QPalette::Window));
     else if (segno_ != Nessuno)
         colours.setColor(QPalette::Base,
-                         Velo(ground, segno_ == Riletta ? QColor(255, 176, 0) : QColor(255, 64, 48)));
+                         Velo(ground, segno_ == Riletta ? QColor(255, 176, 0) : QColor(255, 64, 48), velo));
     setPalette(colours);
 }
 

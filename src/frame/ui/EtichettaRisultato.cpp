@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "frame/Numeri.h"
 #include "frame/ui/Accessibilita.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -28,10 +30,39 @@ void EtichettaRisultato::ImpostaCaratteri(int n) {
     updateGeometry();
 }
 
+void EtichettaRisultato::ImpostaDecimali(int n) {
+    decimali_ = n;
+    updateGeometry();
+    update();
+}
+
+/// Room of the places that the number does not have. What is no number stands at the edge.
+int EtichettaRisultato::Rientro() const {
+    const QString shown = text().trimmed();
+    if (decimali_ < 0 || shown.isEmpty() || !shown.back().isDigit())
+        return 0;
+    const QChar separator(static_cast<ushort>(CarDecimale));
+    const auto at = shown.lastIndexOf(separator);
+    const auto places = at < 0 ? 0 : shown.size() - at - 1;
+    const int missing = std::max(0, decimali_ - static_cast<int>(places));
+    return missing * fontMetrics().horizontalAdvance(u'0') +
+           (at < 0 && decimali_ > 0 ? fontMetrics().horizontalAdvance(separator) : 0);
+}
+
+// The text of a label changes without a word to it: the indent follows when it is painted.
+void EtichettaRisultato::paintEvent(QPaintEvent* event) {
+    DipintoProtetto(this, [this] {
+        if (indent() != Rientro())
+            setIndent(Rientro());
+    });
+    EtichettaSimbolo::paintEvent(event);
+}
+
 QSize EtichettaRisultato::sizeHint() const {
     const int border = 2 * (margine + frameWidth());
     const int figures = fontMetrics().horizontalAdvance(u'0') * caratteri_ + border;
-    return {std::max(EtichettaSimbolo::sizeHint().width(), figures), fontMetrics().height() + border};
+    const int content = EtichettaSimbolo::sizeHint().width() - std::max(indent(), 0) + Rientro();
+    return {std::max(content, figures), fontMetrics().height() + border};
 }
 
 } // namespace sagomi

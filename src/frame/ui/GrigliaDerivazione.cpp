@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "frame/ui/EtichettaFormula.h"
 #include "frame/ui/EtichettaRisultato.h"
 
 namespace sagomi {
@@ -13,11 +14,12 @@ constexpr int colonnaNome = 0;
 constexpr int colonnaFormula = 1;
 constexpr int colonnaValori = 2;
 constexpr int cifreValore = 9;
+constexpr int decimaliValore = 4;
 
 const Qt::Alignment sinistra = Qt::AlignLeft | Qt::AlignVCenter;
 
 EtichettaRisultato* CreaValoreAsse(const Passo& passo, const QString& asse, qsizetype i) {
-    EtichettaRisultato* value = CreaValore({.caratteri = cifreValore});
+    EtichettaRisultato* value = CreaValore({.caratteri = cifreValore, .decimali = decimaliValore});
     const QString root = QString::fromUtf8(passo.radice);
     value->setObjectName(QStringLiteral("Lbl_") + root + u'_' + QString::number(i));
     value->setToolTip(QString::fromUtf8(passo.aiuto) + QStringLiteral(" per inflessione intorno a ") + asse +
@@ -26,9 +28,16 @@ EtichettaRisultato* CreaValoreAsse(const Passo& passo, const QString& asse, qsiz
     return value;
 }
 
-QLabel* CreaTesto(const char* prefix, const Passo& passo, const char* testo) {
-    QLabel* label = CreaDicitura({"", testo}, sinistra);
-    label->setObjectName(QString::fromLatin1(prefix) + QString::fromUtf8(passo.radice));
+QLabel* CreaFormula(const Passo& passo) {
+    auto* label = new EtichettaFormula;
+    label->setObjectName(QStringLiteral("LblFormula") + QString::fromUtf8(passo.radice));
+    label->ImpostaFormula(QString::fromUtf8(passo.formula));
+    return label;
+}
+
+QLabel* CreaNorma(const Passo& passo) {
+    QLabel* label = CreaDicitura({"", passo.norma}, sinistra);
+    label->setObjectName(QStringLiteral("LblNorma") + QString::fromUtf8(passo.radice));
     return label;
 }
 
@@ -36,7 +45,7 @@ void PosaPasso(QGridLayout& grid, int row, const Passo& passo, const QStringList
     QLabel* name = CreaDicitura(passo.nome, sinistra);
     name->setObjectName(QStringLiteral("LblNome") + QString::fromUtf8(passo.radice));
     grid.addWidget(name, row, colonnaNome);
-    grid.addWidget(CreaTesto("LblFormula", passo, passo.formula), row, colonnaFormula);
+    grid.addWidget(CreaFormula(passo), row, colonnaFormula);
     int column = colonnaValori;
     for (qsizetype i = 0; i < assi.size(); ++i) {
         EtichettaRisultato* value = CreaValoreAsse(passo, assi[i], i);
@@ -44,7 +53,7 @@ void PosaPasso(QGridLayout& grid, int row, const Passo& passo, const QStringList
             name->setBuddy(value);
         grid.addWidget(value, row, column++);
     }
-    grid.addWidget(CreaTesto("LblNorma", passo, passo.norma), row, column);
+    grid.addWidget(CreaNorma(passo), row, column);
 }
 
 } // namespace

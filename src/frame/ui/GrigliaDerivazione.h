@@ -11,11 +11,11 @@ namespace sagomi {
 
 /// A step of a derivation: a quantity, how it comes about, its clause. Texts are UTF-8.
 struct Passo {
-    Dicitura nome;           ///< quantity; its object name is "LblNome" + radice
-    const char* radice = ""; ///< of the object names: the value about axis i is "Lbl_" + radice + "_i"
-    const char* letta = "";  ///< accessible name, which the axis follows
-    const char* formula = "";
-    const char* aiuto = ""; ///< tool-tip, which the axis and the clause follow
+    Dicitura nome;            ///< quantity; its object name is "LblNome" + radice
+    const char* radice = "";  ///< of the object names: the value about axis i is "Lbl_" + radice + "_i"
+    const char* letta = "";   ///< accessible name, which the axis follows
+    const char* formula = ""; ///< subscripts in braces ("χ β{A} A f{y} / γ{M1}")
+    const char* aiuto = "";   ///< tool-tip, which the axis and the clause follow
     const char* norma = "";
 };
 

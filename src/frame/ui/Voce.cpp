@@ -3,6 +3,7 @@
 #include <QGridLayout>
 
 #include "frame/ui/Casella.h"
+#include "frame/ui/EtichettaFormula.h"
 #include "frame/ui/EtichettaPedice.h"
 #include "frame/ui/EtichettaRisultato.h"
 
@@ -24,10 +25,21 @@ Casella* CreaCasella(const Voce& voce) {
     return box;
 }
 
+QLabel* CreaFormula(const Dicitura& scritta, Qt::Alignment alignment) {
+    auto* label = new EtichettaFormula;
+    label->setObjectName(QString::fromUtf8(scritta.nome));
+    label->ImpostaFormula(QString::fromUtf8(scritta.testo));
+    label->ImpostaSimbolo(QString::fromUtf8(scritta.simbolo));
+    label->setAlignment(alignment);
+    return label;
+}
+
 } // namespace
 
 QLabel* CreaDicitura(const Dicitura& scritta, Qt::Alignment allineamento) {
     const QString subscript = QString::fromUtf8(scritta.pedice);
+    if (*scritta.simbolo != '\0' || QByteArrayView(scritta.testo).contains('{'))
+        return CreaFormula(scritta, allineamento);
     auto* label = subscript.isEmpty() ? new QLabel : new EtichettaPedice;
     label->setObjectName(QString::fromUtf8(scritta.nome));
     label->setTextFormat(Qt::PlainText);
@@ -48,6 +60,7 @@ EtichettaRisultato* CreaValore(const Voce& voce) {
     auto* label = new EtichettaRisultato;
     Nomina(label, voce);
     label->ImpostaCaratteri(voce.caratteri);
+    label->ImpostaDecimali(voce.decimali);
     return label;
 }
 

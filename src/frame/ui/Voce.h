@@ -11,11 +11,13 @@ namespace sagomi {
 class Casella;
 class EtichettaRisultato;
 
-/// A caption, in UTF-8: a text whose gap of blanks, or whose end, takes a subscript.
+/// A caption, in UTF-8: a text whose gap of blanks, or whose end, takes a subscript, or a word with its
+/// symbol.
 struct Dicitura {
-    const char* nome = ""; ///< object name
-    const char* testo = "";
+    const char* nome = "";  ///< object name
+    const char* testo = ""; ///< also markup of EtichettaFormula ("t{w} [mm]")
     const char* pedice = "";
+    const char* simbolo = ""; ///< behind the word, subscripts in braces ("γ{M1}")
 };
 
 /// What a field of a panel is.
@@ -33,9 +35,11 @@ struct Voce {
     const char* aiuto = "";  ///< tool-tip: what the quantity is, with its clause
     const char* letta = "";  ///< accessible name, with the unit
     Genere genere = Genere::entrata;
+    int decimali = -1; ///< of a value in a column: places kept behind the decimal separator; -1 none
 };
 
-/// A label of plain text; of the class EtichettaPedice where there is a subscript.
+/// A label of plain text; of the class EtichettaPedice where there is a subscript, EtichettaFormula where
+/// there is a symbol.
 QLabel* CreaDicitura(const Dicitura& scritta, Qt::Alignment allineamento = Qt::AlignLeft | Qt::AlignVCenter);
 
 /// Puts a caption into a cell. A subscript behind a text without a gap stays beside its text.
