@@ -36,31 +36,55 @@ struct Contorno {
 bool NelFilo(const Poligono& p, int i, double filo) { return std::abs(p.xi(i) - filo) < mezzoFilo; }
 
 /// The parts that an effective outline shows: where a strip of the web is removed, the thread is left out and
-/// two parts remain, each closed.
-/// @param filo  abscissa of the thread [mm]
-std::vector<Contorno> PartiVisibili(const Poligono& p, double filo) {
+/// two parts remain, each closed. A thread in the middle of a web goes with its ends; one along the back of a
+/// web ends at corners, which stay.
+/// @param e  its thread and its place
+std::vector<Contorno> PartiVisibili(const Poligono& p, const ContornoEfficace& e) {
     const int n = p.nVertici();
     std::vector<int> fili; // sides along the thread
     for (int i = 1; i <= n; ++i)
-        if (NelFilo(p, i, filo) && NelFilo(p, i % n + 1, filo) && p.yi(i) != p.yi(i % n + 1))
+        if (NelFilo(p, i, e.filo) && NelFilo(p, i % n + 1, e.filo) && p.yi(i) != p.yi(i % n + 1))
             fili.push_back(i);
     const bool diviso = fili.size() == 2;
+    const bool inMezzo = diviso && p.yi(fili[0]) == p.yi(fili[1] % n + 1);
     std::vector<Contorno> parti(diviso ? 2 : 1);
     for (int i = 1; i <= n; ++i) {
-        if (diviso && NelFilo(p, i, filo))
+        if (inMezzo && NelFilo(p, i, e.filo))
             continue;
         Contorno& parte = parti[diviso && i > fili[0] && i <= fili[1] ? 1 : 0];
-        parte.x.push_back(p.xi(i));
+        parte.x.push_back(p.xi(i) + e.dx);
         parte.y.push_back(p.yi(i));
     }
     return parti;
+}
+
+double Specchiata(double v, const Gemello& g) { return -(v + g.distanza); }
+
+Contorno Specchiato(Contorno c, const Gemello& g) {
+    for (double& v : g.sottoSopra ? c.y : c.x)
+        v = Specchiata(v, g);
+    return c;
+}
+
+/// The box of what is drawn.
+PezzoQuotato::Riquadro RiquadroDi(const PezzoQuotato& pezzo) {
+    auto riquadro = pezzo.contorno->Poligono->BoundingBox();
+    if (!pezzo.gemello)
+        return riquadro;
+    double& minimo = riquadro[pezzo.gemello->sottoSopra ? 2 : 0];
+    double& massimo = riquadro[pezzo.gemello->sottoSopra ? 3 : 1];
+    const std::array<double, 4> estremi{minimo, massimo, Specchiata(minimo, *pezzo.gemello),
+                                        Specchiata(massimo, *pezzo.gemello)};
+    minimo = *std::min_element(estremi.begin(), estremi.end());
+    massimo = *std::max_element(estremi.begin(), estremi.end());
+    return riquadro;
 }
 
 /// One drawing of one section.
 class DisegnoQuotato {
 public:
     DisegnoQuotato(const PezzoQuotato& pezzo, Superficie* oggetto, std::string_view dispositivo)
-        : pezzo_(pezzo), riquadro_(pezzo.contorno->Poligono->BoundingBox()), righe_(Righe()),
+        : pezzo_(pezzo), riquadro_(RiquadroDi(pezzo)), righe_(Righe()),
           margini_(Disposizioni(oggetto, dispositivo)), tavola_(oggetto, dispositivo, riquadro_, margini_),
           a_(tavola_.AltezzaTesto()), quote_(a_) {}
 
@@ -100,18 +124,35 @@ private:
         return pezzo_.efficace.sezione != nullptr ? *pezzo_.efficace.sezione : *pezzo_.contorno;
     }
 
+    [[nodiscard]] std::vector<Contorno> Parti() const {
+        std::vector<Contorno> parti = PartiVisibili(*Disegnata().Poligono, pezzo_.efficace);
+        if (!pezzo_.gemello)
+            return parti;
+        for (std::size_t i = 0, n = parti.size(); i < n; ++i)
+            parti.push_back(Specchiato(parti[i], *pezzo_.gemello));
+        return parti;
+    }
+
+    void ContornoIntero() const {
+        PennaPlt(pennaGrigia);
+        LineaStilePlt(spessoreFine, TipoLinea::Tratteggiata);
+        pezzo_.contorno->Poligono->Plotta();
+        if (!pezzo_.gemello)
+            return;
+        Poligono altro = pezzo_.contorno->Poligono->Copia();
+        altro.SpecchiaXY(pezzo_.gemello->distanza, pezzo_.gemello->sottoSopra);
+        altro.Plotta();
+    }
+
     void Sagoma() const {
-        const std::vector<Contorno> parti = PartiVisibili(*Disegnata().Poligono, pezzo_.efficace.filo);
+        const std::vector<Contorno> parti = Parti();
         const double passo =
             std::max(riquadro_[1] - riquadro_[0], riquadro_[3] - riquadro_[2]) / lineePerDimensione;
         LineaStilePlt(spessoreFine);
         for (const Contorno& parte : parti)
             TratteggioPlt(parte.Numero(), parte.x, parte.y, angoloTratteggio, -passo, pennaGrigia);
-        if (pezzo_.efficace.sezione != nullptr) {
-            PennaPlt(pennaGrigia);
-            LineaStilePlt(spessoreFine, TipoLinea::Tratteggiata);
-            pezzo_.contorno->Poligono->Plotta();
-        }
+        if (pezzo_.efficace.sezione != nullptr)
+            ContornoIntero();
         PennaPlt(pennaInchiostro);
         LineaStilePlt(spessoreContorno);
         for (const Contorno& parte : parti)
@@ -120,8 +161,10 @@ private:
 
     void Assi() const {
         const auto [xMin, xMax, yMin, yMax] = riquadro_;
-        const double xG = Disegnata().xG;
-        const double yG = Disegnata().yG;
+        double xG = Disegnata().xG + pezzo_.efficace.dx;
+        double yG = Disegnata().yG;
+        if (pezzo_.gemello)
+            (pezzo_.gemello->sottoSopra ? yG : xG) = -pezzo_.gemello->distanza / 2;
         const double oltre = sporgenzaAsse * a_;
         quote_.Asse(xMin - oltre, yG, xMax + oltre, yG, "y");
         quote_.Asse(xG, yMax + oltre, xG, yMin - oltre, "z");

@@ -2,11 +2,13 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "frame/Singolo.h"
+#include "sections/Gemello.h"
 #include "sections/SezioneGenerica.h"
 
 namespace sagomi {
@@ -28,15 +30,17 @@ struct ContornoEfficace {
     const SezioneGenerica* sezione = nullptr;
     std::string_view nome;
     double filo = 0; ///< abscissa of the thread that holds the strips of its web together [mm]
+    double dx = 0;   ///< brings its abscissas to those of the whole outline [mm]
 };
 
 /// What a drawing shows. The outlines live at least as long as the drawing takes.
 struct PezzoQuotato {
-    /// xMin, xMax, yMin, yMax of the whole outline [mm].
+    /// xMin, xMax, yMin, yMax of the whole outline, of a pair of both [mm].
     using Riquadro = std::array<double, 4>;
 
     std::string nome;                          ///< the larger first line
     const SezioneGenerica* contorno = nullptr; ///< the whole section
+    std::optional<Gemello> gemello;            ///< of a pair, which is drawn with the axes of the two
     ContornoEfficace efficace;         ///< drawn inside the thin line of the whole one, where there is one
     std::vector<std::string> righe;    ///< under the name
     double sopra = quotaEsterna + 0.5; ///< room above the piece [heights of the text]

@@ -1,10 +1,14 @@
 #include "sections/DisegnoSagoma.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "drawing/Quadro.h"
+#include "sections/DisegnoQuotato.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneGenerica.h"
+#include "sections/SezioneSagomoL.h"
+#include "sections/SezioneSagomoU.h"
 
 namespace sagomi {
 
@@ -17,29 +21,40 @@ using Punto = PuntoQuadro;
 class Tavola {
 public:
     Tavola(const Quadro& quadro, const SagomaDisegnata& s) : q_(quadro), s_(s), testo_(quadro.Riga()) {
-        const auto [xMin, xMax] = std::minmax_element(s.x.begin(), s.x.end());
-        const auto [yMin, yMax] = std::minmax_element(s.y.begin(), s.y.end());
+        const auto [xMin, xMax] = Estensione(s.x, s.xAltra);
+        const auto [yMin, yMax] = Estensione(s.y, s.yAltra);
         const CampoQuadro campo = q_.Tutto().Dentro(testo_ * 1.2, testo_ * 1.1, testo_ * 1.9, testo_ * 1.9);
-        scala_ = std::min(campo.larghezza / (*xMax - *xMin), campo.altezza / (*yMax - *yMin));
-        origine_ = campo.Centro() + Punto{-(*xMin + *xMax) / 2, (*yMin + *yMax) / 2} * scala_;
+        scala_ = std::min(campo.larghezza / (xMax - xMin), campo.altezza / (yMax - yMin));
+        origine_ = campo.Centro() + Punto{-(xMin + xMax) / 2, (yMin + yMax) / 2} * scala_;
         q_.VeraGrandezza(scala_);
     }
 
     void Traccia() const {
-        Contorno();
+        Contorno(s_.x, s_.y);
+        Contorno(s_.xAltra, s_.yAltra);
         Assi();
         QuotaAltezza("h");
         QuotaLarghezza("b");
-        Nomi();
+        for (const NomeSagoma& nome : s_.nomi)
+            Scrivi(nome);
     }
 
 private:
+    static std::pair<double, double> Estensione(const std::vector<double>& a, const std::vector<double>& b) {
+        std::vector<double> tutte = a;
+        tutte.insert(tutte.end(), b.begin(), b.end());
+        const auto [minimo, massimo] = std::minmax_element(tutte.begin(), tutte.end());
+        return {*minimo, *massimo};
+    }
+
     [[nodiscard]] Punto In(double x, double y) const { return origine_ + Punto{x, -y} * scala_; }
 
-    void Contorno() const {
+    void Contorno(const std::vector<double>& x, const std::vector<double>& y) const {
         std::vector<Punto> contorno;
-        for (std::size_t i = 0; i < s_.x.size(); ++i)
-            contorno.push_back(In(s_.x[i], s_.y[i]));
+        for (std::size_t i = 0; i < x.size(); ++i)
+            contorno.push_back(In(x[i], y[i]));
+        if (contorno.empty())
+            return;
         Quadro::Area(contorno, Fondo::Tenue);
         q_.Contorno();
         Quadro::Spezzata(contorno, true);
@@ -47,18 +62,18 @@ private:
 
     void Assi() const {
         q_.Fine(TipoLinea::TrattoPunto);
-        const Punto sinistra = In(-s_.b / 2, s_.yG) - Punto{testo_ * 0.7, 0};
-        Quadro::Linea(sinistra, In(s_.b / 2, s_.yG) + Punto{testo_ * 0.4, 0});
-        const Punto alto = In(0, s_.h) - Punto{0, testo_ * 0.5};
-        Quadro::Linea(alto, In(0, 0) + Punto{0, testo_ * 0.4});
+        const Punto sinistra = In(s_.sinistra, s_.yG) - Punto{testo_ * 0.7, 0};
+        Quadro::Linea(sinistra, In(s_.destra, s_.yG) + Punto{testo_ * 0.4, 0});
+        const Punto alto = In(s_.xG, s_.alto) - Punto{0, testo_ * 0.5};
+        Quadro::Linea(alto, In(s_.xG, s_.basso) + Punto{0, testo_ * 0.4});
         q_.Testo(sinistra - Punto{0, testo_ * 0.1}, "y", Allinea::Sinistra, Posa::Basso);
         q_.Testo(alto + Punto{testo_ * 0.25, testo_ * 0.35}, "z", Allinea::Sinistra, Posa::Basso);
     }
 
     /// Dimension of the height, to the right of the section.
     void QuotaAltezza(std::string_view nome) const {
-        const Punto basso = In(s_.b / 2, 0);
-        const Punto alto = In(s_.b / 2, s_.h);
+        const Punto basso = In(s_.destra, 0);
+        const Punto alto = In(s_.destra, s_.h);
         const double x = basso.x + testo_ * 0.9;
         q_.Quota({x, basso.y}, {x, alto.y});
         for (const Punto& estremo : {basso, alto})
@@ -68,8 +83,8 @@ private:
 
     /// Dimension of the width, below the section.
     void QuotaLarghezza(std::string_view nome) const {
-        const Punto sinistra = In(-s_.b / 2, 0);
-        const Punto destra = In(s_.b / 2, 0);
+        const Punto sinistra = In(s_.xb, s_.basso);
+        const Punto destra = In(s_.xb + s_.b, s_.basso);
         const double y = sinistra.y + testo_ * 0.8;
         q_.Quota({sinistra.x, y}, {destra.x, y});
         for (const double x : {sinistra.x, destra.x})
@@ -77,16 +92,14 @@ private:
         q_.Testo({(sinistra.x + destra.x) / 2, y + 1}, nome, Allinea::Centro, Posa::Alto);
     }
 
-    /// Names of the thicknesses and of the fillet, beside what they measure.
-    void Nomi() const {
-        q_.Testo(In(s_.tw / 2, s_.h * 0.28) + Punto{testo_ * 0.35, 0}, "tw", Allinea::Sinistra, Posa::Mezzo);
-        q_.Testo(In(-s_.b / 2, s_.h) - Punto{0, 2}, "tf", Allinea::Sinistra, Posa::Basso);
-        const double raccordo = s_.h - s_.tf - s_.raggio;
-        const Punto radice = In(-s_.tw / 2 - s_.raggio * 0.3, raccordo + s_.raggio * 0.7);
-        const Punto nome = radice + Punto{-testo_ * 0.9, testo_ * 0.9};
-        q_.Fine();
-        Quadro::Linea(radice, nome);
-        q_.Testo(nome, s_.nomeRaggio, Allinea::Destra, Posa::Alto);
+    void Scrivi(const NomeSagoma& nome) const {
+        const Punto dove = In(nome.x, nome.y);
+        const Punto testo = dove + Punto{nome.dx, nome.dy} * testo_;
+        if (nome.richiamo) {
+            q_.Fine();
+            Quadro::Linea(dove, testo);
+        }
+        q_.Testo(testo, nome.testo, nome.allinea, nome.posa);
     }
 
     static constexpr double stacco =
@@ -100,31 +113,91 @@ private:
 };
 
 bool Disegnabile(const SagomaDisegnata& s) {
-    const std::vector<double> misure{s.h, s.b, s.tw, s.tf, s.raggio, s.yG};
-    return s.x.size() > 2 && s.x.size() == s.y.size() && s.h > 0 && Disegnabili(s.x) && Disegnabili(s.y) &&
+    std::vector<double> misure{s.h, s.b, s.xb, s.sinistra, s.destra, s.basso, s.alto, s.xG, s.yG};
+    for (const NomeSagoma& nome : s.nomi)
+        misure.insert(misure.end(), {nome.x, nome.y});
+    return s.x.size() > 2 && s.x.size() == s.y.size() && s.xAltra.size() == s.yAltra.size() && s.h > 0 &&
+           Disegnabili(s.x) && Disegnabili(s.y) && Disegnabili(s.xAltra) && Disegnabili(s.yAltra) &&
            Disegnabili(misure);
+}
+
+constexpr double staccoNome = 0.35; ///< of a name from the web beside it
+constexpr double sopraAla = -0.13;  ///< of a name above a flange
+constexpr double braccio = 0.9;     ///< of a leader
+
+/// The outline, the extent of one piece from x = xb and y = 0, and its centroid.
+SagomaDisegnata Sagoma(const std::string& nome, const SezioneGenerica* contorno, double h, double b,
+                       double xb) {
+    SagomaDisegnata s;
+    if (contorno == nullptr)
+        return s;
+    for (int i = 1; i <= contorno->Poligono->nVertici(); ++i) {
+        s.x.push_back(contorno->Poligono->xi(i));
+        s.y.push_back(contorno->Poligono->yi(i));
+    }
+    s.nome = nome;
+    s.h = s.alto = h;
+    s.b = b;
+    s.xb = s.sinistra = xb;
+    s.destra = xb + b;
+    s.xG = contorno->xG;
+    s.yG = contorno->yG;
+    return s;
+}
+
+/// Adds the second piece of a pair, mirrored to the other side of x = -distanza / 2, or of y.
+void Raddoppia(SagomaDisegnata& s, const Gemello& altro) {
+    if (s.x.empty())
+        return;
+    const auto specchia = [&altro](double& v) { v = -(v + altro.distanza); };
+    s.xAltra = s.x;
+    s.yAltra = s.y;
+    auto& mosse = altro.sottoSopra ? s.yAltra : s.xAltra;
+    std::for_each(mosse.begin(), mosse.end(), specchia);
+    const auto [minimo, massimo] = std::minmax_element(mosse.begin(), mosse.end());
+    double& da = altro.sottoSopra ? s.basso : s.sinistra;
+    double& a = altro.sottoSopra ? s.alto : s.destra;
+    da = std::min(da, *minimo);
+    a = std::max(a, *massimo);
+    (altro.sottoSopra ? s.yG : s.xG) = -altro.distanza / 2;
 }
 
 } // namespace
 
 SagomaDisegnata SagomaDi(const SezioneDoppioT& sezione) {
     const SezioneDoppioT& s = sezione;
-    SagomaDisegnata sagoma;
-    if (!s.SezioneGenericaCorrente)
-        return sagoma;
-    const auto& contorno = *s.SezioneGenericaCorrente->Poligono;
-    for (int i = 1; i <= contorno.nVertici(); ++i) {
-        sagoma.x.push_back(contorno.xi(i));
-        sagoma.y.push_back(contorno.yi(i));
-    }
-    sagoma.nome = s.Designation;
-    sagoma.h = s.h;
-    sagoma.b = s.b;
-    sagoma.tw = s.tw;
-    sagoma.tf = s.tf;
-    sagoma.raggio = s.Saldata ? s.r : s.r1;
-    sagoma.yG = s.yG;
-    sagoma.nomeRaggio = s.Saldata ? "r" : "r1";
+    SagomaDisegnata sagoma = Sagoma(s.Designation, s.SezioneGenericaCorrente.get(), s.h, s.b, -s.b / 2);
+    const double raggio = s.Saldata ? s.r : s.r1;
+    const double xRadice = -s.tw / 2 - raggio * 0.3;
+    const double yRadice = s.h - s.tf - raggio + raggio * 0.7;
+    sagoma.nomi = {
+        {"tw", s.tw / 2, s.h * 0.28, staccoNome, 0},
+        {"tf", -s.b / 2, s.h, 0, sopraAla, Allinea::Sinistra, Posa::Basso},
+        {s.Saldata ? "r" : "r1", xRadice, yRadice, -braccio, braccio, Allinea::Destra, Posa::Alto, true}};
+    return sagoma;
+}
+
+SagomaDisegnata SagomaDi(const SezioneSagomoU& sezione) {
+    const SezioneSagomoU& s = sezione;
+    SagomaDisegnata sagoma = Sagoma(s.Designation, s.SezioneGenericaCorrente.get(), s.h, s.b, 0);
+    const double raccordo = 0.3 * s.r1;
+    sagoma.nomi = {{"tw", s.tw, s.h * 0.28, staccoNome, 0},
+                   {"tf", 0.6 * s.b, s.h, 0, sopraAla, Allinea::Sinistra, Posa::Basso},
+                   {"r1", s.tw + raccordo, s.h - s.tf2() - raccordo, braccio, braccio, Allinea::Sinistra,
+                    Posa::Alto, true}};
+    if (s.Doppi)
+        Raddoppia(sagoma, GemelloDi(s));
+    return sagoma;
+}
+
+SagomaDisegnata SagomaDi(const SezioneSagomoL& sezione) {
+    const SezioneSagomoL& s = sezione;
+    SagomaDisegnata sagoma = Sagoma(s.Designation, s.SezioneGenericaCorrente.get(), s.h, s.b, 0);
+    const double radice = s.t + 0.3 * s.r1;
+    sagoma.nomi = {{"t", s.t, s.h * 0.7, staccoNome, 0},
+                   {"r1", radice, radice, braccio, -braccio, Allinea::Sinistra, Posa::Basso, true}};
+    if (s.Doppi)
+        Raddoppia(sagoma, GemelloDi(s));
     return sagoma;
 }
 

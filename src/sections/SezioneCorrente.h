@@ -11,6 +11,8 @@
 #include "frame/Ripristino.h"
 #include "frame/Singolo.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneSagomoL.h"
+#include "sections/SezioneSagomoU.h"
 
 /// The section in use, whichever kind it is, and what may be asked of a kind. A new kind of section is its
 /// class, its place in RiferimentoSezione and its row of CapacitaDi; a kind that lacks the row, or whose
@@ -18,7 +20,8 @@
 namespace sagomi {
 
 /// The section of the screen in use; empty before the first row.
-using RiferimentoSezione = std::variant<std::monostate, std::shared_ptr<SezioneDoppioT>>;
+using RiferimentoSezione = std::variant<std::monostate, std::shared_ptr<SezioneDoppioT>,
+                                        std::shared_ptr<SezioneSagomoU>, std::shared_ptr<SezioneSagomoL>>;
 
 inline RiferimentoSezione SezioneCorrente; ///< what every detail screen reads
 
@@ -133,6 +136,24 @@ template <> struct CapacitaDi<SezioneDoppioT> {
                                          .animaEAli = true,
                                          .aliDiverse = true,
                                          .contorniEfficaci = true};
+};
+
+template <> struct CapacitaDi<SezioneSagomoU> {
+    static constexpr Capacita dichiarate{.lunghezze = true,
+                                         .lunghezzaV = false,
+                                         .momenti = true,
+                                         .animaEAli = true,
+                                         .aliDiverse = false,
+                                         .contorniEfficaci = true};
+};
+
+template <> struct CapacitaDi<SezioneSagomoL> {
+    static constexpr Capacita dichiarate{.lunghezze = true,
+                                         .lunghezzaV = true,
+                                         .momenti = false,
+                                         .animaEAli = false,
+                                         .aliDiverse = false,
+                                         .contorniEfficaci = false};
 };
 
 /// What the class of a kind really has.
