@@ -11,6 +11,7 @@
 namespace sagomi {
 
 class CampiMaschera;
+class MascheraTrave;
 class Poligono;
 class SezioneDoppioT;
 class Superficie;
@@ -195,6 +196,27 @@ public:
     /// @return false, with MessaggioPioli "Msd > MplRd", where no number of studs is enough
     bool ProgettaParzialeRipristino();
 
+    // Screen and file ----------------------------------------------------------------------------------
+
+    // Between the beam and the fields of its screen: "L" reads the screen, any other mode writes it.
+    void DatiGrecataLeggeScrive(CampiMaschera& maschera, std::string_view modo); ///< TxtLam
+    /// txtDati 1 to 5, Txt_fck, Txt_fsk and Txt_M (kNm); n, fck and fsk are the globals.
+    void DatiSolettaLeggeScrive(CampiMaschera& maschera, std::string_view modo);
+    /// txtTitolo; writing, also the options OptTipoSoletta and OpTipoVerifica, which say themselves when they
+    /// change.
+    void DatiProgettoLeggeScrive(MascheraTrave& maschera, std::string_view modo);
+
+    /// The seven records of the beam in a data file, from its title to TipoConnettore. Reading takes over,
+    /// with the globals n, fck and fsk, only what is whole: until then everything stays as it was; what is
+    /// not in the file is then as of a new beam. A failure is told once.
+    bool LeggeScrive(std::string_view modo, std::int16_t nFile);
+
+    /// The whole of an "Sco" file: the short record of the section, then LeggeScrive. Reading gives the beam
+    /// a new Sezione, with nothing computed; all or nothing.
+    bool FileLeggeScrive(std::string_view modo, std::int16_t nFile);
+
+    [[nodiscard]] const std::string& TitoloFunz() const { return Titolo; }
+
     [[nodiscard]] double fyd() const;     ///< design strength of the steel [N/mm2]
     [[nodiscard]] static double fcd();    ///< of the concrete, 0.85 fck / 1.5 [N/mm2]
     [[nodiscard]] static double fsd();    ///< of the bars, fsk / 1.15 [N/mm2]
@@ -204,6 +226,8 @@ public:
     [[nodiscard]] double yNeutroDaSopra() const { return Sommita() - yNeutro; }
 
 private:
+    bool RecordLeggeScrive(std::string_view modo, std::int16_t nFile, Singolo& n, Singolo& resistenzaCls,
+                           Singolo& snervamentoBarre);
     [[nodiscard]] std::shared_ptr<Poligono> ContornoAcciaio() const;
     [[nodiscard]] double TolleranzaNeutro() const;
     [[nodiscard]] double LivelloArmatura() const; ///< from the top: H + hc - c, not narrowed

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Expected values of composite beams and their studs, derived a second time.
 
-Writes travi.txt and pioli.txt beside this script, which tests/composite/TraviTabelle_test.cpp and
-PioliTabelle_test.cpp read:
+Writes travi.txt, pioli.txt and *.sco beside this script, which tests/composite/TraviTabelle_test.cpp,
+PioliTabelle_test.cpp and AcciaioClsFile_test.cpp read:
 
     python3 tests/data/composite/riferimento.py
 
@@ -472,6 +472,45 @@ def scrive_pioli():
     (QUI / "pioli.txt").write_text("\n".join(righe) + "\n")
 
 
+# --------------------------------------------------------------------------------------------------- files
+
+
+def corto(v):
+    """The shortest text that reads back to the same 32 bits, with a point and no power of ten."""
+    for cifre in range(1, 10):
+        testo = f"{v:.{cifre}g}"
+        if f32(float(testo)) == v:
+            break
+    e = math.floor(math.log10(abs(v))) if v else 0
+    if -4 <= e <= 6:
+        return f"{float(testo):.9f}".rstrip("0").rstrip(".")
+    m, x = f"{float(testo):.8e}".split("e")
+    return f"{m.rstrip('0').rstrip('.')}E{x}"
+
+
+def scrive_file():
+    casi = {
+        "piena": (['"IPE 300"', '"S235 (Fe360)"', 235], [300, 150, 150, 7.1, 10.7, 10.7, 15, 0, 0], "##", '"Solaio A"',
+                  [0, 0], [120, 1500, 1200, 30, 15, 25, 430], [0] * 5, [150.5e6, 8.5], [100, 19], [0]),
+        "trasversale": (['"HEB 300"', '"S355 (Fe510)"', 355], [300, 300, 300, 11, 19, 19, 27, 0, 0], "##",
+                        '"Travi, piano 2"', [1, 2], [125.5, 1800, 0, 25, 7.5, 30, 450], [55, 60, 90, 200, 0],
+                        [-1.25e7, 12], [95, 22], [1]),
+        "parallela": (['"ISE 500x73"', '"S275 (Fe430)"', 275], [500, 180, 180, 8, 12, 12, 0, 0, 5], "T#", '""',
+                      [2, 1], [130, 1230, 2500, 35, 6.25, 35.5, 391.3], [73.5, 110, 61.5, 187.5, 120],
+                      [-2.345678e8, 0], [125, 19], [0]),
+        "sotto": (["\"HSD ''500''\"", '"S235 (Fe360)"', 223.8095], [500, 300, 200, 8, 15, 12, 0, 0, 5.5], "TT",
+                  "\"Perché ''no''? 3 €\"", [0, 3], [-80, 0.333333, 0, -50, 14.5, 20, 500], [0] * 5, [-1, 0.05],
+                  [0, 0], [-3]),
+    }
+    for nome, (sezione, misure, tipo, titolo, *record) in casi.items():
+        righe = [",".join(v if isinstance(v, str) else corto(f32(v)) for v in sezione),
+                 ",".join(corto(f32(v)) for v in misure),
+                 ",".join("#TRUE#" if t == "T" else "#FALSE#" for t in tipo), titolo]
+        righe += [",".join(corto(f32(v)) for v in r) for r in record]
+        (QUI / f"{nome}.sco").write_bytes("".join(r + "\r\n" for r in righe).encode("cp1252"))
+
+
 if __name__ == "__main__":
     scrive_travi()
     scrive_pioli()
+    scrive_file()
