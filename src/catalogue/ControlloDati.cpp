@@ -1,6 +1,8 @@
 #include "catalogue/ControlloDati.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 
 #include "catalogue/Lettore.h"
@@ -23,25 +25,43 @@ bool ConContorno(const SezioneDoppioT& sezione) {
     return sezione.SezioneGenericaCorrente && sezione.SezioneGenericaCorrente->Area > 0;
 }
 
+/// How far a value is off, over that of the table; 0 where nothing is compared.
+double Differenza(double db, double calc) { return db == 0 ? 0 : std::abs(db - calc) / db; }
+
+std::string Avviso(double db, double calc) {
+    return "Riscontrato valore troppo approssimato nel database\r" + FormatoCifre(4, db) +
+           "\r invece del valore calcolato coi dati geometrici\r" + FormatoCifre(4, calc) +
+           "\rDifferenza del " + FormatoCifre(4, Differenza(db, calc) * 100) + "%\r";
+}
+
+/// The section and the quantity that is spoken of.
+std::string Titolo(const Lettore& riga, const VoceControllo& voce) {
+    return riga.Testo(0) + " - " + riga.NomeCampo(voce.campo);
+}
+
 } // namespace
 
 bool ConfrontaValore(double db, double calc, double tol) {
-    if (db == 0)
+    if (!(Differenza(db, calc) > tol))
         return false;
-    const double differenza = std::abs(db - calc) / db;
-    if (!(differenza > tol))
-        return false;
-    Avvisa("Riscontrato valore troppo approssimato nel database\r" + FormatoCifre(4, db) +
-           "\r invece del valore calcolato coi dati geometrici\r" + FormatoCifre(4, calc) +
-           "\rDifferenza del " + FormatoCifre(4, differenza * 100) + "%\r");
+    Avvisa(Avviso(db, calc));
     return true;
 }
 
 void ConfrontaVoci(const Lettore& riga, const std::vector<VoceControllo>& voci) {
     if (riga.BOF() || riga.EOF_())
         return;
-    for (const VoceControllo& voce : voci)
-        ConfrontaValore(riga.Numero(voce.campo), voce.calcolato, voce.tolleranza);
+    std::vector<VoceControllo> off;
+    std::ranges::copy_if(voci, std::back_inserter(off), [&riga](const VoceControllo& voce) {
+        return Differenza(riga.Numero(voce.campo), voce.calcolato) > voce.tolleranza;
+    });
+    for (const VoceControllo& voce : off) {
+        const std::string text = Avviso(riga.Numero(voce.campo), voce.calcolato);
+        if (&voce == &off.back())
+            Avvisa(text, Titolo(riga, voce));
+        else if (AvvisaSaltabile(text, Titolo(riga, voce)))
+            return;
+    }
 }
 
 std::vector<VoceControllo> VociLaminati(SezioneDoppioT& sezione) {

@@ -21,7 +21,8 @@ struct VoceControllo {
 /// @return true when the user was told
 bool ConfrontaValore(double db, double calc, double tol);
 
-/// Compares fields of the row in hand one after the other, each with its own message; nothing is changed.
+/// Compares fields of the row in hand one after the other, each with its own message under the name of the
+/// section and of the quantity; the user may skip those that are left. Nothing is changed.
 /// Does nothing at BOF and EOF.
 void ConfrontaVoci(const Lettore& riga, const std::vector<VoceControllo>& voci);
 

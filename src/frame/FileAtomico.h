@@ -28,10 +28,13 @@ public:
     /// file stays and the temporary one goes.
     bool Conferma(std::string_view byte);
 
+    /// Where the file goes, links followed.
+    [[nodiscard]] const std::filesystem::path& Destinazione() const { return meta_; }
+
 private:
     void Abbandona();
 
-    std::filesystem::path meta_; ///< where the file goes, links followed
+    std::filesystem::path meta_;
     std::string temporaneo_;
     int fd_ = -1;
 };

@@ -17,6 +17,7 @@
 #include "frame/LetturaFile.h"
 #include "frame/LetturaNumero.h"
 #include "frame/Messaggi.h"
+#include "frame/MotivoFile.h"
 #include "frame/Numeri.h"
 
 namespace sagomi {
@@ -52,9 +53,9 @@ int& Silenzi() {
     return silenzi;
 }
 
-void Segnala(std::string_view testo) {
+void Segnala(std::string_view testo, std::string_view titolo = {}) {
     if (Silenzi() == 0)
-        Avvisa(testo);
+        Avvisa(testo, titolo);
 }
 
 bool Lettura(std::string_view modo) { return modo == "L"; }
@@ -306,7 +307,8 @@ bool ChiudeFile(std::int16_t nFile) {
     FileAperto& file = nodo.mapped();
     if (file.lettura || file.uscita.Conferma(file.byte))
         return true;
-    Segnala("Scrittura incompleta del file");
+    const fs::path& target = file.uscita.Destinazione();
+    Segnala("Scrittura incompleta del file", target.filename().string() + ": " + MotivoNonScritto(target));
     return false;
 }
 

@@ -13,6 +13,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/LetturaNumero.h"
 #include "frame/Messaggi.h"
+#include "frame/MotivoFile.h"
 #include "frame/Numeri.h"
 
 namespace sagomi {
@@ -203,6 +204,12 @@ bool Scrive() {
     return riuscito;
 }
 
+/// The box names the file and the reason in its title.
+void AvvisaIncompleta() {
+    const std::filesystem::path file = PercorsoFile("S");
+    Avvisa("Scrittura incompleta del file", file.filename().string() + ": " + MotivoNonScritto(file));
+}
+
 } // namespace
 
 bool IniLeggeScrive(std::string_view modo) {
@@ -210,7 +217,7 @@ bool IniLeggeScrive(std::string_view modo) {
         return Legge();
     const bool riuscito = modo == "S" && Scrive();
     if (modo == "S" && !riuscito && !ServerAttivo)
-        Avvisa("Scrittura incompleta del file");
+        AvvisaIncompleta();
     return riuscito;
 }
 
@@ -218,7 +225,7 @@ bool ScriveImpostazioniCambiate() {
     if (!generale.ImpostazioniScritte || *generale.ImpostazioniScritte == generale || Scrive())
         return true;
     if (!ServerAttivo && !std::exchange(generale.ScritturaAvvisata, true))
-        Avvisa("Scrittura incompleta del file");
+        AvvisaIncompleta();
     return false;
 }
 

@@ -34,6 +34,11 @@ void Avvisa(std::string_view testo, std::string_view titolo, Icona icona) {
     Manda({std::string(testo), icona, std::string(titolo), Bottoni::Ok});
 }
 
+bool AvvisaSaltabile(std::string_view testo, std::string_view titolo) {
+    return Manda({std::string(testo), Icona::Nessuna, std::string(titolo), Bottoni::OkSalta}) ==
+           Risposta::Salta;
+}
+
 bool Chiede(std::string_view testo, std::string_view titolo, Icona icona) {
     return Manda({std::string(testo), icona, std::string(titolo), Bottoni::SiNo}) == Risposta::Si;
 }

@@ -10,8 +10,8 @@ namespace sagomi {
 /// What the user is told when something happens in the middle of a calculation: the one way out of the
 /// mechanics to a screen. The program plugs a message box into the port, the tests a recorder.
 enum class Icona { Nessuna, Avviso, Stop, Domanda };
-enum class Bottoni { Ok, SiNo };
-enum class Risposta { Ok, Si, No };
+enum class Bottoni { Ok, OkSalta, SiNo };
+enum class Risposta { Ok, Salta, Si, No };
 
 struct Messaggio {
     std::string testo; ///< UTF-8; CR, LF and CR LF all mean a new line
@@ -37,6 +37,10 @@ Risposta Inoltra(const PortaMessaggi& porta, const Messaggio& messaggio);
 /// Shows a message; returns when it has been read. A text that begins with "ERRORE" or "Errore" gets the
 /// warning icon where none is asked for.
 void Avvisa(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Nessuna);
+
+/// The same for one of several messages in a row.
+/// @return whether the user wants to skip those that follow
+bool AvvisaSaltabile(std::string_view testo, std::string_view titolo = {});
 
 /// Asks a question; true for yes.
 bool Chiede(std::string_view testo, std::string_view titolo = {}, Icona icona = Icona::Domanda);

@@ -128,6 +128,32 @@ TEST_F(ControlloTest, OneBoxForEachFieldInOrder) {
         EXPECT_THAT(testi[i], HasSubstr(S("database\r") + valori[i] + "\r")) << i;
 }
 
+TEST_F(ControlloTest, TheTitleNamesSectionAndQuantity) {
+    Carica(Con(Con(ipe200, 9, 2100.0), 13, 200.0));
+    const prove::Registratore r;
+    ControlloDatiLaminati(lettore, sezione);
+    ASSERT_EQ(r.messaggi.size(), 2U);
+    EXPECT_EQ(r.messaggi[0].titolo, "IPE 200 - Iy (cm4)");
+    EXPECT_EQ(r.messaggi[1].titolo, "IPE 200 - Iz (cm4)");
+    EXPECT_EQ(r.messaggi[0].bottoni, Bottoni::OkSalta);
+    EXPECT_EQ(r.messaggi[1].bottoni, Bottoni::Ok) << "nothing is left to skip";
+}
+
+TEST_F(ControlloTest, TheRestOfARowCanBeSkipped) {
+    std::vector<Valore> riga = ipe200;
+    for (const std::size_t campo : {8U, 9U, 10U, 12U})
+        riga[campo] = std::get<double>(riga[campo]) * 2;
+    Carica(riga);
+    std::vector<S> titoli;
+    const PortaMessaggi prima = CollegaMessaggi([&titoli](const Messaggio& m) {
+        titoli.push_back(m.titolo);
+        return titoli.size() == 2 ? Risposta::Salta : Risposta::Ok;
+    });
+    ControlloDatiLaminati(lettore, sezione);
+    CollegaMessaggi(prima);
+    EXPECT_THAT(titoli, ElementsAre("IPE 200 - A (cm2)", "IPE 200 - Iy (cm4)"));
+}
+
 TEST_F(ControlloTest, WeightAndPlasticModuliAreNotLookedAt) {
     std::vector<Valore> riga = ipe200;
     for (const std::size_t campo : {1U, 11U, 15U})

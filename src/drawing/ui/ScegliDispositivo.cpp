@@ -22,6 +22,7 @@
 #include "frame/FileAtomico.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
+#include "frame/MotivoFile.h"
 #include "frame/ui/FileDialogo.h"
 #include "frame/ui/Protetto.h"
 
@@ -53,9 +54,7 @@ QString NomeFile(QString name) {
     return name.replace(refused, QStringLiteral("-"));
 }
 
-void AvvisaNonScrivibile(const QString& file) {
-    Avvisa("Non è possibile scrivere il file " + file.toStdString());
-}
+void AvvisaNonScrivibile(const QString& file) { Avvisa(AvvisoNonScritto(file.toStdString())); }
 
 void AvvisaStampante() {
     Avvisa("Stampante non presente o non disponibile.\r\n"

@@ -7,6 +7,7 @@
 #include "frame/FileDati.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
+#include "frame/MotivoFile.h"
 
 namespace sagomi {
 
@@ -77,9 +78,8 @@ bool FileDialogo(SchermoConFile& schermo, std::string_view modo, std::string_vie
         chosen += u'.' + extension;
     const std::int16_t number = ApreFile(chosen.toStdString(), modo);
     if (number == 0) {
-        Avvisa(std::string(modo == "S" ? "Non è possibile scrivere il file "
-                                       : "Non è possibile leggere il file ") +
-               chosen.toStdString());
+        const std::string name = chosen.toStdString();
+        Avvisa(modo == "S" ? AvvisoNonScritto(name) : AvvisoNonLetto(name));
         return false;
     }
     {

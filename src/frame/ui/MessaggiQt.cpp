@@ -3,10 +3,15 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 #include "frame/Messaggi.h"
+#include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 
 namespace sagomi {
@@ -49,18 +54,52 @@ private:
     QElapsedTimer daQuando_;
 };
 
+/// The window that has the focus, else the screen in use.
+QWidget* FinestraAlLavoro() {
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    Schermo* screen = NavigaSchermi::Unico().Attivo();
+    return screen != nullptr && screen->isVisible() ? screen : nullptr;
+}
+
+/// A box breaks its lines beyond a width of its own choice: the text is given the width of its longest line,
+/// where the desktop has it.
+void LasciaIntereLeRighe(QMessageBox& box) {
+    constexpr int attorno = 120; // icon and margins [px]
+    auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (text == nullptr)
+        return;
+    int width = 0;
+    for (const QString& line : box.text().split(u'\n'))
+        width = std::max(width, text->fontMetrics().horizontalAdvance(line));
+    const int room = std::min(box.screen()->availableGeometry().width() - 480, 1000) - attorno;
+    text->setMinimumWidth(std::min(width + 2, std::max(room, 0)));
+}
+
+Risposta MostraSaltabile(QMessageBox& box) {
+    box.addButton(QObject::tr("OK"), QMessageBox::AcceptRole);
+    auto* skip = box.addButton(QObject::tr("&Salta gli altri"), QMessageBox::RejectRole);
+    skip->setToolTip(QObject::tr("Esc: non mostra gli altri avvisi di questo sagomo"));
+    box.setEscapeButton(skip);
+    box.exec();
+    return box.clickedButton() == skip ? Risposta::Salta : Risposta::Ok;
+}
+
 Risposta Mostra(const Messaggio& m) {
     const PausaTasti pause;
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(FinestraAlLavoro());
     box.setWindowTitle(QString::fromStdString(m.titolo));
     box.setTextFormat(Qt::PlainText);
     box.setText(ConAcapi(QString::fromStdString(m.testo)));
     box.setIcon(IconaQt(m.icona));
+    LasciaIntereLeRighe(box);
     if (m.bottoni == Bottoni::Ok) {
         box.addButton(QObject::tr("OK"), QMessageBox::AcceptRole);
         box.exec();
         return Risposta::Ok;
     }
+    if (m.bottoni == Bottoni::OkSalta)
+        return MostraSaltabile(box);
     const auto* yes = box.addButton(QObject::tr("&Sì"), QMessageBox::YesRole);
     auto* no = box.addButton(QObject::tr("&No"), QMessageBox::NoRole);
     box.setEscapeButton(no);

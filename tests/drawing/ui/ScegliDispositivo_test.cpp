@@ -133,7 +133,8 @@ TEST_F(ScegliDispositivoTest, APdfThatCannotBeWrittenIsTold) {
     RispondeStampante(QStringLiteral("/manca/foglio.pdf"));
     EXPECT_FALSE(Sceglie(sceltaStampante));
     EXPECT_EQ(registratore.testi,
-              std::vector<std::string>{"Non è possibile scrivere il file /manca/foglio.pdf"});
+              std::vector<std::string>{
+                  "Non è possibile scrivere il file /manca/foglio.pdf:\r\nla cartella non esiste"});
 }
 
 TEST_F(ScegliDispositivoTest, ADrawingThatFailsOnPaperIsTold) {
@@ -191,7 +192,9 @@ TEST_F(ScegliDispositivoTest, GivingUpTheFileWritesNothing) {
 TEST_F(ScegliDispositivoTest, AFileThatCannotBeWrittenIsToldAndNothingIsLost) {
     RispondeFile(QStringLiteral("/manca/a.dxf"));
     EXPECT_FALSE(Sceglie(sceltaDxf));
-    EXPECT_EQ(registratore.testi, std::vector<std::string>{"Non è possibile scrivere il file /manca/a.dxf"});
+    EXPECT_EQ(
+        registratore.testi,
+        std::vector<std::string>{"Non è possibile scrivere il file /manca/a.dxf:\r\nla cartella non esiste"});
     EXPECT_TRUE(dispositivi.empty());
     EXPECT_EQ(nFileDxf, 0);
 }
@@ -231,7 +234,9 @@ TEST_F(ScegliDispositivoTest, WritesAnSvgFile) {
 TEST_F(ScegliDispositivoTest, AnSvgFileThatCannotBeWrittenIsTold) {
     RispondeFile(QStringLiteral("/manca/a.svg"));
     EXPECT_FALSE(Sceglie(sceltaSvg));
-    EXPECT_EQ(registratore.testi, std::vector<std::string>{"Non è possibile scrivere il file /manca/a.svg"});
+    EXPECT_EQ(
+        registratore.testi,
+        std::vector<std::string>{"Non è possibile scrivere il file /manca/a.svg:\r\nla cartella non esiste"});
 }
 
 // CAD ---------------------------------------------------------------------------------------------------
