@@ -86,7 +86,7 @@ void SezioneSagomoU::CoordinateComp4() {
             TagliaAla(*this, bozza, kSigmaAlaCompressa, sopra);
     if (ClasseWebC == 4) {
         const double beff = Rho(d, tw, fy, kSigmaAnimaCompressa) * d;
-        TogliAnima(bozza.x, bozza.y, bozza.n, h / 2 - d / 2 + beff / 2, d - beff, tipoForo);
+        ToglieAnima(bozza.x, bozza.y, bozza.n, h / 2 - d / 2 + beff / 2, d - beff, tipoForo);
     }
     SezioneGenerica& efficace = CalcolaContorno(SezioneComp4, bozza.x, bozza.y, bozza.n);
     if (Doppi)
@@ -101,8 +101,8 @@ void SezioneSagomoU::CoordinateWy4() {
         TagliaAla(*this, bozza, kSigmaAlaCompressa, true);
     if (ClasseWebF == 4) {
         const StrisceEfficaci strisce = StrisceDelPiatto(-1, d, tw, fy);
-        TogliAnima(bozza.x, bozza.y, bozza.n, h / 2 + strisce.be2, d / 2 - strisce.be1 - strisce.be2,
-                   tipoForo);
+        ToglieAnima(bozza.x, bozza.y, bozza.n, h / 2 + strisce.be2, d / 2 - strisce.be1 - strisce.be2,
+                    tipoForo);
     }
     CalcolaContorno(SezioneWy4, bozza.x, bozza.y, bozza.n);
 }
