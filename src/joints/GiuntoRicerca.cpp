@@ -154,9 +154,10 @@ double RicercaGiunto::GiroSpessori() {
     double MTf = 0;
     for (double tf = 1; tf <= tfMax_; ++tf) {
         Candidato(tf);
-        if (g_.MplRdGIUNTO > migliore_)
+        const bool migliora = g_.MplRdGIUNTO > migliore_;
+        if (migliora)
             Migliora();
-        fermata_ = !Prosegue();
+        fermata_ = !Prosegue(migliora);
         if (fermata_ || g_.MplRdGIUNTO <= MTf)
             break;
         MTf = g_.MplRdGIUNTO;
@@ -234,9 +235,9 @@ RigaSelezione RicercaGiunto::Riga() const {
 }
 
 /// Shows the candidate, asks for a stop, lets events through.
-bool RicercaGiunto::Prosegue() {
+bool RicercaGiunto::Prosegue(bool migliora) {
     osservatore_.Candidato(g_);
-    if (g_.MplRdGIUNTO == migliore_ && migliore_ > 0)
+    if (migliora)
         osservatore_.Miglioramento(g_);
     return !osservatore_.InterrompiProgetto() && sagomi::Prosegue();
 }

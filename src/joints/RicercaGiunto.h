@@ -37,7 +37,7 @@ private:
     void Candidato(double tf);
     void CompressioneSenzaIrrigidimenti();
     void Migliora();
-    [[nodiscard]] bool Prosegue();
+    [[nodiscard]] bool Prosegue(bool migliora);
     [[nodiscard]] RigaSelezione Riga() const;
     [[nodiscard]] bool Raggiunto() const { return g_.MplRdGIUNTO > obiettivo_; }
 
