@@ -215,6 +215,14 @@ public:
     /// a new Sezione, with nothing computed; all or nothing.
     bool FileLeggeScrive(std::string_view modo, std::int16_t nFile);
 
+    /// Draws section and slab to scale, the compressed and the tensioned parts of steel and concrete each in
+    /// their hatching, the neutral axis, and beside them the plastic blocks or the elastic stresses; what has
+    /// not been computed is left out. Before InizializzaAcciaioCls nothing is drawn.
+    /// @param oggetto      target of "VIDEO" and "STAMPANTE"; null for "DXF", "DWG" and "BLOCCO"
+    /// @param maschera     name of the screen that asks
+    /// @param dispositivo  device, put in force
+    void PlottaAcciaioCls(Superficie* oggetto, std::string_view maschera, std::string_view dispositivo) const;
+
     [[nodiscard]] const std::string& TitoloFunz() const { return Titolo; }
 
     [[nodiscard]] double fyd() const;     ///< design strength of the steel [N/mm2]
