@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "drawing/Quote.h"
+#include "frame/Acciaio.h"
 #include "frame/Numeri.h"
 #include "sections/DisegnoQuotato.h"
 #include "sections/SezioneDoppioT.h"
@@ -72,6 +73,8 @@ void SezioneDoppioT::PlottaSezione(Superficie* oggetto, std::string_view mascher
     pezzo.contorno = SezioneGenericaCorrente.get();
     pezzo.efficace = EfficaceChiesto(*this, maschera);
     pezzo.righe = Righe(*this);
+    if (FyRiscritta(TipoAcciaio, fy))
+        pezzo.righe.push_back(AcciaioMostrato(TipoAcciaio, fy));
     if (SaldataAsimm)
         pezzo.sopra = quotaOltreAsse + 2; // the width of the upper flange stands there
     pezzo.quotatura = [this](const Quote& quote, const PezzoQuotato::Riquadro& riquadro) {

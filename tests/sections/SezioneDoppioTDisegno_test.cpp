@@ -100,6 +100,14 @@ TEST_F(DisegnoTest, LinesOfDataInTheirOrder) {
     EXPECT_GT(righe[righe.size() - 6].altezza, righe.back().altezza) << "the name stands out";
 }
 
+TEST_F(DisegnoTest, AnOvertypedStrengthStandsAmongTheData) {
+    SezioneDoppioT s = Ipe();
+    s.TipoAcciaio = "S235 (Fe360)";
+    s.fy = 460;
+    s.PlottaSezione(&superficie, "frmDoppioT", "VIDEO");
+    EXPECT_EQ(superficie.Testi().back(), "S235 (Fe360), fy 460");
+}
+
 TEST_F(DisegnoTest, WeldedFamiliesShowTheirFilletLeg) {
     for (const char* famiglia : {"HSH", "ISE", "HSA", "HSL"}) {
         SezioneDoppioT s = Laminata((famiglia + std::string(" 300x37")).c_str(), 300, 150, 6, 10, 0, 0);
@@ -393,7 +401,7 @@ std::vector<std::array<double, 4>> LineeDelDxf(const std::string& byte) {
 TEST_F(DisegnoTest, FileAndScreenHoldTheSamePicture) {
     SuperficieFinta su(1200, 400 + 90);
     const SezioneDoppioT s = Ipe();
-    s.PlottaSezione(&su, "frmDoppioT", "VIDEO");
+    s.PlottaSezione(&superficie, "frmDoppioT", "VIDEO");
     ASSERT_NEAR(su.scritte.back().altezza, 5, 1e-6);
     const auto file = LineeDelDxf(InDxf(s, "frmDoppioT"));
     ASSERT_EQ(file.size(), su.linee.size());
