@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 #include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
@@ -94,9 +95,10 @@ FiltroCampi::FiltroCampi(QWidget* maschera, RegolaInvio invio)
     : QObject(maschera), maschera_(maschera), invio_(std::move(invio)) {
     if (auto* window = qobject_cast<QMainWindow*>(maschera))
         window->statusBar(); // where an entry says how it was read
-    // A button pressed by its key, or a step by the program, takes no focus away.
+    // A button pressed by its key, or a step by the program, takes no focus away. What the end of the typing
+    // has to say comes when the button is up again, before it acts: a message would take the release from it.
     for (QAbstractButton* button : maschera->findChildren<QAbstractButton*>())
-        connect(button, &QAbstractButton::pressed, this, &FiltroCampi::Conclude);
+        connect(button, &QAbstractButton::released, this, &FiltroCampi::Conclude);
     for (UpDown* steps : maschera->findChildren<UpDown*>())
         connect(steps, &UpDown::passo, this, &FiltroCampi::Conclude);
 }
@@ -114,6 +116,29 @@ bool FiltroCampi::InDigitazione() const {
 void FiltroCampi::Conclude() {
     for (QLineEdit* box : caselle_)
         ConcludeCasella(box);
+}
+
+/// The click that left a box acts first; a message in the middle of it would swallow it.
+void FiltroCampi::AttendeRilascio() {
+    if (!std::exchange(attendeRilascio_, true))
+        qApp->installEventFilter(this);
+}
+
+void FiltroCampi::Rilasciato(const QObject* bersaglio) {
+    attendeRilascio_ = false;
+    qApp->removeEventFilter(this);
+    if (qobject_cast<const QLineEdit*>(bersaglio) != nullptr)
+        Conclude(); // nothing acts on a release there
+    else
+        QTimer::singleShot(0, this, &FiltroCampi::ConcludeDopoIlClic);
+}
+
+void FiltroCampi::ConcludeDopoIlClic() {
+    constexpr int pausa = 50;                         // [ms]
+    if (QApplication::activePopupWidget() != nullptr) // a list that the click has opened
+        QTimer::singleShot(pausa, this, &FiltroCampi::ConcludeDopoIlClic);
+    else
+        EventoProtetto([this] { Conclude(); });
 }
 
 void FiltroCampi::ConcludeCasella(QLineEdit* casella) {
@@ -150,8 +175,10 @@ bool FiltroCampi::eventFilter(QObject* object, QEvent* event) {
 }
 
 bool FiltroCampi::Filtra(QObject* object, QEvent* event) {
+    if (attendeRilascio_ && event->type() == QEvent::MouseButtonRelease)
+        Rilasciato(object);
     auto* box = qobject_cast<QLineEdit*>(object);
-    if (box == nullptr)
+    if (box == nullptr || !caselle_.contains(box))
         return false;
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
@@ -159,6 +186,8 @@ bool FiltroCampi::Filtra(QObject* object, QEvent* event) {
             return false;
         if (event->type() == QEvent::FocusIn)
             Entra(box, reason);
+        else if (reason == Qt::MouseFocusReason && QGuiApplication::mouseButtons() != Qt::NoButton)
+            AttendeRilascio();
         else if (reason != Qt::MenuBarFocusReason)
             ConcludeCasella(box);
         return false;

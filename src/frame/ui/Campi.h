@@ -37,7 +37,8 @@ void LeggeScriveTesto(std::string_view modo, QLineEdit* controllo, std::string& 
 /// The manners of a screen's entry boxes for numbers: entering one selects its text (by mouse too), Enter
 /// goes on, and the keypad's decimal key types the decimal separator in use. Every other character passes.
 ///
-/// Typing is concluded by Enter, by leaving the box, by a button or a step of the screen: then a text that is
+/// Typing is concluded by Enter, by leaving the box, by a button or a step of the screen; where a click does
+/// it, once the mouse is up again. Then a text that is
 /// no clean number is rewritten as it was read, and the screen may speak and mend. Until then, and not when
 /// the program has written the text, InDigitazione tells it to keep quiet.
 class FiltroCampi : public QObject {
@@ -66,6 +67,9 @@ protected:
 
 private:
     bool Filtra(QObject* object, QEvent* event);
+    void AttendeRilascio();
+    void Rilasciato(const QObject* bersaglio);
+    void ConcludeDopoIlClic();
     void ConcludeCasella(QLineEdit* casella);
     void Entra(QLineEdit* casella, Qt::FocusReason ragione);
     bool Tasto(QLineEdit* casella, const QKeyEvent& tasto);
@@ -73,6 +77,7 @@ private:
     QWidget* maschera_;
     RegolaInvio invio_;
     QList<QLineEdit*> caselle_;
+    bool attendeRilascio_ = false;         ///< a box was left by a click that is not over yet
     QLineEdit* entrataColMouse_ = nullptr; ///< got the focus by a click that is not over yet
 };
 

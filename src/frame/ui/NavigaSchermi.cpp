@@ -46,7 +46,8 @@ NavigaSchermi::NavigaSchermi() {
     riposo_.setInterval(0);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* window) {
         inPrimoPiano_ = window;
-        riposo_.start();
+        attese_ = 0;
+        riposo_.start(0);
     });
     connect(&riposo_, &QTimer::timeout, this, &NavigaSchermi::FinestraInPrimoPiano);
 }
@@ -221,6 +222,13 @@ void NavigaSchermi::ScaricaTutti() {
 void NavigaSchermi::FinestraInPrimoPiano() {
     if (inPrimoPiano_ == nullptr || inNavigazione_ || ChiusuraInCorso)
         return;
+    // The click that brings a window to the front acts on it first: a message would swallow it.
+    constexpr int pausa = 20;      // [ms]
+    constexpr int piuALungo = 100; // pauses; who holds a button down that long drags something
+    if (QGuiApplication::mouseButtons() != Qt::NoButton && ++attese_ < piuALungo) {
+        riposo_.start(pausa);
+        return;
+    }
     for (Schermo* s : schermi_)
         if (s->windowHandle() == inPrimoPiano_ && s->isVisible() && s != attivo_) {
             const QScopedValueRollback guard(inNavigazione_, true);

@@ -95,6 +95,7 @@ private:
     Schermo* attivo_ = nullptr;
     QPointer<QWindow> inPrimoPiano_; ///< has the focus since the last change
     QTimer riposo_;
+    int attese_ = 0; ///< for the mouse to be up, since that change
     bool inNavigazione_ = false;
     bool inCreazione_ = false;
 };

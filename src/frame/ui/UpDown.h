@@ -20,6 +20,8 @@ signals:
 
 protected:
     [[nodiscard]] StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
+    /// Repeats the step while the mouse is held down on this window.
+    void timerEvent(QTimerEvent* event) override;
 };
 
 } // namespace sagomi

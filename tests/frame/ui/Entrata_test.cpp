@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QStyleOptionSpinBox>
 #include <QVBoxLayout>
 
 #include "frame/ui/AmbienteFinestre.h"
@@ -115,6 +116,51 @@ TEST_F(EntrataTest, LeavingAButtonAndAStepConclude) {
     passi.stepUp();
     EXPECT_EQ(concluse.size(), 3);
     EXPECT_EQ(concluse.back(), &seconda);
+}
+
+// A message box takes the release of the mouse: it must not come between press and release.
+TEST_F(EntrataTest, TheClickThatLeavesABoxActsAllTheSame) {
+    QStringList order;
+    QObject::connect(campi, &FiltroCampi::conclusa, [&order] { order << "conclusa"; });
+    QObject::connect(&comando, &QPushButton::clicked, [&order] { order << "clic"; });
+    QTest::keyClicks(&prima, "8");
+    QTest::mousePress(&comando, Qt::LeftButton);
+    EXPECT_TRUE(order.isEmpty());
+    EXPECT_TRUE(InDigitazione(&prima));
+    QTest::mouseRelease(&comando, Qt::LeftButton);
+    EXPECT_EQ(order, (QStringList{"conclusa", "clic"}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(order.size(), 2) << "once";
+}
+
+TEST_F(EntrataTest, AClickOnAnotherBoxOrOnNothingConcludes) {
+    QTest::keyClicks(&prima, "8");
+    QTest::mouseClick(&seconda, Qt::LeftButton);
+    EXPECT_EQ(concluse, QList<QLineEdit*>{&prima});
+    EXPECT_TRUE(seconda.hasFocus());
+    QTest::keyClicks(&seconda, "9");
+    passi.setFocusPolicy(Qt::StrongFocus);
+    QTest::mouseClick(&passi, Qt::LeftButton, {}, QPoint(1, 1));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(concluse, (QList<QLineEdit*>{&prima, &seconda}));
+}
+
+// The message stands where the release should have gone to; the steps would go on for ever.
+TEST_F(EntrataTest, StepsEndWithTheMouseThoughTheReleaseWentElsewhere) {
+    int steps = 0;
+    QObject::connect(&passi, &UpDown::passo, [&steps] { ++steps; });
+    passi.setAccelerated(false);
+    QStyleOptionSpinBox option;
+    option.initFrom(&passi);
+    option.subControls = QStyle::SC_All;
+    option.buttonSymbols = QAbstractSpinBox::UpDownArrows;
+    const QPoint up =
+        passi.style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, &passi).center();
+    QTest::mousePress(&passi, Qt::LeftButton, {}, up);
+    ASSERT_EQ(steps, 1);
+    QTest::mouseRelease(&comando, Qt::LeftButton);
+    QTest::qWait(800); // beyond the time after which steps repeat
+    EXPECT_EQ(steps, 1);
 }
 
 TEST_F(EntrataTest, SaysHowItWasRead) {
