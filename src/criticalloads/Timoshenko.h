@@ -78,7 +78,8 @@ public:
                                                       std::int16_t QuotaCarico) const;
     [[nodiscard]] std::optional<double> McrMensola(std::int16_t TipoCarico, std::int16_t QuotaCarico) const;
 
-private:
+protected:
+    /// Whether L is above 0; tells it where it is not.
     [[nodiscard]] bool LunghezzaValida() const;
 };
 

@@ -45,8 +45,10 @@ bool Chiede(std::string_view testo, std::string_view titolo, Icona icona) {
 
 MessaggiTaciuti::MessaggiTaciuti(bool attivo) : attivo_(attivo) {
     if (attivo_)
-        precedente_ = CollegaMessaggi(
-            [](const Messaggio& m) { return m.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok; });
+        precedente_ = CollegaMessaggi([this](const Messaggio& m) {
+            trattenuti_ = true;
+            return m.bottoni == Bottoni::SiNo ? Risposta::No : Risposta::Ok;
+        });
 }
 
 MessaggiTaciuti::~MessaggiTaciuti() {

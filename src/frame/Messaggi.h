@@ -54,8 +54,12 @@ public:
     MessaggiTaciuti(const MessaggiTaciuti&) = delete;
     MessaggiTaciuti& operator=(const MessaggiTaciuti&) = delete;
 
+    /// Whether one would have been told.
+    [[nodiscard]] bool Trattenuti() const { return trattenuti_; }
+
 private:
     bool attivo_;
+    bool trattenuti_ = false;
     PortaMessaggi precedente_;
 };
 

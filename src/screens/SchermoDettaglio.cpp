@@ -3,7 +3,9 @@
 #include <QScopedValueRollback>
 
 #include <stdexcept>
+#include <utility>
 
+#include "frame/Acciaio.h"
 #include "frame/Attesa.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
@@ -117,11 +119,15 @@ void SchermoDettaglio::FyCambiato(QLineEdit* fy) {
     if (value != NumeroIn(chiamante_->Txt_fy) && (!typed || FyPossibile(value))) {
         const MessaggiTaciuti quiet(typed);
         chiamante_->Txt_fy->setText(TestoPulito(fy));
+        daRipetere_ = daRipetere_ || quiet.Trattenuti();
     }
     Ricalcola();
 }
 
+// What the caller would have said while the user typed, it says now.
 void SchermoDettaglio::Conclusa(QLineEdit* casella) {
+    if (std::exchange(daRipetere_, false) && chiamante_ != nullptr && chiamante_->RigaInMano())
+        chiamante_->Risultati();
     if (casella->objectName() == u"Txt_fy")
         FyCambiato(casella);
     else
@@ -149,6 +155,7 @@ void SchermoDettaglio::CompletaForm(SchermoSezione& chiamante) {
     const MessaggiTaciuti quiet(entrate_->InDigitazione());
     Calcola();
     regole_.SvuotaRisultati();
+    daRipetere_ = daRipetere_ || quiet.Trattenuti();
 }
 
 void SchermoDettaglio::Ricalcola() {
@@ -166,7 +173,9 @@ void SchermoDettaglio::CopiaIntestazione() {
             box->setText(text);
     };
     copy("Txt_Prof", chiamante_->TxtProf[0]->text());
-    copy("Txt_TipoAcciaio", chiamante_->ComboTipoAcciaio->currentText());
+    copy("Txt_TipoAcciaio",
+         QString::fromStdString(AcciaioMostrato(chiamante_->ComboTipoAcciaio->currentText().toStdString(),
+                                                NumeroIn(chiamante_->Txt_fy))));
     copy("Txt_fy", chiamante_->Txt_fy->text());
     if (auto* head = findChild<TestaDettaglio*>())
         head->MostraNormativa();

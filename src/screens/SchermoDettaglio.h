@@ -88,7 +88,8 @@ private:
     void FyCambiato(QLineEdit* fy);
     void Conclusa(QLineEdit* casella);
 
-    QList<double> visti_; ///< numbers of the caller's boxes that this screen has heard of
+    bool daRipetere_ = false; ///< messages were held back while the user typed
+    QList<double> visti_;     ///< numbers of the caller's boxes that this screen has heard of
 };
 
 /// Steps the steel grade of a main screen, held inside its list, and runs the reaction to it; the name and

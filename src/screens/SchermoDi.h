@@ -82,7 +82,7 @@ private:
     void LeggeEntrate(S& section) const {
         section.TipoAcciaio = ComboTipoAcciaio->currentText().toStdString();
         section.fy = FyInForza();
-        section.fu = NumeroIn(Txt_fu);
+        section.fu = FuInForza();
         if constexpr (ConLunghezze<S>) {
             section.L0y = Lunghezza(0);
             section.L0z = Lunghezza(1);

@@ -153,10 +153,7 @@ void SchermoSezione::CollegaDati() {
     Collega(entrate_, &FiltroCampi::conclusa, this, [this](QLineEdit* box) { Conclusa(box); });
     Collega(ComboTipoAcciaio, &QComboBox::activated, this, [this] { AcciaioScelto(); });
     Collega(Txt_fy, &QLineEdit::textChanged, this, [this] { AcciaioCambiato(*this); });
-    Collega(Txt_fu, &QLineEdit::textChanged, this, [this] {
-        if (!CaricaForm && RigaInMano())
-            SullaSezioneInUso([this](auto& section) { section.fu = NumeroIn(Txt_fu); });
-    });
+    Collega(Txt_fu, &QLineEdit::textChanged, this, [this] { RotturaCambiata(); });
     for (int i = 0; i < Txt_L0.size(); ++i)
         Collega(Txt_L0[i], &QLineEdit::textChanged, this, [this, i] { LunghezzaCambiata(i); });
     if (TxtNsd != nullptr)
@@ -188,6 +185,8 @@ void SchermoSezione::ApplicaRegole() {
 void SchermoSezione::Conclusa(QLineEdit* casella) {
     if (casella == Txt_fy)
         AcciaioCambiato(*this);
+    else if (casella == Txt_fu)
+        RotturaCambiata();
     else if (!CaricaForm && RigaInMano())
         Risultati();
 }
@@ -202,6 +201,30 @@ double SchermoSezione::FyInForza() const {
 void SchermoSezione::RimetteFy() {
     if (const double fy = FyInForza(); FyPossibile(fy))
         Txt_fy->setText(QString::fromStdString(TestoPiano(Singolo(fy))));
+}
+
+double SchermoSezione::FuInForza() const {
+    double fu = NumeroIn(Txt_fu);
+    if (!FyPossibile(fu))
+        SullaSezioneInUso([&fu](const auto& section) { fu = section.fu; });
+    return FyPossibile(fu) ? fu : double(fuAcciaio[IndiceAcciaio + 1]);
+}
+
+// A strength that is none never reaches the section; once it is not being typed it is told and put back.
+void SchermoSezione::RotturaCambiata() {
+    if (CaricaForm)
+        return;
+    const double fu = NumeroIn(Txt_fu);
+    if (FyPossibile(fu)) {
+        if (RigaInMano())
+            SullaSezioneInUso([fu](auto& section) { section.fu = fu; });
+        return;
+    }
+    if (InDigitazione(Txt_fu))
+        return;
+    Avvisa("fu deve essere > 0");
+    if (const double old = FuInForza(); FyPossibile(old))
+        Txt_fu->setText(QString::fromStdString(TestoPiano(Singolo(old))));
 }
 
 double SchermoSezione::Lunghezza(int index) const {

@@ -72,6 +72,8 @@ public:
     virtual void SvuotaValori() {}
     /// The strength to compute with [N/mm2]: the entry's, or, where that is none, the section's, the grade's.
     [[nodiscard]] double FyInForza() const;
+    /// The same of the ultimate strength.
+    [[nodiscard]] double FuInForza() const;
     /// Puts the entry of a strength that is none back to the one in force.
     void RimetteFy();
     /// A buckling length [mm]; one that no number holds is as impossible as a negative one.
@@ -142,6 +144,7 @@ private:
     void CollegaDati();
     void CollegaRegole();
     void Conclusa(QLineEdit* casella);
+    void RotturaCambiata();
     void CollegaTabella();
     void ApriDettaglio(const QString& nome);
     void MostraStatoTabella();

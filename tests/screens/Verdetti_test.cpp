@@ -133,6 +133,61 @@ TEST_F(VerdettiTest, SignsThatCancelDoNotPass) {
         EXPECT_EQ(Scritta(&f, empty), "") << empty;
 }
 
+TEST_F(VerdettiTest, AnOvertypedStrengthShowsInTheNameOfTheGrade) {
+    auto& s = Ipe500();
+    auto& f = Dettaglio(s, "FrmPresFless");
+    EXPECT_EQ(Testo(&f, "Txt_TipoAcciaio"), "S235 (Fe360)");
+    auto* fy = Trova<QLineEdit>(&f, "Txt_fy");
+    fy->setFocus();
+    fy->selectAll();
+    QTest::keyClicks(fy, "460");
+    EXPECT_EQ(Testo(&f, "Txt_TipoAcciaio"), "S235 (Fe360), fy 460");
+    EXPECT_EQ(Sezione().TipoAcciaio, "S235 (Fe360)") << "the curves ask for the grade";
+    Acciaio(s, 2);
+    f.AllAttivazione();
+    EXPECT_EQ(Testo(&f, "Txt_TipoAcciaio"), "S355 (Fe510)");
+}
+
+TEST_F(VerdettiTest, UltimateStrengthThatIsNoneIsToldAndPutBack) {
+    auto& s = Ipe500();
+    auto* fu = Trova<QLineEdit>(&s, "Txt_fu");
+    fu->setFocus();
+    fu->selectAll();
+    QTest::keyClicks(fu, "0");
+    EXPECT_TRUE(registratore.testi.empty());
+    EXPECT_EQ(Sezione().fu, 360);
+    s.Data1->MoveNext();
+    EXPECT_EQ(Sezione().fu, 360) << "the next row does not take it";
+    QTest::keyClick(fu, Qt::Key_Return);
+    EXPECT_EQ(registratore.testi, std::vector<std::string>{"fu deve essere > 0"});
+    EXPECT_EQ(Testo(&s, "Txt_fu"), "360");
+    Scrive(&s, "Txt_fu", "-1");
+    EXPECT_EQ(registratore.testi.size(), 2U);
+    EXPECT_EQ(Testo(&s, "Txt_fu"), "360");
+    Scrive(&s, "Txt_fu", "400");
+    EXPECT_EQ(Sezione().fu, 400);
+}
+
+// An area too small for the effective one: betaA above 1, which the caller tells when it computes.
+TEST_F(VerdettiTest, WhatTheCallerWouldHaveSaidWhileTypingComesAtItsEnd) {
+    auto& s = Ipe500();
+    Acciaio(s, 2);
+    auto& f = Dettaglio(s, "FrmPresFless");
+    Sezione().Area = 5000;
+    registratore.testi.clear();
+    auto* N = Trova<QLineEdit>(&f, "TxtNsd");
+    N->setFocus();
+    N->selectAll();
+    QTest::keyClicks(N, "900");
+    EXPECT_TRUE(registratore.testi.empty());
+    QTest::keyClick(N, Qt::Key_Return);
+    ASSERT_EQ(registratore.testi.size(), 1U);
+    EXPECT_TRUE(registratore.testi[0].starts_with("Errore! betaA"));
+    N->setFocus();
+    QTest::keyClick(N, Qt::Key_Return);
+    EXPECT_EQ(registratore.testi.size(), 1U) << "nothing was typed since";
+}
+
 TEST_F(VerdettiTest, NoteStandsForFlangesThatDifferUnderALoadAwayFromTheCentroid) {
     auto& s = Ipe500();
     Premi(&s, "Command2"); // plain ends, uniform moment

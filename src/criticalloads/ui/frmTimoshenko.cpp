@@ -1,6 +1,9 @@
 #include "criticalloads/ui/frmTimoshenko.h"
 
 #include <QRadioButton>
+#include <QTimer>
+
+#include <utility>
 
 #include "criticalloads/DisegnoTrave.h"
 #include "frame/Numeri.h"
@@ -46,6 +49,10 @@ frmTimoshenko::frmTimoshenko() : Schermo(QStringLiteral("frmTimoshenko")), ui_(n
             SegnaEntrata(box, NumeroIn(box) < 0 ? tr("Il valore non può essere negativo") : QString());
         });
     }
+    Collega(entries, &FiltroCampi::conclusa, this, [this](QLineEdit* box) {
+        if (box == ui_->Txt_L)
+            LasciaLunghezza();
+    });
     CollegaOpzioni();
     Collega(ui_->Command1, &QPushButton::clicked, this, [this] { Calcolo(); });
     DimensionaIniziale({});
@@ -149,9 +156,21 @@ void frmTimoshenko::Aggiorna() {
         Calcolo();
 }
 
+/// A length that is none is told on leaving it; the calculation that the same key or click asks for does not
+/// tell it a second time.
+void frmTimoshenko::LasciaLunghezza() {
+    L = m_a_mm(NumeroIn(ui_->Txt_L));
+    if (LunghezzaValida())
+        return;
+    lunghezzaDetta_ = true;
+    QTimer::singleShot(0, this, [this] { lunghezzaDetta_ = false; });
+}
+
 void frmTimoshenko::Calcolo() {
     ui_->Lbl_Mcr->clear();
     L = m_a_mm(NumeroIn(ui_->Txt_L));
+    if (std::exchange(lunghezzaDetta_, false) && !(L > 0))
+        return;
     Iz = cm4_a_mm4(NumeroIn(ui_->TxtIz));
     IT = cm4_a_mm4(NumeroIn(ui_->TxtIT));
     Iw = cm6_a_mm6(NumeroIn(ui_->TxtIw));

@@ -44,11 +44,14 @@ public:
 
 private:
     void Carica();
+    void LasciaLunghezza();
     void CollegaOpzioni();
     void Disegna();
     [[nodiscard]] bool Mensola() const;
     [[nodiscard]] std::int16_t TipoCarico() const;
     [[nodiscard]] std::int16_t QuotaCarico() const;
+
+    bool lunghezzaDetta_ = false; ///< what is wrong with L has just been told
 
     std::unique_ptr<Ui::frmTimoshenko> ui_;
     std::array<double, 3> prese_{}; ///< Iz, IT, Iw as the section had them

@@ -268,4 +268,35 @@ TEST_F(FrmTimoshenkoTest, PictureFollowsTheOptions) {
     }
 }
 
+TEST_F(FrmTimoshenkoTest, LengthThatIsNoneIsToldOnceOnLeavingIt) {
+    auto& t = Apre();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&t));
+    auto* L = Trova<QLineEdit>(&t, "Txt_L");
+    auto* button = Trova<QPushButton>(&t, "Command1");
+    const auto digita = [&](const char* text) {
+        registratore.testi.clear();
+        L->setFocus();
+        L->selectAll();
+        QTest::keyClicks(L, text);
+        EXPECT_TRUE(registratore.testi.empty());
+    };
+    const Testi once{"L deve essere > 0"};
+    digita("0");
+    QTest::keyClick(L, Qt::Key_Tab);
+    EXPECT_EQ(registratore.testi, once) << "left";
+    digita("-2");
+    QTest::keyClick(L, Qt::Key_Return);
+    EXPECT_EQ(registratore.testi, once) << "Enter also calculates";
+    digita("0");
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(registratore.testi, once) << "so does the click that leaves it";
+    QCoreApplication::processEvents();
+    button->click();
+    EXPECT_EQ(registratore.testi.size(), 2U) << "asked for again";
+    EXPECT_EQ(Mcr(t), "");
+    digita("4");
+    QTest::keyClick(L, Qt::Key_Tab);
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
 } // namespace
