@@ -36,7 +36,7 @@ public:
         QuotaAltezza("h");
         QuotaLarghezza("b");
         for (const NomeSagoma& nome : s_.nomi)
-            Scrivi(nome);
+            Scrive(nome);
     }
 
 private:
@@ -92,7 +92,7 @@ private:
         q_.Testo({(sinistra.x + destra.x) / 2, y + 1}, nome, Allinea::Centro, Posa::Alto);
     }
 
-    void Scrivi(const NomeSagoma& nome) const {
+    void Scrive(const NomeSagoma& nome) const {
         const Punto dove = In(nome.x, nome.y);
         const Punto testo = dove + Punto{nome.dx, nome.dy} * testo_;
         if (nome.richiamo) {

@@ -29,7 +29,7 @@ void Contorno(SezioneSagomoU& s) {
 }
 
 /// The effective outlines are those of one channel: they say nothing of the moduli of a pair.
-void TogliModuliDellaCoppia(SezioneSagomoU& s) {
+void ToglieModuliDellaCoppia(SezioneSagomoU& s) {
     if (s.ClasseFlessioneY == 4)
         s.WyEff = s.McyRd = nessunNumero;
     if (s.ClasseFlessioneZ == 4)
@@ -66,7 +66,7 @@ void SezioneSagomoU::InizializzaSezione(MostraVplRd* schermo) {
     FlessioneY(*this);
     FlessioneZ(*this);
     if (Doppi)
-        TogliModuliDellaCoppia(*this);
+        ToglieModuliDellaCoppia(*this);
     Instabilita(*this);
     Taglio(*this);
     if (MiaForm != nullptr)

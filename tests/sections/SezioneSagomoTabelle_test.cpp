@@ -79,7 +79,7 @@ const Membri<SezioneSagomoL>& MembriL() {
     return membri;
 }
 
-template <typename S> S Leggi(const CasoDaFile& caso, const Membri<S>& membri) {
+template <typename S> S Legge(const CasoDaFile& caso, const Membri<S>& membri) {
     S s;
     for (const auto& [nome, valore] : caso.dati)
         membri.at(nome)(s, valore);
@@ -161,7 +161,7 @@ class CanaliTabelle : public SezioneSagomoTabelle {};
 class AngolariTabelle : public SezioneSagomoTabelle {};
 
 TEST_P(CanaliTabelle, AgreeWithTheSecondDerivation) {
-    auto s = Leggi(GetParam(), MembriU());
+    auto s = Legge(GetParam(), MembriU());
     SchermoFinto schermo;
     s.InizializzaSezione(&schermo);
     Letture letto = LeggeAssiale(s, "Primo");
@@ -180,7 +180,7 @@ TEST_P(CanaliTabelle, AgreeWithTheSecondDerivation) {
 }
 
 TEST_P(AngolariTabelle, AgreeWithTheSecondDerivation) {
-    auto s = Leggi(GetParam(), MembriL());
+    auto s = Legge(GetParam(), MembriL());
     InizializzaConAreaEfficace(s);
     Letture letto = LeggeContorno(*s.SezioneGenericaCorrente);
     letto.insert({{"SnellAla", s.SnellAla},
