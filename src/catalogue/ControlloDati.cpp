@@ -11,6 +11,8 @@
 #include "frame/Unita.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneGenerica.h"
+#include "sections/SezioneSagomoL.h"
+#include "sections/SezioneSagomoU.h"
 
 namespace sagomi {
 
@@ -20,8 +22,11 @@ constexpr double tolGeometria = 0.01;           ///< exact but for the rounding 
 constexpr double tolTorsioneRastremata = 0.092; ///< JotaT on tapered flanges
 constexpr double tolIngobbamento = 0.04;        ///< JotaOmega takes the flanges' thickness for small
 constexpr double tolIngobbamentoRastremata = 0.05;
+constexpr double tolJzRastremata = 0.02;  ///< the tables' tf of tall channels lies beside that of the slope
+constexpr double tolTorsioneU = 0.092;    ///< JotaT on channels
+constexpr double tolIngobbamentoU = 0.45; ///< JotaOmega works on the full width of the flanges
 
-bool ConContorno(const SezioneDoppioT& sezione) {
+template <typename S> bool ConContorno(const S& sezione) {
     return sezione.SezioneGenericaCorrente && sezione.SezioneGenericaCorrente->Area > 0;
 }
 
@@ -102,6 +107,34 @@ std::vector<VoceControllo> VociSaldati(const SezioneDoppioT& sezione) {
     return {{9, A, tolGeometria},     {10, Iy, tolGeometria},
             {11, Wsup, tolGeometria}, {12, mm3_a_cm3(s.WxInferiore), tolGeometria},
             {14, iy, tolGeometria},   {18, iz, tolGeometria}};
+}
+
+std::vector<VoceControllo> VociSagomiU(const SezioneSagomoU& sezione) {
+    if (!ConContorno(sezione))
+        return {};
+    const SezioneGenerica& s = *sezione.SezioneGenericaCorrente;
+    return {{8, mm2_a_cm2(s.Area), tolGeometria},
+            {9, mm4_a_cm4(s.JotaXG), tolGeometria},
+            {13, mm4_a_cm4(s.JotaYG), sezione.pendenza > 0 ? tolJzRastremata : tolGeometria},
+            {17, mm4_a_cm4(sezione.JotaT()), tolTorsioneU},
+            {18, mm6_a_cm6(sezione.JotaOmega()), tolIngobbamentoU}};
+}
+
+std::vector<VoceControllo> VociSagomiL(const SezioneSagomoL& sezione) {
+    if (!ConContorno(sezione))
+        return {};
+    const SezioneGenerica& s = *sezione.SezioneGenericaCorrente;
+    return {{7, mm2_a_cm2(s.Area), tolGeometria},
+            {8, mm4_a_cm4(s.JotaXG), tolGeometria},
+            {11, mm4_a_cm4(s.JotaYG), tolGeometria}};
+}
+
+void ControlloDatiSagomi(const Lettore& riga, const SezioneSagomoU& sezione) {
+    ConfrontaVoci(riga, VociSagomiU(sezione));
+}
+
+void ControlloDatiSagomi(const Lettore& riga, const SezioneSagomoL& sezione) {
+    ConfrontaVoci(riga, VociSagomiL(sezione));
 }
 
 void ControlloDatiSaldati(const Lettore& riga, const SezioneDoppioT& sezione) {

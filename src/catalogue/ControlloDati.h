@@ -6,6 +6,8 @@ namespace sagomi {
 
 class Lettore;
 class SezioneDoppioT;
+class SezioneSagomoL;
+class SezioneSagomoU;
 
 /// One field of a row against what follows from the row's geometry, both in the unit of the table.
 struct VoceControllo {
@@ -37,6 +39,18 @@ std::vector<VoceControllo> VociSaldati(const SezioneDoppioT& sezione);
 
 /// The value check of the screens of welded sections, with equal or different flanges as the section has.
 void ControlloDatiSaldati(const Lettore& riga, const SezioneDoppioT& sezione);
+
+/// What is compared of a channel, in order: area, second moments, torsion and warping constants. The latter
+/// two rest on approximate formulas and are given more room.
+std::vector<VoceControllo> VociSagomiU(const SezioneSagomoU& sezione);
+
+/// What is compared of an angle, in order: area and second moments.
+std::vector<VoceControllo> VociSagomiL(const SezioneSagomoL& sezione);
+
+/// The value check of the screens of channels and of angles; of a pair its outline is still that of one
+/// piece.
+void ControlloDatiSagomi(const Lettore& riga, const SezioneSagomoU& sezione);
+void ControlloDatiSagomi(const Lettore& riga, const SezioneSagomoL& sezione);
 
 /// The value check of the rolled double-T screen, after each change of row.
 /// @param sezione  made of the row in hand, after InizializzaSezione

@@ -13,11 +13,14 @@
 #include "catalogue/Lettore.h"
 #include "catalogue/LettoreXls.h"
 #include "catalogue/RigaDoppioT.h"
+#include "catalogue/RigaSagomi.h"
 #include "catalogue/ScrittoreXls.h"
 #include "frame/Ambiente.h"
 #include "frame/GeneraleSagomi.h"
 #include "sections/AreaEfficace.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneSagomoL.h"
+#include "sections/SezioneSagomoU.h"
 
 using namespace sagomi;
 
@@ -160,32 +163,47 @@ TEST(SagomiXls, HeadingsAreFoundWhateverTheirCapitals) {
 }
 
 /// Every row of a screen's families against its geometry. Returns how many there are.
-int ControllaRighe(const char* schermo, RigheDoppioT righe,
-                   void (*controlla)(const Lettore&, SezioneDoppioT&)) {
+/// @param legge, controlla  take a row and a section of kind T
+template <typename T, typename Legge, typename Controlla>
+int ControllaRighe(const char* schermo, Legge legge, Controlla controlla) {
     Lettore l = LettoreSu(ComponeQuery(schermo, Tutti(schermo), 0));
     int controllate = 0;
     for (; !l.EOF_(); l.MoveNext(), ++controllate) {
         const prove::Registratore r;
-        auto sezione = std::make_shared<SezioneDoppioT>();
+        auto sezione = std::make_shared<T>();
         SezioneCorrente = sezione;
-        LeggeRiga(l, *sezione, righe);
+        legge(l, *sezione);
         sezione->TipoAcciaio = "S235 (Fe360)";
         sezione->fy = 235;
         sezione->fu = 360;
         InizializzaConAreaEfficace(*sezione);
         controlla(l, *sezione);
         EXPECT_THAT(r.testi, testing::IsEmpty()) << sezione->Designation;
-        EXPECT_FALSE(sezione->ErroreDatiDatabase) << sezione->Designation;
+        if constexpr (std::is_same_v<T, SezioneDoppioT>) {
+            EXPECT_FALSE(sezione->ErroreDatiDatabase) << sezione->Designation;
+        }
     }
     RipristinaGenerale();
     return controllate;
 }
 
 TEST(SagomiXls, EveryRowAgreesWithItsGeometry) {
-    const auto saldati = [](const Lettore& l, SezioneDoppioT& s) { ControlloDatiSaldati(l, s); };
-    EXPECT_EQ(ControllaRighe("frmDoppioT", RigheDoppioT::Laminate, ControlloDatiLaminati), 792);
-    EXPECT_EQ(ControllaRighe("frmSaldati", RigheDoppioT::Saldate, saldati), 177);
-    EXPECT_EQ(ControllaRighe("frmSaldatiAsimm", RigheDoppioT::SaldateAsimmetriche, saldati), 38);
+    using T = SezioneDoppioT;
+    const auto saldati = [](const Lettore& l, T& s) { ControlloDatiSaldati(l, s); };
+    const auto legge = [](RigheDoppioT righe) {
+        return [righe](const Lettore& l, T& s) { LeggeRiga(l, s, righe); };
+    };
+    EXPECT_EQ(ControllaRighe<T>("frmDoppioT", legge(RigheDoppioT::Laminate), ControlloDatiLaminati), 792);
+    EXPECT_EQ(ControllaRighe<T>("frmSaldati", legge(RigheDoppioT::Saldate), saldati), 177);
+    EXPECT_EQ(ControllaRighe<T>("frmSaldatiAsimm", legge(RigheDoppioT::SaldateAsimmetriche), saldati), 38);
+}
+
+// 18 UPN, 9 UAP, 114 equal and 65 unequal angles: 206 rows.
+TEST(SagomiXls, EveryChannelAndAngleAgreesWithItsGeometry) {
+    const auto legge = [](const Lettore& l, auto& s) { LeggeRiga(l, s); };
+    const auto controlla = [](const Lettore& l, const auto& s) { ControlloDatiSagomi(l, s); };
+    EXPECT_EQ(ControllaRighe<SezioneSagomoU>("frmSagomiU", legge, controlla), 27);
+    EXPECT_EQ(ControllaRighe<SezioneSagomoL>("frmSagomiL", legge, controlla), 179);
 }
 
 } // namespace
