@@ -118,7 +118,7 @@ std::shared_ptr<Giunto> Giunto::CopiaDiLavoro() const {
     return copia;
 }
 
-void Giunto::Riprendi(const Giunto& copia) {
+void Giunto::Riprende(const Giunto& copia) {
     Giunto nuovo = copia;
     nuovo.PuntatoreSezioni(Trave, Colonna);
     nuovo.fattori_ = fattori_;

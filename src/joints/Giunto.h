@@ -267,7 +267,7 @@ public:
     /// A copy with sections of its own, which keeps to the partial factors that are in force now.
     [[nodiscard]] std::shared_ptr<Giunto> CopiaDiLavoro() const;
     /// Takes everything from a copy but the sections.
-    void Riprendi(const Giunto& copia);
+    void Riprende(const Giunto& copia);
     /// Takes from a copy what a search leaves that found nothing: no rows of results, not Acquisito.
     void RiprendeEsito(const Giunto& copia);
     /// Root dimension of a section: throat of its fillet or radius [mm].

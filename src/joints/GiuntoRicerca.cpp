@@ -263,7 +263,7 @@ bool Giunto::Cerca(double passo, double obiettivo, Giunto& originale) {
         sTraveColonna_Calcola();
         RicercaGiunto ricerca(*this, *osservatore_, passo, obiettivo);
         if (ricerca.Esegue()) {
-            originale.Riprendi(*this);
+            originale.Riprende(*this);
             return true;
         }
         if (!ricerca.Fermata())

@@ -58,6 +58,8 @@ public:
     void PuntatoreColonna();       ///< gives the column to both joints
     void PuntatoreTraveDestra();   ///< gives right beam and column to joint 1
     void PuntatoreTraveSinistra(); ///< gives left beam and column to joint 2
+    /// One object for each role, and the joints refer to these.
+    void CollegaSezioni();
     /// Beam and column of the current joint.
     void PuntatoreSezioneCorrente(std::shared_ptr<SezioneDoppioT>& trave,
                                   std::shared_ptr<SezioneDoppioT>& colonna) const;
@@ -85,7 +87,6 @@ private:
     [[nodiscard]] std::shared_ptr<SezioneDoppioT>
     Propria(std::shared_ptr<SezioneDoppioT> sezione, const std::shared_ptr<SezioneDoppioT>& altra1,
             const std::shared_ptr<SezioneDoppioT>& altra2) const;
-    void CollegaSezioni();
     void CopiaOggetti();
     [[nodiscard]] bool Calcola(OsservatoreProgetto* osservatore);
     static void PreparaProgetto(Giunto& g);

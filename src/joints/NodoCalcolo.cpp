@@ -105,7 +105,6 @@ double Nodo::LunghezzaInclinata() {
     return ParteIntera(netta / std::cos(angolo));
 }
 
-/// One object for each role, and the joints refer to these.
 void Nodo::CollegaSezioni() {
     Colonnainf = Propria(Colonnainf, TraveDx.Riferimento(), TraveSx.Riferimento());
     TraveSx = Propria(TraveSx.Riferimento(), TraveDx.Riferimento(), Colonnainf);
@@ -135,7 +134,7 @@ bool Nodo::EsegueCalcolo(OsservatoreProgetto* osservatore) {
     try {
         const bool esito = copia.Calcola(osservatore);
         if (esito)
-            giunto->Riprendi(*copia.ConnessioneCorrente);
+            giunto->Riprende(*copia.ConnessioneCorrente);
         else
             giunto->RiprendeEsito(*copia.ConnessioneCorrente);
         return esito;

@@ -85,7 +85,7 @@ TEST_P(Verifiche, Valori) {
     const CasoDaFile& caso = GetParam();
     NodoDaFile n(caso, false);
     const Registratore boxes;
-    ASSERT_TRUE(n.nodo.EseguiCalcolo());
+    ASSERT_TRUE(n.nodo.EsegueCalcolo());
     EXPECT_TRUE(n.giunto().Acquisito);
     Confronta(caso, n.giunto());
     EXPECT_EQ(Avvisi(boxes), caso.attesi.at("avvisi"));
@@ -96,7 +96,7 @@ TEST_P(Ricerche, TabellaEMigliore) {
     NodoDaFile n(caso, true);
     const Registratore boxes;
     Conta osservatore(int(NumeroDaTesto(caso.dati.at("ferma"))));
-    const bool trovato = n.nodo.EseguiCalcolo(&osservatore);
+    const bool trovato = n.nodo.EsegueCalcolo(&osservatore);
     EXPECT_EQ(osservatore.candidati, NumeroDaTesto(caso.attesi.at("candidati")));
     const TabellaSelezione& tabella = n.giunto().RisultatiIntermedi_Estrai();
     ASSERT_EQ(tabella.n(), NumeroDaTesto(caso.attesi.at("righe")));
