@@ -39,6 +39,17 @@ bool AcciaioCls::InizializzaAcciaioCls() {
         Avvisa("hc < 0 ammesso solo per soletta piena", {}, Icona::Stop);
         return false;
     }
+    CorreggeGrecata();
+    if (const auto* inUso = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente))
+        Sezione = *inUso;
+    if (!Sezione || !Sezione->SezioneGenericaCorrente)
+        return false;
+    SolettaOggettoCrea();
+    return true;
+}
+
+// The width of a rib is taken before its spacing is corrected.
+void AcciaioCls::CorreggeGrecata() {
     if (TipoSoletta == nervatureTrasversali)
         b0 = (iNervature + bb - bs) / 2;
     if (TipoSoletta == nervatureParallele) {
@@ -52,12 +63,6 @@ bool AcciaioCls::InizializzaAcciaioCls() {
         Avvisa("L'interasse delle nervature deve essere > bs, bb");
         iNervature = MaggioreLarghezza(*this) + 1;
     }
-    if (const auto* inUso = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente))
-        Sezione = *inUso;
-    if (!Sezione || !Sezione->SezioneGenericaCorrente)
-        return false;
-    SolettaOggettoCrea();
-    return true;
 }
 
 bool AcciaioCls::DatiGrecataAccettabili() const {

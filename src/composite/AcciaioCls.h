@@ -234,12 +234,21 @@ public:
     [[nodiscard]] double yNeutroDaSopra() const { return Sommita() - yNeutro; }
 
 private:
+    void CorreggeGrecata();
+    void DivideParti(); ///< at yNeutro, elastic
+    [[nodiscard]] double Riduzione() const;
     bool RecordLeggeScrive(std::string_view modo, std::int16_t nFile, Singolo& n, Singolo& resistenzaCls,
                            Singolo& snervamentoBarre);
     [[nodiscard]] std::shared_ptr<Poligono> ContornoAcciaio() const;
     [[nodiscard]] double TolleranzaNeutro() const;
-    [[nodiscard]] double LivelloArmatura() const; ///< from the top: H + hc - c, not narrowed
     void ToglieParti();
+    // Branches of the plastic resistance
+    struct Forze;
+    void MplRdAssurdo(const Forze& f);
+    void PositivoAsseInAcciaio(const Forze& f);
+    void PositivoAsseInSoletta(const Forze& f);
+    void NegativoAsseInAcciaio(const Forze& f);
+    void NegativoAsseInSoletta(const Forze& f);
     void CompletaParti() const; ///< area and centroid of each part
 
     std::string Titolo;

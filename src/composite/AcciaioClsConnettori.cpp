@@ -50,6 +50,12 @@ std::int16_t Conta(AcciaioCls& t, double n) {
 
 } // namespace
 
+double AcciaioCls::Riduzione() const {
+    if (TipoSoletta == solettaPiena)
+        return 1;
+    return TipoSoletta == nervatureTrasversali ? RiduzioneTrasversale(*this) : RiduzioneParallela(*this);
+}
+
 void AcciaioCls::CalcolaPrd() {
     constexpr double Ecm1 = 9500; // of a cylinder strength of 1 N/mm2, ENV 1992-1-1 3.1.2.5.2
     Ecm = Ecm1 * std::cbrt(fck + 8);
@@ -65,9 +71,7 @@ void AcciaioCls::CalcolaPrd() {
     const double alfa = snellezza >= 4 ? 1 : 0.2 * (snellezza + 1);
     PRd1 = 0.8 * fu * AreaPiolo / GammaV;
     PRd2 = alfa * 0.29 * dPiolo * dPiolo * std::sqrt(fck * Ecm) / GammaV;
-    kRiduzione = TipoSoletta == nervatureTrasversali ? RiduzioneTrasversale(*this)
-                 : TipoSoletta == nervatureParallele ? RiduzioneParallela(*this)
-                                                     : 1;
+    kRiduzione = Riduzione();
     PRd = kRiduzione * std::min(PRd1, PRd2);
     if (!std::isfinite(PRd)) // without a partial factor
         PRd = 0;

@@ -39,6 +39,13 @@ double AcciaioCls::MomInerziaSezioneComposta(double y) const {
            trasporto(cls) / CoeffOmogeneizzazione;
 }
 
+void AcciaioCls::DivideParti() {
+    const bool positivo = TipoVerifica == metodoNPositivo;
+    ContornoAcciaio()->DividiY(yNeutro, positivo ? AcciaioCompresso : AcciaioTeso,
+                               positivo ? AcciaioTeso : AcciaioCompresso);
+    Soletta->DividiY(yNeutro, positivo ? ClsCompresso : ClsTeso, positivo ? ClsTeso : ClsCompresso);
+}
+
 void AcciaioCls::SigmaCalcola() {
     const double Ht = Sommita();
     const double n = CoeffOmogeneizzazione;
@@ -47,12 +54,9 @@ void AcciaioCls::SigmaCalcola() {
         return;
     }
     yNeutro = yNeutroElasticoSezioneComposta();
-    const bool positivo = TipoVerifica == metodoNPositivo;
-    ContornoAcciaio()->DividiY(yNeutro, positivo ? AcciaioCompresso : AcciaioTeso,
-                               positivo ? AcciaioTeso : AcciaioCompresso);
-    Soletta->DividiY(yNeutro, positivo ? ClsCompresso : ClsTeso, positivo ? ClsTeso : ClsCompresso);
+    DivideParti();
     Jid = MomInerziaSezioneComposta(yNeutro);
-    const double z = hc < 0 && !positivo ? -((yNeutro - Ht) - hc) : Ht - yNeutro;
+    const double z = hc < 0 && TipoVerifica != metodoNPositivo ? -((yNeutro - Ht) - hc) : Ht - yNeutro;
     SigmaCls = -Msd * z / Jid / n;
     SigmaInf = Msd * yNeutro / Jid;
     SigmaSup = (yNeutro - Sezione->h) * Msd / Jid;

@@ -1,5 +1,7 @@
 // Plastic resistance, EC4 4.4.1. Moments are taken about the lower fibre of the steel.
 
+#include <algorithm>
+
 #include "composite/AcciaioCls.h"
 #include "composite/ParteReagente.h"
 #include "frame/Messaggi.h"
@@ -22,22 +24,11 @@ void Taglia(Poligono& p, double quota, std::shared_ptr<Poligono>& sopra, std::sh
     livello = yN;
 }
 
-/// Strengths and forces of the whole steel, the bars and the whole slab [N/mm2, N].
-struct Forze {
-    double fyd, fcd, fsd, Fa, Fs, Fc;
-
-    Forze(const AcciaioCls& t, double Aa)
-        : fyd(t.fyd()), fcd(AcciaioCls::fcd()), fsd(AcciaioCls::fsd()), Fa(fyd * Aa), Fs(fsd * t.As),
-          Fc(fcd * t.Soletta->Area) {}
-};
-
 } // namespace
 
 std::shared_ptr<Poligono> AcciaioCls::ContornoAcciaio() const {
     return Sezione->SezioneGenericaCorrente->Poligono;
 }
-
-double AcciaioCls::LivelloArmatura() const { return Sezione->h + hc - c; }
 
 double AcciaioCls::TolleranzaNeutro() const { return Sezione->h * ContornoAcciaio()->Area / 100000; }
 
@@ -58,40 +49,56 @@ void AcciaioCls::AzzeraRisultati() {
     ToglieParti();
 }
 
+/// Strengths, forces of the whole steel, the bars and the whole slab, level of the bars [N/mm2, N, mm].
+struct AcciaioCls::Forze {
+    ParteReagente acciaio;
+    double fyd, fcd, Fa, Fs, Fc, yBarre;
+
+    explicit Forze(const AcciaioCls& t)
+        : acciaio(t.ContornoAcciaio()), fyd(t.fyd()), fcd(AcciaioCls::fcd()), Fa(fyd * acciaio.A),
+          Fs(fsd() * t.As), Fc(fcd * t.Soletta->Area), yBarre(t.Sezione->h + t.hc - t.c) {}
+};
+
 void AcciaioCls::MplRdPositivo() {
     if (hc < 0) {
         MplRdSolettaSotto();
         return;
     }
     ToglieParti();
-    const ParteReagente acciaio(ContornoAcciaio());
-    const Forze f(*this, acciaio.A);
-    const double ySbarre = LivelloArmatura();
-    if (f.Fs > f.Fa) {
-        Avvisa("Resistenza barre > resistenza putrella !! Dati assurdi\n"
-               "Il momento resistente di progetto è calcolato moltiplicando la resistenza\n"
-               "a trazione della trave per la distanza fra baricentro-trave e armatura",
-               {}, Icona::Avviso);
-        MplRd = (ySbarre - acciaio.yG) * f.Fa;
-        yNeutro = Sezione->h;
-        return;
-    }
-    if (f.Fc + f.Fs < f.Fa) { // axis in the steel
-        const double compressa = (f.Fa - (f.Fc + f.Fs)) / 2 / f.fyd;
-        Taglia(*ContornoAcciaio(), Quota(compressa, acciaio.A), AcciaioCompresso, AcciaioTeso, yNeutro);
-        ClsCompresso = Soletta;
-        MplRd = ySbarre * f.Fs + f.fcd * ParteReagente(Soletta).S() -
-                f.fyd * (ParteReagente(AcciaioTeso).S() - ParteReagente(AcciaioCompresso).S());
-        Vl = f.Fc + f.Fs;
-        CompletaParti();
-        return;
-    }
+    const Forze f(*this);
+    if (f.Fs > f.Fa)
+        MplRdAssurdo(f);
+    else if (f.Fc + f.Fs < f.Fa)
+        PositivoAsseInAcciaio(f);
+    else
+        PositivoAsseInSoletta(f);
+    CompletaParti();
+}
+
+void AcciaioCls::MplRdAssurdo(const Forze& f) {
+    Avvisa("Resistenza barre > resistenza putrella !! Dati assurdi\n"
+           "Il momento resistente di progetto è calcolato moltiplicando la resistenza\n"
+           "a trazione della trave per la distanza fra baricentro-trave e armatura",
+           {}, Icona::Avviso);
+    MplRd = (f.yBarre - f.acciaio.yG) * f.Fa;
+    yNeutro = Sezione->h;
+}
+
+void AcciaioCls::PositivoAsseInAcciaio(const Forze& f) {
+    const double compressa = (f.Fa - (f.Fc + f.Fs)) / 2 / f.fyd;
+    Taglia(*ContornoAcciaio(), Quota(compressa, f.acciaio.A), AcciaioCompresso, AcciaioTeso, yNeutro);
+    ClsCompresso = Soletta;
+    MplRd = f.yBarre * f.Fs + f.fcd * ParteReagente(Soletta).S() -
+            f.fyd * (ParteReagente(AcciaioTeso).S() - ParteReagente(AcciaioCompresso).S());
+    Vl = f.Fc + f.Fs;
+}
+
+void AcciaioCls::PositivoAsseInSoletta(const Forze& f) {
     const double compressa = Quota(f.Fa - f.Fs, f.fcd);
     Taglia(*Soletta, Quota(compressa, Soletta->Area), ClsCompresso, ClsTeso, yNeutro);
     AcciaioTeso = ContornoAcciaio();
-    MplRd = -f.Fa * acciaio.yG + ySbarre * f.Fs + f.fcd * ParteReagente(ClsCompresso).S();
+    MplRd = -f.Fa * f.acciaio.yG + f.yBarre * f.Fs + f.fcd * ParteReagente(ClsCompresso).S();
     Vl = f.Fa;
-    CompletaParti();
 }
 
 void AcciaioCls::MplRdNegativo() {
@@ -100,27 +107,33 @@ void AcciaioCls::MplRdNegativo() {
         return;
     }
     ToglieParti();
-    const ParteReagente acciaio(ContornoAcciaio());
-    const Forze f(*this, acciaio.A);
-    const double ySbarre = LivelloArmatura();
-    if (f.Fs < f.Fa) { // axis in the steel; the concrete is in tension
-        const double tesa = (f.Fa - f.Fs) / 2 / f.fyd;
-        Taglia(*ContornoAcciaio(), Quota(tesa, acciaio.A), AcciaioTeso, AcciaioCompresso, yNeutro);
-        MplRd =
-            f.fyd * (ParteReagente(AcciaioCompresso).S() - ParteReagente(AcciaioTeso).S()) - ySbarre * f.Fs;
-        Vl = f.Fs;
-        return;
-    }
+    const Forze f(*this);
+    if (f.Fs < f.Fa)
+        NegativoAsseInAcciaio(f);
+    else
+        NegativoAsseInSoletta(f);
+    CompletaParti();
+}
+
+// All of the slab is in tension: it is not counted.
+void AcciaioCls::NegativoAsseInAcciaio(const Forze& f) {
+    const double tesa = (f.Fa - f.Fs) / 2 / f.fyd;
+    Taglia(*ContornoAcciaio(), Quota(tesa, f.acciaio.A), AcciaioTeso, AcciaioCompresso, yNeutro);
+    MplRd = f.fyd * (ParteReagente(AcciaioCompresso).S() - ParteReagente(AcciaioTeso).S()) - f.yBarre * f.Fs;
+    Vl = f.Fs;
+}
+
+// The concrete counts against the steel, as the model has it; MomentoInEquilibrio counts it with the steel.
+void AcciaioCls::NegativoAsseInSoletta(const Forze& f) {
     const double sottoBarre = Soletta->Area - beff * c;
     const double massima = f.fcd * sottoBarre + f.Fa; // what slab and steel can balance
-    const double Fs = f.Fs < massima ? f.Fs : massima;
+    const double Fs = std::min(f.Fs, massima);
     const double compressa = f.Fs < massima ? Quota(Fs - f.Fa, f.fcd) : sottoBarre;
     Taglia(*Soletta, Quota(Soletta->Area - compressa, Soletta->Area), ClsTeso, ClsCompresso, yNeutro);
     AcciaioCompresso = ContornoAcciaio();
     const ParteReagente cls(ClsCompresso);
-    MplRd = f.fyd * acciaio.S() - ySbarre * Fs - f.fcd * cls.S();
+    MplRd = f.fyd * f.acciaio.S() - f.yBarre * Fs - f.fcd * cls.S();
     Vl = Fs - f.fcd * cls.A;
-    CompletaParti();
 }
 
 void AcciaioCls::MplRdSolettaSotto() {
