@@ -39,6 +39,7 @@ public:
     }
 
     static void Saldature(const Giunto& g, TracciaGiunto& traccia);
+    static void Irrigidimenti(const Giunto& g, TracciaGiunto& traccia);
     static void Ala(const Giunto& g, TracciaGiunto& traccia);
     static void Flangia(const Giunto& g, TracciaGiunto& traccia);
     static void Anima(const Giunto& g, TracciaGiunto& traccia);
@@ -61,6 +62,16 @@ void Tracciatore::Saldature(const Giunto& g, TracciaGiunto& traccia) {
     if (g.Af > massima)
         ala.Testo("Nota", "gola massima " + Formato("0.0", massima) + " mm");
     Tracciatore(traccia, "Saldatura dell'anima della trave", "EC3 6.6.5.2")("aw", g.aw, "mm");
+}
+
+/// The stiffener counts as the flange of the beam, also where its whole millimetres are less.
+void Tracciatore::Irrigidimenti(const Giunto& g, TracciaGiunto& traccia) {
+    if (!g.Irrigidito() && !g.SoloCompressione())
+        return;
+    Tracciatore riga(traccia, "Irrigidimenti", annessoJ);
+    riga("Irr_Spessore", g.Irr_Spessore, "mm")("Irr_B", g.Irr_B, "mm")("Irr_a", g.Irr_a, "mm");
+    if (g.Irr_Spessore < g.t().tf)
+        riga.Testo("Nota", "più sottile dell'ala della trave, la cui resistenza conta intera");
 }
 
 void Tracciatore::Ala(const Giunto& g, TracciaGiunto& traccia) {
@@ -131,6 +142,7 @@ void Tracciatore::Pannello(const Giunto& g, TracciaGiunto& traccia) {
 void Giunto::TracciaComponenti() {
     Traccia.clear();
     Tracciatore::Saldature(*this, Traccia);
+    Tracciatore::Irrigidimenti(*this, Traccia);
     Tracciatore(Traccia, "Colonna", annessoJ)("sigma", TensioneColonna(), "N/mm2");
     Tracciatore(Traccia, "Bulloni a trazione", "ENV 1993-1-1 6.5.5")("Bt", Bt_Rd(), "kN");
     Tracciatore::Ala(*this, Traccia);

@@ -1,0 +1,135 @@
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+#include "Registratore.h"
+#include "frame/GeneraleSagomi.h"
+#include "joints/Nodo.h"
+#include "joints/Sezioni.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class Traccia : public testing::Test {
+protected:
+    Traccia() {
+        RipristinaGenerale();
+        n.ImpostaNodo();
+        n.Tipovie = nodoT;
+        n.NumeroGiunti = 1;
+        n.CaratterizzaGiunti();
+        n.TraveDx = IPE300();
+        n.Colonnainf = HEB300();
+        g().Criterio1 = false;
+        g().IndiceBullone(7);
+        g().nf = 2;
+        g().tf = 15;
+        g().bf = 170;
+        g().ef = 40;
+        g().d2 = 45;
+        g().ex = 40;
+        g().L = 85;
+        g().u = 10;
+        n.TraveDx->Mysd = 40;
+    }
+    ~Traccia() override { RipristinaGenerale(); }
+
+    Giunto& g() { return *n.ConnessioneCorrente; }
+    double Valore(std::string_view componente, std::string_view nome) {
+        const PassoGiunto* passo = Passo(g().Traccia, componente, nome);
+        EXPECT_NE(passo, nullptr) << componente << ", " << nome;
+        return passo != nullptr ? passo->valore : NAN;
+    }
+    /// The components in the order of their first step.
+    std::vector<std::string> Componenti() {
+        std::vector<std::string> nomi;
+        for (const PassoGiunto& p : g().Traccia)
+            if (std::find(nomi.begin(), nomi.end(), p.componente) == nomi.end())
+                nomi.emplace_back(p.componente);
+        return nomi;
+    }
+
+    Nodo n;
+    Registratore boxes;
+};
+
+} // namespace
+
+TEST_F(Traccia, ComponentiNellOrdineDelCalcolo) {
+    ASSERT_TRUE(n.EsegueCalcolo());
+    EXPECT_THAT(Componenti(),
+                testing::ElementsAre(
+                    "Saldatura delle ali della trave", "Saldatura dell'anima della trave", "Colonna",
+                    "Bulloni a trazione", "Ala della colonna a flessione",
+                    "Ala della colonna a flessione, fila singola", "Ala della colonna a flessione, gruppo",
+                    "Flangia di estremità a flessione", "Flangia di estremità a flessione, fila interna",
+                    "Flangia di estremità a flessione, fila esterna", "Fila interna", "Fila esterna",
+                    "Anima della colonna a trazione", "Anima della colonna a compressione (schiacciamento)",
+                    "Anima della colonna a compressione (instabilità)",
+                    "Pannello d'anima della colonna a taglio", "Componente debole",
+                    "Anima della trave a trazione", "Ridistribuzione", "Momento resistente",
+                    "Ala e anima della trave", "Bulloni a taglio", "Coefficienti di rigidezza",
+                    "Coefficienti correttivi", "Rigidezza per Mj.Rd", "Rigidezza per Mj.el",
+                    "Rigidezza per Mj.Sd", "Classe di rigidezza"));
+    for (const PassoGiunto& p : g().Traccia)
+        EXPECT_FALSE(p.norma.empty()) << p.componente << ", " << p.nome;
+}
+
+TEST_F(Traccia, ValoriDelGiunto) {
+    n.Colonnainf->Area = 12000; // 1835 mm2 in shear: the panel governs
+    ASSERT_TRUE(n.EsegueCalcolo());
+    EXPECT_EQ(Valore("Momento resistente", "MplRdGIUNTO"), g().MplRdGIUNTO);
+    EXPECT_EQ(Valore("Componente debole", "RDebole"), g().RDebole);
+    EXPECT_EQ(Valore("Anima della colonna a trazione", "beff"), g().Beff(2));
+    EXPECT_EQ(Valore("Ridistribuzione", "FtRd_EffInf"), g().FtRd_EffInf);
+    EXPECT_EQ(Valore("Rigidezza per Mj.el", "Sj_Mela"), g().Sj_Mela);
+    EXPECT_EQ(Valore("Rigidezza per Mj.el", "mu"), 1.5);
+    EXPECT_EQ(Valore("Coefficienti di rigidezza", "k6_Estesa"), g().k6_Estesa);
+    // Before the rows give way.
+    EXPECT_GT(Valore("Fila interna", "FtRd_EffInf"), g().FtRd_EffInf);
+    EXPECT_EQ(Passo(g().Traccia, "Componente debole", "ComponenteDebole")->testo,
+              " dal pannello della colonna a taglio");
+}
+
+// The three modes give the resistance.
+TEST_F(Traccia, ModiDelTrattoT) {
+    ASSERT_TRUE(n.EsegueCalcolo());
+    const std::string_view flangia = "Flangia di estremità a flessione, fila esterna";
+    const double minimo =
+        std::min({Valore(flangia, "Modo 1"), Valore(flangia, "Modo 2"), Valore(flangia, "Modo 3")});
+    EXPECT_NEAR(minimo, g().FtRd_FilaSup_f, 1e-4);
+    EXPECT_NEAR(4 * Valore(flangia, "Mpl") / Valore(flangia, "m"), Valore(flangia, "Modo 1"), 1e-9);
+}
+
+TEST_F(Traccia, LaRigidezzaNonSiRipete) {
+    ASSERT_TRUE(n.EsegueCalcolo());
+    const std::size_t passi = g().Traccia.size();
+    g().Sj_Giunto_Calcola();
+    EXPECT_EQ(g().Traccia.size(), passi);
+    ASSERT_TRUE(n.EsegueCalcolo());
+    EXPECT_EQ(g().Traccia.size(), passi);
+}
+
+// Two rows size the weld by the flange alone: 7 mm, where the plate of 15 leaves 5.35 15 / 15.926 = 5.04.
+TEST_F(Traccia, NotaSullaGolaMassima) {
+    ASSERT_TRUE(n.EsegueCalcolo());
+    const PassoGiunto* nota = Passo(g().Traccia, "Saldatura delle ali della trave", "Nota");
+    ASSERT_NE(nota, nullptr);
+    EXPECT_EQ(nota->testo, "gola massima 5.0 mm");
+    g().nf = 1;
+    ASSERT_TRUE(n.EsegueCalcolo()); // 5.0 by the rule of one row
+    EXPECT_EQ(Passo(g().Traccia, "Saldatura delle ali della trave", "Nota"), nullptr);
+}
+
+// 10.7 rounds to 11 mm; 10.4 to 10, thinner than the flange whose resistance counts whole.
+TEST_F(Traccia, NotaSullIrrigidimentoSottile) {
+    g().Irrigidimenti = "Cp";
+    ASSERT_TRUE(n.EsegueCalcolo());
+    EXPECT_EQ(Passo(g().Traccia, "Irrigidimenti", "Nota"), nullptr);
+    n.TraveDx->tf = 10.4;
+    ASSERT_TRUE(n.EsegueCalcolo());
+    ASSERT_NE(Passo(g().Traccia, "Irrigidimenti", "Nota"), nullptr);
+    EXPECT_EQ(Valore("Irrigidimenti", "Irr_Spessore"), 10);
+}
