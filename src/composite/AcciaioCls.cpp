@@ -15,7 +15,8 @@ namespace sagomi {
 
 namespace {
 
-constexpr std::size_t puntiMassimi = 16000; ///< of half an outline: both halves are counted in 16 bits
+/// Points of half an outline: both halves, cut on every side, are counted in 16 bits.
+constexpr std::size_t puntiMassimi = 8000;
 
 double MaggioreLarghezza(const AcciaioCls& t) { return std::max<double>(t.bb, t.bs); }
 

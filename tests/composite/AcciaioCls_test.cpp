@@ -247,6 +247,15 @@ TEST_F(AcciaioClsTest, DataThatLeadNowhereEnd) {
     EXPECT_TRUE(t.InizializzaAcciaioCls());
     EXPECT_GT(t.nVerticiSoletta, 0);
     EXPECT_EQ(t.Soletta->nVertici(), t.nVerticiSoletta);
+    // A level that cuts every rib: the vertices of the part are counted in 16 bits, too.
+    t.bb = t.bs = 5e-4;
+    t.iNervature = 2e-3;
+    t.b0t = 1;
+    EXPECT_TRUE(t.InizializzaAcciaioCls());
+    std::shared_ptr<Poligono> sopra;
+    std::shared_ptr<Poligono> sotto;
+    EXPECT_NO_THROW(t.Soletta->DividiY(320, sopra, sotto));
+    EXPECT_TRUE(sopra && sotto);
 }
 
 TEST_F(AcciaioClsTest, WithoutADoubleTNothingIsBuilt) {
