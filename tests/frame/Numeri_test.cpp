@@ -348,6 +348,35 @@ TEST(Formato, AgreesWithLongArithmetic) {
     }
 }
 
+// ---- products of decimals, in whole numbers: hundredths times tenths are thousandths
+
+/// A whole number of hundredths, 1000 to 9999, as "10.12".
+std::string Centesimi(int n) {
+    const std::string digits = std::to_string(n);
+    return digits.substr(0, 2) + "." + digits.substr(2);
+}
+
+TEST(Prodotti, RoundByTheirDecimalsHoweverBinaryHoldsThem) {
+    int halves = 0;
+    for (int i = 1; i < 100; ++i)
+        for (int j = 101; j < 1000; ++j) {
+            const int thousandths = i * j;
+            if (thousandths < 10'000 || thousandths % 10 == 0 || thousandths >= 99'995)
+                continue; // four figures or more, two of them before the separator
+            const double product = (i / 100.0) * (j / 10.0);
+            const int hundredths = (thousandths + 5) / 10; // half away from zero
+            const std::string text = " " + Centesimi(hundredths);
+            ASSERT_EQ(FormatoCifre(4, product), text) << i << " hundredths of " << j << " tenths";
+            ASSERT_EQ(FormatoCifreEsp(4, product), text);
+            ASSERT_EQ(FormatoDecimali(2, product), text);
+            const std::string digits = std::to_string(hundredths);
+            ASSERT_EQ(FormatoEsponenziale(9, product),
+                      " " + digits.substr(0, 1) + "." + digits.substr(1) + "E+01");
+            halves += thousandths % 10 == 5 ? 1 : 0;
+        }
+    EXPECT_GT(halves, 4000);
+}
+
 // ---- plain text
 
 struct CasoPiano {

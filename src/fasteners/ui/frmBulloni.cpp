@@ -4,17 +4,22 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "fasteners/DisegnoForatura.h"
 #include "fasteners/VerdettoBullone.h"
 #include "fasteners/ui/GeneraleCollegamenti.h"
 #include "frame/GeneraleSagomi.h"
+#include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/ColonnaDecimali.h"
 #include "frame/ui/Entrata.h"
 #include "frame/ui/Esito.h"
 #include "frame/ui/Guida.h"
@@ -29,6 +34,9 @@ namespace {
 constexpr int cifreRisultati = 4;
 constexpr int ultimaEntrata = 5; ///< Txt_Rif up to here is typed, beyond it computed
 constexpr int nMessaggi = 5;
+constexpr int caratteriTermine = 9;  ///< room of a term of the check
+constexpr int righeMotivo = 3;       ///< of a reason beside the utilisation
+constexpr int righeOsservazioni = 9; ///< seen at once
 
 /// Places of Txt_Rif.
 enum { rifSpessore, rifForo, rif_e1, rif_p1, rif_e2, rif_p2, rifAlfa, rifResistenza };
@@ -40,9 +48,9 @@ constexpr std::pair<int, Singolo Bullone::*> misure[] = {{rifForo, &Bullone::do_
                                                          {rif_e2, &Bullone::e2},
                                                          {rif_p2, &Bullone::p2}};
 
-/// Writes a text without telling the box's own handler.
+/// Writes a text without telling an entry's own handler; a result has none, and shows its head by itself.
 void Scrive(QLineEdit* box, const std::string& text) {
-    const QSignalBlocker quiet(box);
+    const QSignalBlocker quiet(box->isReadOnly() ? nullptr : box);
     box->setText(QString::fromStdString(text));
     SegnaEntrata(box, {}); // it has heard nothing
 }
@@ -72,18 +80,31 @@ frmBulloni::frmBulloni() : Schermo(QStringLiteral("frmBulloni")), ui_(new Ui::fr
     ui_->Picture1->Mostra(DisegnoForatura({}));
     Txt_Rif_ = Vettore<QLineEdit>(QStringLiteral("Txt_Rif"));
     Txt_FSd_ = Vettore<QLineEdit>(QStringLiteral("Txt_FSd"));
+    PreparaForma();
+    PreparaContenuto();
+    CollegaCaselle();
+    CollegaScelte();
+    DimensionaIniziale({}); // the status line has its room by now
+}
+
+frmBulloni::~frmBulloni() = default;
+
+void frmBulloni::PreparaForma() {
     QSizePolicy place = ui_->List1->sizePolicy(); // keeps its place: nothing jumps when a message comes
     place.setRetainSizeWhenHidden(true);
     ui_->List1->setSizePolicy(place);
     ui_->List1->setFixedHeight(nMessaggi * (ui_->List1->fontMetrics().height() + 3) +
                                2 * ui_->List1->frameWidth());
-    PreparaContenuto();
-    DimensionaIniziale({});
-    CollegaCaselle();
-    CollegaScelte();
+    for (QWidget* term : {ui_->LblSimTaglio, ui_->LblSimTrazione, ui_->LblSimLimite})
+        term->setMinimumWidth(caratteriTermine * fontMetrics().horizontalAdvance(u'0'));
+    ui_->verdetto->setMinimumHeight(righeMotivo * fontMetrics().lineSpacing()); // nothing jumps or scrolls
+    ui_->Lbl_Risultato_0->Sotto({ui_->LblSimTaglio, ui_->LblSimTrazione, ui_->LblSimLimite});
+    AllineaDecimali({ui_->Txt_A, ui_->Txt_FVRd, ui_->Txt_FtRd});
+    AllineaDecimali({Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
+    ui_->Txt_Osservazioni->viewport()->setAutoFillBackground(false); // the tint of the panel
+    ui_->Txt_Osservazioni->setFixedHeight(righeOsservazioni * fontMetrics().lineSpacing());
+    ui_->fraOsservazioni->Ospita(ui_->Txt_Osservazioni);
 }
-
-frmBulloni::~frmBulloni() = default;
 
 void frmBulloni::CollegaScelte() {
     // Choosing the same item again counts: it brings the class's fub, or the usual distances, back.
@@ -95,6 +116,7 @@ void frmBulloni::CollegaScelte() {
         MostraAcciaioCorrente(ui_->Txt_TipoAcciaio, ui_->Txt_fu);
     });
     Collega(ui_->Command1, &QPushButton::clicked, this, [this] { ApreChiudeOsservazioni(); });
+    Collega(ui_->fraOsservazioni, &PannelloConsiglio::chiuso, this, [this] { ChiudeOsservazioni(); });
 }
 
 void frmBulloni::CollegaCaselle() {
@@ -206,8 +228,14 @@ void frmBulloni::Apri(Schermo& chiamante) {
 
 void frmBulloni::AllAttivazione() {
     Guida::ImpostaFile(FileGuida());
-    if (!bullone_)
+    ui_->testa->Mostra();
+    if (!bullone_) {
         Carica();
+        return;
+    }
+    const MessaggiTaciuti quiet; // the factor may be another one since
+    bullone_->CalcolaResistenzaTaglio();
+    Aggiorna();
 }
 
 void frmBulloni::closeEvent(QCloseEvent* event) {
@@ -216,8 +244,8 @@ void frmBulloni::closeEvent(QCloseEvent* event) {
 }
 
 void frmBulloni::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && ui_->Txt_Osservazioni->isVisible())
-        EventoProtetto([this] { ApreChiudeOsservazioni(); });
+    if (event->key() == Qt::Key_Escape && ui_->fraOsservazioni->isVisible())
+        EventoProtetto([this] { ChiudeOsservazioni(); });
     else
         Schermo::keyPressEvent(event);
 }
@@ -226,7 +254,7 @@ void frmBulloni::Carica() {
     const QScopedValueRollback loading(Caricamento, true);
     bullone_.emplace();
     DisponeInAlto(this);
-    ui_->Txt_Osservazioni->hide();
+    ChiudeOsservazioni();
     for (QLineEdit* box : {Txt_Rif_[rifSpessore], Txt_FSd_[0], Txt_FSd_[1]})
         box->clear();
     ComboClassiBulloniCarica(ui_->ComboClassiBulloni);
@@ -385,14 +413,31 @@ void frmBulloni::Disegna() {
 
 void frmBulloni::ApreChiudeOsservazioni() {
     if (ui_->Txt_Osservazioni->isVisible()) {
-        ui_->Txt_Osservazioni->hide();
+        ChiudeOsservazioni();
         return;
     }
     conSuggerimento_ = SuggerimentoBulloni;
     SuggerimentoBulloni = false;
-    ui_->Txt_Osservazioni->show();
-    ui_->Txt_Osservazioni->raise();
+    ui_->fraOsservazioni->Apri(true);
+    FaPosto();
     MostraOsservazioni();
+}
+
+/// The advice stands under everything it speaks of: the window grows by its room, inside the screen.
+void frmBulloni::FaPosto() {
+    const int missing = DimensioneContenuto().height() - height();
+    if (missing <= 0 || isMaximized())
+        return;
+    constexpr int bordo = 8; // of the window manager [px]
+    const int room = screen()->availableGeometry().bottom() - bordo - geometry().bottom();
+    altezzaPrima_ = height();
+    resize(width(), height() + std::clamp(missing, 0, std::max(room, 0)));
+}
+
+void frmBulloni::ChiudeOsservazioni() {
+    ui_->fraOsservazioni->Apri(false);
+    if (const int before = std::exchange(altezzaPrima_, 0); before > 0 && !isMaximized())
+        resize(width(), before);
 }
 
 void frmBulloni::MostraOsservazioni() {

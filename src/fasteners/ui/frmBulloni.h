@@ -34,7 +34,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    /// Esc closes the observations first.
+    /// Esc closes the advice first.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -65,7 +65,10 @@ private:
     void MostraTaglioTrazione();
     void Disegna();
 
+    void PreparaForma();
     void ApreChiudeOsservazioni();
+    void ChiudeOsservazioni();
+    void FaPosto();
     void MostraOsservazioni();
 
     std::unique_ptr<Ui::frmBulloni> ui_;
@@ -74,6 +77,7 @@ private:
     QList<QWidget*> verdetto_; ///< what the check says
     RegoleEntrate regole_;
     std::optional<Bullone> bullone_;
+    int altezzaPrima_ = 0;         ///< of the window, before it made room for the advice
     bool conSuggerimento_ = false; ///< the advice in view also tells how to close it
 };
 

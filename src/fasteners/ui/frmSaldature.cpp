@@ -2,9 +2,12 @@
 
 #include "fasteners/ui/GeneraleCollegamenti.h"
 #include "frame/Errori.h"
+#include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
 #include "frame/ui/Campi.h"
+#include "frame/ui/ColonnaDecimali.h"
 #include "frame/ui/Guida.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "ui_frmSaldature.h"
@@ -16,10 +19,16 @@ namespace {
 constexpr int cifreRisultati = 4;
 constexpr int larghezzaTitolo = 640; ///< shows the whole caption [px]
 
+/// The formula in numbers.
+std::string Valori(const Saldatura& s, Singolo beta) {
+    return TestoPiano(s.fu) + " / (√3 · " + TestoPiano(beta) + " · " + TestoPiano(GammaM2) + ")";
+}
+
 } // namespace
 
 frmSaldature::frmSaldature() : Schermo(QStringLiteral("frmSaldature")), ui_(new Ui::frmSaldature) {
     ui_->setupUi(this);
+    AllineaDecimali({ui_->Txt_betaw, ui_->Txt_fvwd});
     PreparaContenuto();
     DimensionaIniziale({larghezzaTitolo, 0});
     DisponeInAlto(this);
@@ -39,6 +48,7 @@ void frmSaldature::Apri(Schermo& chiamante) {
 
 void frmSaldature::AllAttivazione() {
     Guida::ImpostaFile(FileGuida());
+    ui_->testa->Mostra();
     MostraAcciaio();
 }
 
@@ -52,12 +62,14 @@ void frmSaldature::Aggiorna() {
         saldatura_.emplace();
     ui_->Txt_betaw->clear(); // nothing old, and nothing new, beside a message
     ui_->Txt_fvwd->clear();
+    ui_->Lbl_Valori->clear();
     saldatura_->fu = NumeroIn(ui_->Txt_fu);
     const Singolo beta = saldatura_->betaW();
     try {
         const std::string strength = FormatoCifre(cifreRisultati, saldatura_->fvwd());
         ui_->Txt_betaw->setText(QString::fromStdString(TestoPiano(beta)));
         ui_->Txt_fvwd->setText(QString::fromStdString(strength));
+        Mostra(ui_->Lbl_Valori, Valori(*saldatura_, beta) + " =" + strength);
     } catch (const ErroreAritmetico&) { // no correlation factor, as the message has just said
     }
 }

@@ -20,6 +20,11 @@ Casella::Casella(QWidget* parent) : QLineEdit(parent) {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QLineEdit::textChanged, this, &Casella::MostraTesta);
+    // The same text again is no change, but leaves the cursor at its end.
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this](int /*old*/, int now) {
+        if (now != 0 && Risultato() && !hasFocus())
+            setCursorPosition(0);
+    });
 }
 
 void Casella::ImpostaCaratteri(int n) {

@@ -20,7 +20,7 @@ constexpr float velo = 0.2F;
 } // namespace
 
 PannelloConsiglio::PannelloConsiglio(QWidget* parent)
-    : QFrame(parent), testo_(new QLabel), chiudi_(new QToolButton) {
+    : QFrame(parent), testo_(new QLabel), corpo_(testo_), chiudi_(new QToolButton) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(9, 6, 6, 6);
     row->setSpacing(6);
@@ -61,10 +61,19 @@ void PannelloConsiglio::Mostra(const QString& testo) {
     Apri(true);
 }
 
-void PannelloConsiglio::Apri(bool aperto) { Appare(aperto && !testo_->text().isEmpty()); }
+void PannelloConsiglio::Ospita(QWidget* corpo) {
+    testo_->hide();
+    corpo_ = corpo;
+    static_cast<QHBoxLayout*>(layout())->insertWidget(0, corpo, 1);
+    Appare(false);
+}
+
+void PannelloConsiglio::Apri(bool aperto) {
+    Appare(aperto && (corpo_ != testo_ || !testo_->text().isEmpty()));
+}
 
 void PannelloConsiglio::Appare(bool visibile) {
-    testo_->setVisible(visibile);
+    corpo_->setVisible(visibile);
     setVisible(visibile);
 }
 

@@ -23,6 +23,8 @@ public:
     [[nodiscard]] QString Testo() const;
     /// Says something; nothing hides the panel.
     void Mostra(const QString& testo);
+    /// Holds a text of its own kind, a long one that scrolls say, in the place of the plain one.
+    void Ospita(QWidget* corpo);
     /// Shows the advice again, also where it has been closed, or takes it away.
     void Apri(bool aperto);
 
@@ -37,6 +39,7 @@ private:
     void Colora();
 
     QLabel* testo_;
+    QWidget* corpo_; ///< what is shown: the text, or what stands in its place
     QToolButton* chiudi_;
     bool colorando_ = false;
 };

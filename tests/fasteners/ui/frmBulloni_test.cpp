@@ -7,10 +7,12 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QToolButton>
 
 #include "drawing/SuperficieFinta.h"
 #include "drawing/ui/ImmagineDisegno.h"
 #include "fasteners/ui/AmbienteBulloni.h"
+#include "frame/ui/EtichettaFormula.h"
 #include "frame/ui/UpDown.h"
 
 using namespace sagomi;
@@ -32,7 +34,7 @@ TEST_F(FrmBulloniTest, TextsOfTheScreen) {
         {"Txt_fub", "fub"},
         {"Txt_fyb", "fyb"},
         {"ComboDiametriBulloni", "diametro"},
-        {"Txt_A", "A (mm2)"},
+        {"Txt_A", "A"},
         {"Txt_FVRd", "Resistenza a taglio (per piano di taglio)"},
         {"Txt_FtRd", "Resistenza a trazione"},
         {"Txt_fu", "fu"},
@@ -348,9 +350,14 @@ TEST_F(FrmBulloniTest, CommandOpensAndClosesTheAdvice) {
     auto* command = Trova<QPushButton>(b, "Command1");
     command->click();
     EXPECT_TRUE(Osservazioni()->isVisible());
-    EXPECT_EQ(Osservazioni()->geometry(), QRect(56, 52, 380, 187));
-    EXPECT_FALSE(Osservazioni()->geometry().intersects(
-        QRect(command->mapTo(Osservazioni()->parentWidget(), QPoint()), command->size())));
+    QCoreApplication::processEvents();
+    const int top = Osservazioni()->mapTo(b, QPoint()).y();
+    for (const char* field : {"Txt_FtRd", "Txt_Rif_7", "Txt_FSd_0", "Lbl_Risultato_0", "Lbl_Risultato_1",
+                              "Picture1", "Command1", "LblUtilizzo"}) {
+        const auto* w = Trova<QWidget>(b, field);
+        EXPECT_LE(w->mapTo(b, QPoint()).y() + w->height(), top) << "the advice stands below " << field;
+    }
+    EXPECT_LE(b->DimensioneContenuto().height(), b->height()) << "the window has made room";
     const std::string testo = "La resistenza a rifollamento è penalizzata (alfa = " + Locale(" 0.5") +
                               " < 1) perchè:\n   e1 < 3 do = 54\n\n";
     EXPECT_EQ(Osservazioni()->toPlainText().toStdString(), testo + "\n\n" + suggerimento);
@@ -358,6 +365,59 @@ TEST_F(FrmBulloniTest, CommandOpensAndClosesTheAdvice) {
     EXPECT_FALSE(Osservazioni()->isVisible());
     command->click();
     EXPECT_EQ(Osservazioni()->toPlainText().toStdString(), testo) << "the hint comes once in a run";
+}
+
+TEST_F(FrmBulloniTest, EscAndTheCloseMarkCloseTheAdviceFirst) {
+    Apre();
+    const int height = b->height();
+    auto* command = Trova<QPushButton>(b, "Command1");
+    command->click();
+    EXPECT_GT(b->height(), height);
+    QTest::keyClick(Osservazioni(), Qt::Key_Escape);
+    EXPECT_FALSE(Osservazioni()->isVisible());
+    EXPECT_TRUE(b->isVisible());
+    EXPECT_EQ(b->height(), height) << "the room is given back";
+    command->click();
+    Trova<QToolButton>(b, "CmdChiudiOsservazioni")->click();
+    EXPECT_FALSE(Osservazioni()->isVisible());
+    QTest::keyClick(b, Qt::Key_Escape);
+    EXPECT_FALSE(b->isVisible());
+}
+
+TEST_F(FrmBulloniTest, HeadNamesTheCodeOfRulesAndTheFactorInForce) {
+    Apre();
+    M16();
+    EXPECT_EQ(Scritta("Lbl_Normativa"), "NTC");
+    EXPECT_EQ(Scritta("Lbl_GammaM2"), Locale("1.25"));
+    GammaM2 = 1;
+    b->AllAttivazione();
+    EXPECT_EQ(Scritta("Lbl_GammaM2"), "1");
+    EXPECT_EQ(Legge("Txt_FVRd"), Locale(" 75.36")); // 0.6 · 800 · 157
+    EXPECT_EQ(Legge("Txt_Rif_7"), " 144");          // 2.5 · 360 · 16 · 10
+}
+
+TEST_F(FrmBulloniTest, SymbolsAreTrueSubscriptsAndUnitsStandBehindThem) {
+    Apre();
+    const std::pair<const char*, const char*> symbols[] = {
+        {"Lbl_FVRd", "F{v,Rd} [kN]"}, {"Lbl_FtRd", "F{t,Rd} [kN]"}, {"Lbl_Rif_7", "F{b,Rd} [kN]"},
+        {"Lbl_Rif_0", "t [mm]"},      {"Lbl_Rif_2", "[mm]"},        {"Lbl_fub", "[N/mm²]"}};
+    for (const auto& [name, symbol] : symbols)
+        EXPECT_EQ(Trova<EtichettaFormula>(b, name)->Simbolo(), symbol) << name;
+    EXPECT_EQ(Trova<EtichettaFormula>(b, "Lbl_fub")->Formula(), "f{ub}");
+    EXPECT_TRUE(Trova<QLabel>(b, "Lbl_Risultato_1")->font().bold());
+}
+
+// 157.0, 60.29 and 90.43: the numbers end so many figures before the edge that their separators line up.
+TEST_F(FrmBulloniTest, DecimalsOfTheResistancesLineUp) {
+    Apre();
+    M16();
+    const auto separator = [this](const char* name) {
+        const auto* box = Trova<QLineEdit>(b, name);
+        const QString tail = box->text().mid(box->text().indexOf(QChar(CarDecimale)));
+        return box->textMargins().right() + box->fontMetrics().horizontalAdvance(tail);
+    };
+    EXPECT_EQ(separator("Txt_A"), separator("Txt_FVRd"));
+    EXPECT_EQ(separator("Txt_FtRd"), separator("Txt_FVRd"));
 }
 
 TEST_F(FrmBulloniTest, HintComesOnceInARunWhateverBecomesOfTheScreen) {

@@ -36,7 +36,7 @@ TEST_F(FrmSaldatureTest, TextsOfTheScreen) {
     EXPECT_EQ(w->windowTitle(),
               "Resistenza saldature a cordoni d'angolo - EC5 1-8 #4.5.3.3  NTC2018 #4.2.8.2.4");
     const std::pair<const char*, const char*> etichette[] = {{"UpDown2", "Acciaio"},
-                                                             {"Txt_fu", "fu (N/mm2)"},
+                                                             {"Txt_fu", "fu"},
                                                              {"Txt_betaw", "Coeff. di correlazione"},
                                                              {"Txt_fvwd", "Resistenza di progetto a taglio"}};
     for (const auto& [controllo, testo] : etichette) {
@@ -60,6 +60,9 @@ TEST_F(FrmSaldatureTest, ShowsTheStrengthForTheSteelInUse) {
     EXPECT_EQ(Legge("Txt_fu"), "360");
     EXPECT_EQ(Legge("Txt_betaw"), Locale("0.8"));
     EXPECT_EQ(Legge("Txt_fvwd"), Locale(" 207.8"));
+    EXPECT_EQ(Trova<QLabel>(w, "Lbl_Valori")->text().toStdString(),
+              Locale("360 / (√3 · 0.8 · 1.25) = 207.8"));
+    EXPECT_EQ(Trova<QLabel>(w, "Lbl_GammaM2")->text().toStdString(), Locale("1.25"));
     EXPECT_TRUE(registratore.testi.empty());
 }
 
@@ -94,6 +97,7 @@ TEST_F(FrmSaldatureTest, UnknownStrengthIsToldTwiceAndTheScreenStays) {
     EXPECT_EQ(Legge("Txt_fu"), "400");
     EXPECT_EQ(Legge("Txt_betaw"), "") << "a factor of 0 is none";
     EXPECT_EQ(Legge("Txt_fvwd"), "");
+    EXPECT_EQ(Trova<QLabel>(w, "Lbl_Valori")->text(), "");
     EXPECT_TRUE(w->isVisible());
     Trova<UpDown>(w, "UpDown2")->stepUp();
     EXPECT_EQ(Legge("Txt_fvwd"), Locale(" 261.7"));

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QList>
+
+class QLineEdit;
+
+namespace sagomi {
+
+/// Keeps the decimal separators of boxes that stand in a column in line, whatever numbers they come to show.
+/// A number that would lose its head by it stays at the edge.
+void AllineaDecimali(const QList<QLineEdit*>& colonna);
+
+} // namespace sagomi
