@@ -23,3 +23,11 @@ if(SAGOMI_UI)
 endif()
 list(TRANSFORM accanto PREPEND ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/)
 install(FILES ${accanto} DESTINATION ${CMAKE_INSTALL_DATADIR}/sagomi COMPONENT programma)
+
+# The user's own workbook: one that he has already is never written over.
+install(CODE "
+  set(utente \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/sagomi/SagomiUtente.xls\")
+  if(NOT EXISTS \"\${utente}\")
+    file(INSTALL \"${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/SagomiUtente.xls\"
+         DESTINATION \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/sagomi\")
+  endif()" COMPONENT programma)

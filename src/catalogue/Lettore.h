@@ -2,8 +2,10 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "catalogue/Catalogo.h"
 
@@ -29,6 +31,10 @@ public:
     void RecordSource(std::string_view query) { chiesta_.query = query; }
     [[nodiscard]] const std::string& RecordSource() const { return chiesta_.query; }
 
+    /// The sheet whose rows Edit and AddNew may change, as a query names its table; counts from the next
+    /// Refresh, the query of which must be over this sheet alone. Empty: the rows can only be read.
+    void TabellaModificabile(std::string_view tabella) { chiesta_.tabella = tabella; }
+
     /// Fields that a row must have for its screen to work with it; a query that gives fewer fails.
     void CampiAttesi(int n) { campiAttesi_ = n; }
 
@@ -52,6 +58,23 @@ public:
     /// is in hand. True when found. One call of rigaCambiata, whatever lies between.
     bool CercaRecord(std::string_view nome);
 
+    /// Begins a change of the row in hand, or a new row, empty. A row that cannot be changed throws
+    /// ErroreCatalogo.
+    void Edit();
+    void AddNew();
+    /// A field of the row that is being written. Outside of it or of 0..Campi() - 1 throws std::out_of_range.
+    void Campo(int campo, Valore valore);
+    /// Puts the row into the workbook, and into the rows: a new one behind the last, whatever their order.
+    /// The row in hand stays in hand, and nobody is called. Throws as ScriveRighe, and then nothing has
+    /// changed and nothing is being written any more.
+    void Update();
+
+    /// The place in the sheet of a row that can be changed, counted from 0; any other one throws
+    /// ErroreCatalogo.
+    [[nodiscard]] std::size_t RigaDelFoglio(int riga) const;
+    /// The state of the workbook when its rows were read, or written last.
+    [[nodiscard]] const ImprontaFile& Impronta() const { return impronta_; }
+
     [[nodiscard]] int Righe() const { return static_cast<int>(esito_.righe.size()); }
     [[nodiscard]] int Campi() const { return static_cast<int>(esito_.campi.size()); }
     [[nodiscard]] int RigaCorrente() const { return riga_; } ///< -1 at BOF, Righe() at EOF
@@ -71,7 +94,17 @@ private:
     struct Fonte {
         std::filesystem::path cartella;
         std::string query;
+        std::string tabella; ///< that can be changed
     };
+
+    /// The row that is being written.
+    struct Modifica {
+        int riga; ///< -1: a new one
+        std::vector<Valore> campi;
+    };
+
+    static std::vector<std::size_t> SeparaPosti(EsitoQuery& esito);
+    void Accoglie(Modifica modifica, std::size_t posto);
 
     void Porta(int riga);
 
@@ -80,6 +113,9 @@ private:
     int campiAttesi_ = 0;
     bool letto_ = false; ///< a Refresh has succeeded
     EsitoQuery esito_;
+    std::vector<std::size_t> posti_; ///< of the rows in their sheet, where they can be changed
+    ImprontaFile impronta_;
+    std::optional<Modifica> modifica_;
     int riga_ = -1;
 };
 

@@ -2,6 +2,7 @@
 
 #include <new>
 #include <string>
+#include <utility>
 
 #include "catalogue/CartellaXls.h"
 #include "catalogue/ErroreCatalogo.h"
@@ -27,9 +28,12 @@ CartellaDati LeggeTutto(CartellaXls cartella) {
 
 } // namespace
 
-CartellaDati LeggeXls(const std::filesystem::path& file) {
+CartellaDati LeggeXls(const std::filesystem::path& file, ImprontaFile* impronta) {
     try {
-        return LeggeTutto(CartellaXls(file));
+        CartellaXls cartella(file);
+        if (impronta != nullptr)
+            *impronta = cartella.Impronta();
+        return LeggeTutto(std::move(cartella));
     } catch (const std::bad_alloc&) {
         throw ErroreLettura(file, "memoria insufficiente");
     } catch (const std::exception& e) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "catalogue/FoglioDati.h"
+#include "frame/LetturaFile.h"
 
 namespace sagomi {
 
@@ -12,6 +13,7 @@ namespace sagomi {
 /// Throws ErroreCatalogo when the file is missing, is no such workbook, has no sheet, when any of its sheets
 /// is damaged, or when it holds more than the program takes (LimitiXls.h; with all the places between the
 /// cells not more of them either).
-CartellaDati LeggeXls(const std::filesystem::path& file);
+/// @param impronta  receives the state in which the file was read, where it is not null
+CartellaDati LeggeXls(const std::filesystem::path& file, ImprontaFile* impronta = nullptr);
 
 } // namespace sagomi

@@ -124,7 +124,8 @@ std::vector<std::uint8_t> ComponeBiff(const CartellaDati& cartella) {
     return flusso.dati();
 }
 
-void ScriveXls(const CartellaDati& cartella, const std::filesystem::path& file) {
+void ScriveXls(const CartellaDati& cartella, const std::filesystem::path& file,
+               const std::function<bool()>& ancora) {
     const std::string inizio = "Errore nella scrittura di \"" + file.string() + "\": ";
     std::string byte;
     try {
@@ -132,7 +133,7 @@ void ScriveXls(const CartellaDati& cartella, const std::filesystem::path& file) 
     } catch (const std::exception& e) {
         throw ErroreCatalogo(inizio + e.what() + ".");
     }
-    if (!ScriveAtomico(file, byte))
+    if (!ScriveAtomico(file, byte, ancora))
         throw ErroreCatalogo(inizio + CausaScrittura(file) + ".");
 }
 

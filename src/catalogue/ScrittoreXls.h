@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <vector>
 
 #include "catalogue/FoglioDati.h"
@@ -18,7 +19,9 @@ namespace sagomi {
 /// Throws ErroreCatalogo for a workbook that the format cannot hold (no sheet, a sheet's name that is empty,
 /// longer than 31 characters, used twice or with one of \ / ? * [ ] :, more than 65536 rows or 256 columns, a
 /// text of more than 32767 characters) and for a file that cannot be written.
-void ScriveXls(const CartellaDati& cartella, const std::filesystem::path& file);
+/// @param ancora  asked last, as FileAtomico does; a throw comes through
+void ScriveXls(const CartellaDati& cartella, const std::filesystem::path& file,
+               const std::function<bool()>& ancora = {});
 
 /// The "Workbook" stream alone, without its container. Throws std::length_error or std::invalid_argument for
 /// what the format cannot hold.

@@ -133,12 +133,13 @@ bool FileAtomico::Apre(const fs::path& percorso) {
     return fd_ >= 0;
 }
 
-bool FileAtomico::Conferma(std::string_view byte) {
+bool FileAtomico::Conferma(std::string_view byte, const std::function<bool()>& ancora) {
     if (fd_ < 0)
         return false;
     static_cast<void>(fchmod(fd_, Diritti(meta_))); // a disk without rights refuses; the text is what matters
     bool riuscito = ScriveTutto(fd_, byte) && fsync(fd_) == 0;
     riuscito = close(std::exchange(fd_, -1)) == 0 && riuscito;
+    riuscito = riuscito && (!ancora || ancora());
     riuscito = riuscito && std::rename(temporaneo_.c_str(), meta_.c_str()) == 0;
     if (!riuscito) {
         Abbandona();
@@ -156,9 +157,9 @@ void FileAtomico::Abbandona() {
         unlink(std::exchange(temporaneo_, {}).c_str());
 }
 
-bool ScriveAtomico(const fs::path& percorso, std::string_view byte) {
+bool ScriveAtomico(const fs::path& percorso, std::string_view byte, const std::function<bool()>& ancora) {
     FileAtomico file;
-    return file.Apre(percorso) && file.Conferma(byte);
+    return file.Apre(percorso) && file.Conferma(byte, ancora);
 }
 
 } // namespace sagomi

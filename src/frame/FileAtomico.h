@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -26,7 +27,10 @@ public:
 
     /// Writes the bytes and puts them in the place of the old file. False when the disk refuses; then the old
     /// file stays and the temporary one goes.
-    bool Conferma(std::string_view byte);
+    /// @param ancora  asked when the bytes lie on the disk, before they take the old file's place: false, or
+    /// a
+    ///                throw, leaves everything as it was
+    bool Conferma(std::string_view byte, const std::function<bool()>& ancora = {});
 
     /// Where the file goes, links followed.
     [[nodiscard]] const std::filesystem::path& Destinazione() const { return meta_; }
@@ -40,6 +44,7 @@ private:
 };
 
 /// The whole of a save in one step.
-bool ScriveAtomico(const std::filesystem::path& percorso, std::string_view byte);
+bool ScriveAtomico(const std::filesystem::path& percorso, std::string_view byte,
+                   const std::function<bool()>& ancora = {});
 
 } // namespace sagomi

@@ -3,16 +3,19 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include <utility>
 
+#include "catalogue/Famiglie.h"
 #include "catalogue/ui/GrigliaCatalogo.h"
 #include "drawing/ui/ImmagineDisegno.h"
 #include "frame/ui/Casella.h"
 #include "screens/PannelloDati.h"
 #include "screens/PannelloFamiglie.h"
 #include "screens/PannelloRisultati.h"
+#include "screens/PannelloUtente.h"
 #include "screens/ValoriRiga.h"
 #include "sections/DisegnoSagoma.h"
 
@@ -91,7 +94,17 @@ QWidget* CorpoSezione::CreaDisegno() {
     return room;
 }
 
-QWidget* CorpoSezione::CreaValori() { return CreaPannello<ValoriRiga>("fraValori", this); }
+/// The values of the row; what the user types of a section of his own takes their place.
+QWidget* CorpoSezione::CreaValori() {
+    if (FamigliaDi(schermo_.toStdString()).foglioUtente.empty())
+        return CreaPannello<ValoriRiga>("fraValori", this);
+    auto* pages = new QStackedWidget(this);
+    pages->setObjectName(QStringLiteral("pagineValori"));
+    pages->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    pages->addWidget(CreaPannello<ValoriRiga>("Frame1", pages));
+    pages->addWidget(CreaPannello<DatiUtente>("frUtenteEdita", pages));
+    return pages;
+}
 
 void CorpoSezione::PosaDestra(QBoxLayout& riga) {
     auto* column = new QVBoxLayout;

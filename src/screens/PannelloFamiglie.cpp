@@ -11,6 +11,7 @@
 
 #include "catalogue/Famiglie.h"
 #include "catalogue/OrdineQuery.h"
+#include "screens/PannelloUtente.h"
 
 namespace sagomi {
 
@@ -39,6 +40,16 @@ QString Didascalia(bool daAggiornare) {
     return daAggiornare ? text + QStringLiteral(" •") : text;
 }
 
+/// The user's own sheet in place of the families.
+QCheckBox* CreaTipoUtente(const FamigliaSchermo& famiglia) {
+    auto* box = new QCheckBox(QStringLiteral("Sagomi Utente"));
+    box->setObjectName(QStringLiteral("ChkTipoUtente"));
+    box->setToolTip(QStringLiteral("Sagomi dal file SagomiUtente.xls - Foglio ") +
+                    Testo(famiglia.foglioUtente) +
+                    QStringLiteral(" - Cliccare nuovamente per tornare ai sagomi standard."));
+    return box;
+}
+
 QGroupBox* CreaStanza(const char* name, const QString& title) {
     auto* room = new QGroupBox(title);
     room->setObjectName(QString::fromLatin1(name));
@@ -57,6 +68,8 @@ void PannelloFamiglie::ImpostaSchermo(const QByteArray& nome) {
     row->setSpacing(6);
     row->addWidget(CreaFamiglie(family), 1);
     row->addWidget(CreaOrdini(family));
+    if (!family.foglioUtente.empty())
+        row->addWidget(new ComandiUtente(this));
     aggiorna_ = new QPushButton(Didascalia(true));
     aggiorna_->setObjectName(QStringLiteral("AggiornaTabella"));
     aggiorna_->setMinimumWidth(aggiorna_->sizeHint().width()); // the mark moves nothing
@@ -69,6 +82,8 @@ void PannelloFamiglie::MostraDifferenze(const std::string& query) {
     QStringList missing;
     QStringList left;
     for (const QCheckBox* box : findChildren<QCheckBox*>()) {
+        if (!box->isEnabled() || !box->objectName().startsWith(u"ChkTipo_"))
+            continue; // the user's own sheet is in force
         const bool listed = NominaFoglio(query, box->text().toStdString());
         if (box->isChecked() != listed)
             (listed ? left : missing) << box->text();
@@ -94,6 +109,8 @@ QWidget* PannelloFamiglie::CreaFamiglie(const FamigliaSchermo& famiglia) {
         grid->addWidget(box, i / colonneFamiglie, i % colonneFamiglie);
         ++i;
     }
+    if (!famiglia.foglioUtente.empty())
+        grid->addWidget(CreaTipoUtente(famiglia), 0, i++);
     for (int c = 0; c < std::min(i, colonneFamiglie); ++c)
         grid->setColumnStretch(c, 1);
     return room;

@@ -31,7 +31,7 @@ void SvuotaCampi(SchermoSezione& schermo) {
 }
 
 /// Pending events are let through around the reading, as the windows are being made.
-void LeggeTabella(SchermoSezione& schermo) {
+void PrimaLettura(SchermoSezione& schermo) {
     Prosegue();
     schermo.Data1->Refresh();
     Prosegue();
@@ -88,20 +88,7 @@ std::optional<std::string> QueryScelta(const SchermoSezione& schermo, std::strin
 
 bool RileggeTabella(SchermoSezione& schermo, std::string_view foglio, const std::string& colonna) {
     const auto query = QueryScelta(schermo, foglio, colonna);
-    if (!query)
-        return false;
-    try {
-        schermo.Data1->RecordSource(*query);
-        schermo.Data1->Refresh(schermo.Data1->Recordset().Testo(0)); // its signal takes the row over
-    } catch (const ErroreCatalogo& e) {
-        Avvisa(e.what());
-        return false;
-    }
-    schermo.DBGrid1->FormatoGriglia(schermo.Data1->Recordset().Campi() - 1);
-    if (!schermo.RigaInMano())
-        SvuotaCampi(schermo);
-    schermo.AggiornaBarraDiStato();
-    return true;
+    return query && LeggeTabella(schermo, *query, schermo.Data1->Recordset().Testo(0));
 }
 
 } // namespace
@@ -112,7 +99,7 @@ void CaricaFormComune(SchermoSezione& schermo) {
         static_cast<int>(Intestazioni(schermo.objectName().toStdString()).size()));
     Protetto("Errore in form_load", [&schermo] {
         schermo.Data1->RecordSource(schermo.SQLstring);
-        LeggeTabella(schermo);
+        PrimaLettura(schermo);
         schermo.DBGrid1->FormatoGriglia(schermo.Data1->Recordset().Campi() - 1);
     });
     // Whatever became of the table, the rest of the screen stands.
@@ -143,6 +130,21 @@ void AggiornaCaptionNormativa(SchermoSezione& schermo) {
     schermo.NormativaMain->setText(QString::fromStdString("Normativa: " + NomeNormativa()));
 }
 
+bool LeggeTabella(SchermoSezione& schermo, const std::string& query, const std::string& nome) {
+    try {
+        schermo.Data1->RecordSource(query);
+        schermo.Data1->Refresh(nome); // its signal takes the row over
+    } catch (const ErroreCatalogo& e) {
+        Avvisa(e.what());
+        return false;
+    }
+    schermo.DBGrid1->FormatoGriglia(schermo.Data1->Recordset().Campi() - 1);
+    if (!schermo.RigaInMano())
+        SvuotaCampi(schermo);
+    schermo.AggiornaBarraDiStato();
+    return true;
+}
+
 bool CambioFamiglia(SchermoSezione& schermo, std::string_view foglio) {
     return RileggeTabella(schermo, foglio, ColonnaOrdine(schermo.Data1->RecordSource()));
 }
@@ -151,12 +153,12 @@ void OrdinaPerColonna(SchermoSezione& schermo, int colonna) {
     const std::string heading = schermo.Data1->Recordset().NomeCampo(colonna);
     const int before = OrdineScelto(schermo);
     ImpostaOrdine(schermo, OrdineDi(schermo, QString::fromStdString(heading)));
-    if (!RileggeTabella(schermo, {}, heading))
+    if (!RileggeTabella(schermo, schermo.TabellaOrdine, heading))
         ImpostaOrdine(schermo, before);
 }
 
 void RecordCambiato(SchermoSezione& schermo, int indice) {
-    if (indice != 0 || !schermo.RigaInMano())
+    if (indice != 0 || schermo.AggiungeSagomoUtente || !schermo.RigaInMano())
         return;
     const Lettore& row = schermo.Data1->Recordset();
     const int fields = std::min(row.Campi(), static_cast<int>(schermo.TxtProf.size()));
@@ -174,7 +176,7 @@ void RecordCambiato(SchermoSezione& schermo, int indice) {
 bool FyPossibile(double fy) { return fy > fyMinimo; }
 
 void AcciaioCambiato(SchermoSezione& schermo) {
-    if (schermo.CaricaForm)
+    if (schermo.Fermo())
         return;
     const double fy = NumeroIn(schermo.Txt_fy);
     const bool typed = InDigitazione(schermo.Txt_fy);

@@ -78,7 +78,7 @@ protected:
             risultati_.emplace_back(CasellaDi(voce.casella), voce.testo);
     }
 
-private:
+    /// Steel and entries: from m and kN to mm and N.
     void LeggeEntrate(S& section) const {
         section.TipoAcciaio = ComboTipoAcciaio->currentText().toStdString();
         section.fy = FyInForza();
@@ -93,6 +93,7 @@ private:
             section.NSd = kN_a_N(NumeroIn(TxtNsd));
     }
 
+private:
     std::vector<std::pair<QLineEdit*, std::string (*)(const S&)>> risultati_;
 };
 

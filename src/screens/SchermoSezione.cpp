@@ -50,6 +50,9 @@ double CorpoScalato(const QFont& font, double ratio) {
     return small ? std::clamp(size, 2.0, 7.0) : size;
 }
 
+/// A box for a text, not for a number.
+bool ETesto(const QLineEdit* box) { return box->property("testo").toBool(); }
+
 QString Conta(qsizetype n, const char* one, const char* many) {
     return QString::number(n) + u' ' + QString::fromLatin1(n == 1 ? one : many);
 }
@@ -120,7 +123,10 @@ void SchermoSezione::CollegaMenu() {
 }
 
 void SchermoSezione::CollegaTabella() {
-    Collega(Pulsante("AggiornaTabella"), &QPushButton::clicked, this, [this] { CambioFamiglia(*this); });
+    Collega(Pulsante("AggiornaTabella"), &QPushButton::clicked, this, [this] {
+        if (!AggiungeSagomoUtente)
+            Aggiorna();
+    });
     if (QPushButton* plot = Pulsante("CmdPlotta"))
         Collega(plot, &QPushButton::clicked, this, [this] {
             if (RigaInMano())
@@ -128,8 +134,8 @@ void SchermoSezione::CollegaTabella() {
         });
     for (QRadioButton* option : OptionOrdina)
         Collega(option, &QRadioButton::clicked, this, [this] {
-            if (!CaricaForm)
-                CambioFamiglia(*this);
+            if (!Fermo())
+                CambioFamiglia(*this, TabellaOrdine);
         });
     Collega(DBGrid1, &GrigliaCatalogo::ordineChiesto, this,
             [this](int column) { OrdinaPerColonna(*this, column); });
@@ -148,7 +154,7 @@ void SchermoSezione::MostraStatoTabella() {
 void SchermoSezione::CollegaDati() {
     entrate_ = new FiltroCampi(this, [this](QLineEdit* box) { return Invio(box); });
     for (QLineEdit* box : findChildren<QLineEdit*>())
-        if (!box->isReadOnly() && box->parentWidget() != ComboTipoAcciaio)
+        if (!box->isReadOnly() && box->parentWidget() != ComboTipoAcciaio && !ETesto(box))
             entrate_->Osserva(box);
     Collega(entrate_, &FiltroCampi::conclusa, this, [this](QLineEdit* box) { Conclusa(box); });
     Collega(ComboTipoAcciaio, &QComboBox::activated, this, [this] { AcciaioScelto(); });
@@ -187,7 +193,7 @@ void SchermoSezione::Conclusa(QLineEdit* casella) {
         AcciaioCambiato(*this);
     else if (casella == Txt_fu)
         RotturaCambiata();
-    else if (!CaricaForm && RigaInMano())
+    else if (!Fermo() && RigaInMano())
         Risultati();
 }
 
@@ -212,7 +218,7 @@ double SchermoSezione::FuInForza() const {
 
 // A strength that is none never reaches the section; once it is not being typed it is told and put back.
 void SchermoSezione::RotturaCambiata() {
-    if (CaricaForm)
+    if (Fermo())
         return;
     const double fu = NumeroIn(Txt_fu);
     if (FyPossibile(fu)) {
@@ -298,7 +304,11 @@ void SchermoSezione::LegaRiga() {
         RigaNuova();
 }
 
+void SchermoSezione::Aggiorna() { CambioFamiglia(*this); }
+
 void SchermoSezione::RigaNuova() {
+    if (AggiungeSagomoUtente)
+        return;
     TxtProf[0]->setText(QString::fromStdString(Data1->Recordset().Testo(0)));
     RecordCambiato(*this, 0);
 }
@@ -326,7 +336,7 @@ void SchermoSezione::SvuotaRisultati() {
 }
 
 void SchermoSezione::LunghezzaCambiata(int index) {
-    if (CaricaForm || !RigaInMano())
+    if (Fermo() || !RigaInMano())
         return;
     Singolo* length = nullptr;
     const bool some = SullaSezioneInUso([&](ConLunghezze auto& section) {
@@ -347,7 +357,7 @@ void SchermoSezione::LunghezzaCambiata(int index) {
 }
 
 void SchermoSezione::ForzaCambiata() {
-    if (CaricaForm || !RigaInMano())
+    if (Fermo() || !RigaInMano())
         return;
     if (!SullaSezioneInUso([this](ConMomenti auto& section) { section.NSd = kN_a_N(NumeroIn(TxtNsd)); }))
         return;
@@ -377,9 +387,11 @@ bool SchermoSezione::Invio(QLineEdit* casella) {
 void SchermoSezione::AggiornaBarraDiStato() {
     const auto families = QString::fromStdString(Data1->RecordSource()).count(QLatin1String("FROM ["));
     const int rows = Data1->Recordset().Righe();
+    const QString origin = TipoUtente
+                               ? QString::fromStdString(Data1->Recordset().DatabaseName().filename().string())
+                               : Conta(families, "famiglia", "famiglie");
     const QString shown =
-        rows == 0 ? tr("Nessun sagomo")
-                  : Conta(rows, "sagomo", "sagomi") + tr(" di ") + Conta(families, "famiglia", "famiglie");
+        rows == 0 ? tr("Nessun sagomo") : Conta(rows, "sagomo", "sagomi") + tr(" di ") + origin;
     const QString notice = QString::fromStdString(AvvisoImpostazioni());
     barra_->setText(notice.isEmpty() ? shown : shown + QStringLiteral(" · ") + notice);
     barra_->setToolTip(notice); // a long list of values may be wider than the line

@@ -33,9 +33,12 @@ class SchermoSezione : public Schermo, public MostraVplRd {
 public:
     explicit SchermoSezione(const QString& nome);
 
-    bool CaricaForm = false; ///< from the load to the first activation: nothing recalculates
-    std::string SQLstring;   ///< query of the load
-    int WidthIni = 0;        ///< starting size [twips]
+    bool CaricaForm = false;           ///< from the load to the first activation: nothing recalculates
+    bool AggiungeSagomoUtente = false; ///< a row of the user's workbook is being written: nor does it then
+    bool TipoUtente = false;           ///< the table is a sheet of the user's workbook
+    std::string TabellaOrdine; ///< the table that is sorted, as a query names it; empty: the families ticked
+    std::string SQLstring;     ///< query of the load
+    int WidthIni = 0;          ///< starting size [twips]
     int HeightIni = 0;
 
     LettoreDati* Data1;
@@ -66,6 +69,10 @@ public:
 
     /// The reader has a row: there is something to compute.
     [[nodiscard]] bool RigaInMano() const;
+    /// The handlers of the screen do nothing.
+    [[nodiscard]] bool Fermo() const { return CaricaForm || AggiungeSagomoUtente; }
+    /// Reads the table anew, with the families that are ticked now.
+    virtual void Aggiorna();
     /// Empties every result, where there is no row.
     virtual void SvuotaRisultati();
     /// Empties the boxes of the results alone.
@@ -111,6 +118,8 @@ protected:
     /// Builds the form, finds the members above by their names and connects what all main screens have in
     /// common.
     void CollegaControlli();
+    /// Marks the order of the table, and on its button which ticks are not in it yet.
+    void MostraStatoTabella();
     /// To be called at the end of Risultati: marks entries that cannot stand, empties what hangs on them.
     void ApplicaRegole();
     /// The load, once the controls stand: workbook and first query of the screen's families, starting size,
@@ -147,7 +156,6 @@ private:
     void RotturaCambiata();
     void CollegaTabella();
     void ApriDettaglio(const QString& nome);
-    void MostraStatoTabella();
     void RigaNuova();
     bool FrecciaDiRiga(int key);
     bool RicercaDiRiga(const QKeyEvent& event);
@@ -167,6 +175,11 @@ void AttivaForm(SchermoSezione& schermo);
 
 /// Caption of the menu entry that names the code of rules in force.
 void AggiornaCaptionNormativa(SchermoSezione& schermo);
+
+/// Runs a query of the table; the first row of that name is in hand, where there is one. A failure is told
+/// and changes nothing.
+/// @return whether the table has been read
+bool LeggeTabella(SchermoSezione& schermo, const std::string& query, const std::string& nome);
 
 /// Rebuilds the query from the boxes, or over a sheet given as queries name it, and reads the table anew. The
 /// section in hand stays in hand where it is still listed. The order is the option's that is set, else the

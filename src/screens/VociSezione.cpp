@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "catalogue/Famiglie.h"
+
 namespace sagomi {
 
 namespace {
@@ -104,6 +106,10 @@ RigaResistenze VplRd() {
             "Dettagli ply"};
 }
 
+Voce Piatto(const Dicitura& etichetta, const char* nome, const char* aiuto, const char* letta) {
+    return {.etichetta = etichetta, .nome = nome, .aiuto = aiuto, .letta = letta};
+}
+
 const std::vector<VociSchermo>& Schermi() {
     static const std::vector<VociSchermo> screens = {
         {"frmDoppioT",
@@ -136,6 +142,35 @@ const std::vector<VociSchermo>& Schermi() {
 }
 
 } // namespace
+
+std::vector<Voce> VociUtente(std::string_view schermo) {
+    if (FamigliaDi(schermo).foglioUtente.empty())
+        return {};
+    const bool different = schermo == "frmSaldatiAsimm";
+    std::vector<Voce> plates = {
+        {{"LblProfUtente_0", "designation"},
+         "TxtProfUtente_0",
+         18,
+         "Nome del sagomo",
+         "Nome del sagomo utente"},
+        Piatto({"LblProfUtente_1", "h (mm):"}, "TxtProfUtente_1", "Altezza totale", "h utente (mm)"),
+        Piatto({"LblProfUtente_2", different ? "b1 (mm):" : "b (mm):"}, "TxtProfUtente_2",
+               different ? "Larghezza dell'ala superiore" : "Larghezza delle ali",
+               different ? "b1 utente (mm)" : "b utente (mm)"),
+        Piatto({"LblProfUtente_3", "tw (mm):"}, "TxtProfUtente_3", "Spessore dell'anima", "tw utente (mm)"),
+        Piatto({"LblProfUtente_4", different ? "tf1 (mm):" : "tf (mm):"}, "TxtProfUtente_4",
+               different ? "Spessore dell'ala superiore" : "Spessore delle ali",
+               different ? "tf1 utente (mm)" : "tf utente (mm)"),
+        Piatto({"LblProfUtente_5", "r (mm):"}, "TxtProfUtente_5", "Lato dei cordoni fra anima e ali",
+               "r utente (mm)")};
+    if (different) {
+        plates.push_back(Piatto({"LblProfUtente_6", "b2 (mm):"}, "TxtProfUtente_6",
+                                "Larghezza dell'ala inferiore", "b2 utente (mm)"));
+        plates.push_back(Piatto({"LblProfUtente_7", "tf2 (mm):"}, "TxtProfUtente_7",
+                                "Spessore dell'ala inferiore", "tf2 utente (mm)"));
+    }
+    return plates;
+}
 
 const VociSchermo& VociDi(std::string_view schermo) {
     const auto& screens = Schermi();

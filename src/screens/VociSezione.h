@@ -26,6 +26,10 @@ struct VociSchermo {
     bool separatori = false; ///< has the hidden box of the separator check, which runs once
 };
 
+/// The plates of the user's own section, TxtProfUtente by position; the first is its name. Empty where a
+/// screen has no such sections.
+std::vector<Voce> VociUtente(std::string_view schermo);
+
 /// Entries and results of a main screen. A name that is no main screen throws std::out_of_range.
 const VociSchermo& VociDi(std::string_view schermo);
 

@@ -160,4 +160,15 @@ TEST_F(FileAtomicoTest, OwnTemporaryFilesOlderThanAnHourGo) {
     EXPECT_EQ(cartella.Voci(), 5) << "files of other names stay";
 }
 
+TEST_F(FileAtomicoTest, TheLastWordIsAskedBeforeTheOldFileGoes) {
+    ScriveAtomico(percorso, "vecchio");
+    EXPECT_FALSE(ScriveAtomico(percorso, "nuovo", [] { return false; }));
+    EXPECT_THROW(ScriveAtomico(percorso, "nuovo", []() -> bool { throw std::runtime_error("no"); }),
+                 std::runtime_error);
+    EXPECT_EQ(LeggeByte(percorso), "vecchio");
+    EXPECT_EQ(cartella.Voci(), 1);
+    EXPECT_TRUE(ScriveAtomico(percorso, "nuovo", [] { return true; }));
+    EXPECT_EQ(LeggeByte(percorso), "nuovo");
+}
+
 } // namespace

@@ -46,7 +46,8 @@ TEST(PannelloFamiglieTest, HasABoxForEachFamilyAndAButtonForEachKey) {
             EXPECT_EQ(box->text().toStdString(), f.fogli[i]);
             EXPECT_EQ(box->isChecked(), f.fogli[i] == f.primoFoglio);
         }
-        EXPECT_EQ(static_cast<std::size_t>(panel.findChildren<QCheckBox*>().size()), f.fogli.size());
+        const std::size_t own = f.foglioUtente.empty() ? 0 : 1; // the box of the user's own sheet
+        EXPECT_EQ(static_cast<std::size_t>(panel.findChildren<QCheckBox*>().size()), f.fogli.size() + own);
         for (int i = 0; i < 3; ++i) {
             const auto* key = Trova<QRadioButton>(&panel, ("OptionOrdina_" + std::to_string(i)).c_str());
             EXPECT_EQ(key->text().toStdString(), f.ordini[static_cast<std::size_t>(i)]);

@@ -30,4 +30,10 @@ void LettoreDati::Refresh(const std::string& nome) {
         emit rigaCambiata();
 }
 
+void LettoreDati::Update() {
+    modello_.CominciaCambio();
+    const auto done = qScopeGuard([this] { modello_.FinisceCambio(); });
+    lettore_.Update();
+}
+
 } // namespace sagomi

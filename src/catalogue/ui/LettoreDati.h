@@ -24,6 +24,9 @@ public:
     /// The same, but the first row of that name is in hand, where there is one.
     void Refresh(const std::string& nome);
 
+    /// Puts the row that is being written into the workbook, as Lettore does, and shows it.
+    void Update();
+
     [[nodiscard]] bool BOF() const { return lettore_.BOF(); }
     [[nodiscard]] bool EOF_() const { return lettore_.EOF_(); }
     void MoveFirst() { lettore_.MoveFirst(); }
