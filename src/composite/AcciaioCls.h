@@ -212,7 +212,7 @@ public:
     bool LeggeScrive(std::string_view modo, std::int16_t nFile);
 
     /// The whole of an "Sco" file: the short record of the section, then LeggeScrive. Reading gives the beam
-    /// a new Sezione, with nothing computed; all or nothing.
+    /// a new Sezione, with nothing computed, which the caller makes the one in use; all or nothing.
     bool FileLeggeScrive(std::string_view modo, std::int16_t nFile);
 
     /// Draws section and slab to scale, the compressed and the tensioned parts of steel and concrete each in
