@@ -128,7 +128,14 @@ inline std::map<std::string, std::string> Testi(const Giunto& g) {
 /// A node of a case, its factors in force while it lives.
 class NodoDaFile {
 public:
-    explicit NodoDaFile(const CasoDaFile& caso, bool progetto) : dati_(caso.dati) {
+    explicit NodoDaFile(const CasoDaFile& caso, bool progetto) { Assegna(caso, progetto); }
+    ~NodoDaFile() { RipristinaGenerale(); }
+    NodoDaFile(const NodoDaFile&) = delete;
+    NodoDaFile& operator=(const NodoDaFile&) = delete;
+
+    /// Enters what is given; the rest of the joint stays.
+    void Assegna(const CasoDaFile& caso, bool progetto) {
+        dati_ = caso.dati;
         GammaM0 = Numero("M0");
         GammaM1 = Numero("M1");
         GammaM2 = Numero("M2");
@@ -144,9 +151,6 @@ public:
         nodo.PreparaSalvataggio();
         Riempie(*nodo.ConnessioneCorrente, progetto);
     }
-    ~NodoDaFile() { RipristinaGenerale(); }
-    NodoDaFile(const NodoDaFile&) = delete;
-    NodoDaFile& operator=(const NodoDaFile&) = delete;
 
     Giunto& giunto() { return *nodo.ConnessioneCorrente; }
 
@@ -198,6 +202,8 @@ private:
         g.ex = Numero("ex");
         g.L = Numero("L");
         g.u = Numero("u");
+        g.Af = Numero("Af");
+        g.aw = Numero("aw");
         g.tf_max = Numero("tf_max");
         g.L_max = Numero("L_max");
         g.u_max = Numero("u_max");

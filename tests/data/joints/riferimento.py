@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Expected values of end-plate joints, derived a second time.
 
-Writes verifiche.txt, ricerche.txt and alfa.txt beside this script, which tests/joints/GiuntoTabelle_test.cpp
-reads:
+Writes verifiche.txt, sequenze.txt, limiti.txt, alfa.txt and ricerche.txt beside this script, which
+tests/joints/GiuntoTabelle_test.cpp reads; all of them, or those named:
 
-    python3 tests/data/joints/riferimento.py
+    python3 tests/data/joints/riferimento.py [verifiche ...]
 
 It shares no line with the program. The rules of ENV 1993-1-1 annex J (edition of 1992) are written anew as one
 long walk over a bag of numbers; the search is the plain nest of loops that computes every candidate from the
@@ -16,6 +16,7 @@ import math
 import pathlib
 import random
 import struct
+import sys
 from decimal import ROUND_HALF_UP, Decimal
 
 QUI = pathlib.Path(__file__).resolve().parent
@@ -668,9 +669,17 @@ def giunto(n, dati):
     return g
 
 
+ESTERNA = """Ftrd_FilaSup_c Ftrd_FilaSupRid_c leffEsterna FtRd_FilaSup_f FtRd_EffSup k6_Estesa mu4_Estesa mu5_Estesa
+mu6_Estesa Sj_MjRd_Estesa Sj_Mela_Estesa Sj_MjSd_Estesa ex mx dX mxc p L u zEst""".split()
+
+
 def calcola(n, g, progetto, ferma=None):
     t = g.t
     g.sTrave, g.sColonna = t.radice, g.c.radice
+    if g.nf == 1:
+        for nome in ESTERNA:
+            setattr(g, nome, 0.0)
+        g.ComponenteDeboleFilaSup = ""
     if progetto:
         bullone(g, 1)
         g.tf = g.tf_max
@@ -842,6 +851,66 @@ def casi_verifica(quanti):
     return righe
 
 
+def casi_sequenza(quante, passi):
+    """One joint, changed and checked again and again: what a road does not write stays."""
+    gen, righe, fatte = Generatore(2005), [], 0
+    while fatte < quante:
+        n = gen.nodo()
+        g, blocco = None, []
+        try:
+            for passo in range(passi):
+                dati = gen.piastra(n)
+                if g is None:
+                    g = giunto(n, {})
+                for nome in "ex L u".split():
+                    setattr(g, nome, 0.0)
+                for nome, valore in dati.items():
+                    setattr(g, nome, valore)
+                bullone(g, dati["bullone_"])
+                g.avvisi = []
+                calcola(n, g, False)
+                if min(g.mc, g.mf, g.m2, g.MplRdGIUNTO) <= 0 or (g.nf == 2 and g.mx <= 0):
+                    raise ArithmeticError
+                nome = "%02d.%d %d file, %s" % (fatte + 1, passo + 1, g.nf, g.Irrigidimenti)
+                blocco += ["", "caso " + nome] + righe_dati(n, dati, {}) + attesi(g)
+        except (ArithmeticError, IndexError):
+            continue
+        fatte += 1
+        righe += blocco
+    return righe
+
+
+def casi_limite(quanti):
+    """Room for the holes, at rest and in a search."""
+    gen, righe = Generatore(1998), []
+    for caso in range(quanti):
+        n = gen.nodo()
+        dati = gen.comuni(n)
+        r = gen.r
+        ricerca = caso % 2
+        t, c = (n.sx if n.nGiunto == 2 else n.dx), n.colonna
+        i = r.randint(1, 12)
+        dati.update(bullone_=i, bf=float(r.choice([0, math.floor(t.b), math.floor((t.b + c.b) / 2)])),
+                    L=float(r.choice([0, 30, 55, 90])), Af=float(r.randint(3, 12)), aw=float(r.randint(3, 8)),
+                    TipoProgetto=r.choice([0, 1]))
+        CB, CA, CR = (f32(1.2), f32(1.2), f32(0.8)) if ricerca else (0.5, 0.5, 1.0)
+        d0, Af, L, bf = foro(D[i - 1]), dati["Af"], dati["L"], dati["bf"]
+        fianchi = [((b - s.tw) / 2, resto) for b in ([c.b, bf] if bf > 0 else [c.b])
+                   for s, resto in ((c, CR * c.radice), (t, R2 * CR * dati["aw"]))]
+        A = min(math.floor((meta - resto) / (CA + CB)) for meta, resto in fianchi)
+        if dati["nf"] == 2:
+            A = min(A, math.floor((L - R2 * CR * Af) / (CA + CB)))
+        grandi = [k for k in range(1, 23) if foro(D[k - 1]) > A]
+        X = su(CB * 9 + CA * 9 + R2 * CR * Af)
+        uscita = dict(efmin=su(CB * d0), exmin=su(CB * d0), d2min=su(R2 * CR * Af + CA * d0),
+                      efmax=math.floor(min(meta - (resto + CA * d0) for meta, resto in fianchi)),
+                      Lmin=X if dati["TipoProgetto"] else 5.0 * math.ceil(X / 5),
+                      bullone=max(grandi[0] - 1, 1) if grandi else 1)
+        righe += ["", "caso %02d" % (caso + 1)] + righe_dati(n, dati, {"ricerca": ricerca})
+        righe += scrive("attesi", ["%s=%s" % (k, numero(v)) for k, v in uscita.items()])
+    return righe
+
+
 def casi_ricerca(quanti):
     gen, righe, fatti = Generatore(1992), [], 0
     while fatti < quanti:
@@ -895,6 +964,7 @@ def file(nome, righe):
 
 
 if __name__ == "__main__":
-    file("verifiche.txt", casi_verifica(137))
-    file("ricerche.txt", casi_ricerca(45))
-    file("alfa.txt", casi_alfa())
+    TAVOLE = dict(verifiche=lambda: casi_verifica(137), sequenze=lambda: casi_sequenza(10, 6),
+                  limiti=lambda: casi_limite(40), alfa=casi_alfa, ricerche=lambda: casi_ricerca(45))
+    for tavola in sys.argv[1:] or TAVOLE:
+        file(tavola + ".txt", TAVOLE[tavola]())
