@@ -36,7 +36,7 @@ constexpr int ultimaEntrata = 5; ///< Txt_Rif up to here is typed, beyond it com
 constexpr int nMessaggi = 5;
 constexpr int caratteriTermine = 9;  ///< room of a term of the check
 constexpr int righeMotivo = 3;       ///< of a reason beside the utilisation
-constexpr int righeOsservazioni = 9; ///< seen at once
+constexpr int righeOsservazioni = 6; ///< seen at once
 
 /// Places of Txt_Rif.
 enum { rifSpessore, rifForo, rif_e1, rif_p1, rif_e2, rif_p2, rifAlfa, rifResistenza };
@@ -423,15 +423,20 @@ void frmBulloni::ApreChiudeOsservazioni() {
     MostraOsservazioni();
 }
 
-/// The advice stands under everything it speaks of: the window grows by its room, inside the screen.
+/// The advice stands under everything it speaks of: the window grows by its room, downwards and then upwards,
+/// inside the screen.
 void frmBulloni::FaPosto() {
     const int missing = DimensioneContenuto().height() - height();
     if (missing <= 0 || isMaximized())
         return;
     constexpr int bordo = 8; // of the window manager [px]
-    const int room = screen()->availableGeometry().bottom() - bordo - geometry().bottom();
+    const QRect screenRoom = screen()->availableGeometry();
+    const int below = std::clamp(screenRoom.bottom() - bordo - geometry().bottom(), 0, missing);
+    const int above = std::clamp(frameGeometry().top() - screenRoom.top(), 0, missing - below);
     altezzaPrima_ = height();
-    resize(width(), height() + std::clamp(missing, 0, std::max(room, 0)));
+    if (above > 0)
+        move(pos() - QPoint(0, above));
+    resize(width(), height() + below + above);
 }
 
 void frmBulloni::ChiudeOsservazioni() {
