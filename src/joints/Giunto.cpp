@@ -180,9 +180,9 @@ std::int16_t Giunto::IndiceBulloneMaxGiunto_Calcola() const {
         A = std::min(A, massimo(bf));
     if (nf == 2)
         A = std::min(A, ParteIntera((L - sqrt2 * k.Raccordo * Af) / unForo));
-    for (std::int16_t i = 1; i <= TabellaBulloni().n(); ++i)
+    for (int i = 1; i <= TabellaBulloni().n(); ++i)
         if (DiametroForo(TabellaBulloni()[i].d).value_or(0) > A)
-            return i > 1 ? static_cast<std::int16_t>(i - 1) : i;
+            return static_cast<std::int16_t>(std::max(i - 1, 1));
     return 1;
 }
 
@@ -203,9 +203,9 @@ void Giunto::DatiSelezione_Imposta(const RecordMigliore& record) {
 void Giunto::DatiSelezione_Completa(const TabellaSelezione& tabella, int riga) {
     const auto colonna = [&](int i) { return tabella.Numero(riga, i); };
     RecordMigliore r{.bullone = 0, .tf = colonna(4), .bf = colonna(5), .ef = colonna(6)};
-    for (std::int16_t i = 1; i <= TabellaBulloni().n(); ++i)
+    for (int i = 1; i <= TabellaBulloni().n(); ++i)
         if (TabellaBulloni()[i].d == colonna(3))
-            r.bullone = i;
+            r.bullone = static_cast<std::int16_t>(i);
     r.d2 = colonna(nf == 2 ? 9 : 7);
     if (nf == 2) {
         r.ex = colonna(7);
