@@ -84,6 +84,8 @@ void Giunto::sTraveColonna_Calcola() {
     sTrave_ = Radice(t());
 }
 
+void Giunto::Braccio_Calcola() { z = (t().h - t().tf) / 1000; }
+
 void Giunto::Derivati_Calcola() {
     m2 = d2 - gambaUtile * sqrt2 * Af;
     pint = t().h - 2 * t().tf - 2 * d2;

@@ -5,7 +5,10 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "frame/FileDati.h"
 #include "frame/Generale.h"
 #include "frame/Singolo.h"
 #include "joints/GeneraleGiunto.h"
@@ -158,6 +161,12 @@ public:
     void Kwc_Calcola(); ///< Kwc, from the stress in the column
     void Kfc_Calcola(); ///< Kfc, from the stress in the column
 
+    /// Moves the joint between a data file and its members, 124 fields, one a line. Stops at the first that
+    /// fails, which is told; false then.
+    bool FileInOutGiunto(std::string_view modo, std::int16_t nFile);
+    /// What follows from the sections and is not in the file, after reading: roots, z.
+    void Letto();
+
     /// The largest throat that fits on the outer side of the flanges [mm].
     void CordoneAla(double& risultato) const;
 
@@ -224,6 +233,7 @@ public:
     // ------------------------------------------------------------------------ steps of the calculation
 
     void sTraveColonna_Calcola(); ///< root dimensions of beam and column
+    void Braccio_Calcola();       ///< z of the beam
     void Derivati_Calcola();      ///< what follows from bolt, tf, bf, ef, d2 and, of two rows, ex, L, u
     void AzzeraFilaEsterna();     ///< 0 to all that belongs to the outer row
     void Beff_Calcola();          ///< effective lengths of the column flange
@@ -309,6 +319,7 @@ private:
     [[nodiscard]] double GolaResistente(double raccordo) const;
     void GolaMinima(double massima);
     [[nodiscard]] TerminiRigidezza Termini(double mu) const;
+    [[nodiscard]] std::vector<Campo> Campi();
     void TracciaComponenti();
     void TracciaMomento();
     void TracciaRigidezza();

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 
 #include "frame/Singolo.h"
 #include "frame/Tabella1.h"
@@ -69,6 +70,19 @@ public:
     void AzzeraParametriConnessioni();             ///< bolt 1 and no plate in each joint present
     void PreparaSalvataggio();                     ///< the current joint is the one of the node again
 
+    /// Moves the node between a data file and its members: kind, column, joints, beams, current joint, number
+    /// of beams, shear above. Before reading, joints and sections are made anew. Stops at the first field
+    /// that fails, which is told; false then, and what was read stays.
+    bool Input_Output(std::string_view modo, std::int16_t nFile);
+    /// Reads the node; the right joint is then the current one.
+    bool AperturaFile(std::int16_t nFile);
+    /// Asks whether to go on where two joints have different numbers of rows; true where nothing is to be
+    /// asked.
+    bool Controllafile();
+    /// Asks whether to go on with a choice of stiffeners for the current joint that the other one, already
+    /// accepted, does not have: both share the web of the column. True where nothing is to be asked.
+    bool ControllaGiunti(std::string_view tipo);
+
     /// Beta of the current joint: by the signs of the moments, or from the shear of the panel.
     void Beta_Calcola();
 
@@ -88,6 +102,8 @@ private:
     Propria(std::shared_ptr<SezioneDoppioT> sezione, const std::shared_ptr<SezioneDoppioT>& altra1,
             const std::shared_ptr<SezioneDoppioT>& altra2) const;
     void CopiaOggetti();
+    [[nodiscard]] bool Valido();
+    bool GiuntiInOut(std::string_view modo, std::int16_t nFile);
     [[nodiscard]] bool Calcola(OsservatoreProgetto* osservatore);
     static void PreparaProgetto(Giunto& g);
     [[nodiscard]] double BetaCautelativo();

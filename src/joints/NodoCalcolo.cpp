@@ -156,7 +156,7 @@ bool Nodo::Calcola(OsservatoreProgetto* osservatore) {
     CalcolaIrrigidimenti();
     if (!g.Criterio1)
         g.Derivati_Calcola();
-    g.z = Braccio(*g.Trave) / 1000;
+    g.Braccio_Calcola();
     Beta_Calcola();
     if (g.Criterio1 && !g.Mrd_Giunto_Ottimizza_M_MAX(osservatore))
         return false;
