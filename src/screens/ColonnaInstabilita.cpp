@@ -41,7 +41,8 @@ void ScriveColonna(const Scrittore& su, double lamda, const std::string& curva, 
     su.Colonna("Lbl_Curva", curva);
     su.Colonna("Lbl_Alfa", Formato("0.0#", c.alfa));
     su.Colonna("Lbl_Fi", Formato("0.0###", c.fi));
-    su.Colonna("Lbl_chi", Formato("0.0###", c.chi));
+    for (const char* name : {"Lbl_chi", "Lbl_Chi"}) // as the screen calls it
+        su.Colonna(name, Formato("0.0###", c.chi));
     su.Colonna("Lbl_Ncr", lamda == 0 ? std::string(limiteInfinito) : Formato("0.0##", N_a_kN(c.Ncr)));
     su.Colonna("Lbl_NbRd", Formato("0.0##", N_a_kN(c.NbRd)));
 }
@@ -49,7 +50,7 @@ void ScriveColonna(const Scrittore& su, double lamda, const std::string& curva, 
 } // namespace
 
 void ColonnaInstabilita(double lamda, int asse, Schermo& schermo) {
-    constexpr std::array<const char*, 3> assi{"yy", "zz", "vv"};
+    constexpr std::array<const char*, 3> assi{"yy", "zz", "zz"}; // v-v takes the curve of z-z
     SullaSezioneInUso([&](const auto& section) {
         const double betaA = section.betaA();
         const Scrittore su(schermo, asse);

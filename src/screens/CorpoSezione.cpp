@@ -13,10 +13,12 @@
 #include "drawing/ui/ImmagineDisegno.h"
 #include "frame/ui/Casella.h"
 #include "screens/PannelloDati.h"
+#include "screens/PannelloDoppi.h"
 #include "screens/PannelloFamiglie.h"
 #include "screens/PannelloRisultati.h"
 #include "screens/PannelloUtente.h"
 #include "screens/ValoriRiga.h"
+#include "screens/VociSezione.h"
 #include "sections/DisegnoSagoma.h"
 
 namespace sagomi {
@@ -111,6 +113,8 @@ void CorpoSezione::PosaDestra(QBoxLayout& riga) {
     column->setSpacing(spazio);
     riga.addLayout(column);
     column->addWidget(CreaPannello<PannelloDati>("fraDati", this));
+    if (*VociDi(schermo_.toStdString()).accosta.nome != '\0')
+        column->addWidget(CreaPannello<PannelloDoppi>("doppi", this));
     column->addWidget(CreaPannello<PannelloRisultati>("risultati", this), 1);
     PosaComandi(*column);
 }
@@ -124,10 +128,12 @@ void CorpoSezione::PosaComandi(QBoxLayout& colonna) {
     back->hide();
     row->addWidget(back);
     row->addStretch();
-    row->addWidget(CreaComando(this, "Command1", "P&resso Flessione",
-                               "Verifica della membratura a sforzo normale e flessione"));
-    row->addWidget(
-        CreaComando(this, "Command2", "&Svergolamento", "Verifica all'instabilità flesso-torsionale"));
+    if (VociDi(schermo_.toStdString()).membratura) {
+        row->addWidget(CreaComando(this, "Command1", "P&resso Flessione",
+                                   "Verifica della membratura a sforzo normale e flessione"));
+        row->addWidget(
+            CreaComando(this, "Command2", "&Svergolamento", "Verifica all'instabilità flesso-torsionale"));
+    }
     row->addWidget(CreaComando(this, "CmdPlotta", "Plotta", "Disegno della sezione in scala"));
 }
 

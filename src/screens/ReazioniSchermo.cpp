@@ -157,13 +157,19 @@ void OrdinaPerColonna(SchermoSezione& schermo, int colonna) {
         ImpostaOrdine(schermo, before);
 }
 
-void RecordCambiato(SchermoSezione& schermo, int indice) {
-    if (indice != 0 || schermo.AggiungeSagomoUtente || !schermo.RigaInMano())
+void MostraValoriRiga(SchermoSezione& schermo) {
+    if (!schermo.RigaInMano())
         return;
     const Lettore& row = schermo.Data1->Recordset();
     const int fields = std::min(row.Campi(), static_cast<int>(schermo.TxtProf.size()));
     for (int i = 1; i < fields; ++i)
         schermo.TxtProf[i]->setText(QString::fromStdString(FormatoCifre(cifreRisultati, row.Numero(i))));
+}
+
+void RecordCambiato(SchermoSezione& schermo, int indice) {
+    if (indice != 0 || schermo.AggiungeSagomoUtente || !schermo.RigaInMano())
+        return;
+    MostraValoriRiga(schermo);
     schermo.Leggedati();
     if (ServerAttivo && OggettoServer != nullptr)
         OggettoServer->SagomoCambiato();

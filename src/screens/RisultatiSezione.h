@@ -6,6 +6,8 @@
 namespace sagomi {
 
 class SezioneDoppioT;
+class SezioneSagomoL;
+class SezioneSagomoU;
 
 /// A result box of a main screen and what it shows of the section.
 template <typename S> struct VoceRisultato {
@@ -15,5 +17,11 @@ template <typename S> struct VoceRisultato {
 
 /// What a double-T answers, rolled or welded: classes, resistances to buckling, bending and shear.
 const std::vector<VoceRisultato<SezioneDoppioT>>& RisultatiDoppioT();
+
+/// What a channel answers: three classes, resistances to buckling, bending and shear.
+const std::vector<VoceRisultato<SezioneSagomoU>>& RisultatiSagomoU();
+
+/// What an angle answers: its class, resistances to buckling about three axes.
+const std::vector<VoceRisultato<SezioneSagomoL>>& RisultatiSagomoL();
 
 } // namespace sagomi

@@ -78,6 +78,13 @@ protected:
             risultati_.emplace_back(CasellaDi(voce.casella), voce.testo);
     }
 
+    [[nodiscard]] QList<QWidget*> CaselleRisultati() const {
+        QList<QWidget*> boxes;
+        for (const auto& [box, text] : risultati_)
+            boxes << box;
+        return boxes;
+    }
+
     /// Steel and entries: from m and kN to mm and N.
     void LeggeEntrate(S& section) const {
         section.TipoAcciaio = ComboTipoAcciaio->currentText().toStdString();

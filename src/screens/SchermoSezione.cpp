@@ -335,9 +335,9 @@ void SchermoSezione::SvuotaRisultati() {
         slender->hide();
 }
 
-void SchermoSezione::LunghezzaCambiata(int index) {
+bool SchermoSezione::PassaLunghezza(int index) {
     if (Fermo() || !RigaInMano())
-        return;
+        return false;
     Singolo* length = nullptr;
     const bool some = SullaSezioneInUso([&](ConLunghezze auto& section) {
         if (index == 0 || index == 1)
@@ -346,20 +346,28 @@ void SchermoSezione::LunghezzaCambiata(int index) {
             if (index == 2)
                 length = &section.L0v;
     });
-    if (some && length == nullptr) {
+    if (some && length == nullptr)
         Avvisa("Errore in L0");
+    if (length == nullptr)
+        return false;
+    *length = Lunghezza(index);
+    return true;
+}
+
+void SchermoSezione::LunghezzaCambiata(int index) {
+    if (!PassaLunghezza(index))
         return;
-    }
-    if (some)
-        *length = Lunghezza(index);
     const MessaggiTaciuti quiet(InDigitazione(Txt_L0[index]));
     Risultati();
 }
 
+bool SchermoSezione::PassaForza() {
+    return !Fermo() && RigaInMano() &&
+           SullaSezioneInUso([this](ConMomenti auto& section) { section.NSd = kN_a_N(NumeroIn(TxtNsd)); });
+}
+
 void SchermoSezione::ForzaCambiata() {
-    if (Fermo() || !RigaInMano())
-        return;
-    if (!SullaSezioneInUso([this](ConMomenti auto& section) { section.NSd = kN_a_N(NumeroIn(TxtNsd)); }))
+    if (!PassaForza())
         return;
     const MessaggiTaciuti quiet(InDigitazione(TxtNsd));
     Risultati();

@@ -89,7 +89,7 @@ public:
     /// it.
     virtual void LunghezzaCambiata(int index);
     /// The axial force has been typed.
-    void ForzaCambiata();
+    virtual void ForzaCambiata();
 
     void AllAttivazione() override;
     void lblVplRd(bool visibile) override;
@@ -130,6 +130,12 @@ protected:
     void CollegaDettagli(std::initializer_list<std::pair<const char*, const char*>> dettagli);
     /// Command2 opens the check of lateral-torsional buckling: the screens of double-T sections.
     void CollegaSvergolamento();
+    /// Hands a length, or the axial force, on to the section in use.
+    /// @return whether there is a section that takes it; an axis that it does not have is told
+    bool PassaLunghezza(int index);
+    bool PassaForza();
+    /// An entry has been concluded: what hangs on it is computed.
+    virtual void Conclusa(QLineEdit* casella);
     /// What Enter does in the entry boxes: fy, lengths, axial force, then the first command. False leaves it
     /// to the tab order.
     virtual bool Invio(QLineEdit* casella);
@@ -152,7 +158,6 @@ private:
     void CollegaMenu();
     void CollegaDati();
     void CollegaRegole();
-    void Conclusa(QLineEdit* casella);
     void RotturaCambiata();
     void CollegaTabella();
     void ApriDettaglio(const QString& nome);
@@ -189,6 +194,9 @@ bool CambioFamiglia(SchermoSezione& schermo, std::string_view foglio = {});
 
 /// Sorts the table by one of its columns; the option of that column is set, where there is one.
 void OrdinaPerColonna(SchermoSezione& schermo, int colonna);
+
+/// Fills the display fields but the name from the row in hand.
+void MostraValoriRiga(SchermoSezione& schermo);
 
 /// The display field `indice` has changed; for 0, the name, the new row is taken over.
 void RecordCambiato(SchermoSezione& schermo, int indice);

@@ -4,6 +4,7 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "catalogue/Famiglie.h"
 
@@ -110,6 +111,18 @@ Voce Piatto(const Dicitura& etichetta, const char* nome, const char* aiuto, cons
     return {.etichetta = etichetta, .nome = nome, .aiuto = aiuto, .letta = letta};
 }
 
+/// Of channels z is the direction of the web: the boxes keep their names, what they hold changes places.
+RigaResistenze VplRdCanali() {
+    RigaResistenze row = VplRd();
+    std::swap(row.assi[0].aiuto, row.assi[1].aiuto);
+    row.lettoBottone = "Dettagli plz";
+    return row;
+}
+
+Voce Accosta(const char* nome, const char* testo, const char* aiuto) {
+    return {.etichetta = {nome, testo}, .nome = nome, .aiuto = aiuto, .letta = testo};
+}
+
 const std::vector<VociSchermo>& Schermi() {
     static const std::vector<VociSchermo> screens = {
         {"frmDoppioT",
@@ -131,13 +144,24 @@ const std::vector<VociSchermo>& Schermi() {
          true,
          ClassiDoppioT(),
          {NbRd(), McRd(), VplRd()}},
-        {"frmSagomiU", "Sagomi U - F1 per aiuto", LunghezzeYZ(), true, ClassiU(), {NbRd(), McRd(), VplRd()}},
+        {"frmSagomiU",
+         "Sagomi U",
+         LunghezzeYZ(),
+         true,
+         ClassiU(),
+         {NbRd(), McRd(), VplRdCanali()},
+         false,
+         false,
+         Accosta("chkDoppiAla", "Accosta ali", "Le punte delle ali affacciate, invece delle anime")},
         {"frmSagomiL",
-         "Sagomi L - F1 per aiuto",
+         "Sagomi L",
          LunghezzeYZV(),
          false,
          {ClasseCompressione()},
-         {NbRdAngolari()}}};
+         {NbRdAngolari()},
+         false,
+         false,
+         Accosta("chkDoppiCorto", "Accosta lato corto", "I lati corti affacciati, invece dei lunghi")}};
     return screens;
 }
 

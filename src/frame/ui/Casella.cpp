@@ -86,11 +86,12 @@ void Casella::Colora() {
     const QScopedValueRollback guard(colorando_, true);
     QPalette colours;
     const QColor ground = QApplication::palette().color(QPalette::Base);
-    if (isReadOnly())
+    if (isReadOnly() && segno_ != DaAggiornare)
         colours.setBrush(QPalette::Base, QApplication::palette().brush(QPalette::Window));
     else if (segno_ != Nessuno)
-        colours.setColor(QPalette::Base,
-                         Velo(ground, segno_ == Riletta ? QColor(255, 176, 0) : QColor(255, 64, 48), velo));
+        colours.setColor(
+            QPalette::Base,
+            Velo(ground, segno_ == Impossibile ? QColor(255, 64, 48) : QColor(255, 176, 0), velo));
     setPalette(colours);
 }
 

@@ -22,11 +22,12 @@ public:
     [[nodiscard]] bool Risultato() const { return isReadOnly(); }
     void ImpostaRisultato(bool risultato);
 
-    /// What the tint of an entry says.
+    /// What the tint of an entry or a result says.
     enum Segno {
         Nessuno,
-        Riletta,    ///< it was read otherwise than it looks
-        Impossibile ///< its number cannot stand
+        Riletta,     ///< it was read otherwise than it looks
+        Impossibile, ///< its number cannot stand
+        DaAggiornare ///< a result: an entry that it hangs on has changed since
     };
     void ImpostaSegno(Segno segno);
     [[nodiscard]] Segno SegnoMostrato() const { return segno_; }

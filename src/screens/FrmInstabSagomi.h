@@ -1,0 +1,41 @@
+#pragma once
+
+#include "screens/SchermoDettaglio.h"
+
+namespace sagomi {
+
+class PannelloInstabilita;
+
+/// How the buckling resistances of a channel or an angle come about, EC3 6.3.1: a column for each axis.
+class FrmInstabSagomi : public SchermoDettaglio {
+    Q_OBJECT
+public:
+    /// @param assi  axes of the columns, blanks between
+    FrmInstabSagomi(const QString& nome, const QByteArray& assi);
+
+    /// The column of one axis: 0 y-y, 1 z-z, 2 v-v.
+    void CompletaForm1(int asse);
+
+protected:
+    void Calcola() override;
+
+private:
+    PannelloInstabilita* colonne_;
+    int assi_;
+};
+
+/// Channels: y-y and z-z.
+class FrmInstabSagomiU : public FrmInstabSagomi {
+    Q_OBJECT
+public:
+    FrmInstabSagomiU() : FrmInstabSagomi(QStringLiteral("FrmInstabSagomiU"), "y-y z-z") {}
+};
+
+/// Angles: v-v too.
+class FrmInstabSagomiL : public FrmInstabSagomi {
+    Q_OBJECT
+public:
+    FrmInstabSagomiL() : FrmInstabSagomi(QStringLiteral("FrmInstabSagomiL"), "y-y z-z v-v") {}
+};
+
+} // namespace sagomi
