@@ -103,4 +103,10 @@ void TavolaTrave::Nome(PuntoQuadro punto, std::string_view testo, int dx, int dy
              allinea.at(static_cast<std::size_t>(dx) + 1), posa.at(static_cast<std::size_t>(dy) + 1));
 }
 
+void TavolaTrave::Distanza(double da, double a, std::string_view testo) const {
+    constexpr double sotto = -0.6;
+    q_.Quota(Punto(da, sotto), Punto(a, sotto));
+    Nome(Punto((da + a) / 2, sotto), testo, 0, 1);
+}
+
 } // namespace sagomi

@@ -31,6 +31,11 @@ public:
     /// Filled diagram: f(x) from -1 (bottom) to 1 (top), with its ordinates at the ends.
     void Diagramma(const std::function<double(double)>& f) const;
 
+    /// Dimension line below the axis, with its text.
+    void Distanza(double da, double a, std::string_view testo) const;
+    /// A point that is meant.
+    void Segna(PuntoQuadro dove) const { q_.Disco(dove, 3, Fondo::Pieno); }
+
     /// Text beside a point; `dx`, `dy` -1, 0 or 1 say to which side it goes.
     void Nome(PuntoQuadro punto, std::string_view testo, int dx, int dy) const;
     /// A point of the picture: x from 0 to 1, y from -1 to 1.

@@ -28,13 +28,6 @@ Attesa& InAttesa() {
     return attesa;
 }
 
-RiferimentoSezione CopiaSezione() {
-    RiferimentoSezione copy;
-    SullaSezioneInUso(
-        [&copy](const auto& section) { copy = std::make_shared<std::decay_t<decltype(section)>>(section); });
-    return copy;
-}
-
 void AggiornaUno(Schermo& schermo) {
     Protetto("Errore", [&schermo] { schermo.Aggiorna(); });
 }
@@ -85,6 +78,13 @@ void Aggiorna(const SchermoSezione& schermo, const Schermo* compilato) {
 }
 
 } // namespace
+
+RiferimentoSezione CopiaSezione() {
+    RiferimentoSezione copy;
+    SullaSezioneInUso(
+        [&copy](const auto& section) { copy = std::make_shared<std::decay_t<decltype(section)>>(section); });
+    return copy;
+}
 
 void AggiornaVisibili(const SchermoSezione& schermo) {
     if (ChiusuraInCorso)

@@ -1,10 +1,14 @@
 #pragma once
 
 #include "frame/ui/Schermo.h"
+#include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 
 class SchermoSezione;
+
+/// A section of the same values as the one in use.
+RiferimentoSezione CopiaSezione();
 
 /// A main screen has shown its results: every visible screen that was opened from it computes anew with the
 /// section in use, in silence. The active one comes last and works on the section itself, the others each on

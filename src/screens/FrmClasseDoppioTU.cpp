@@ -1,6 +1,7 @@
 #include "screens/FrmClasseDoppioTU.h"
 
 #include <array>
+#include <type_traits>
 
 #include "frame/Messaggi.h"
 #include "frame/Unita.h"
@@ -8,6 +9,7 @@
 #include "frame/ui/Protetto.h"
 #include "screens/PlottaSezioneCorrente.h"
 #include "sections/Eurocod3.h"
+#include "sections/LunghezzePerse.h"
 #include "sections/SezioneCorrente.h"
 #include "ui_FrmClasseDoppioTU.h"
 
@@ -48,6 +50,28 @@ const std::vector<Piatto>& Piatti() {
     return plates;
 }
 
+const std::vector<Voce>& Efficaci() {
+    const auto value = [](const char* caption, const char* name, const char* help, const char* read) {
+        return Voce{{"", caption}, name, 9, help, read, Genere::valore};
+    };
+    static const std::vector<Voce> values = {
+        value("A{eff} [mm^{2}]", "Lbl_Aeff", "Area efficace in compressione, EC3 6.2.4", "Aeff [mm2]"),
+        value("anima persa N [mm]", "Lbl_PersaWebC",
+              "Altezza persa dall'anima in compressione, ENV 1993-1-1 5.3.5",
+              "anima persa in compressione [mm]"),
+        value("W{eff,y} [mm^{3}]", "Lbl_WyEff", "Modulo efficace intorno a y-y, EC3 6.2.5", "Weff,y [mm3]"),
+        value("anima persa M{y} [mm]", "Lbl_PersaWebF",
+              "Altezza persa dall'anima inflessa intorno a y-y, ENV 1993-1-1 5.3.5",
+              "anima persa in flessione [mm]"),
+        value("W{eff,z} [mm^{3}]", "Lbl_WzEff", "Modulo efficace intorno a z-z, EC3 6.2.5", "Weff,z [mm3]"),
+        value("ala persa [mm]", "Lbl_PersaAla", "Lunghezza persa da ogni sporgenza, ENV 1993-1-1 5.3.5",
+              "ala persa [mm]"),
+        value("e{Ny} [mm]", "Lbl_eNy", "Spostamento del baricentro lungo l'anima, EC3 6.2.9.3", "eNy [mm]"),
+        value("e{Nz} [mm]", "Lbl_eNz", "Spostamento del baricentro attraverso l'anima, EC3 6.2.9.3",
+              "eNz [mm]")};
+    return values;
+}
+
 void MostraClasse(QLabel* label, int section_class) { label->setText(QString::number(section_class)); }
 
 /// The lower and upper limits in bending, then those in compression.
@@ -61,6 +85,8 @@ void MostraLimiti(const QList<QLabel*>& labels, const std::array<std::string, 4>
 FrmClasseDoppioTU::FrmClasseDoppioTU()
     : SchermoDettaglio(QStringLiteral("FrmClasseDoppioTU")), ui_(new Ui::FrmClasseDoppioTU) {
     ui_->setupUi(this);
+    ui_->fraEfficace->InColonne(Efficaci(), 2);
+    ui_->fraEfficace->hide();
     ui_->piatti->Compone(Piatti());
     MostraAlaInferiore(false);
     CollegaControlli();
@@ -117,9 +143,33 @@ template <typename S> void FrmClasseDoppioTU::MostraAla(const S& s) {
 }
 
 template <typename S> void FrmClasseDoppioTU::MostraEfficaci(const S& s) {
+    MostraValoriEfficaci(s);
     pltAeff_[0]->setVisible(s.ClasseCompressione == 4 && s.SezioneComp4);
     pltAeff_[1]->setVisible(s.ClasseFlessioneY == 4 && s.SezioneWy4);
     pltAeff_[2]->setVisible(s.ClasseFlessioneZ == 4 && s.SezioneWz4);
+}
+
+// Values of a class that is not 4 are empty.
+template <typename S> void FrmClasseDoppioTU::MostraValoriEfficaci(const S& s) {
+    const bool comp = s.ClasseCompressione == 4 && s.SezioneComp4;
+    const bool y = s.ClasseFlessioneY == 4 && s.SezioneWy4;
+    const bool z = s.ClasseFlessioneZ == 4 && s.SezioneWz4;
+    ui_->fraEfficace->setVisible(comp || y || z);
+    const auto show = [this](const char* name, bool there, double value) {
+        Mostra(findChild<QLabel*>(QString::fromLatin1(name)),
+               there ? FormatoCifre(cifre, value) : std::string());
+    };
+    show("Lbl_Aeff", comp, s.betaA() * s.Area);
+    show("Lbl_WyEff", y, s.WyEff);
+    show("Lbl_WzEff", z, s.WzEff);
+    show("Lbl_eNy", comp || y, s.eNy);
+    show("Lbl_eNz", comp || z, s.eNz);
+    if constexpr (std::is_same_v<S, SezioneDoppioT>) {
+        const LunghezzePerse lost = PerseDi(s);
+        show("Lbl_PersaWebC", s.ClasseWebC == 4, lost.animaCompressa);
+        show("Lbl_PersaWebF", s.ClasseWebF == 4, lost.animaInflessa);
+        show("Lbl_PersaAla", s.ClasseAlaC == 4, lost.ala);
+    }
 }
 
 void FrmClasseDoppioTU::CompletaFormAsimmetrici() {

@@ -35,6 +35,7 @@ private:
     template <typename S> void MostraAnima(const S& s);
     template <typename S> void MostraAla(const S& s);
     template <typename S> void MostraEfficaci(const S& s);
+    template <typename S> void MostraValoriEfficaci(const S& s);
     void MostraAlaInferiore(bool visibile);
     void SpiegaClasse() const;
     void PlottaEfficace(int indice);

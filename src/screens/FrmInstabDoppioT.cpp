@@ -2,10 +2,15 @@
 
 #include <QRadioButton>
 
+#include <cmath>
 #include <limits>
 
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/Casella.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
 #include "screens/ColonnaInstabilita.h"
 #include "sections/ColonnaInstabilita.h"
@@ -18,6 +23,8 @@ namespace sagomi {
 namespace {
 
 constexpr double nessunNumero = std::numeric_limits<double>::quiet_NaN();
+
+constexpr const char* motivoLunghezza = "La lunghezza di libera inflessione non può essere negativa";
 
 /// A row without a radius of gyration has no slenderness about that axis, nor has a negative length.
 bool Calcolabile(const SezioneDoppioT& s, int axis) {
@@ -40,11 +47,30 @@ FrmInstabDoppioT::FrmInstabDoppioT()
     ui_->setupUi(this);
     CollegaControlli();
     optE0_ = Vettore<QRadioButton>(QStringLiteral("optE0"));
+    CollegaDati();
     CollegaFreccia();
     DimensionaIniziale({});
 }
 
 FrmInstabDoppioT::~FrmInstabDoppioT() = default;
+
+void FrmInstabDoppioT::CollegaDati() {
+    const QList<QLineEdit*> lengths{ui_->fraAzioni->Txt_L0_0, ui_->fraAzioni->Txt_L0_1};
+    for (QLineEdit* box : lengths)
+        regole_.Aggiunge({.caselle = {box}, .motivo = [box] {
+                              const double L = NumeroIn(box);
+                              return L >= 0 && std::isfinite(L) ? QString() : tr(motivoLunghezza);
+                          }});
+    CalcolaA(lengths + QList<QLineEdit*>{ui_->fraAzioni->TxtNsd});
+}
+
+void FrmInstabDoppioT::RiempieDati() {
+    if (const SezioneDoppioT* s = Sezione()) {
+        Riempie(ui_->fraAzioni->TxtNsd, N_a_kN(s->NSd));
+        Riempie(ui_->fraAzioni->Txt_L0_0, mm_a_m(s->L0y));
+        Riempie(ui_->fraAzioni->Txt_L0_1, mm_a_m(s->L0z));
+    }
+}
 
 void FrmInstabDoppioT::CollegaFreccia() {
     for (QRadioButton* option : optE0_)
@@ -56,9 +82,10 @@ void FrmInstabDoppioT::CollegaFreccia() {
 }
 
 void FrmInstabDoppioT::Calcola() {
-    const SezioneDoppioT* s = Sezione();
+    SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;
+    s->NSd = kN_a_N(NumeroIn(ui_->fraAzioni->TxtNsd)); // another detail may have left its own
     ui_->fraColonne->MostraAcciaio(s->fy);
     CompletaForm1(0);
     CompletaForm1(1);
@@ -71,7 +98,10 @@ void FrmInstabDoppioT::CompletaForm1(int asse) {
     if (s == nullptr)
         return;
     const double lamda = asse == 0 ? s->LamdaY() : s->LamdaZ();
-    ColonnaInstabilita(Calcolabile(*s, asse) ? lamda : nessunNumero, asse, *this);
+    const bool some = Calcolabile(*s, asse);
+    ColonnaInstabilita(some ? lamda : nessunNumero, asse, *this);
+    const double NbRd = asse == 0 ? s->NbyRd : s->NbzRd;
+    ui_->fraColonne->MostraAsse(asse, asse == 0 ? s->iY : s->iZ, s->NSd, some ? NbRd : nessunNumero);
 }
 
 // The curve of the axis that governs.

@@ -28,8 +28,12 @@ public:
 protected:
     /// Shows the derivation about both axes, the calculator's results and the bow.
     void Calcola() override;
+    /// Axial force and lengths of the section go into their entries.
+    void RiempieDati() override;
+    void Riporta() override { RiportaAlChiamante(); }
 
 private:
+    void CollegaDati();
     void CollegaFreccia();
     void CalcolaChi();
     void MostraFreccia();

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "frame/GeneraleSagomi.h"
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Esito.h"
@@ -30,6 +31,14 @@ std::string Modulo(int classe, const Moduli& w) {
     if (classe == 3)
         return "Elastico " + FormatoCifreEsp(cifre, Singolo(w.elastico));
     return "Effettivo " + FormatoCifreEsp(cifre, w.efficace);
+}
+
+/// ENV 1993-1-1 5.4.5.2: W fy over the factor of the class.
+void MostraDerivazione(QLabel* factor, EtichettaFormula* formula, int classe) {
+    const bool efficace = classe > 3;
+    Mostra(factor, TestoPiano(efficace ? GammaM1 : GammaM0));
+    formula->ImpostaFormula(efficace ? QStringLiteral("W{eff} f{y} / γ{M1}")
+                                     : QStringLiteral("W f{y} / γ{M0}"));
 }
 
 std::string Momento(double m) { return FormatoCifreEsp(cifre, Nmm_a_kNm(m)); }
@@ -65,6 +74,8 @@ void FrmMcRd::Calcola() {
         ui_->Lbl_Classe_1->setText(QString::number(s.ClasseFlessioneZ));
         Mostra(ui_->Lbl_W_0, Modulo(s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}));
         Mostra(ui_->Lbl_W_1, Modulo(s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}));
+        MostraDerivazione(ui_->Lbl_GammaM_0, ui_->LblFormulaMcRd_0, s.ClasseFlessioneY);
+        MostraDerivazione(ui_->Lbl_GammaM_1, ui_->LblFormulaMcRd_1, s.ClasseFlessioneZ);
         Mostra(ui_->Lbl_McRd_0, Momento(s.McyRd));
         Mostra(ui_->Lbl_McRd_1, Momento(s.MczRd));
         ui_->Picture1->Mostra(DisegnoSagoma(SagomaDi(s)));

@@ -30,6 +30,7 @@ protected:
     void Calcola() override;
     /// The axial force of the section goes into its entry.
     void RiempieDati() override;
+    void Riporta() override {} // the force of the ductility is its own
 
 private:
     void Duttilita();

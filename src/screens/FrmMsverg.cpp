@@ -125,6 +125,9 @@ FrmMsverg::FrmMsverg() : SchermoDettaglio(QStringLiteral("FrmMsverg")), ui_(new 
 FrmMsverg::~FrmMsverg() = default;
 
 void FrmMsverg::CollegaEventi() {
+    Lega(ui_->fraAzioni->TxtMysd, &SezioneDoppioT::Mysd, kNm_a_Nmm(1));
+    Lega(ui_->fraAzioni->TxtMzsd, &SezioneDoppioT::Mzsd, kNm_a_Nmm(1));
+    Lega(ui_->Txt_C1, &SezioneDoppioT::C1, 1);
     risultati_ = Controlli({"Lbl_Mcr", "Lbl_LamdaLT", "Lbl_chi", "Lbl_MbRd", "LblMbRd", "Lbl_Risult",
                             "Lbl_Risultato", "LblUtilizzo", "LblMotivo"});
     regole_.Aggiunge({.caselle = {ui_->Txt_L},
@@ -218,6 +221,8 @@ void FrmMsverg::MostraResistenza() {
         Mostra(ui_->Lbl_Mcr, figura, Nmm_a_kNm(s.Mcr));
     else
         Mostra(ui_->Lbl_Mcr, std::string(limiteInfinito));
+    Mostra(ui_->Lbl_BetaMLT, figura, s.BetaMLT);
+    Mostra(ui_->Lbl_BetaMz, figura, s.BetaMz);
     Mostra(ui_->Lbl_LamdaLT, figura, Valido(s, s.LamdaLT));
     Mostra(ui_->Lbl_chi, figura, Valido(s, s.ChiLT));
     Mostra(ui_->Lbl_MbRd, figura, Valido(s, Nmm_a_kNm(s.MbRd)));

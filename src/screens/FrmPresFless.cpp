@@ -21,6 +21,7 @@
 #include "screens/PulsanteDiagramma.h"
 #include "screens/SchermoSezione.h"
 #include "sections/DiagrammaMomenti.h"
+#include "sections/DisegniMomento.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/Verdetto.h"
 #include "ui_FrmPresFless.h"
@@ -38,15 +39,6 @@ constexpr const char* motivoLunghezza = "La lunghezza di libera inflessione non 
 void Riscrivi(QLineEdit* box, double value) {
     if (NumeroIn(box) != value)
         box->setText(QString::fromStdString(TestoPiano(value)));
-}
-
-/// Hands a number to the calling screen's box, which then reacts; not when it holds it already.
-void RiportaTesto(const QLineEdit* da, QLineEdit* a) {
-    constexpr double cifreSingolo = 5e-7; // the boxes were filled with seven figures
-    const double nuovo = NumeroIn(da);
-    const double vecchio = NumeroIn(a);
-    if (!(std::abs(nuovo - vecchio) <= cifreSingolo * std::max(std::abs(nuovo), std::abs(vecchio))))
-        a->setText(TestoPulito(da));
 }
 
 QString Titolo(int classe) {
@@ -201,6 +193,8 @@ void FrmPresFless::CollegaRegole(int asse) {
 
 void FrmPresFless::CollegaDiagrammi() {
     auto* pictures = new QButtonGroup(this);
+    for (QRadioButton* option : OptMomento_)
+        option->setFocusPolicy(Qt::ClickFocus); // one group with the pictures, which Tab enters
     for (PulsanteDiagramma* picture : Picture1_) {
         pictures->addButton(picture);
         Collega(picture, &QAbstractButton::clicked, this,
@@ -227,6 +221,8 @@ void FrmPresFless::Calcola() {
     SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;
+    PrendeMomento(0);
+    PrendeMomento(1);
     s->k = 1;
     s->Kw = 1;
     s->za = 0;
@@ -236,22 +232,63 @@ void FrmPresFless::Calcola() {
     double BetaM = 0;
     double C1 = 0;
     CompletaForm1(0, M, BetaM, C1);
-    s->C1 = C1;
+    s->C1 = FattoreInForza(C1);
     s->Mysd = M;
     s->BetaMLT = BetaM;
     s->BetaMy = BetaM;
-    Mostra(ui_->Lbl_C1, figura, C1);
+    Mostra(ui_->Lbl_C1, figura, s->C1);
     CompletaForm1(1, M, BetaM, C1);
     s->Mzsd = M;
+    scritti_ = {s->Mysd, s->Mzsd};
     s->BetaMz = BetaM;
     s->McrFunz();
     s->MbRdSub();
     MostraAsse(0);
     MostraAsse(1);
+    MostraMomenti();
     MostraInterazione();
 }
 
-void FrmPresFless::CompletaForm1(int asse, double& M, double& BetaM, double& C1) {
+// Of end moments alone the picture is the one of their signs.
+void FrmPresFless::MostraMomenti() {
+    const double M2 = NumeroIn(TxtM2_[0]);
+    if (TipoDiagramma == diagrammaEstremita && M2 != 0) {
+        IndicePict = M2 < 0 ? pictEstremitaDiscordi : pictEstremitaConcordi;
+        VisualizzaPict(IndicePict);
+    }
+    ui_->ImgMomenti->Mostra(DisegnoMomenti(Momenti(0), Momenti(1), IndicePict));
+}
+
+// A moment that another detail has given the section comes into the diagram, which keeps its shape.
+void FrmPresFless::PrendeMomento(int asse) {
+    const SezioneDoppioT& s = *Sezione();
+    const double given = std::abs(asse == 0 ? s.Mysd : s.Mzsd);
+    const double own = scritti_.at(static_cast<std::size_t>(asse));
+    const QList<QLineEdit*> boxes{TxtM1_[asse], TxtM2_[asse], TxtMQ_[asse]};
+    const auto typing = [](const QLineEdit* box) { return InDigitazione(box); };
+    constexpr double cifreSingolo = 5e-7;
+    if (!StessaSezione() || std::ranges::any_of(boxes, typing) || std::abs(given - own) <= cifreSingolo * own)
+        return;
+    const TerminiInterazione t = s.TerminiMNInstab();
+    const double NeN = asse == 0 ? t.y.NeN : t.z.NeN;
+    const QScopedValueRollback guard(inCalcolo_, true);
+    const double scala = own == NeN ? 0 : (given - NeN) / (own - NeN);
+    if (scala > 0)
+        for (QLineEdit* box : boxes)
+            Riempie(box, NumeroIn(box) * scala);
+    else if (given > NeN)
+        Riempie(boxes[0], Nmm_a_kNm(given - NeN));
+}
+
+// C1 of the diagram, or the one that another detail has given the section since the diagram was changed.
+double FrmPresFless::FattoreInForza(double C1) {
+    const SezioneDoppioT& s = *Sezione();
+    const bool other = StessaSezione() && C1 == C1Proprio_ && s.C1 != Singolo(C1);
+    C1Proprio_ = C1;
+    return other ? double(s.C1) : C1;
+}
+
+MomentiMembratura FrmPresFless::Momenti(int asse) {
     MomentiMembratura m;
     inputM1M2(asse, m.M1, m.M2);
     if (TipoDiagramma == diagrammaCampata)
@@ -263,6 +300,11 @@ void FrmPresFless::CompletaForm1(int asse, double& M, double& BetaM, double& C1)
         const TerminiInterazione t = s->TerminiMNInstab();
         m.NeN = asse == 0 ? t.y.NeN : t.z.NeN;
     }
+    return m;
+}
+
+void FrmPresFless::CompletaForm1(int asse, double& M, double& BetaM, double& C1) {
+    const MomentiMembratura m = Momenti(asse);
     const EffettiDiagramma e = EffettiDelDiagramma(m, TipoDiagramma, IndicePict);
     M = e.M;
     BetaM = e.BetaM;
@@ -292,9 +334,7 @@ void FrmPresFless::inputMQ(int asse, double& MQ) {
 void FrmPresFless::Leggedati() {
     if (chiamante_ == nullptr)
         return;
-    RiportaTesto(ui_->fraAzioni->TxtNsd, chiamante_->TxtNsd);
-    for (int i = 0; i < Txt_L0_.size(); ++i)
-        RiportaTesto(Txt_L0_[i], chiamante_->Txt_L0[i]);
+    RiportaAlChiamante();
     if (SezioneDoppioT* s = Sezione()) {
         s->NSd = kN_a_N(NumeroIn(ui_->fraAzioni->TxtNsd)); // another detail may have left its own
         s->ClassePressoFlessioneCalcola();
@@ -305,6 +345,9 @@ void FrmPresFless::VisualizzaPict(int indice) {
     if (indice < 1 || indice > nPict)
         return;
     const std::int16_t type = TipoDiPict(static_cast<std::int16_t>(indice));
+    for (PulsanteDiagramma* picture :
+         Picture1_) // Tab comes to the one that is chosen, arrows go on from there
+        picture->setFocusPolicy(picture->Pict() == indice ? Qt::StrongFocus : Qt::ClickFocus);
     const QSignalBlocker quiet(OptMomento_[type]);
     OptMomento_[type]->setChecked(true);
     Picture1_[indice - 1]->setChecked(true);

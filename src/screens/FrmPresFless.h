@@ -2,10 +2,12 @@
 
 #include <QList>
 
+#include <array>
 #include <cstdint>
 #include <memory>
 
 #include "screens/SchermoDettaglio.h"
+#include "sections/DiagrammaMomenti.h"
 
 class QLineEdit;
 class QRadioButton;
@@ -50,17 +52,24 @@ protected:
     /// Reads the entries, derives moments and factors, shows the interaction.
     void Calcola() override;
     void RiempieDati() override;
+    void Riporta() override {} // Leggedati does
 
 private:
     void CollegaEventi();
     void CollegaRegole(int asse);
     void CollegaDiagrammi();
+    MomentiMembratura Momenti(int asse);
+    void PrendeMomento(int asse);
+    double FattoreInForza(double C1);
     void MostraAsse(int asse);
+    void MostraMomenti();
     void MostraInterazione();
 
     std::unique_ptr<Ui::FrmPresFless> ui_;
     QList<QLineEdit*> Txt_L0_, TxtM1_, TxtM2_, TxtMQ_;
     QList<QRadioButton*> OptMomento_;
+    std::array<double, 2> scritti_{};    ///< moments that the section got last [N mm]
+    double C1Proprio_ = 0;               ///< of the diagram, when it was computed last
     QList<PulsanteDiagramma*> Picture1_; ///< shape i at i - 1
 };
 

@@ -117,6 +117,8 @@ FrmVerifiche::FrmVerifiche() : SchermoDettaglio(QStringLiteral("FrmVerifiche")),
     ui_->formula2->Compone(FormulaElastica());
     ui_->formula3->Compone(FormulaEfficace());
     CollegaControlli();
+    Lega(ui_->fraAzioni->TxtMysd, &SezioneDoppioT::Mysd, kNm_a_Nmm(1));
+    Lega(ui_->fraAzioni->TxtMzsd, &SezioneDoppioT::Mzsd, kNm_a_Nmm(1));
     CalcolaA({ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd});
     SceglieQuadro(1);
     DimensionaIniziale({});

@@ -15,6 +15,8 @@
 #include "frame/ui/IconaProgramma.h"
 #include "frame/ui/MessaggiQt.h"
 #include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/StampaDiSchermo.h"
+#include "screens/StampaSchermo.h"
 #include "screens/TavolaSchermi.h"
 
 namespace sagomi {
@@ -49,6 +51,7 @@ void PreparaApplicazione() {
     CollegaMessaggiQt();
     CollegaAttesaQt();
     Guida::Installa();
+    ImpostaStampa(StampaSchermo);
 }
 
 void Main() {

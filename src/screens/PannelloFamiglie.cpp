@@ -74,6 +74,7 @@ void PannelloFamiglie::ImpostaSchermo(const QByteArray& nome) {
     aggiorna_->setObjectName(QStringLiteral("AggiornaTabella"));
     aggiorna_->setMinimumWidth(aggiorna_->sizeHint().width()); // the mark moves nothing
     aggiorna_->setText(Didascalia(false));
+    aggiorna_->setShortcut(Qt::Key_F5);
     aggiorna_->setToolTip(tr(suggerimento));
     row->addWidget(aggiorna_, 0, Qt::AlignBottom);
 }
@@ -94,6 +95,7 @@ void PannelloFamiglie::MostraDifferenze(const std::string& query) {
     if (!left.isEmpty())
         tip += tr("\nDa togliere: ") + left.join(QStringLiteral(", "));
     aggiorna_->setText(Didascalia(!missing.isEmpty() || !left.isEmpty()));
+    aggiorna_->setShortcut(Qt::Key_F5); // a new text takes it away
     aggiorna_->setToolTip(tip);
 }
 

@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <limits>
+
 #include "frame/ui/GrigliaDerivazione.h"
 #include "frame/ui/Mostra.h"
 #include "sections/Eurocod3.h"
@@ -46,6 +48,7 @@ const std::vector<Voce>& Comuni() {
 /// EC3 6.3.1, from the slenderness to the resistance.
 const std::vector<Passo>& Derivazione() {
     static const std::vector<Passo> passi = {
+        {{"", "i [mm]"}, "i", "i", "i = √(I / A)", "Raggio d'inerzia [mm]", "EC3 6.3.1.3"},
         {{"", "lamda"}, "Lamda", "lamda", "λ = L{0} / i", "Snellezza", "EC3 6.3.1.3"},
         {{"", "lamda segnato"},
          "LamdaS",
@@ -73,6 +76,12 @@ const std::vector<Passo>& Derivazione() {
          "NbRd",
          "χ β{A} A f{y} / γ{M1}",
          "Resistenza di progetto all'instabilità",
+         "EC3 6.3.1.1"},
+        {{"", "utilizzo"},
+         "Utilizzo",
+         "utilizzo",
+         "N{Sd} / N{b,Rd}",
+         "Forza assiale sulla resistenza, passa fino a 1; vuoto in trazione",
          "EC3 6.3.1.1"},
     };
     return passi;
@@ -113,6 +122,15 @@ void PannelloInstabilita::ImpostaAssi(const QByteArray& assi) {
 void PannelloInstabilita::MostraAcciaio(double fy) {
     Mostra(findChild<QLabel*>(QStringLiteral("Lbl_eps")), "0.0#", Epsilon(fy));
     Mostra(findChild<QLabel*>(QStringLiteral("Lbl_Lamda1")), "0.0#", Lamda1(Epsilon(fy)));
+}
+
+void PannelloInstabilita::MostraAsse(int asse, double i, double N, double NbRd) {
+    const auto label = [this, asse](const char* root) {
+        return findChild<QLabel*>(QString::fromLatin1(root) + QString::number(asse));
+    };
+    Mostra(label("Lbl_i_"), "0.0##", i);
+    const double nothing = std::numeric_limits<double>::quiet_NaN();
+    Mostra(label("Lbl_Utilizzo_"), "0.0##", N > 0 && NbRd > 0 ? N / NbRd : nothing);
 }
 
 } // namespace sagomi

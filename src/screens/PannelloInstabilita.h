@@ -21,6 +21,13 @@ public:
     /// @param fy  yield strength [N/mm2]
     void MostraAcciaio(double fy);
 
+    /// Shows where the derivation about an axis starts and what it is for.
+    /// @param asse  0 for the first axis
+    /// @param i     radius of gyration [mm]
+    /// @param N     axial force, compression positive [N]
+    /// @param NbRd  buckling resistance [N]; no number where there is none
+    void MostraAsse(int asse, double i, double N, double NbRd);
+
 private:
     QByteArray assi_;
 };

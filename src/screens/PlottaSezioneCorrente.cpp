@@ -34,6 +34,8 @@ Disegno DisegnoCorrente(std::int16_t efficace) {
 
 } // namespace
 
+Disegno DisegnoSezioneCorrente() { return DisegnoCorrente(EfficaceChiesto()); }
+
 void PlottaSezioneCorrente(Schermo& da) {
     FrmPltSezione::Mostra(da, da.objectName(),
                           [efficace = EfficaceChiesto()] { return DisegnoCorrente(efficace); });

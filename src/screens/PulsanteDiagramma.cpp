@@ -1,5 +1,6 @@
 #include "screens/PulsanteDiagramma.h"
 
+#include <QButtonGroup>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -35,9 +36,22 @@ void PulsanteDiagramma::keyPressEvent(QKeyEvent* event) {
     EventoProtetto([this, event] {
         if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
             click();
-        else
+        else if (!FrecciaFra(event->key()))
             QAbstractButton::keyPressEvent(event);
     });
+}
+
+/// An arrow goes to the next picture of the group, or to the one before, and chooses it.
+bool PulsanteDiagramma::FrecciaFra(int key) {
+    const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
+    if (group() == nullptr || (!forward && key != Qt::Key_Left && key != Qt::Key_Up))
+        return false;
+    const auto all = group()->buttons();
+    const auto next = (all.indexOf(this) + (forward ? 1 : -1) + all.size()) % all.size();
+    all[next]->setFocusPolicy(Qt::StrongFocus);
+    all[next]->setFocus(Qt::TabFocusReason);
+    all[next]->click();
+    return true;
 }
 
 bool PulsanteDiagramma::event(QEvent* event) {

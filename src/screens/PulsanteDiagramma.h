@@ -27,6 +27,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    bool FrecciaFra(int key);
     void Dipinge();
 
     std::int16_t pict_ = 1;

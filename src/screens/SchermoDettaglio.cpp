@@ -2,6 +2,8 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
+#include <cmath>
 #include <stdexcept>
 #include <utility>
 
@@ -12,6 +14,7 @@
 #include "frame/ui/Campi.h"
 #include "frame/ui/Entrata.h"
 #include "frame/ui/EtichettaRisultato.h"
+#include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/UpDown.h"
@@ -21,6 +24,16 @@
 #include "sections/SezioneCorrente.h"
 
 namespace sagomi {
+
+namespace {
+
+/// Numbers that differ by more than the boxes show, which are filled with seven figures.
+bool Diversi(double a, double b) {
+    constexpr double cifreSingolo = 5e-7;
+    return !(std::abs(a - b) <= cifreSingolo * std::max(std::abs(a), std::abs(b)));
+}
+
+} // namespace
 
 SchermoDettaglio::SchermoDettaglio(const QString& nome) : Schermo(nome) {}
 
@@ -76,7 +89,49 @@ void SchermoDettaglio::Aggiorna() {
         }
     }
     RicordaChiamante();
+    const QScopedValueRollback copy(suCopia_, true);
     Ricalcola();
+}
+
+void SchermoDettaglio::RiportaAlChiamante() {
+    for (QLineEdit* box : CaselleDelChiamante()) {
+        const auto* own = findChild<QLineEdit*>(box->objectName());
+        if (own != nullptr && !own->isReadOnly() && Diversi(NumeroIn(own), NumeroIn(box)))
+            box->setText(TestoPulito(own));
+    }
+    RicordaChiamante();
+}
+
+// The caller shows its results for N; the section in hand keeps what this screen has made of it.
+void SchermoDettaglio::Riporta() {
+    const QScopedValueRollback own(SezioneCorrente, CopiaSezione());
+    RiportaAlChiamante();
+}
+
+void SchermoDettaglio::Lega(QLineEdit* casella, Singolo SezioneDoppioT::*valore, double unita) {
+    legami_.append({casella, valore, unita});
+}
+
+bool SchermoDettaglio::StessaSezione() const {
+    return Sezione() != nullptr && SezioneInUso<SezioneDoppioT>(sezioneVista_) == Sezione();
+}
+
+void SchermoDettaglio::PrendeDallaSezione() {
+    if (!StessaSezione())
+        return;
+    for (const Legame& l : legami_) {
+        const double given = Sezione()->*l.valore;
+        if (!sagomi::InDigitazione(l.casella) && Diversi(given, l.visto))
+            Riempie(l.casella, given / l.unita);
+    }
+}
+
+void SchermoDettaglio::RicordaSezione() {
+    if (suCopia_ || Sezione() == nullptr)
+        return;
+    for (Legame& l : legami_)
+        l.visto = Sezione()->*l.valore;
+    sezioneVista_ = SezioneCorrente;
 }
 
 void SchermoDettaglio::CollegaControlli(std::function<bool(QLineEdit*)> invio) {
@@ -153,7 +208,11 @@ void SchermoDettaglio::CompletaForm(SchermoSezione& chiamante) {
     const QScopedValueRollback guard(inCalcolo_, true); // the corrections write into their boxes
     regole_.Applica();
     const MessaggiTaciuti quiet(entrate_->InDigitazione());
+    if (!suCopia_)
+        Riporta();
+    PrendeDallaSezione();
     Calcola();
+    RicordaSezione();
     regole_.SvuotaRisultati();
     daRipetere_ = daRipetere_ || quiet.Trattenuti();
 }

@@ -5,8 +5,10 @@
 #include <functional>
 #include <initializer_list>
 
+#include "frame/Singolo.h"
 #include "frame/ui/RegoleEntrate.h"
 #include "frame/ui/Schermo.h"
+#include "sections/SezioneCorrente.h"
 
 class QLineEdit;
 
@@ -14,7 +16,6 @@ namespace sagomi {
 
 class FiltroCampi;
 class SchermoSezione;
-class SezioneDoppioT;
 
 /// A detail screen: opened from a main screen, or from another detail, it works on SezioneCorrente and shows
 /// the caller's section, steel and strength. It stays in front of its caller, which remains usable, and
@@ -60,6 +61,18 @@ protected:
     /// Refills the entries that have a twin on the section or the caller; runs at each opening.
     virtual void RiempieDati() {}
 
+    /// Hands N and the buckling lengths to the boxes of the caller, which then reacts, where they differ.
+    void RiportaAlChiamante();
+    /// What the caller hears before this screen computes.
+    virtual void Riporta();
+
+    /// From now on an entry and a value of the section go the same way: what another screen has given the
+    /// section since this one computed last comes into the box, else the box counts.
+    /// @param unita  of the box in one of the section
+    void Lega(QLineEdit* casella, Singolo SezioneDoppioT::*valore, double unita);
+    /// The section in use is the one that this screen computed with last, not one read anew.
+    [[nodiscard]] bool StessaSezione() const;
+
     /// CompletaForm on the caller in force, guarded against what it changes itself.
     void Ricalcola();
 
@@ -82,6 +95,15 @@ protected:
     bool inCalcolo_ = false; ///< CompletaForm is writing: handlers of entries return at once
 
 private:
+    /// An entry and its value on the section.
+    struct Legame {
+        QLineEdit* casella;
+        Singolo SezioneDoppioT::*valore;
+        double unita;
+        double visto = 0; ///< as this screen left it
+    };
+    void PrendeDallaSezione();
+    void RicordaSezione();
     [[nodiscard]] QList<QLineEdit*> CaselleDelChiamante() const;
     void RicordaChiamante();
     void CollegaFy();
@@ -90,6 +112,9 @@ private:
 
     bool daRipetere_ = false; ///< messages were held back while the user typed
     QList<double> visti_;     ///< numbers of the caller's boxes that this screen has heard of
+    QList<Legame> legami_;
+    RiferimentoSezione sezioneVista_; ///< computed with last
+    bool suCopia_ = false;            ///< the section in use is a copy, for this computation alone
 };
 
 /// Steps the steel grade of a main screen, held inside its list, and runs the reaction to it; the name and

@@ -40,6 +40,7 @@ namespace {
 
 constexpr int larghezzaInizialeTwips = 9600;
 constexpr int altezzaInizialeTwips = 7680;
+constexpr auto vuoleRiga = "vuoleRiga"; ///< property of a command: it works on the row in hand
 constexpr const char* motivoLunghezza = "La lunghezza di libera inflessione non può essere negativa";
 
 /// Fonts of old screens that are drawn for small sizes only.
@@ -55,6 +56,14 @@ bool ETesto(const QLineEdit* box) { return box->property("testo").toBool(); }
 
 QString Conta(qsizetype n, const char* one, const char* many) {
     return QString::number(n) + u' ' + QString::fromLatin1(n == 1 ? one : many);
+}
+
+/// What works on the row in hand waits until the table has rows.
+void AbilitaComandi(const SchermoSezione& screen) {
+    const bool rows = screen.Data1->Recordset().Righe() > 0;
+    for (QPushButton* command : screen.findChildren<QPushButton*>())
+        if (command->property(vuoleRiga).toBool())
+            command->setEnabled(rows);
 }
 
 } // namespace
@@ -127,11 +136,13 @@ void SchermoSezione::CollegaTabella() {
         if (!AggiungeSagomoUtente)
             Aggiorna();
     });
-    if (QPushButton* plot = Pulsante("CmdPlotta"))
+    if (QPushButton* plot = Pulsante("CmdPlotta")) {
+        plot->setProperty(vuoleRiga, true);
         Collega(plot, &QPushButton::clicked, this, [this] {
             if (RigaInMano())
                 PlottaSezioneCorrente(*this);
         });
+    }
     for (QRadioButton* option : OptionOrdina)
         Collega(option, &QRadioButton::clicked, this, [this] {
             if (!Fermo())
@@ -145,6 +156,7 @@ void SchermoSezione::CollegaTabella() {
 }
 
 void SchermoSezione::MostraStatoTabella() {
+    AbilitaComandi(*this);
     const std::string& query = Data1->RecordSource();
     DBGrid1->MostraOrdine(QString::fromStdString(ColonnaOrdine(query)));
     if (auto* families = findChild<PannelloFamiglie*>())
@@ -245,12 +257,14 @@ void SchermoSezione::CollegaDettagli(std::initializer_list<std::pair<const char*
         QPushButton* found = Pulsante(button);
         if (found == nullptr)
             throw std::out_of_range(std::string("nessun pulsante si chiama ") + button);
+        found->setProperty(vuoleRiga, true);
         Collega(found, &QPushButton::clicked, this,
                 [this, name = QString::fromLatin1(name)] { ApriDettaglio(name); });
     }
 }
 
 void SchermoSezione::CollegaSvergolamento() {
+    Pulsante("Command2")->setProperty(vuoleRiga, true);
     Collega(Pulsante("Command2"), &QPushButton::clicked, this, [this] {
         // Free ends under a uniform moment to begin with.
         SullaSezioneInUso(
@@ -393,6 +407,7 @@ bool SchermoSezione::Invio(QLineEdit* casella) {
 }
 
 void SchermoSezione::AggiornaBarraDiStato() {
+    AbilitaComandi(*this);
     const auto families = QString::fromStdString(Data1->RecordSource()).count(QLatin1String("FROM ["));
     const int rows = Data1->Recordset().Righe();
     const QString origin = TipoUtente

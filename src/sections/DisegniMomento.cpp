@@ -5,7 +5,8 @@
 #include <cmath>
 #include <string_view>
 
-#include "sections/DiagrammaMomenti.h"
+#include "frame/Numeri.h"
+#include "frame/Unita.h"
 
 namespace sagomi {
 
@@ -44,6 +45,33 @@ double FraIncastri(double libero, double ai_lati) { return libero - ai_lati; }
 
 constexpr double bordo = 10; ///< free between two bands
 constexpr double trave = 84; ///< length of a beam
+
+/// Moments of an axis as they are, the largest that counts marked with its value.
+void AsseMomenti(const Quadro& quadro, const CampoQuadro& campo, std::string_view asse,
+                 const MomentiMembratura& m, std::int16_t pict) {
+    const TavolaTrave tavola(quadro, campo);
+    tavola.Nome({campo.sinistra, campo.Centro().y}, asse, -1, 0);
+    const bool contro = pict == pictDistribuitoContro || pict == pictConcentratoContro;
+    const bool distribuito = pict == pictDistribuitoContro || pict == pictDistribuitoConcorde;
+    const double MQ = TipoDiPict(pict) == diagrammaEstremita ? 0 : contro ? -m.MQ : m.MQ;
+    const double M1 = m.M1 + m.NeN;
+    const double M2 = m.M2 + m.NeN;
+    const double Mm = (M1 + M2) / 2 + MQ;
+    const double M = std::max({std::abs(M1), std::abs(M2), std::abs(Mm)});
+    if (!(M > 0)) {
+        tavola.Asse();
+        return;
+    }
+    const auto ordinate = [=](double x) {
+        return (Lineare(M1, M2, x) + MQ * (distribuito ? Parabola(x) : Triangolo(x))) / M;
+    };
+    tavola.Diagramma(ordinate);
+    const double dove = std::abs(Mm) >= std::abs(M1) && MQ != 0 ? 0.5 : 0;
+    const PuntoQuadro massimo = tavola.Punto(dove, ordinate(dove));
+    tavola.Segna(massimo);
+    tavola.Nome(massimo, Formato("0.0##", Nmm_a_kNm(M * std::copysign(1.0, ordinate(dove)))), 1,
+                ordinate(dove) < 0 ? 1 : -1);
+}
 
 void FasciaPsi(const Quadro& quadro, const CampoQuadro& campo, double psi) {
     const TavolaTrave tavola(quadro, {campo.sinistra, campo.alto, trave, campo.altezza});
@@ -91,18 +119,24 @@ void DisegnaCaso(const TavolaTrave& carico, const TavolaTrave& diagramma, CasoF1
     case UniformeAppoggi:
     case UniformeIncastri:
         carico.CaricoDistribuito();
+        carico.Nome(carico.Punto(1, 0.7), "q", 1, 0);
         diagramma.Diagramma(
             [=](double x) { return -FraIncastri(Parabola(x), incastri ? quanto_uniforme : 0); });
         break;
     case ConcentratoAppoggi:
     case ConcentratoIncastri:
         carico.Forza(0.5);
+        carico.Nome(carico.Punto(0.5, 0.7), "F", 1, 0);
         diagramma.Diagramma(
             [=](double x) { return -FraIncastri(Triangolo(x), incastri ? quanto_forza : 0); });
         break;
     case DueCarichiAppoggi:
-        carico.Forza(0.25);
-        carico.Forza(0.75);
+        for (const double where : {0.25, 0.75}) {
+            carico.Forza(where);
+            carico.Nome(carico.Punto(where, 0.7), "F", 1, 0);
+        }
+        carico.Distanza(0, 0.25, "L/4");
+        carico.Distanza(0.75, 1, "L/4");
         diagramma.Diagramma([](double x) { return -DueForze(x); });
         break;
     }
@@ -124,6 +158,25 @@ Disegno DisegnoPict(std::int16_t pict) {
         const Quadro quadro(oggetto, Dispositivo, misura);
         const double nome = quadro.LarghezzaTesto("M1 ");
         DisegnaPict({quadro, quadro.Tutto().Dentro(margine + nome, margine, margine + nome, margine)}, pict);
+    };
+    return disegno;
+}
+
+Disegno DisegnoMomenti(const MomentiMembratura& y, const MomentiMembratura& z, std::int16_t pict) {
+    constexpr double larghezza = 84;
+    constexpr double altezza = 76;
+    Disegno disegno{"Momenti di progetto", {}, {2 * larghezza, altezza, "y-y  z-z  0000,0"}};
+    disegno.PlottaInOggetto = [y, z, pict, misura = disegno.misura](Superficie* oggetto, std::string_view) {
+        const Quadro quadro(oggetto, Dispositivo, misura);
+        const double nome = quadro.LarghezzaTesto("y-y  ");
+        CampoQuadro meta = quadro.Tutto();
+        meta.larghezza /= 2;
+        for (const bool primo : {true, false}) {
+            const double riga = quadro.Riga();
+            AsseMomenti(quadro, meta.Dentro(nome, riga, 2 * bordo, riga), primo ? "y-y " : "z-z ",
+                        primo ? y : z, pict);
+            meta.sinistra += meta.larghezza;
+        }
     };
     return disegno;
 }

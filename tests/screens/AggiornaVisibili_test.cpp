@@ -71,7 +71,8 @@ TEST_F(AggiornaVisibiliTest, ADetailKeepsWhatItHasOfItsOwn) {
     EXPECT_EQ(Testo(&check, "TxtNsd"), "75");
     EXPECT_EQ(Testo(&check, "TxtMysd"), "20");
     EXPECT_EQ(Sezione().Mysd, 0) << "the section of the main screen hears nothing of it";
-    EXPECT_EQ(Sezione().NSd, 0);
+    EXPECT_EQ(s->TxtNsd->text(), "75") << "but N goes both ways";
+    EXPECT_EQ(Sezione().NSd, 75e3);
 }
 
 TEST_F(AggiornaVisibiliTest, TheActiveDetailWorksOnTheSectionItself) {

@@ -183,7 +183,8 @@ TEST_F(FrmClasseDoppioTUTest, EffectiveOutlinesCanBeSeenWhereTheyExist) {
     f.AllAttivazione();
     for (const char* name : {"pltAeff_0", "pltAeff_1", "pltAeff_2"})
         EXPECT_FALSE(Trova<QPushButton>(&f, name)->isHidden()) << name;
-    EXPECT_EQ(Trova<QPushButton>(&f, "pltAeff_0")->toolTip(), "Area efficace per compressione semplice");
+    EXPECT_EQ(Trova<QPushButton>(&f, "pltAeff_0")->toolTip(),
+              "Area efficace per compressione semplice (Alt+A)");
 }
 
 TEST_F(FrmClasseDoppioTUTest, OpensThePreviewOnTheOutlineChosen) {

@@ -145,7 +145,7 @@ TEST_F(FrmMsvergTest, EntriesGoIntoTheSection) {
     EXPECT_EQ(s.c3.Stretto(), 0.5F);
     EXPECT_EQ(s.za.Stretto(), 150.F);
     EXPECT_EQ(s.LLT.Stretto(), 5700.F);
-    EXPECT_EQ(Testo(main_, "TxtNsd"), "") << "the caller keeps its own force";
+    EXPECT_EQ(Testo(main_, "TxtNsd"), "120") << "the caller has heard of it";
 }
 
 TEST_F(FrmMsvergTest, UniformMomentOverFiveMetres) {

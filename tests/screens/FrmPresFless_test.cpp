@@ -446,7 +446,9 @@ TEST_F(FrmPresFlessTest, OpensTheOtherChecksAndComesBack) {
     EXPECT_EQ(Sezione().NSd.Stretto(), 500e3F);
     QTest::keyClick(&verifiche, Qt::Key_Escape);
     EXPECT_FALSE(verifiche.isVisible());
-    EXPECT_EQ(Sezione().NSd.Stretto(), 120e3F) << "this screen's own entry counts again";
+    EXPECT_EQ(Sezione().NSd.Stretto(), 500e3F);
+    EXPECT_EQ(Testo(&f, "TxtNsd"), "500") << "the force of the other check";
+    Scrive(&f, "TxtNsd", "120");
     for (const char* opener : {"LblFlessTors", "LbLFlessTorsHelp"}) {
         Premi(&f, opener);
         auto& m = Aperto("FrmMsverg");

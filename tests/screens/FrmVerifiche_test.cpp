@@ -74,16 +74,18 @@ TEST_F(FrmVerificheTest, OpeningFillsTheEntriesFromTheSectionAndCopiesTheCaller)
     EXPECT_EQ(f.focusWidget()->objectName(), "TxtNsd");
 }
 
-TEST_F(FrmVerificheTest, ComingBackRefillsNothingOpeningDoes) {
+TEST_F(FrmVerificheTest, ComingBackRefillsNothingButNOpeningAll) {
     auto& f = Apre();
     Azioni(f, "50", "10", "0");
     Scrive(s, "TxtNsd", "200");
     f.AllAttivazione();
-    EXPECT_EQ(Testo(&f, "TxtNsd"), "50");
-    EXPECT_EQ(Sezione().NSd.Stretto(), 50e3F);
+    EXPECT_EQ(Testo(&f, "TxtNsd"), "200") << "N goes both ways";
+    EXPECT_EQ(Sezione().NSd.Stretto(), 200e3F);
+    EXPECT_EQ(Testo(&f, "TxtMysd"), "10");
     Scrive(s, "TxtNsd", "300");
     Riapre();
     EXPECT_EQ(Testo(&f, "TxtNsd"), "300");
+    EXPECT_EQ(Testo(&f, "TxtMysd"), "0");
 }
 
 // Npl 5381 · 235 / 1.05 = 1204.32 kN, n 0.0996, a 0.4035: MNy is held at Mpl 140.642, MNz at 28.021 kNm;
@@ -256,7 +258,7 @@ TEST_F(FrmVerificheTest, LeavingGoesBackToTheCallerWhichStartsAnew) {
     EXPECT_FALSE(f.isVisible());
     EXPECT_EQ(NavigaSchermi::Unico().Attivo(), s);
     EXPECT_EQ(Sezione().Mysd.Stretto(), 0.F);
-    EXPECT_EQ(Testo(s, "TxtNsd"), "");
+    EXPECT_EQ(Testo(s, "TxtNsd"), "10") << "N goes both ways";
 }
 
 } // namespace

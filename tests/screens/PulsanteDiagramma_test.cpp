@@ -117,7 +117,8 @@ TEST_F(PulsanteDiagrammaTest, TheContextMenuOffersAllWays) {
     });
     QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, button.mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(&button, &event);
-    EXPECT_EQ(texts, (QStringList{"C&opia", "&Stampa", "File &DXF", "File S&VG", "&CAD"}));
+    EXPECT_EQ(texts,
+              (QStringList{"C&opia", "&Stampa", "File &DXF", "File S&VG", "File &PDF", "File P&NG", "&CAD"}));
 }
 
 // From a screen the picture also opens in the preview, with its own name.

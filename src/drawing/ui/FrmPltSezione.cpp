@@ -65,7 +65,7 @@ void FrmPltSezione::Ridisegna() {
     setWindowTitle(tr("Plotta") +
                    (something ? QStringLiteral(" - ") + QString::fromStdString(disegno_.nome) : QString()));
     for (QAction* action : {ui_->mnuFileItem_0, ui_->mnuFileItem_1, ui_->mnuFileItem_2, ui_->mnuFileItem_4,
-                            ui_->mnuFileItem_5, ui_->mnuAnteprima})
+                            ui_->mnuFileItem_5, ui_->mnuFileItem_6, ui_->mnuFileItem_7, ui_->mnuAnteprima})
         action->setEnabled(something);
     if (!something) {
         ui_->Picture1->Mostra({});

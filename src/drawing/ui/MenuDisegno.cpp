@@ -12,10 +12,9 @@ namespace sagomi {
 
 namespace {
 
-constexpr std::pair<int, const char*> voci[] = {{sceltaAppunti, "C&opia"},
-                                                {sceltaStampante, "&Stampa"},
-                                                {sceltaDxf, "File &DXF"},
-                                                {sceltaSvg, "File S&VG"},
+constexpr std::pair<int, const char*> voci[] = {{sceltaAppunti, "C&opia"}, {sceltaStampante, "&Stampa"},
+                                                {sceltaDxf, "File &DXF"},  {sceltaSvg, "File S&VG"},
+                                                {sceltaPdf, "File &PDF"},  {sceltaPng, "File P&NG"},
                                                 {sceltaCad, "&CAD"}};
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "drawing/ui/ScegliDispositivo.h"
 
+#include <QBuffer>
 #include <QClipboard>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -147,6 +148,39 @@ bool ScriveSvg(const QString& name, const Disegno& drawing, const QString& masch
     return true;
 }
 
+bool ScrivePdf(const QString& name, const Disegno& drawing, const QString& maschera, QWidget* parent,
+               QString& outcome) {
+    constexpr std::string_view filtro = "All Files (*.*)|*.*|Documenti PDF (*.pdf)|*.pdf";
+    const QString file = FileScelto(name, QStringLiteral("pdf"), filtro, 2, parent);
+    if (file.isEmpty())
+        return false;
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    printer.setDocName(name);
+    if (!StampaSu(printer, drawing, maschera))
+        return false;
+    outcome = EsitoFile(file);
+    return true;
+}
+
+bool ScrivePng(const QString& name, const Disegno& drawing, const QString& maschera, QWidget* parent,
+               QString& outcome) {
+    constexpr std::string_view filtro = "All Files (*.*)|*.*|Immagini PNG (*.png)|*.png";
+    const QString file = FileScelto(name, QStringLiteral("png"), filtro, 2, parent);
+    if (file.isEmpty())
+        return false;
+    QBuffer picture;
+    picture.open(QIODevice::WriteOnly);
+    ImmagineDi(drawing, maschera).save(&picture, "PNG");
+    if (!ScriveAtomico(file.toStdString(), picture.data().toStdString())) {
+        AvvisaNonScrivibile(file);
+        return false;
+    }
+    outcome = EsitoFile(file);
+    return true;
+}
+
 bool Copia(const Disegno& drawing, const QString& maschera, QString& outcome) {
     auto data = std::make_unique<QMimeData>();
     data->setData(QStringLiteral("image/svg+xml"), QByteArray::fromStdString(InSvg(drawing, maschera)));
@@ -211,6 +245,10 @@ bool ScegliDispositivo(int scelta, const QString& nome, const Disegno& disegno, 
         done = DisegnaNelCad(disegno, maschera, outcome);
     else if (scelta == sceltaSvg)
         done = ScriveSvg(nome, disegno, maschera, sopra, outcome);
+    else if (scelta == sceltaPdf)
+        done = ScrivePdf(nome, disegno, maschera, sopra, outcome);
+    else if (scelta == sceltaPng)
+        done = ScrivePng(nome, disegno, maschera, sopra, outcome);
     else if (scelta == sceltaAppunti)
         done = Copia(disegno, maschera, outcome);
     if (esito != nullptr)

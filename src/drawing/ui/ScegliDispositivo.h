@@ -17,7 +17,9 @@ enum SceltaDispositivo : int {
     sceltaDxf = 1,
     sceltaCad = 2,
     sceltaSvg = 4,
-    sceltaAppunti = 5
+    sceltaAppunti = 5,
+    sceltaPdf = 6,
+    sceltaPng = 7
 };
 
 /// Asks the user for the printer and its settings; false when he gives up. The tests put their own in the
@@ -26,8 +28,8 @@ using SceltaStampante = std::function<bool(QPrinter& stampante, QWidget* sopra)>
 void ImpostaSceltaStampante(SceltaStampante scelta);
 
 /// Sends a drawing to the device of choice: the print dialog and as many copies as it asks for; the save
-/// dialog and a DXF or SVG file; the running CAD program; the clipboard, as a picture and as SVG. The folder
-/// of a file becomes the working folder.
+/// dialog and a DXF, SVG, PDF or PNG file; the running CAD program; the clipboard, as a picture and as SVG.
+/// The folder of a file becomes the working folder.
 /// @param nome      proposed for the file and the print job
 /// @param maschera  name of the screen that asks, handed on to the drawing
 /// @param esito     when given, receives in a few words where the drawing went

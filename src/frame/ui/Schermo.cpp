@@ -19,6 +19,8 @@
 #include "frame/ui/Copie.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/StampaDiSchermo.h"
+#include "frame/ui/Tasti.h"
 
 namespace sagomi {
 
@@ -32,6 +34,28 @@ int LarghezzaTitolo(const QString& title) {
 }
 
 } // namespace
+
+namespace {
+
+StampaDiSchermo& StampaInForza() {
+    static StampaDiSchermo print;
+    return print;
+}
+
+/// @return whether the key was one of those that print
+bool Stampa(Schermo& screen, const QKeyEvent& key) {
+    if (key.key() != Qt::Key_P || !StampaInForza())
+        return false;
+    const bool preview = key.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+    if (!preview && key.modifiers() != Qt::ControlModifier)
+        return false;
+    StampaInForza()(screen, preview);
+    return true;
+}
+
+} // namespace
+
+void ImpostaStampa(StampaDiSchermo stampa) { StampaInForza() = std::move(stampa); }
 
 Schermo::Schermo(const QString& nome) {
     setObjectName(nome);
@@ -51,6 +75,7 @@ void Schermo::PreparaContenuto() {
     setCentralWidget(scroll);
     NominaParti(*this);
     new Copie(this);
+    AssegnaTasti(*this);
 }
 
 QList<Schermo*> Schermo::Catena() const {
@@ -96,7 +121,7 @@ void Schermo::keyPressEvent(QKeyEvent* event) {
     EventoProtetto([this, event] {
         if (event->key() == Qt::Key_Escape && origine != nullptr)
             close();
-        else
+        else if (!Stampa(*this, *event))
             QMainWindow::keyPressEvent(event);
     });
 }

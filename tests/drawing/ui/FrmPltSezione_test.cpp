@@ -75,7 +75,8 @@ TEST_F(FrmPltSezioneTest, HasItsControlsWithTheirCaptions) {
                                                            {"mnuVistaItem_2", "&Riduci"}};
     for (const auto& [name, caption] : actions)
         EXPECT_EQ(Trova<QAction>(&p, name)->text(), caption);
-    EXPECT_EQ(Trova<QAction>(&p, "mnuAnteprima")->shortcut(), QKeySequence(QStringLiteral("Ctrl+P")));
+    EXPECT_EQ(Trova<QAction>(&p, "mnuFileItem_0")->shortcut(), QKeySequence(QStringLiteral("Ctrl+P")));
+    EXPECT_EQ(Trova<QAction>(&p, "mnuAnteprima")->shortcut(), QKeySequence(QStringLiteral("Ctrl+Shift+P")));
     EXPECT_EQ(Trova<QMenu>(&p, "mnuFile")->title(), "&File");
     EXPECT_EQ(Trova<QPushButton>(&p, "CmdPlotta")->text(), "Plotta");
     EXPECT_EQ(p.FileGuida(), "Sagomi.hlp");

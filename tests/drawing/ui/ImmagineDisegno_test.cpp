@@ -96,7 +96,7 @@ TEST_F(ImmagineDisegnoTest, TheKeyboardReachesAPictureAndItsMenu) {
     });
     QContextMenuEvent key(QContextMenuEvent::Keyboard, {10, 10}, immagine.mapToGlobal(QPoint(10, 10)));
     QApplication::sendEvent(&immagine, &key);
-    EXPECT_EQ(entries, 5);
+    EXPECT_EQ(entries, 7);
     immagine.Mostra({});
     EXPECT_EQ(immagine.focusPolicy(), Qt::NoFocus);
 }

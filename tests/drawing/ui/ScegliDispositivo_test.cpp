@@ -239,6 +239,29 @@ TEST_F(ScegliDispositivoTest, AnSvgFileThatCannotBeWrittenIsTold) {
         std::vector<std::string>{"Non è possibile scrivere il file /manca/a.svg:\r\nla cartella non esiste"});
 }
 
+// PDF and PNG ---------------------------------------------------------------------------------------------
+
+TEST_F(ScegliDispositivoTest, APdfFileIsWrittenWithoutAPrinter) {
+    const QString file = cartella.filePath(QStringLiteral("sezione"));
+    RispondeFile(file);
+    EXPECT_TRUE(Sceglie(sceltaPdf));
+    EXPECT_EQ(proposto, "IPE 200.pdf");
+    EXPECT_TRUE(Byte(file + ".pdf").startsWith("%PDF-"));
+    EXPECT_EQ(esito, "FILE: " + file + ".pdf");
+    EXPECT_EQ(Dispositivo, "VIDEO");
+}
+
+TEST_F(ScegliDispositivoTest, APngFileHoldsThePicture) {
+    const QString file = cartella.filePath(QStringLiteral("sezione"));
+    RispondeFile(file);
+    EXPECT_TRUE(Sceglie(sceltaPng));
+    EXPECT_EQ(proposto, "IPE 200.png");
+    EXPECT_FALSE(QImage(file + ".png").isNull());
+    RispondeFile(QStringLiteral("/manca/a.png"));
+    EXPECT_FALSE(Sceglie(sceltaPng));
+    EXPECT_EQ(registratore.testi.size(), 1U);
+}
+
 // CAD ---------------------------------------------------------------------------------------------------
 
 TEST_F(ScegliDispositivoTest, WithoutACadProgramTheTwoLinesAreShown) {

@@ -1,0 +1,46 @@
+#include "sections/LunghezzePerse.h"
+
+#include <memory>
+#include <vector>
+
+#include "sections/ContornoEfficace.h"
+#include "sections/Eurocod3.h"
+#include "sections/LarghezzeEfficaci.h"
+#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneGenerica.h"
+
+namespace sagomi {
+
+namespace {
+
+// On the neutral axis that a flange of class 4 leaves.
+double AnimaInflessa(const SezioneDoppioT& s) {
+    std::vector<double> x;
+    std::vector<double> y;
+    std::int16_t n = 0;
+    s.Coordinate(x, y, n);
+    if (s.ClasseAlaC == 4)
+        s.AlaEfficace(x, y, kSigmaAlaCompressa, s.tf, s.c, s.h - s.tf / 2, true, true);
+    std::shared_ptr<SezioneGenerica> contorno;
+    const double ySup = s.h - s.tf - (s.Saldata ? s.r : s.r1);
+    const double psi = PsiAnima(CalcolaContorno(contorno, x, y, n), s.d, ySup);
+    if (!(psi <= 1))
+        return 0;
+    const StrisceEfficaci strisce = StrisceDelPiatto(psi, s.d, s.tw, s.fy);
+    return (psi < 0 ? s.d / (1 - psi) : s.d) - strisce.be1 - strisce.be2;
+}
+
+} // namespace
+
+LunghezzePerse PerseDi(const SezioneDoppioT& s) {
+    LunghezzePerse lost;
+    if (s.ClasseWebC == 4)
+        lost.animaCompressa = (1 - Rho(s.d, s.tw, s.fy, kSigmaAnimaCompressa)) * s.d;
+    if (s.ClasseWebF == 4)
+        lost.animaInflessa = AnimaInflessa(s);
+    if (s.ClasseAlaC == 4)
+        lost.ala = TaglioAla(s.c, s.tf, s.fy, kSigmaAlaCompressa);
+    return lost;
+}
+
+} // namespace sagomi
