@@ -133,6 +133,58 @@ TEST_F(VerdettiTest, SignsThatCancelDoNotPass) {
         EXPECT_EQ(Scritta(&f, empty), "") << empty;
 }
 
+/// What boxes and labels show at the moment in which a message is told.
+class AlMessaggio {
+public:
+    AlMessaggio(const QObject& screen, QList<QByteArray> names) {
+        before_ = CollegaMessaggi([this, &screen, names = std::move(names)](const Messaggio& m) {
+            for (const QByteArray& name : names) {
+                const auto* label = screen.findChild<QLabel*>(QString::fromLatin1(name));
+                shown << (label != nullptr ? label->text()
+                                           : Trova<QLineEdit>(&screen, name.constData())->text());
+            }
+            return Inoltra(before_, m);
+        });
+    }
+    ~AlMessaggio() { CollegaMessaggi(before_); }
+    AlMessaggio(const AlMessaggio&) = delete;
+    AlMessaggio& operator=(const AlMessaggio&) = delete;
+
+    QStringList shown;
+
+private:
+    PortaMessaggi before_;
+};
+
+TEST_F(VerdettiTest, NoOldResultStandsBesideAMessage) {
+    auto& s = Ipe500();
+    Premi(&s, "Command2"); // plain ends, uniform moment
+    auto& f = Aperto("FrmMsverg");
+    Scrive(&f, "Txt_L", "5");
+    Scrive(&f, "TxtMysd", "60");
+    ASSERT_EQ(Scritta(&f, "Lbl_Risultato"), "OK");
+    {
+        const AlMessaggio moment(f, {"Lbl_Risult", "Lbl_Risultato", "Lbl_MbRd", "LblUtilizzo"});
+        Scrive(&f, "Txt_C1", "0");
+        EXPECT_EQ(registratore.testi, std::vector<std::string>{"MbRd = 0"});
+        EXPECT_EQ(moment.shown, (QStringList{"", "", "", ""}));
+    }
+    Scrive(&f, "Txt_C1", "1");
+    ASSERT_EQ(Scritta(&f, "Lbl_Risultato"), "OK");
+    const AlMessaggio moment(s, {"TxtNbRd_0", "TxtMcRd_0", "TxtClasseCompressione"});
+    Scrive(&s, "Txt_fy", "0");
+    EXPECT_EQ(moment.shown, (QStringList{"", "", ""}));
+}
+
+TEST_F(VerdettiTest, AnImpossibleEntryOfOneAxisLeavesTheOther) {
+    auto& s = Ipe500();
+    Scrive(&s, "Txt_L0_0", "-1");
+    EXPECT_EQ(Testo(&s, "TxtNbRd_0"), "");
+    EXPECT_NE(Testo(&s, "TxtNbRd_1"), "");
+    Scrive(&s, "Txt_L0_0", "1");
+    EXPECT_NE(Testo(&s, "TxtNbRd_0"), "");
+}
+
 TEST_F(VerdettiTest, AnOvertypedStrengthShowsInTheNameOfTheGrade) {
     auto& s = Ipe500();
     auto& f = Dettaglio(s, "FrmPresFless");

@@ -22,7 +22,7 @@ Casella::Casella(QWidget* parent) : QLineEdit(parent) {
     connect(this, &QLineEdit::textChanged, this, &Casella::MostraTesta);
     // The same text again is no change, but leaves the cursor at its end.
     connect(this, &QLineEdit::cursorPositionChanged, this, [this](int /*old*/, int now) {
-        if (now != 0 && Risultato() && !hasFocus())
+        if (now != 0 && Risultato() && !hasFocus() && !hasSelectedText())
             setCursorPosition(0);
     });
 }
