@@ -30,11 +30,11 @@ protected:
 
 TEST_F(FinestreTest, ADetailComesBackWhereItWasLeft) {
     auto& detail = Apre("FrmMcRd");
-    detail.move(23, 31);
+    detail.move(11, 31);
     detail.close();
     detail.move(0, 0);
     Apre("FrmMcRd");
-    EXPECT_EQ(detail.pos(), QPoint(23, 31));
+    EXPECT_EQ(detail.pos(), QPoint(11, 31));
 }
 
 TEST_F(FinestreTest, TheSectionAndItsValuesMayBeCovered) {
