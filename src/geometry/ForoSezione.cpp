@@ -28,8 +28,8 @@ void ForoSezione(std::vector<double>& x, std::vector<double>& y, std::int16_t& n
     const auto vertici = static_cast<std::size_t>(n > 0 ? n : 0);
     x.resize(vertici);
     y.resize(vertici);
-    std::vector<double> xI;
-    std::vector<std::int16_t> iLato;
+    static thread_local std::vector<double> xI; // kept: a section has several outlines
+    static thread_local std::vector<std::int16_t> iLato;
     AttraversamentiLivello(x, y, n, y0, xI, iLato);
     if (xI.size() < 2)
         return;

@@ -77,11 +77,13 @@ void Poligono::Coordinate(const std::vector<double>& x, const std::vector<double
     }
     if (x.size() < static_cast<std::size_t>(n) || y.size() < static_cast<std::size_t>(n))
         return;
-    // New arrays, since x and y may be those of this polygon.
-    std::vector<double> ascisse(x.begin(), x.begin() + n);
-    std::vector<double> ordinate(y.begin(), y.begin() + n);
-    x_ = std::move(ascisse);
-    y_ = std::move(ordinate);
+    const auto propria = [this](const std::vector<double>& v) { return &v == &x_ || &v == &y_; };
+    if (propria(x) || propria(y)) { // of their copies
+        Coordinate(std::vector<double>(x), std::vector<double>(y), n);
+        return;
+    }
+    x_.assign(x.begin(), x.begin() + n);
+    y_.assign(y.begin(), y.begin() + n);
     n_ = n;
 }
 

@@ -132,13 +132,11 @@ void Poligono::BaricentroDegenere() {
     IxyG = Ixy;
 }
 
-// Mohr's circle of the second moments: R is its radius.
+// Mohr's circle of the second moments: R is its radius. The moment about the axis at a has the second
+// derivative -4 R there, so that it is the greatest and no other sign need be asked for.
 void Poligono::AssiPrincipali() {
-    const double a = -Angolo(2 * IxyG, IxG - IyG) / 2;
-    const double d = 4 * IxyG * std::sin(2 * a) - 2 * (IxG - IyG) * std::cos(2 * a);
-    const double altro = a + std::numbers::pi / 2;
-    Alfa1 = d > 0 ? altro : a;
-    Alfa2 = d > 0 ? a : altro;
+    Alfa1 = -Angolo(2 * IxyG, IxG - IyG) / 2;
+    Alfa2 = Alfa1 + std::numbers::pi / 2;
     const double R = std::sqrt((IxG - IyG) * (IxG - IyG) + 4 * IxyG * IxyG) / 2;
     I1 = (IyG + IxG) / 2 + R;
     I2 = (IyG + IxG) / 2 - R;

@@ -15,13 +15,19 @@ struct Tratto {
     std::size_t lunghezza = 0;
 };
 
-Tratto CercaTratto(const std::vector<bool>& oltre) {
-    const std::size_t n = oltre.size();
+std::size_t Dopo(std::size_t i, std::size_t n) { return i + 1 == n ? 0 : i + 1; }
+
+/// @param oltre  whether the vertex at a position lies beyond the cut
+template <typename Oltre> Tratto CercaTratto(std::size_t n, Oltre oltre) {
     Tratto tratto;
-    for (std::size_t i = 0; i < n; ++i)
-        if (oltre[i] && !oltre[(i + n - 1) % n])
+    bool prima = n > 0 && oltre(n - 1);
+    for (std::size_t i = 0; i < n; ++i) {
+        const bool qui = oltre(i);
+        if (qui && !prima)
             tratto.primo = i;
-    while (tratto.lunghezza < n && oltre[(tratto.primo + tratto.lunghezza) % n])
+        prima = qui;
+    }
+    for (std::size_t i = tratto.primo; tratto.lunghezza < n && oltre(i); i = Dopo(i, n))
         ++tratto.lunghezza;
     return tratto;
 }
@@ -40,10 +46,9 @@ SezioneGenerica& CalcolaContorno(std::shared_ptr<SezioneGenerica>& sezione, cons
 void TagliaPunta(std::vector<double>& x, std::vector<double>& y, const ParteContorno& parte, double xTaglio,
                  bool destra) {
     const std::size_t n = x.size();
-    std::vector<bool> oltre(n);
-    for (std::size_t i = 0; i < n; ++i)
-        oltre[i] = (y[i] > parte.livello) == parte.sopra && (destra ? x[i] > xTaglio : x[i] < xTaglio);
-    const Tratto tratto = CercaTratto(oltre);
+    const Tratto tratto = CercaTratto(n, [&](std::size_t i) {
+        return (y[i] > parte.livello) == parte.sopra && (destra ? x[i] > xTaglio : x[i] < xTaglio);
+    });
     if (tratto.lunghezza == 0 || tratto.lunghezza == n)
         return;
 
@@ -53,12 +58,13 @@ void TagliaPunta(std::vector<double>& x, std::vector<double>& y, const ParteCont
     };
     const std::size_t ultimo = (tratto.primo + tratto.lunghezza - 1) % n;
     const double yEntrata = incrocio((tratto.primo + n - 1) % n, tratto.primo);
-    const double yUscita = incrocio((ultimo + 1) % n, ultimo);
-    for (std::size_t k = 0; k < tratto.lunghezza; ++k) {
-        const std::size_t i = (tratto.primo + k) % n;
+    const double yUscita = incrocio(Dopo(ultimo, n), ultimo);
+    for (std::size_t i = tratto.primo; i != ultimo; i = Dopo(i, n)) {
         x[i] = xTaglio;
-        y[i] = k + 1 < tratto.lunghezza ? yEntrata : yUscita;
+        y[i] = yEntrata;
     }
+    x[ultimo] = xTaglio;
+    y[ultimo] = yUscita;
 }
 
 void ToglieAnima(std::vector<double>& x, std::vector<double>& y, std::int16_t& n, double y0, double H,

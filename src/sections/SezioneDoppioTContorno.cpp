@@ -78,8 +78,9 @@ void SezioneDoppioT::Coordinate(std::vector<double>& x, std::vector<double>& y, 
 void SezioneDoppioT::CoordinateSaldata(std::vector<double>& x, std::vector<double>& y, std::int16_t& n,
                                        double x0, double y0, double scala) const {
     const Profilo sup = QuartoSaldato(*this, {b, tf});
-    const Profilo inf = SaldataAsimm ? QuartoSaldato(*this, {bAlaInf, tAlaInf}) : sup;
-    n = Percorri(inf, sup, {h, x0, y0, scala}, x, y);
+    const PostoContorno posto = {h, x0, y0, scala};
+    n = SaldataAsimm ? Percorri(QuartoSaldato(*this, {bAlaInf, tAlaInf}), sup, posto, x, y)
+                     : Percorri(sup, sup, posto, x, y);
 }
 
 void SezioneDoppioT::AlaEfficace(std::vector<double>& x, std::vector<double>& y, double kS, double t,

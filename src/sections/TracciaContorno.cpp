@@ -40,16 +40,16 @@ void Profilo::Arco(double xC, double yC, double raggio, const DirezioniArco& dir
 }
 
 Percorso::Percorso(std::vector<double>& x, std::vector<double>& y, const PostoContorno& posto, std::size_t n)
-    : x_(x), y_(y), posto_(posto) {
-    x_.clear();
-    y_.clear();
-    x_.reserve(n);
-    y_.reserve(n);
+    : posto_(posto) {
+    x.resize(n);
+    y.resize(n);
+    x_ = x.data();
+    y_ = y.data();
 }
 
 void Percorso::Mette(double px, double py) {
-    x_.push_back((px + posto_.x0) / posto_.scala);
-    y_.push_back(py + posto_.y0);
+    *x_++ = (px + posto_.x0) / posto_.scala;
+    *y_++ = py + posto_.y0;
 }
 
 void Percorso::InBasso(const Profilo& p) {

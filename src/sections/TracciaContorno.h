@@ -58,8 +58,8 @@ struct PostoContorno {
 /// Goes along profiles and writes the vertices of an outline; vertex 1 is the first point of the first one.
 class Percorso {
 public:
-    /// @param x, y  emptied, then receive the vertices
-    /// @param n     how many there will be
+    /// @param x, y  receive the vertices
+    /// @param n     how many there will be, no more and no less
     Percorso(std::vector<double>& x, std::vector<double>& y, const PostoContorno& posto, std::size_t n);
 
     void InBasso(const Profilo& p);          ///< as it is: from the lower corner to the web
@@ -70,8 +70,8 @@ public:
 private:
     void Mette(double px, double py);
 
-    std::vector<double>& x_;
-    std::vector<double>& y_;
+    double* x_; ///< where the next vertex goes
+    double* y_;
     PostoContorno posto_;
 };
 
