@@ -401,7 +401,7 @@ std::vector<std::array<double, 4>> LineeDelDxf(const std::string& byte) {
 TEST_F(DisegnoTest, FileAndScreenHoldTheSamePicture) {
     SuperficieFinta su(1200, 400 + 90);
     const SezioneDoppioT s = Ipe();
-    s.PlottaSezione(&superficie, "frmDoppioT", "VIDEO");
+    s.PlottaSezione(&su, "frmDoppioT", "VIDEO");
     ASSERT_NEAR(su.scritte.back().altezza, 5, 1e-6);
     const auto file = LineeDelDxf(InDxf(s, "frmDoppioT"));
     ASSERT_EQ(file.size(), su.linee.size());
