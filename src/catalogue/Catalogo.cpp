@@ -12,6 +12,7 @@
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/Famiglie.h"
 #include "catalogue/LimitiXls.h"
+#include "catalogue/Minuscole.h"
 #include "catalogue/TabellaFoglio.h"
 
 namespace sagomi {

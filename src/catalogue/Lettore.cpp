@@ -6,8 +6,8 @@
 
 #include "catalogue/Catalogo.h"
 #include "catalogue/ErroreCatalogo.h"
+#include "catalogue/Minuscole.h"
 #include "catalogue/ScritturaRighe.h"
-#include "catalogue/TabellaFoglio.h"
 
 namespace sagomi {
 

@@ -11,6 +11,7 @@
 #include "catalogue/ContenitoreOle.h"
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/FoglioXls.h"
+#include "catalogue/Minuscole.h"
 #include "catalogue/RecordBiff.h"
 #include "catalogue/StiliXls.h"
 #include "catalogue/TabellaStringhe.h"
@@ -23,12 +24,6 @@ namespace {
 constexpr unsigned italia = 39; ///< country of the program that writes, and of the system
 constexpr std::size_t massimoNomeFoglio = 31;
 constexpr std::size_t minimoFlusso = 4096; ///< below, the container would use its small sectors
-
-std::string Minuscole(std::string s) {
-    std::ranges::transform(s, s.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-    return s;
-}
 
 void VerificaNome(const std::string& nome) {
     const std::u16string u = Utf16DaUtf8(nome);

@@ -7,8 +7,8 @@
 #include "catalogue/Famiglie.h"
 #include "catalogue/LettoreXls.h"
 #include "catalogue/LimitiXls.h"
+#include "catalogue/Minuscole.h"
 #include "catalogue/ScrittoreXls.h"
-#include "catalogue/TabellaFoglio.h"
 
 namespace sagomi {
 

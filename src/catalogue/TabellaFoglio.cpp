@@ -11,6 +11,8 @@
 #include <sqlite3.h>
 #include <utility>
 
+#include "catalogue/Minuscole.h"
+
 namespace sagomi {
 
 namespace {
@@ -296,13 +298,6 @@ std::string TraVirgolette(std::string_view nome) {
     for (const char c : nome)
         q.append(c == '"' ? 2 : 1, c);
     return q + '"';
-}
-
-std::string Minuscole(std::string_view testo) {
-    std::string m(testo);
-    std::ranges::transform(m, m.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-    return m;
 }
 
 } // namespace sagomi

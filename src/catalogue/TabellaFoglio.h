@@ -28,7 +28,4 @@ std::vector<std::string> NomiCampi(const FoglioLetto& foglio);
 /// A name as SQL takes any name.
 std::string TraVirgolette(std::string_view nome);
 
-/// ASCII letters small, as the names of tables and fields are compared.
-std::string Minuscole(std::string_view testo);
-
 } // namespace sagomi
