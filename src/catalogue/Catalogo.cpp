@@ -205,9 +205,9 @@ EsitoQuery Catalogo::Esegue(std::string_view query) const {
         return Raccoglie(query);
     } catch (const ErroreCatalogo& e) {
         const bool nelFoglio = !stato_->causa.empty();
-        throw ErroreLettura(file_, nelFoglio ? stato_->causa : InItaliano(e.what(), e.Numero()), e.Numero());
+        throw ErroreLettura(file_, nelFoglio ? stato_->causa : InItaliano(e.what(), e.Numero()));
     } catch (const std::bad_alloc&) {
-        throw ErroreLettura(file_, "memoria insufficiente", SQLITE_NOMEM);
+        throw ErroreLettura(file_, "memoria insufficiente");
     }
 }
 

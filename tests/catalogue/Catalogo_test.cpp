@@ -31,6 +31,7 @@ protected:
         try {
             static_cast<void>(c.Esegue(query));
         } catch (const ErroreCatalogo& e) {
+            EXPECT_EQ(e.Numero(), 0) << "the code of a library says nothing to the user";
             return e.what();
         }
         return "";
