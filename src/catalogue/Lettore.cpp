@@ -110,11 +110,16 @@ const std::string& Lettore::NomeCampo(int campo) const {
 }
 
 const Valore& Lettore::Cella(int riga, int campo) const {
-    if (riga < 0 || riga >= Righe())
-        throw Fuori("riga", riga, Righe());
+    const std::vector<Valore>& celle = Riga(riga);
     if (campo < 0 || campo >= Campi())
         throw Fuori("campo", campo, Campi());
-    return esito_.righe[static_cast<std::size_t>(riga)][static_cast<std::size_t>(campo)];
+    return celle[static_cast<std::size_t>(campo)];
+}
+
+const std::vector<Valore>& Lettore::Riga(int riga) const {
+    if (riga < 0 || riga >= Righe())
+        throw Fuori("riga", riga, Righe());
+    return esito_.righe[static_cast<std::size_t>(riga)];
 }
 
 const Valore& Lettore::Campo(int campo) const {

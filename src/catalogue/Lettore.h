@@ -85,6 +85,9 @@ public:
     /// A field of any row. A row or field that is not there throws std::out_of_range.
     [[nodiscard]] const Valore& Cella(int riga, int campo) const;
 
+    /// All fields of a row. One that is not there throws std::out_of_range.
+    [[nodiscard]] const std::vector<Valore>& Riga(int riga) const;
+
     /// A field of the row in hand; empty at BOF and EOF. A field that is not there throws std::out_of_range.
     [[nodiscard]] const Valore& Campo(int campo) const;
     [[nodiscard]] double Numero(int campo) const;     ///< the field as a number; empty is 0

@@ -83,6 +83,9 @@ TEST_F(LettoreTest, WhatIsNotThereThrows) {
     EXPECT_THROW(static_cast<void>(lettore.NomeCampo(-1)), std::out_of_range);
     EXPECT_THROW(static_cast<void>(lettore.Cella(3, 0)), std::out_of_range);
     EXPECT_THROW(static_cast<void>(lettore.Cella(-1, 0)), std::out_of_range);
+    EXPECT_EQ(lettore.Riga(2).size(), 3U);
+    EXPECT_THROW(static_cast<void>(lettore.Riga(3)), std::out_of_range);
+    EXPECT_THROW(static_cast<void>(lettore.Riga(-1)), std::out_of_range);
     EXPECT_THROW(lettore.MoveTo(3), std::out_of_range);
     EXPECT_THROW(lettore.MoveTo(-1), std::out_of_range);
     EXPECT_EQ(lettore.RigaCorrente(), 0);

@@ -34,6 +34,7 @@ ColonnaFerma::ColonnaFerma(QTableView& griglia, Comando seleziona)
 void ColonnaFerma::Collega() {
     setModel(griglia_.model());
     setSelectionModel(griglia_.selectionModel());
+    selectionModel()->disconnect(horizontalHeader());
     connect(model(), &QAbstractItemModel::modelReset, this, &ColonnaFerma::MostraPrimaColonna);
     MostraPrimaColonna();
     QScrollBar* rows = griglia_.verticalScrollBar();

@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSet>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <numeric>
@@ -97,6 +98,8 @@ void GrigliaCatalogo::CollegaIntestazioni(QHeaderView* intestazioni) {
 void GrigliaCatalogo::Collega(LettoreDati* lettore) {
     lettore_ = lettore;
     setModel(lettore->Modello());
+    // Headings show nothing of the selection, and would be painted anew with every row.
+    selectionModel()->disconnect(horizontalHeader());
     ferma_->Collega();
     connect(lettore, &LettoreDati::rigaCambiata, this, &GrigliaCatalogo::SegueLettore);
     connect(lettore->Modello(), &QAbstractItemModel::modelReset, this, &GrigliaCatalogo::SegueLettore);
@@ -169,12 +172,26 @@ void GrigliaCatalogo::RipartisceColonne() {
     if (adattando_ || model() == nullptr ||
         static_cast<int>(larghezzePiene_.size()) != model()->columnCount())
         return;
+    if (!ImpostaLarghezze())
+        return;
+    ripartite_ = true;
+    updateGeometries();
+    viewport()->update();
+}
+
+// Told of the widths, the table would lay itself out when it has been painted, and be painted once more.
+bool GrigliaCatalogo::ImpostaLarghezze() {
     const QScopedValueRollback guard(adattando_, true);
+    const QSignalBlocker quiet(horizontalHeader());
     const int wanted = std::accumulate(larghezzePiene_.begin(), larghezzePiene_.end(), 0);
     const std::vector<int> given = LarghezzeCedute(wanted - viewport()->width());
+    bool changed = false;
     for (std::size_t i = 0; i < given.size(); ++i)
-        if (const int width = larghezzePiene_[i] - given[i]; columnWidth(static_cast<int>(i)) != width)
+        if (const int width = larghezzePiene_[i] - given[i]; columnWidth(static_cast<int>(i)) != width) {
             setColumnWidth(static_cast<int>(i), width);
+            changed = true;
+        }
+    return changed;
 }
 
 void GrigliaCatalogo::resizeEvent(QResizeEvent* event) {
@@ -184,21 +201,30 @@ void GrigliaCatalogo::resizeEvent(QResizeEvent* event) {
     });
 }
 
-// The last row would be cut by the lower edge: the room of the rows ends with the last whole one.
+// A scroll bar that comes or goes can change the widths of the columns: then once more.
 void GrigliaCatalogo::updateGeometries() {
     if (misurando_)
         return;
     const QScopedValueRollback guard(misurando_, true);
-    QTableView::updateGeometries();
-    const int row = verticalHeader()->defaultSectionSize();
-    if (const int height = viewport()->height(); height > row) {
-        QMargins around = viewportMargins();
-        around.setBottom(around.bottom() + height % row);
-        setViewportMargins(around);
-        FinisceConUnaRigaIntera();
+    for (int round = 0; round == 0 || (ripartite_ && round < 3); ++round) {
+        ripartite_ = false;
+        QTableView::updateGeometries();
+        LasciaRigheIntere();
     }
     if (ferma_ != nullptr)
         ferma_->Allinea();
+}
+
+// The last row would be cut by the lower edge: the room of the rows ends with the last whole one.
+void GrigliaCatalogo::LasciaRigheIntere() {
+    const int row = verticalHeader()->defaultSectionSize();
+    const int height = viewport()->height();
+    if (height <= row)
+        return;
+    QMargins around = viewportMargins();
+    around.setBottom(around.bottom() + height % row);
+    setViewportMargins(around);
+    FinisceConUnaRigaIntera();
 }
 
 // The hidden heading of the rows tells where they lie, by a room that ended below.

@@ -72,6 +72,8 @@ private:
     [[nodiscard]] int Altezza(int rows) const;
     void AdattaColonne();
     void RipartisceColonne();
+    bool ImpostaLarghezze();
+    void LasciaRigheIntere();
     void FinisceConUnaRigaIntera();
     [[nodiscard]] std::vector<int> LarghezzeCedute(int eccesso) const;
     [[nodiscard]] int LarghezzaColonna(int column, const QStringList& texts) const;
@@ -87,6 +89,7 @@ private:
     bool seguendo_ = false;
     bool adattando_ = false;
     bool misurando_ = false;
+    bool ripartite_ = false; ///< columns have other widths than when the table was last laid out
     QString digitato_;
     QElapsedTimer ultimoTasto_;
 };

@@ -23,6 +23,18 @@ struct Estremi {
     }
 };
 
+/// A cell whose text is shorter than the last of those kept: texts of no more bytes than that has letters.
+bool PiuCorto(const Valore& cell, const QStringList& testi) {
+    if (testi.isEmpty())
+        return false;
+    const std::string* text = std::get_if<std::string>(&cell);
+    const std::string other = text == nullptr ? TestoDi(cell) : std::string();
+    const std::string_view bytes = text == nullptr ? other : *text;
+    if (static_cast<qsizetype>(bytes.size()) < testi.back().size())
+        return true;
+    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size())).size() < testi.back().size();
+}
+
 } // namespace
 
 ModelloCatalogo::ModelloCatalogo(const Lettore& lettore, QObject* parent)
@@ -70,24 +82,24 @@ const std::string& ModelloCatalogo::FiguraDi(int column) const {
 }
 
 std::vector<QStringList> ModelloCatalogo::TestiLunghi() const {
-    const int columns = lettore_.Campi();
-    std::vector<Estremi> estremi(static_cast<std::size_t>(columns));
-    std::vector<QStringList> testi(estremi.size());
-    for (int row = 0; row < lettore_.Righe(); ++row) // row by row, as they lie in memory
-        for (int column = 0; column < columns; ++column) {
-            const auto at = static_cast<std::size_t>(column);
-            const auto* number = std::get_if<double>(&lettore_.Cella(row, column));
-            if (number != nullptr && !FiguraDi(column).empty())
+    const auto columns = static_cast<std::size_t>(lettore_.Campi());
+    std::vector<Estremi> estremi(columns);
+    std::vector<QStringList> testi(columns);
+    std::vector<bool> conFigura(columns);
+    for (std::size_t at = 0; at < columns; ++at)
+        conFigura[at] = !FiguraDi(static_cast<int>(at)).empty();
+    for (int row = 0; row < lettore_.Righe(); ++row) { // row by row, as they lie in memory
+        const std::vector<Valore>& cells = lettore_.Riga(row);
+        for (std::size_t at = 0; at < columns; ++at)
+            if (const auto* number = std::get_if<double>(&cells[at]); number != nullptr && conFigura[at])
                 estremi[at].Aggiunge(*number);
-            else if (const QString text = TestoIntero(row, column);
-                     testi[at].isEmpty() || text.size() >= testi[at].back().size())
-                testi[at] << text;
-        }
-    for (int column = 0; column < columns; ++column)
-        if (const Estremi& e = estremi[static_cast<std::size_t>(column)]; e.minimo <= e.massimo)
+            else if (!PiuCorto(cells[at], testi[at]))
+                testi[at] << TestoIntero(row, static_cast<int>(at));
+    }
+    for (std::size_t at = 0; at < columns; ++at)
+        if (const Estremi& e = estremi[at]; e.minimo <= e.massimo)
             for (const double value : {e.minimo, e.massimo})
-                testi[static_cast<std::size_t>(column)]
-                    << QString::fromStdString(Formato(FiguraDi(column), value));
+                testi[at] << QString::fromStdString(Formato(FiguraDi(static_cast<int>(at)), value));
     return testi;
 }
 

@@ -7,6 +7,8 @@
 #include <QSignalSpy>
 #include <QStyledItemDelegate>
 
+#include <utility>
+
 #include "catalogue/Famiglie.h"
 #include "catalogue/ui/CifreDipinte.h"
 #include "catalogue/ui/LettoreDati.h"
@@ -40,6 +42,37 @@ protected:
     LettoreDati dati;
     GrigliaCatalogo griglia;
 };
+
+/// How many times a widget has been painted since the last time that it was asked.
+class Dipinti : public QObject {
+public:
+    explicit Dipinti(QWidget* widget) { widget->installEventFilter(this); }
+    int Nuovi() {
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents();
+        return std::exchange(n_, 0);
+    }
+    bool eventFilter(QObject* /*object*/, QEvent* event) override {
+        n_ += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+private:
+    int n_ = 0;
+};
+
+TEST_F(GrigliaCatalogoTest, PaintsWhatHasChangedAndOnce) {
+    Dipinti rows(griglia.viewport());
+    Dipinti headings(griglia.horizontalHeader()->viewport());
+    rows.Nuovi();
+    headings.Nuovi();
+    dati.MoveNext();
+    EXPECT_EQ(rows.Nuovi(), 1);
+    EXPECT_EQ(headings.Nuovi(), 0) << "they show nothing of the row in hand";
+    Mostra({"HEM", "IPE", "HEAA"}); // other widths, and a scroll bar
+    EXPECT_EQ(rows.Nuovi(), 1);
+    EXPECT_EQ(headings.Nuovi(), 1);
+}
 
 TEST_F(GrigliaCatalogoTest, ShowsHeadingsAndNumbersInTheirPictures) {
     const auto text = [this](int row, int column) {
