@@ -38,6 +38,13 @@ class Gestori(unittest.TestCase):
         self.assertEqual(self.check(header % "EventoProtetto([] { return true; })"), (0, ""))
         self.assertEqual(self.check(header % "true")[0], 1)
 
+    def test_a_painter_of_cells(self):
+        header = ("class A : public QStyledItemDelegate {\n    void paint(QPainter* p, const QStyleOptionViewItem& o,\n"
+                  "               const QModelIndex& i) const override;\n};\n")
+        body = "void A::paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& i) const {%s}\n"
+        self.assertEqual(self.check(header, body % "DipintoProtetto(w, [] {});"), (0, ""))
+        self.assertEqual(self.check(header, body % "")[0], 1)
+
     def test_a_tree_without_handlers_is_suspect(self):
         self.assertEqual(self.check("class A {};\n")[0], 1)
 

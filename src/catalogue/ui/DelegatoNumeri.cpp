@@ -4,6 +4,8 @@
 #include <QStyle>
 #include <QWidget>
 
+#include "frame/ui/Protetto.h"
+
 namespace sagomi {
 
 namespace {
@@ -26,6 +28,11 @@ QPalette::ColorGroup Gruppo(const QStyleOptionViewItem& cell) {
 
 void DelegatoNumeri::paint(QPainter* painter, const QStyleOptionViewItem& option,
                            const QModelIndex& index) const {
+    DipintoProtetto(static_cast<QWidget*>(parent()), [&] { Dipinge(*painter, option, index); });
+}
+
+void DelegatoNumeri::Dipinge(QPainter& painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const {
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const QStyle* style = cell.widget == nullptr ? nullptr : cell.widget->style();
@@ -33,13 +40,13 @@ void DelegatoNumeri::paint(QPainter* painter, const QStyleOptionViewItem& option
     const int margin = left ? 0 : style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
     const QRect room = cell.rect.adjusted(margin, 0, -margin, 0);
     if (left || cifre_.Larghezza() > room.width()) {
-        QStyledItemDelegate::paint(painter, option, index);
+        QStyledItemDelegate::paint(&painter, option, index);
         return;
     }
-    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, &painter, cell.widget);
     const bool selected = (cell.state & QStyle::State_Selected) != 0;
-    painter->setPen(cell.palette.color(Gruppo(cell), selected ? QPalette::HighlightedText : QPalette::Text));
-    cifre_.Dipinge(*painter, room);
+    painter.setPen(cell.palette.color(Gruppo(cell), selected ? QPalette::HighlightedText : QPalette::Text));
+    cifre_.Dipinge(painter, room);
 }
 
 } // namespace sagomi

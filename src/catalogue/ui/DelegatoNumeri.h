@@ -11,12 +11,15 @@ namespace sagomi {
 class DelegatoNumeri : public QStyledItemDelegate {
     Q_OBJECT
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    /// @param tabella  the view that it paints for
+    explicit DelegatoNumeri(QWidget* tabella) : QStyledItemDelegate(tabella) {}
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
 private:
+    void Dipinge(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+
     mutable CifreDipinte cifre_;
 };
 
