@@ -9,10 +9,9 @@
 #include <QTableView>
 
 #include <algorithm>
+#include <iterator>
 
 #include "frame/ui/EtichettaPedice.h"
-#include "frame/ui/EtichettaRisultato.h"
-#include "frame/ui/LineaFormula.h"
 
 namespace sagomi {
 
@@ -83,7 +82,7 @@ public:
 
 private:
     [[nodiscard]] bool Risultato() const {
-        return qobject_cast<EtichettaRisultato*>(widget()) != nullptr ||
+        return widget()->inherits("sagomi::EtichettaRisultato") || // by name: that label installs this
                !widget()->accessibleName().isEmpty();
     }
     /// What a caption says: a subscript that stands over a gap belongs into it.
@@ -134,23 +133,20 @@ QAccessibleInterface* Crea(const QString& key, QObject* object) {
 /// A value of a formula often has the name of the entry or the result that it repeats.
 void DistingueFormule(const QWidget& maschera) {
     QStringList names;
-    const QList<LineaFormula*> formulas = maschera.findChildren<LineaFormula*>();
+    const QList<QWidget*> all = maschera.findChildren<QWidget*>();
+    QList<QWidget*> formulas;
+    std::copy_if(all.begin(), all.end(), std::back_inserter(formulas),
+                 [](const QWidget* w) { return w->inherits("sagomi::LineaFormula"); });
     const auto inside = [&formulas](const QWidget* w) {
         return std::any_of(formulas.begin(), formulas.end(),
-                           [w](const LineaFormula* f) { return f->isAncestorOf(w); });
+                           [w](const QWidget* f) { return f->isAncestorOf(w); });
     };
-    const QList<QWidget*> all = maschera.findChildren<QWidget*>();
     for (const QWidget* w : all)
         if (!w->accessibleName().isEmpty() && !inside(w))
             names << w->accessibleName();
     for (QWidget* w : all)
         if (inside(w) && names.contains(w->accessibleName()))
             w->setAccessibleName(w->accessibleName() + QObject::tr(", nella formula"));
-}
-
-AscoltoAnnunci& Ascolto() {
-    static AscoltoAnnunci listener;
-    return listener;
 }
 
 } // namespace
@@ -167,19 +163,6 @@ void NominaParti(QWidget& maschera) {
             table->horizontalHeader()->setAccessibleName(QObject::tr("Intestazioni, ") + name);
     }
     DistingueFormule(maschera);
-}
-
-void ImpostaAscolto(AscoltoAnnunci ascolto) { Ascolto() = std::move(ascolto); }
-
-void Annuncia(QWidget& widget, const QString& testo) {
-    if (Ascolto()) {
-        Ascolto()(widget, testo);
-        return;
-    }
-    QAccessibleValueChangeEvent value(&widget, testo);
-    QAccessible::updateAccessibility(&value);
-    QAccessibleEvent alert(&widget, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
 }
 
 } // namespace sagomi

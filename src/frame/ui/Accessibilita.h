@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QString>
-
-#include <functional>
+#include "frame/ui/Annunci.h"
 
 class QWidget;
 
@@ -20,12 +18,5 @@ void InstallaAccessibilita();
 /// Names the parts that the toolkit makes by itself, after the control that they belong to: the heading and
 /// the scroll bars of a table or an area.
 void NominaParti(QWidget& maschera);
-
-/// Tells a screen reader at once that what a widget shows has changed: a verdict, say.
-void Annuncia(QWidget& widget, const QString& testo);
-
-/// Who hears what is told; nobody: the screen reader. The tests put their own in its place.
-using AscoltoAnnunci = std::function<void(const QWidget& widget, const QString& testo)>;
-void ImpostaAscolto(AscoltoAnnunci ascolto);
 
 } // namespace sagomi

@@ -67,10 +67,6 @@ void FuocoSuccessivo(QWidget* maschera) {
     }
 }
 
-double NumeroIn(const QLineEdit* casella) {
-    return ValoreNumerico(NumeroRipulito(casella->text().toStdString()));
-}
-
 QString TestoPulito(const QLineEdit* casella) {
     return NumeroPulito(casella->text().toStdString())
                ? casella->text()

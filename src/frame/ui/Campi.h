@@ -7,6 +7,8 @@
 #include <functional>
 #include <string_view>
 
+#include "frame/ui/NumeroIn.h"
+
 class QKeyEvent;
 
 namespace sagomi {
@@ -20,10 +22,6 @@ void SelezionaTesto(QLineEdit* casella);
 
 /// Gives the focus to a box and selects its text.
 void FuocoSu(QLineEdit* casella);
-
-/// Number of a box by the tolerant rule of the screens: empty and text are 0; a typographic minus and blanks
-/// that do not break are understood.
-double NumeroIn(const QLineEdit* casella);
 
 /// What to hand on to another box: the text, or the plain number where the text is no clean one.
 QString TestoPulito(const QLineEdit* casella);

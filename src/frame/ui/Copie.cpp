@@ -12,10 +12,10 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 #include "frame/ui/EtichettaRisultato.h"
 #include "frame/ui/Protetto.h"
-#include "frame/ui/Schermo.h"
 
 namespace sagomi {
 
@@ -121,7 +121,8 @@ QMimeData* DerivazioneCopiata(const QWidget& schermo) {
     return data;
 }
 
-Copie::Copie(QWidget* schermo) : QObject(schermo), schermo_(schermo) {
+Copie::Copie(QWidget* schermo, std::function<bool()> dettaglio)
+    : QObject(schermo), schermo_(schermo), dettaglio_(std::move(dettaglio)) {
     schermo->installEventFilter(this);
     for (QWidget* w : schermo->findChildren<QWidget*>())
         if (qobject_cast<QLineEdit*>(w) != nullptr || qobject_cast<EtichettaRisultato*>(w) != nullptr)
@@ -137,9 +138,8 @@ bool Copie::eventFilter(QObject* object, QEvent* event) {
 bool Copie::Filtra(QObject* object, QEvent* event) const {
     if (event->type() == QEvent::MouseButtonDblClick)
         return object != schermo_ && SceglieNumero(object);
-    const auto* screen = qobject_cast<const Schermo*>(schermo_);
-    const bool detail = screen != nullptr && screen->origine != nullptr;
-    if (!detail || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) || QualcosaDiScelto(object))
+    if (!dettaglio_() || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) ||
+        QualcosaDiScelto(object))
         return false;
     QApplication::clipboard()->setMimeData(DerivazioneCopiata(*schermo_));
     return true;

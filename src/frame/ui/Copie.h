@@ -3,6 +3,8 @@
 #include <QList>
 #include <QObject>
 
+#include <functional>
+
 class QMimeData;
 class QWidget;
 
@@ -26,7 +28,8 @@ class Copie : public QObject {
     Q_OBJECT
 public:
     /// Watches the controls that the screen has now; the screen owns it.
-    explicit Copie(QWidget* schermo);
+    /// @param dettaglio  whether the screen was opened from another
+    Copie(QWidget* schermo, std::function<bool()> dettaglio);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -35,6 +38,7 @@ private:
     [[nodiscard]] bool Filtra(QObject* object, QEvent* event) const;
 
     QWidget* schermo_;
+    std::function<bool()> dettaglio_;
 };
 
 } // namespace sagomi

@@ -10,8 +10,8 @@
 
 #include "frame/Numeri.h"
 #include "frame/NumeroPulito.h"
-#include "frame/ui/Campi.h"
 #include "frame/ui/Casella.h"
+#include "frame/ui/NumeroIn.h"
 
 namespace sagomi {
 

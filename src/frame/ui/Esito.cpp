@@ -7,7 +7,7 @@
 #include <cmath>
 #include <limits>
 
-#include "frame/ui/Accessibilita.h"
+#include "frame/ui/Annunci.h"
 #include "frame/ui/Colori.h"
 #include "frame/ui/Protetto.h"
 

@@ -41,6 +41,7 @@ NavigaSchermi& NavigaSchermi::Unico() {
 }
 
 NavigaSchermi::NavigaSchermi() {
+    Schermo::alCongedo = [this](Schermo& s) { Lascia(s); };
     // A navigation sends the focus through several windows; only where it comes to rest counts.
     riposo_.setSingleShot(true);
     riposo_.setInterval(0);

@@ -17,7 +17,6 @@
 #include "frame/ui/Accessibilita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Copie.h"
-#include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/StampaDiSchermo.h"
 #include "frame/ui/Tasti.h"
@@ -74,7 +73,7 @@ void Schermo::PreparaContenuto() {
     scroll->setWidget(takeCentralWidget());
     setCentralWidget(scroll);
     NominaParti(*this);
-    new Copie(this);
+    new Copie(this, [this] { return origine != nullptr; });
     AssegnaTasti(*this);
 }
 
@@ -114,7 +113,12 @@ void Schermo::closeEvent(QCloseEvent* event) {
         return;
     }
     event->ignore();
-    EventoProtetto([this] { NavigaSchermi::Unico().Lascia(*this); });
+    EventoProtetto([this] {
+        if (alCongedo)
+            alCongedo(*this);
+        else
+            hide();
+    });
 }
 
 void Schermo::keyPressEvent(QKeyEvent* event) {

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QMainWindow>
 
+#include <functional>
+
 namespace sagomi {
 
 /// A window of the program. It is created on first use, lives to the end of the run and keeps its entries
@@ -20,6 +22,9 @@ public:
 
     /// Help file of the screen, looked up beside the program.
     [[nodiscard]] virtual QString FileGuida() const { return QStringLiteral("Sagomi.hlp"); }
+
+    /// Leads on from a screen that the user closes; without it the screen hides.
+    inline static std::function<void(Schermo&)> alCongedo;
 
     /// The screen that opened this one; closing goes back to it.
     Schermo* origine = nullptr;
