@@ -15,6 +15,7 @@
 #include "frame/ui/Protetto.h"
 #include "screens/SchermoSezione.h"
 #include "screens/TavolaFattori.h"
+#include "screens/TermineSpostato.h"
 #include "sections/Eurocod3.h"
 #include "sections/Verdetto.h"
 #include "ui_FrmMsverg.h"
@@ -73,13 +74,7 @@ Formula Interazione() {
                   .valoreSotto = VoceValore(
                       "LblMbRd", "Resistenza all'instabilità flesso-torsionale [kNm], ENV 1993-1-1 5.5.2",
                       "Mb,Rd [kNm]"),
-                  .altro = {{"", "k", "LT"},
-                            {"", "("},
-                            {"", "M", "y,Sd"},
-                            {"", "+"},
-                            {"", "N", "Sd"},
-                            {"", "e", "Ny"},
-                            {"", ")"}},
+                  .altro = TermineSpostato("LT", true),
                   .valoreAltro = VoceValore("LakLTMySd4",
                                             "Fattore kLT per il momento intorno a y-y con lo spostamento del "
                                             "baricentro [kNm], ENV 1993-1-1 5.5.4 (6)",
@@ -93,13 +88,7 @@ Formula Interazione() {
                   .valoreSotto = VoceValore(
                       "LblMczRd", "Momento resistente intorno a z-z, con GammaM1 [kNm], ENV 1993-1-1 5.5.4",
                       "Mc,z,Rd [kNm]"),
-                  .altro = {{"", "k", "z"},
-                            {"", "("},
-                            {"", "M", "z,Sd"},
-                            {"", "+"},
-                            {"", "N", "Sd"},
-                            {"", "e", "Nz"},
-                            {"", ")"}},
+                  .altro = TermineSpostato("z", false),
                   .valoreAltro = VoceValore("LblkzMzSd4",
                                             "Fattore kz per il momento intorno a z-z con lo spostamento del "
                                             "baricentro [kNm], ENV 1993-1-1 5.5.4 (6)",

@@ -20,6 +20,7 @@
 #include "frame/ui/Protetto.h"
 #include "screens/PulsanteDiagramma.h"
 #include "screens/SchermoSezione.h"
+#include "screens/TermineSpostato.h"
 #include "sections/DiagrammaMomenti.h"
 #include "sections/DisegniMomento.h"
 #include "sections/SezioneDoppioT.h"
@@ -81,26 +82,14 @@ Formula InterazioneEfficace() {
         .termini = {{.sopra = {{"", "N", "Sd"}},
                      .sotto = {{"", "N", "b,min,Rd"}},
                      .valoreSopra = VoceValore("LblTermineN4", aiutoTermineN, "Termine di N")},
-                    {.sopra = {{"", "k", "y"},
-                               {"", "("},
-                               {"", "M", "y,Sd"},
-                               {"", "+"},
-                               {"", "N", "Sd"},
-                               {"", "e", "Ny"},
-                               {"", ")"}},
+                    {.sopra = TermineSpostato("y", true),
                      .sotto = {{"", "M", "y,Rd"}},
                      .valoreSopra = VoceValore("LblTermineMy4",
                                                "Termine del momento intorno a y-y, con lo spostamento del "
                                                "baricentro, ENV 1993-1-1 5.5.4 (5)",
                                                "Termine di My"),
                      .piu = "LblValPiu14"},
-                    {.sopra = {{"", "k", "z"},
-                               {"", "("},
-                               {"", "M", "z,Sd"},
-                               {"", "+"},
-                               {"", "N", "Sd"},
-                               {"", "e", "Nz"},
-                               {"", ")"}},
+                    {.sopra = TermineSpostato("z", false),
                      .sotto = {{"", "M", "z,Rd"}},
                      .valoreSopra = VoceValore("LblTermineMz4",
                                                "Termine del momento intorno a z-z, con lo spostamento del "

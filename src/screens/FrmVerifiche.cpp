@@ -1,4 +1,5 @@
 #include "screens/FrmVerifiche.h"
+#include "screens/TermineSpostato.h"
 
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
@@ -79,7 +80,7 @@ Formula FormulaEfficace() {
               .valoreSotto =
                   VoceValore("LblNrd4", "Resistenza a forza assiale con l'area efficace [kN], EC3 6.2.4",
                              "Npl,Rd [kN]")},
-             {.sopra = {{"", "M", "y,Sd"}, {"", "+"}, {"", "N", "Sd"}, {"", "e", "Ny"}},
+             {.sopra = MomentoSpostato(true),
               .sotto = {{"", "M", "c,y,Rd"}},
               .valoreSopra = VoceValore(
                   "LblMsdy4", "Momento intorno a y-y con lo spostamento del baricentro [kNm], EC3 6.2.9.3",
@@ -89,7 +90,7 @@ Formula FormulaEfficace() {
                   "Momento resistente intorno a y-y della sezione nella sua classe [kNm], EC3 6.2.5",
                   "Mc,y,Rd [kNm]"),
               .piu = "LblValPiu31"},
-             {.sopra = {{"", "M", "z,Sd"}, {"", "+"}, {"", "N", "Sd"}, {"", "e", "Nz"}},
+             {.sopra = MomentoSpostato(false),
               .sotto = {{"", "M", "c,z,Rd"}},
               .valoreSopra = VoceValore(
                   "LblMsdz4", "Momento intorno a z-z con lo spostamento del baricentro [kNm], EC3 6.2.9.3",
