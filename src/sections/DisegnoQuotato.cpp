@@ -19,7 +19,7 @@ constexpr double ingrandimentoTitolo = 1.3; ///< of the first line
 constexpr double colonnaTesti = 9;          ///< of the lines of data beside the piece
 constexpr double sporgenzaAsse = 1.5;
 
-// The cut is hatched at 45 degrees, ISO 128-3.
+// The cut is hatched at 45 degrees, as cuts on technical drawings are.
 constexpr double angoloTratteggio = 45;
 constexpr double lineePerDimensione = 50; ///< hatching lines in the longer side
 constexpr double mezzoFilo = 0.011;       ///< mm; the thread of web that holds an effective outline together
