@@ -5,6 +5,7 @@
 
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
+#include "sections/FibraInferiore.h"
 #include "sections/SezioneDoppioT.h"
 
 namespace sagomi {
@@ -84,14 +85,42 @@ Verdetto Giudica(const TerminiInterazione& termini, const ResistenzeAssiali& r) 
     return v;
 }
 
-Verdetto GiudicaResistenza(const SezioneDoppioT& s) {
-    return Giudica(s.TerminiMNResistenza(), {s.NplRd, "Npl,Rd", s.NplRd});
+namespace {
+
+/// Judges a check whose moment about y-y the lower fibre may bear less of than the terms say: the sum shown
+/// is that of the terms, the verdict takes the smaller resistance.
+/// @param quota  the resistance that counts over that of the term, at most 1
+Verdetto GiudicaConFibra(const TerminiInterazione& termini, const ResistenzeAssiali& r, double quota) {
+    Verdetto v = Giudica(termini, r);
+    if (v.assialeOltre || !(quota < 1))
+        return v;
+    TerminiInterazione ridotti = termini;
+    ridotti.y.MRd *= quota;
+    const Verdetto w = Giudica(ridotti, r);
+    if (w.utilizzo > 1 && !(v.utilizzo > 1))
+        v.motivo =
+            "La fibra inferiore porta meno: My,Rd = " + Formato(figura, Nmm_a_kNm(ridotti.y.MRd)) + " kNm";
+    v.utilizzo = w.utilizzo;
+    v.governa = w.governa;
+    return v;
 }
 
-Verdetto GiudicaInstabilita(const SezioneDoppioT& s) { return Giudica(s.TerminiMNInstab(), Instabilita(s)); }
+/// What counts of the resistance about y-y, where a check takes the elastic moment or the section's own.
+double Quota(const SezioneDoppioT& s, bool elastica) { return elastica ? QuotaElastica(s) : QuotaMcyRd(s); }
+
+} // namespace
+
+Verdetto GiudicaResistenza(const SezioneDoppioT& s) {
+    return GiudicaConFibra(s.TerminiMNResistenza(), {s.NplRd, "Npl,Rd", s.NplRd},
+                           Quota(s, s.ClassePressoFlessione == 3));
+}
+
+Verdetto GiudicaInstabilita(const SezioneDoppioT& s) {
+    return GiudicaConFibra(s.TerminiMNInstab(), Instabilita(s), Quota(s, s.ClassePressoFlessione >= 3));
+}
 
 Verdetto GiudicaFlessoTorsionale(const SezioneDoppioT& s) {
-    return Giudica(s.TerminiFlessoTorsionale(), Instabilita(s));
+    return GiudicaConFibra(s.TerminiFlessoTorsionale(), Instabilita(s), QuotaMcyRd(s));
 }
 
 bool McrSiDiscosta(const SezioneDoppioT& s) {

@@ -36,6 +36,9 @@ struct ResistenzeAssiali {
 /// Judges a check. In tension the axial term counts as |N| over the resistance in tension.
 Verdetto Giudica(const TerminiInterazione& termini, const ResistenzeAssiali& resistenze);
 
+// Of different flanges the utilisation, and with it the verdict, counts the fibre that bears less; the sum
+// shown is that of the terms.
+
 /// Judges the resistance of the section, EC3 6.2.9: the force alone against NplRd.
 Verdetto GiudicaResistenza(const SezioneDoppioT& sezione);
 
