@@ -8,6 +8,7 @@
 #include "frame/ui/Esito.h"
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
+#include "screens/NoteSezione.h"
 #include "sections/DisegnoSagoma.h"
 #include "sections/Duttilita.h"
 #include "sections/SezioneCorrente.h"
@@ -52,6 +53,8 @@ std::string Uguale(int figures, double value) {
 FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::FrmMcRd) {
     ui_->setupUi(this);
     ui_->Picture1->Mostra(DisegnoSagoma({}));
+    nota_ = CreaNota("LblFibraInferiore");
+    ui_->loMomento->addWidget(nota_, ui_->loMomento->rowCount(), 0, 1, -1);
     CollegaControlli();
     regole_.Aggiunge({.caselle = {ui_->txtLstar}, .motivo = [this] {
                           return NumeroIn(ui_->txtLstar) < 0 ? tr("L* non può essere negativa") : QString();
@@ -80,6 +83,8 @@ void FrmMcRd::Calcola() {
         Mostra(ui_->Lbl_McRd_1, Momento(s.MczRd));
         ui_->Picture1->Mostra(DisegnoSagoma(SagomaDi(s)));
     });
+    const SezioneDoppioT* section = Sezione();
+    MostraNota(nota_, section == nullptr ? std::string() : NotaMcyRd(*section));
     Duttilita();
 }
 

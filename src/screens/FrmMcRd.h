@@ -36,6 +36,7 @@ private:
     void Duttilita();
 
     std::unique_ptr<Ui::FrmMcRd> ui_;
+    QLabel* nota_ = nullptr; ///< what the lower fibre bears, where that is less
 };
 
 } // namespace sagomi

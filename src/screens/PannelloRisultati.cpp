@@ -11,6 +11,7 @@
 #include <string>
 
 #include "frame/ui/GruppoVoci.h"
+#include "screens/NoteSezione.h"
 #include "screens/VociSezione.h"
 
 namespace sagomi {
@@ -87,6 +88,9 @@ QWidget* PannelloRisultati::CreaResistenze(const VociSchermo& voci) {
     for (const RigaResistenze& line : voci.resistenze)
         columns = std::max(columns, PosaResistenze(*grid, line, row++));
     grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, columns);
+    if (voci.note)
+        for (const char* note : {"LblFibraInferiore", "LblAliDiverse"})
+            grid->addWidget(CreaNota(note), row++, 0, 1, columns);
     grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding), row, 0);
     return room;
 }

@@ -1,5 +1,6 @@
 #include "screens/SchermoSaldati.h"
 
+#include <QLabel>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStackedWidget>
@@ -14,6 +15,7 @@
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/ui/Protetto.h"
+#include "screens/NoteSezione.h"
 
 namespace sagomi {
 
@@ -289,10 +291,19 @@ void SchermoSaldati::Rilegge() {
 void SchermoSaldati::Risultati() {
     SchermoDi::Risultati();
     cmdUtente[modifica]->setEnabled(RigaInMano());
+    if (const SezioneDoppioT* section = SezioneInUso<SezioneDoppioT>(); section != nullptr && RigaInMano())
+        MostraNote(NotaMcyRd(*section), NotaVplzRd(*section));
+}
+
+void SchermoSaldati::MostraNote(const std::string& McyRd, const std::string& VplzRd) {
+    for (const auto& [name, text] : {std::pair{"LblFibraInferiore", &McyRd}, {"LblAliDiverse", &VplzRd}})
+        if (auto* note = findChild<QLabel*>(QString::fromLatin1(name)))
+            MostraNota(note, *text);
 }
 
 void SchermoSaldati::SvuotaRisultati() {
     SchermoDi::SvuotaRisultati();
+    MostraNote({}, {});
     cmdUtente[modifica]->setEnabled(false);
 }
 

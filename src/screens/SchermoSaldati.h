@@ -49,6 +49,7 @@ private:
     void Completa();
     [[nodiscard]] std::string TabellaUtente() const;
     void TornaAiSagomiStandard();
+    void MostraNote(const std::string& McyRd, const std::string& VplzRd);
     void MostraModifica(bool visibile);
     void Modifica(int azione);
     void RiempieDati();

@@ -26,6 +26,7 @@ struct VociSchermo {
     bool separatori = false; ///< has the hidden box of the separator check, which runs once
     bool membratura = true;  ///< checks of the member under axial force and bending open from it
     Voce accosta = {};       ///< how two pieces may be put together as a pair; without a name there are none
+    bool note = false;       ///< tells what the lower of two different flanges leaves of the resistances
 };
 
 /// The plates of the user's own section, TxtProfUtente by position; the first is its name. Empty where a

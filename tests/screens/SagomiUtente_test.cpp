@@ -339,4 +339,20 @@ TEST_F(SagomiUtenteTest, EnterGoesFromBoxToBoxAndToTheCommand) {
     EXPECT_EQ(s.TxtProfUtente[0]->text(), "12 metri") << "a name is no number";
 }
 
+// 1000 x 300 x 20 / 250 x 12, web 10, S235: class 3; by hand 1489 kNm above and 1096 below; shear 1163 kN of
+// the two flanges as they are.
+TEST_F(SagomiUtenteTest, TheLowerFibreIsToldWhereItBearsLess) {
+    auto& s = Asimmetrici();
+    EXPECT_TRUE(Trova<QLabel>(&s, "LblFibraInferiore")->isHidden());
+    Aggiunge(s, {"A1", "1000", "300", "10", "20", "0", "250", "12"});
+    EXPECT_EQ(Testo(&s, "TxtMcRd_0"), Locale(" 1,489"));
+    EXPECT_EQ(Scritta(&s, "LblFibraInferiore"), Locale("fibra inferiore: 1,096 kNm"));
+    EXPECT_EQ(Scritta(&s, "LblAliDiverse"), "Vpl,z delle due ali:" + Locale(" 1,163 kN"));
+    Premi(&s, "LblMcRd");
+    EXPECT_EQ(Scritta(&Aperto("FrmMcRd"), "LblFibraInferiore"), Locale("fibra inferiore: 1,096 kNm"));
+    s.ChkTipoUtente->click();
+    EXPECT_TRUE(Trova<QLabel>(&s, "LblFibraInferiore")->isHidden())
+        << "HSD 500x74: the upper flange is smaller";
+}
+
 } // namespace
