@@ -7,8 +7,11 @@
 #include "CartellaAMano.h"
 #include "Fogli.h"
 #include "catalogue/ErroreCatalogo.h"
+#include "catalogue/SagomoUtente.h"
 #include "catalogue/ScrittoreXls.h"
+#include "catalogue/ScritturaRighe.h"
 #include "frame/Ambiente.h"
+#include "sections/SezioneDoppioT.h"
 
 using namespace sagomi;
 using prove::CartellaAMano;
@@ -103,11 +106,11 @@ Valore CellaFreexl(const void* cartella, unsigned r, unsigned short c) {
     }
 }
 
-TEST(LeggeXls, EveryCellOfTheCatalogueIsThatOfFreexl) {
-    const std::filesystem::path file = SAGOMI_BIN "/Sagomi.xls";
+/// Holds every cell of a workbook against freexl. Returns how many there are.
+std::size_t ConfrontaConFreexl(const std::filesystem::path& file) {
     const CartellaDati letta = LeggeXls(file);
     const void* altra = nullptr;
-    ASSERT_EQ(freexl_open(file.c_str(), &altra), FREEXL_OK);
+    EXPECT_EQ(freexl_open(file.c_str(), &altra), FREEXL_OK);
     std::size_t celle = 0;
     for (unsigned short i = 0; i < letta.fogli.size(); ++i) {
         const char* nome = nullptr;
@@ -117,13 +120,31 @@ TEST(LeggeXls, EveryCellOfTheCatalogueIsThatOfFreexl) {
         unsigned righe = 0;
         unsigned short colonne = 0;
         freexl_worksheet_dimensions(altra, &righe, &colonne);
-        ASSERT_EQ(letta.fogli[i].righe.size(), righe);
+        EXPECT_EQ(letta.fogli[i].righe.size(), righe);
         for (unsigned r = 0; r < righe; ++r)
             for (unsigned short c = 0; c < colonne; ++c, ++celle)
-                ASSERT_EQ(letta.fogli[i].Legge(r, c), CellaFreexl(altra, r, c)) << nome << r << ' ' << c;
+                EXPECT_EQ(letta.fogli[i].Legge(r, c), CellaFreexl(altra, r, c)) << nome << r << ' ' << c;
     }
     freexl_close(altra);
-    EXPECT_GT(celle, 20000U);
+    return celle;
+}
+
+TEST(LeggeXls, EveryCellOfTheCatalogueIsThatOfFreexl) {
+    EXPECT_GT(ConfrontaConFreexl(SAGOMI_BIN "/Sagomi.xls"), 20000U);
+}
+
+// Headings, a row with all its values, one that was typed with its dimensions only.
+TEST(LeggeXls, EveryCellOfTheUsersWorkbookIsThatOfFreexl) {
+    const prove::CartellaDiProva dir;
+    const auto file = dir.percorso / "SagomiUtente.xls";
+    InstallaCartellaUtente(file);
+    for (const double h : {300.0, 512.5})
+        ScriveRighe(file, ImprontaDi(file), "'DoppioT Simmetrico'$",
+                    {{{}, {S("è \"A\""), {}, h, 200.0, 7.1, 20.0, 6.0}}});
+    EXPECT_EQ(CompletaRighe(file, "'DoppioT Simmetrico'$", RigheDoppioT::Saldate,
+                            [](SezioneDoppioT& s) { s.fy = 235; }),
+              2);
+    EXPECT_EQ(ConfrontaConFreexl(file), 3U * 18U + 21U);
 }
 
 TEST(LeggeXls, DamageAnywhereIsAnErrorOrSomeValuesButNeverACrash) {
