@@ -22,6 +22,7 @@ class Superficie;
 // Where dimension lines stand, in heights of the text.
 inline constexpr double quotaEsterna = 3;      ///< from the piece
 inline constexpr double quotaOltreAsse = 5;    ///< the same where the name of an axis stands between
+inline constexpr double quotaOltreNome = 4.2;  ///< to the left, beyond the name of the horizontal axis
 inline constexpr double quotaSpessore = 2.2;   ///< of the thickness of a flange
 inline constexpr double altezzaSpessore = 0.3; ///< of the thickness of a web, in heights of the section
 

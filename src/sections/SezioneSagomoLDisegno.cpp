@@ -40,7 +40,7 @@ void Quotatura(const SezioneSagomoL& s, const Quote& quote, const PezzoQuotato::
     const double xMin = riquadro[0];
     const double yMin = riquadro[2];
     const double a = quote.Altezza();
-    quote.Verticale({xMin, 0}, {xMin, s.h}, xMin - quotaEsterna * a, TestoPiano(s.h));
+    quote.Verticale({xMin, 0}, {xMin, s.h}, xMin - quotaOltreNome * a, TestoPiano(s.h));
     quote.Orizzontale(0, s.b, yMin, yMin - quotaEsterna * a, TestoPiano(s.b));
     quote.SpessoreOrizzontale(0, s.t, altezzaSpessoreLato * s.h, TestoPiano(s.t));
     if (s.Doppi && s.dDoppi > 0)

@@ -49,7 +49,7 @@ void QuotaDistanza(const SezioneSagomoU& s, const Quote& quote, double yMax) {
 void Quotatura(const SezioneSagomoU& s, const Quote& quote, const PezzoQuotato::Riquadro& riquadro) {
     const auto [xMin, xMax, yMin, yMax] = riquadro;
     const double a = quote.Altezza();
-    quote.Verticale({xMin, yMin}, {xMin, yMax}, xMin - quotaEsterna * a, TestoPiano(s.h));
+    quote.Verticale({xMin, yMin}, {xMin, yMax}, xMin - quotaOltreNome * a, TestoPiano(s.h));
     quote.Orizzontale(0, s.b, yMin, yMin - quotaEsterna * a, TestoPiano(s.b));
     quote.SpessoreOrizzontale(0, s.tw, altezzaSpessore * s.h, TestoPiano(s.tw));
     QuotaAla(s, quote, riquadro);
