@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "frame/ui/Accessibilita.h"
 #include "screens/VociSezione.h"
 
 namespace sagomi {
@@ -30,6 +31,7 @@ QPushButton* CreaBottone(QWidget* genitore, const char* array, int i, const Coma
     auto* button = new QPushButton(QString::fromUtf8(comando.testo), genitore);
     button->setObjectName(QString::fromLatin1(array) + u'_' + QString::number(i));
     button->setToolTip(QString::fromUtf8(comando.aiuto));
+    button->setProperty(proprietaSuggerimento, true);
     return button;
 }
 

@@ -42,7 +42,7 @@ void Percorri(const Schermo& screen) {
     };
     for (const auto* button : screen.findChildren<QAbstractButton*>())
         if (Comando(*button) && button->isVisibleTo(&screen))
-            take(button, button->toolTip());
+            take(button, button->statusTip().isEmpty() ? button->toolTip() : button->statusTip());
     for (const auto* bar : screen.findChildren<QMenuBar*>())
         for (const QAction* action : bar->actions()) {
             const bool none =

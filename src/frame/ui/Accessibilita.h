@@ -10,6 +10,9 @@ namespace sagomi {
 /// accessible name.
 inline constexpr auto proprietaValore = "mostraValore";
 
+/// A button with this property keeps its tool-tip as it stands; its key is told in the status line.
+inline constexpr auto proprietaSuggerimento = "suggerimentoDato";
+
 /// Has labels tell a screen reader what they show. A label with an accessible name is a result: its name is
 /// the quantity, its value the text, read only, to be read by characters too. A caption with a subscript
 /// reads as it is seen, without the gap. Every screen calls it; again does nothing.

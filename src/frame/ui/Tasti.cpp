@@ -85,7 +85,11 @@ void AssegnaTasti(QWidget& maschera) {
     for (QAbstractButton* button : buttons) {
         if (button->shortcut().isEmpty() && !GiaDetto(button->toolTip()))
             button->setShortcut(keys.Prossimo());
-        button->setToolTip(ConTasto(button->toolTip(), button->shortcut()));
+        const QString told = ConTasto(button->toolTip(), button->shortcut());
+        if (button->property(proprietaSuggerimento).toBool())
+            button->setStatusTip(told);
+        else
+            button->setToolTip(told);
     }
     for (QAction* action : actions) {
         if (TastoDi(*action).isEmpty())
