@@ -119,6 +119,7 @@ FrmPresFless::FrmPresFless() : SchermoDettaglio(QStringLiteral("FrmPresFless")),
     CollegaEventi();
     CollegaDiagrammi();
     VisualizzaPict(IndicePict);
+    ui_->ImgMomenti->Mostra(DisegnoMomenti({}, {}, IndicePict)); // its room counts from the start
     DimensionaIniziale({});
 }
 
