@@ -36,7 +36,6 @@ std::string ErroreFattore(double factor) {
 frmGamma::frmGamma() : Schermo(QStringLiteral("frmGamma")), ui_(new Ui::frmGamma) {
     ui_->setupUi(this);
     PreparaContenuto();
-    DimensionaIniziale({});
     optNormativa_ = Vettore<QRadioButton>(QStringLiteral("optNormativa"));
     txtGamma_ = Vettore<QLineEdit>(QStringLiteral("txtGamma"));
     auto* entries = new FiltroCampi(this, [this](QLineEdit* /*box*/) {
@@ -50,6 +49,7 @@ frmGamma::frmGamma() : Schermo(QStringLiteral("frmGamma")), ui_(new Ui::frmGamma
                 [this, i] { Scelta(static_cast<std::int16_t>(i)); });
     Collega(ui_->cmdOK_0, &QPushButton::clicked, this, [this] { Accetta(); });
     Collega(ui_->cmdOK_1, &QPushButton::clicked, this, [this] { Annulla(); });
+    DimensionaIniziale({});
 }
 
 frmGamma::~frmGamma() = default;

@@ -18,7 +18,6 @@ frmMsvergH1::frmMsvergH1() : TavolaFattori(QStringLiteral("frmMsvergH1")), ui_(n
     ui_->tabella->Griglia()->setContentsMargins(9, 6, 9, 6);
     PosaDiagrammi();
     RiempieRighe();
-    AllineaColonne();
     PreparaContenuto();
     QScrollBar* bar = ui_->scorre->verticalScrollBar();
     Collega(ui_->Freccia, &QToolButton::clicked, this,
@@ -59,6 +58,11 @@ void frmMsvergH1::RiempieRighe() {
         Mostra(C3[at], "0.000", row.C3);
         Collega(C1[at], &QPushButton::clicked, this, [this, i] { Sceglie(i); });
     }
+}
+
+void frmMsvergH1::ScalaContenuto(double rapporto) {
+    TavolaFattori::ScalaContenuto(rapporto);
+    AllineaColonne();
 }
 
 // The heads stay in place while the rows scroll below them.

@@ -18,6 +18,9 @@ public:
     frmMsvergH1();
     ~frmMsvergH1() override;
 
+protected:
+    void ScalaContenuto(double rapporto) override;
+
 private:
     void PosaDiagrammi();
     void RiempieRighe();

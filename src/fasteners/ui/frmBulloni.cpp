@@ -93,17 +93,22 @@ void frmBulloni::PreparaForma() {
     QSizePolicy place = ui_->List1->sizePolicy(); // keeps its place: nothing jumps when a message comes
     place.setRetainSizeWhenHidden(true);
     ui_->List1->setSizePolicy(place);
+    ui_->Lbl_Risultato_0->Sotto({ui_->LblSimTaglio, ui_->LblSimTrazione, ui_->LblSimLimite});
+    AllineaDecimali({ui_->Txt_A, ui_->Txt_FVRd, ui_->Txt_FtRd});
+    AllineaDecimali({Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
+    ui_->Txt_Osservazioni->viewport()->setAutoFillBackground(false); // the tint of the panel
+    ui_->fraOsservazioni->Ospita(ui_->Txt_Osservazioni);
+}
+
+/// Rooms that are kept free go with the size of the text.
+void frmBulloni::ScalaContenuto(double rapporto) {
+    Schermo::ScalaContenuto(rapporto);
     ui_->List1->setFixedHeight(nMessaggi * (ui_->List1->fontMetrics().height() + 3) +
                                2 * ui_->List1->frameWidth());
     for (QWidget* term : {ui_->LblSimTaglio, ui_->LblSimTrazione, ui_->LblSimLimite})
         term->setMinimumWidth(caratteriTermine * fontMetrics().horizontalAdvance(u'0'));
     ui_->verdetto->setMinimumHeight(righeMotivo * fontMetrics().lineSpacing()); // nothing jumps or scrolls
-    ui_->Lbl_Risultato_0->Sotto({ui_->LblSimTaglio, ui_->LblSimTrazione, ui_->LblSimLimite});
-    AllineaDecimali({ui_->Txt_A, ui_->Txt_FVRd, ui_->Txt_FtRd});
-    AllineaDecimali({Txt_Rif_[rifAlfa], Txt_Rif_[rifResistenza]});
-    ui_->Txt_Osservazioni->viewport()->setAutoFillBackground(false); // the tint of the panel
     ui_->Txt_Osservazioni->setFixedHeight(righeOsservazioni * fontMetrics().lineSpacing());
-    ui_->fraOsservazioni->Ospita(ui_->Txt_Osservazioni);
 }
 
 void frmBulloni::CollegaScelte() {

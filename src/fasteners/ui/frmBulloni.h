@@ -36,6 +36,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     /// Esc closes the advice first.
     void keyPressEvent(QKeyEvent* event) override;
+    void ScalaContenuto(double rapporto) override;
 
 private:
     void CollegaScelte();

@@ -65,8 +65,10 @@ void Casella::resizeEvent(QResizeEvent* event) {
 }
 
 QSize Casella::sizeHint() const {
-    const QSize line = QLineEdit::sizeHint();
-    return {fontMetrics().horizontalAdvance(u'0') * caratteri_ + margine, line.height()};
+    constexpr int rigaMinima = 14; // the toolkit takes no line for lower [px]
+    const int lower = std::max(0, rigaMinima - fontMetrics().height());
+    return {fontMetrics().horizontalAdvance(u'0') * caratteri_ + margine,
+            QLineEdit::sizeHint().height() - lower};
 }
 
 void Casella::changeEvent(QEvent* event) {

@@ -164,8 +164,10 @@ void NavigaSchermi::Attiva(Schermo& s) {
 
 void NavigaSchermi::Passa(Schermo& a, Schermo* da) {
     const QScopedValueRollback guard(inNavigazione_, true);
-    if (da != nullptr)
+    if (da != nullptr) {
         da->ConcludeEntrate();
+        a.Adatta(a.Rapporto());
+    }
     ApertaPerUltima(a);
     Mostra(a);
     Attiva(a);
@@ -179,6 +181,7 @@ void NavigaSchermi::Apri(Schermo& a, Schermo& da) {
     const QScopedValueRollback guard(inNavigazione_, true);
     da.ConcludeEntrate();
     Segue(a, da);
+    a.Adatta(da.Rapporto());
     if (!a.isVisible() && a.windowModality() == Qt::NonModal)
         Colloca(a, da);
     if (&a != &da)

@@ -45,7 +45,11 @@ RigaUtilizzo::RigaUtilizzo(QWidget* parent)
     utilizzo_->setToolTip(
         QStringLiteral("Somma dei termini in valore assoluto e termine maggiore, passa fino al 100 %"));
     motivo_->setWordWrap(true);
-    setMinimumHeight(fontMetrics().height()); // nothing jumps when the texts come
+}
+
+// Nothing jumps when the texts come.
+QSize RigaUtilizzo::minimumSizeHint() const {
+    return QWidget::minimumSizeHint().expandedTo({0, fontMetrics().height()});
 }
 
 void RigaUtilizzo::Mostra(double utilizzo, const QString& governa, const QString& motivo) {

@@ -17,6 +17,8 @@ public:
     /// @param governa  the largest term; empty where nothing acts
     void Mostra(double utilizzo, const QString& governa, const QString& motivo);
 
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 private:
     QLabel* utilizzo_;
     QLabel* motivo_;

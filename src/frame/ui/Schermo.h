@@ -44,19 +44,42 @@ public:
     void ConcludeEntrate();
 
     /// Size that shows the whole content, with menus and status bar.
-    [[nodiscard]] QSize DimensioneContenuto() const;
+    [[nodiscard]] virtual QSize DimensioneContenuto() const;
+
+    /// Gives the window fonts of a ratio to those of the desktop, smaller where its content would not fit
+    /// into the desktop, and the size of its content; one that has both already stays as the user sized it.
+    void Adatta(double rapporto);
+
+    /// The ratio of its fonts to those of the desktop.
+    [[nodiscard]] double Rapporto() const { return rapporto_; }
+
+    /// Fonts of at most a ratio, as large as the content fits into a room; they do not get smaller than can
+    /// be read.
+    /// @return the ratio
+    double ScalaFino(double rapporto, QSize stanza);
 
 protected:
     /// To be called once the controls stand: where the window is smaller than its content, the content
     /// scrolls; labels show plain text; Enter presses the button that has the focus.
     void PreparaContenuto();
-    /// Sizes the window to its content, and to the given size where that is larger, inside the screen.
+    /// Sizes the window to its content, and to the given size where that is larger, inside the desktop.
     void DimensionaIniziale(QSize almeno);
+
+    /// Gives the window and its menus fonts of a ratio to those of the desktop.
+    virtual void ScalaContenuto(double rapporto);
 
     /// Hides the screen and goes back to the one that it came from.
     void closeEvent(QCloseEvent* event) override;
     /// Esc leaves a screen that was opened from another.
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void ContieneTutto(QSize stanza);
+
+    double rapporto_ = 1;
+    double chiesto_ = 0; ///< ratio of the last Adatta
+    QSize stanza_;       ///< of the desktop then
+    QSize almeno_;
 };
 
 } // namespace sagomi
