@@ -17,6 +17,7 @@
 #include "screens/PannelloFamiglie.h"
 #include "screens/PannelloRisultati.h"
 #include "screens/PannelloUtente.h"
+#include "screens/StanzaTabella.h"
 #include "screens/ValoriRiga.h"
 #include "screens/VociSezione.h"
 #include "sections/DisegnoSagoma.h"
@@ -74,10 +75,11 @@ template <typename P> P* CorpoSezione::CreaPannello(const char* nome, QWidget* g
 
 void CorpoSezione::PosaTabella(QBoxLayout& colonna) {
     colonna.addWidget(CreaPannello<PannelloFamiglie>("famiglie", this));
-    auto* table = new GrigliaCatalogo(this);
+    auto* table = new GrigliaCatalogo;
     table->setObjectName(QStringLiteral("DBGrid1"));
     table->setAccessibleName(tr("Tabella dei sagomi"));
-    colonna.addWidget(table, 1);
+    table->ImpostaRiempie(true);
+    colonna.addWidget(new StanzaTabella(table, this), 1);
 }
 
 QWidget* CorpoSezione::CreaDisegno() {

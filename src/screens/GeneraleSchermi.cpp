@@ -17,6 +17,7 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/StampaDiSchermo.h"
 #include "screens/StampaSchermo.h"
+#include "screens/StatoUtente.h"
 #include "screens/TavolaSchermi.h"
 
 namespace sagomi {
@@ -34,6 +35,8 @@ void TrovaCartelle() {
         return;
     const std::filesystem::path own = QCoreApplication::applicationDirPath().toStdString();
     PathProgramma = CartellaFile(own);
+    if (!ServerAttivo)
+        CartellaStato(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
     if (PathProgramma != own || !Scrivibile(own))
         PathImpostazioni = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation).toStdString();
 }
@@ -64,6 +67,7 @@ void InizializzaProgramma() {
     SeparatoriOk = true;
     TrovaCartelle();
     IniLeggeScrive("L");
+    LeggeStatoComune();
     AvvioInCorso = true;
     ImpostaGamma();
     CaricaTavolaSchermi();

@@ -220,10 +220,10 @@ void RidimensionaForm(SchermoSezione& schermo) {
         state.altezza = double(schermo.height()) * twipsAPixel / schermo.HeightIni;
         state.larghezza = double(schermo.width()) * twipsAPixel / schermo.WidthIni;
         state.scalata = true;
-        schermo.ScalaControlli(state.larghezza, state.altezza);
+        schermo.ScalaMassimizzato();
     } else if (!schermo.isMaximized() && state.scalata) {
         state.scalata = false;
-        schermo.ScalaControlli(1, 1);
+        schermo.RimetteScala();
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -31,6 +32,7 @@
 #include "screens/MenuSezione.h"
 #include "screens/PannelloFamiglie.h"
 #include "screens/PlottaSezioneCorrente.h"
+#include "screens/StatoUtente.h"
 #include "screens/VociSezione.h"
 #include "sections/SezioneCorrente.h"
 
@@ -42,14 +44,6 @@ constexpr int larghezzaInizialeTwips = 9600;
 constexpr int altezzaInizialeTwips = 7680;
 constexpr auto vuoleRiga = "vuoleRiga"; ///< property of a command: it works on the row in hand
 constexpr const char* motivoLunghezza = "La lunghezza di libera inflessione non può essere negativa";
-
-/// Fonts of old screens that are drawn for small sizes only.
-double CorpoScalato(const QFont& font, double ratio) {
-    const double size = font.pointSizeF() * ratio;
-    const bool small =
-        font.family() == QLatin1String("Small Fonts") || font.family() == QLatin1String("ScriptS");
-    return small ? std::clamp(size, 2.0, 7.0) : size;
-}
 
 /// A box for a text, not for a number.
 bool ETesto(const QLineEdit* box) { return box->property("testo").toBool(); }
@@ -304,12 +298,31 @@ void SchermoSezione::Carica() {
     RendeSolaLettura(workbook);
     Data1->DatabaseName(workbook);
     SQLstring = FamigliaDi(objectName().toStdString()).primaQuery;
+    CaricaFormComune(*this);
     DimensionaIniziale(QSize(larghezzaInizialeTwips, altezzaInizialeTwips) / twipsAPixel);
+    rapportoIniziale_ = Rapporto();
     WidthIni = width() * twipsAPixel;
     HeightIni = height() * twipsAPixel;
-    CaricaFormComune(*this);
     AggiornaCaptionNormativa(*this);
     DBGrid1->setFocus();
+    RiprendeStato();
+}
+
+void SchermoSezione::RiprendeStato() {
+    LeggeStato(*this);
+    Collega(&NavigaSchermi::Unico(), &NavigaSchermi::schermoScaricato, this, [this](const QString& name) {
+        if (name == objectName())
+            ScriveStato(*this);
+    });
+}
+
+void SchermoSezione::RiprendeFinestra(QPoint posto, QSize misura, bool massima) {
+    const QRect desktop = screen()->availableGeometry();
+    resize(misura.boundedTo(desktop.size()).expandedTo(minimumSize()));
+    move(std::clamp(posto.x(), desktop.left(), std::max(desktop.left(), desktop.right() - width())),
+         std::clamp(posto.y(), desktop.top(), std::max(desktop.top(), desktop.bottom() - height())));
+    if (massima)
+        setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 void SchermoSezione::LegaRiga() {
@@ -387,7 +400,11 @@ void SchermoSezione::ForzaCambiata() {
     Risultati();
 }
 
-void SchermoSezione::AllAttivazione() { AttivaForm(*this); }
+void SchermoSezione::AllAttivazione() {
+    AttivaForm(*this);
+    if (isMaximized() && !ridimensiona.scalata) // since before it was loaded
+        RidimensionaForm(*this);
+}
 
 void SchermoSezione::lblVplRd(bool visibile) { Pulsante("lblVplRd")->setVisible(visibile); }
 
@@ -421,18 +438,46 @@ void SchermoSezione::AggiornaBarraDiStato() {
 }
 
 void SchermoSezione::ScalaControlli(double larghezza, double altezza) {
-    if (caratteriIniziali_.empty())
-        for (QWidget* w : findChildren<QWidget*>())
-            if (!qobject_cast<QMenu*>(w) && !qobject_cast<QMenuBar*>(w) && w->window() == this)
-                caratteriIniziali_.emplace(w, w->font());
-    ComboTipoAcciaio->setFixedHeight(ComboTipoAcciaio->height());
-    for (const auto& [widget, initial] : caratteriIniziali_) {
-        QFont font = initial;
-        if (altezza != 1)
-            font.setPointSizeF(CorpoScalato(initial, altezza));
-        widget->setFont(font);
+    scalaTabella_ = larghezza / altezza;
+    ScalaContenuto(altezza * rapportoIniziale_);
+}
+
+// A combo box keeps its height as long as its text has the room.
+void SchermoSezione::ScalaContenuto(double rapporto) {
+    if (altezzaLista_ == 0)
+        altezzaLista_ = ComboTipoAcciaio->sizeHint().height();
+    Schermo::ScalaContenuto(rapporto);
+    ComboTipoAcciaio->setFixedHeight(std::max(altezzaLista_, ComboTipoAcciaio->sizeHint().height()));
+    DBGrid1->Scala(rapporto * scalaTabella_, rapporto);
+}
+
+// All columns of the table in sight.
+QSize SchermoSezione::DimensioneContenuto() const {
+    QSize size = Schermo::DimensioneContenuto();
+    if (const QWidget* room = DBGrid1 == nullptr ? nullptr : DBGrid1->parentWidget()) {
+        const QMargins around = room->parentWidget()->layout()->contentsMargins();
+        size.rwidth() = std::max(size.width(), DBGrid1->LarghezzaIntera() + around.left() + around.right());
     }
-    DBGrid1->Scala(larghezza, altezza);
+    return size;
+}
+
+void SchermoSezione::ScalaMassimizzato() {
+    scalaTabella_ = 1;
+    misuraScalata_ = size();
+    ScalaFino(ridimensiona.altezza * rapportoIniziale_, size());
+    SeguonoDettagli();
+}
+
+void SchermoSezione::RimetteScala() {
+    misuraScalata_ = {};
+    scalaTabella_ = 1;
+    ScalaContenuto(rapportoIniziale_);
+    SeguonoDettagli();
+}
+
+void SchermoSezione::SeguonoDettagli() {
+    for (Schermo* detail : NavigaSchermi::Unico().VisibiliDa(*this))
+        detail->Adatta(Rapporto());
 }
 
 void SchermoSezione::closeEvent(QCloseEvent* event) {
@@ -493,9 +538,12 @@ void SchermoSezione::changeEvent(QEvent* event) {
 void SchermoSezione::resizeEvent(QResizeEvent* event) {
     EventoProtetto([this, event] {
         Schermo::resizeEvent(event);
-        if (!attendeMisura_ || !isMaximized())
+        if (!isMaximized() || CaricaForm || misuraScalata_ == size())
+            return;
+        if (!attendeMisura_ && !ridimensiona.scalata)
             return;
         attendeMisura_ = false;
+        ridimensiona.scalata = false; // another desktop, or its first size
         RidimensionaForm(*this);
     });
 }

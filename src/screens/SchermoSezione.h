@@ -113,6 +113,16 @@ public:
 
     /// Scales fonts and grid; 1, 1 puts everything back exactly.
     void ScalaControlli(double larghezza, double altezza);
+    /// Maximised: fonts by the ratio of the heights, but no larger than the window shows all columns and all
+    /// of its content; the screens opened from here follow.
+    void ScalaMassimizzato();
+    /// The place of an earlier run, inside the desktop; the size counts while it is not maximised.
+    void RiprendeFinestra(QPoint posto, QSize misura, bool massima);
+
+    /// Back to the fonts of the start.
+    void RimetteScala();
+
+    [[nodiscard]] QSize DimensioneContenuto() const override;
 
 protected:
     /// Builds the form, finds the members above by their names and connects what all main screens have in
@@ -143,6 +153,8 @@ protected:
     [[nodiscard]] QPushButton* Pulsante(const char* nome) const;
     [[nodiscard]] QLineEdit* CasellaDi(const char* nome) const;
 
+    void ScalaContenuto(double rapporto) override;
+
     RegoleEntrate regole_; ///< the conditions of the entries
     FiltroCampi* entrate_ = nullptr;
 
@@ -161,13 +173,18 @@ private:
     void RotturaCambiata();
     void CollegaTabella();
     void ApriDettaglio(const QString& nome);
+    void SeguonoDettagli();
+    void RiprendeStato();
     void RigaNuova();
     bool FrecciaDiRiga(int key);
     bool RicercaDiRiga(const QKeyEvent& event);
 
     QLabel* barra_ = nullptr;
-    std::map<QWidget*, QFont> caratteriIniziali_;
-    bool attendeMisura_ = false; ///< maximised, the new size has not arrived yet
+    double rapportoIniziale_ = 1; ///< of the fonts, below 1 on a desktop that has no room
+    QSize misuraScalata_;         ///< that the fonts were last chosen for
+    double scalaTabella_ = 1;     ///< width of the columns over size of the fonts
+    int altezzaLista_ = 0;        ///< of the steel list at the start [px]
+    bool attendeMisura_ = false;  ///< maximised, the new size has not arrived yet
 };
 
 // The reactions that all main screens have in common.

@@ -1,7 +1,11 @@
 #include <QCheckBox>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "screens/Ambiente.h"
 
@@ -91,6 +95,36 @@ TEST_F(TabellaTest, TheSectionInHandStaysWhileItIsListed) {
     s.ChkTipo[3]->click();
     QTest::keyClick(&s, Qt::Key_F5);
     EXPECT_EQ(s.TxtProf[0]->text(), "HEA 100") << "no longer listed: the first";
+}
+
+TEST_F(TabellaTest, ARightClickTakesTheRowAndItsMenuCopies) {
+    auto& s = Avvia();
+    const QPoint fifth = s.DBGrid1->visualRect(s.DBGrid1->model()->index(4, 3)).center();
+    QTest::mouseClick(s.DBGrid1->viewport(), Qt::RightButton, {}, fifth);
+    EXPECT_EQ(s.TxtProf[0]->text(), "IPE 160");
+    QString entry;
+    QTimer::singleShot(20, [&entry] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        entry = menu->actions().front()->text();
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, fifth, s.DBGrid1->viewport()->mapToGlobal(fifth));
+    QApplication::sendEvent(s.DBGrid1->viewport(), &asked);
+    EXPECT_TRUE(entry.startsWith("&Copia")) << entry.toStdString();
+    const QStringList lines = QApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 2) << "headings and the row";
+    EXPECT_TRUE(lines[1].startsWith("IPE 160\t"));
+}
+
+TEST_F(TabellaTest, TheTableEndsWithAWholeRow) {
+    auto& s = Avvia();
+    for (const int height : {700, 707, 713}) {
+        s.resize(s.width(), height);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(s.DBGrid1->viewport()->height() % s.DBGrid1->rowHeight(0), 0) << height;
+    }
 }
 
 TEST_F(TabellaTest, LettersSearchFromAnyControlThatIsNoEntry) {

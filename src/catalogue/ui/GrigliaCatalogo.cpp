@@ -147,14 +147,17 @@ void GrigliaCatalogo::AdattaColonne() {
     RipartisceColonne();
 }
 
+bool GrigliaCatalogo::Disegnata(std::size_t colonna) const {
+    return larghezzeScelte_.contains(
+        model()->headerData(static_cast<int>(colonna), Qt::Horizontal).toString());
+}
+
 /// What each column gives up so that all of them fit; nothing where that is not enough.
 std::vector<int> GrigliaCatalogo::LarghezzeCedute(int eccesso) const {
     std::vector<int> room;
     for (std::size_t column = 0; column < larghezzePiene_.size(); ++column) {
         const int least = qRound((column == 0 ? larghezzaNome : larghezzaNumero) * scalaLarghezza_);
-        const QString heading = model()->headerData(static_cast<int>(column), Qt::Horizontal).toString();
-        const bool drawn = larghezzeScelte_.contains(heading);
-        room.push_back(drawn ? 0 : std::clamp(larghezzePiene_[column] - least, 0, ariaCeduta));
+        room.push_back(Disegnata(column) ? 0 : std::clamp(larghezzePiene_[column] - least, 0, ariaCeduta));
     }
     const int total = std::accumulate(room.begin(), room.end(), 0);
     if (eccesso <= 0 || eccesso > total)
@@ -166,6 +169,49 @@ std::vector<int> GrigliaCatalogo::LarghezzeCedute(int eccesso) const {
         before = after;
     }
     return room;
+}
+
+std::map<QString, int> GrigliaCatalogo::LarghezzeScelte() const {
+    std::map<QString, int> widths = larghezzeScelte_;
+    for (auto& [heading, width] : widths)
+        width = qRound(width / scalaLarghezza_);
+    return widths;
+}
+
+void GrigliaCatalogo::RiprendeLarghezze(std::map<QString, int> larghezze) {
+    for (auto& [heading, width] : larghezze)
+        width = qRound(width * scalaLarghezza_);
+    larghezzeScelte_ = std::move(larghezze);
+    AdattaColonne();
+}
+
+int GrigliaCatalogo::AltezzaIntera(int altezza) const {
+    const int bar = horizontalScrollBar()->maximum() > 0 ? horizontalScrollBar()->sizeHint().height() : 0;
+    const int around = horizontalHeader()->height() + bar + 2 * frameWidth();
+    const int row = verticalHeader()->defaultSectionSize();
+    return altezza < around + row ? altezza : around + (altezza - around) / row * row;
+}
+
+/// What each column takes of a spare width, as something given up below 0: all of it where that is little.
+std::vector<int> GrigliaCatalogo::LarghezzePrese(int spazio) const {
+    constexpr int parteMassima = 4; // of its own width
+    std::vector<int> taken;
+    int total = 1; // of the columns that nobody has drawn
+    for (std::size_t column = 0; column < larghezzePiene_.size(); ++column)
+        total += Disegnata(column) ? 0 : larghezzePiene_[column];
+    spazio = riempie_ ? std::min(spazio, total / parteMassima) : 0;
+    int before = 0;
+    for (std::size_t column = 0; column < larghezzePiene_.size(); ++column) {
+        const int after = before + (Disegnata(column) ? 0 : larghezzePiene_[column]);
+        taken.push_back((before * spazio / total) - (after * spazio / total));
+        before = after;
+    }
+    return taken;
+}
+
+int GrigliaCatalogo::LarghezzaIntera() const {
+    const int columns = std::accumulate(larghezzePiene_.begin(), larghezzePiene_.end(), 0);
+    return columns + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
 }
 
 void GrigliaCatalogo::RipartisceColonne() {
@@ -184,7 +230,8 @@ bool GrigliaCatalogo::ImpostaLarghezze() {
     const QScopedValueRollback guard(adattando_, true);
     const QSignalBlocker quiet(horizontalHeader());
     const int wanted = std::accumulate(larghezzePiene_.begin(), larghezzePiene_.end(), 0);
-    const std::vector<int> given = LarghezzeCedute(wanted - viewport()->width());
+    const int spare = viewport()->width() - wanted;
+    const std::vector<int> given = spare > 0 ? LarghezzePrese(spare) : LarghezzeCedute(-spare);
     bool changed = false;
     for (std::size_t i = 0; i < given.size(); ++i)
         if (const int width = larghezzePiene_[i] - given[i]; columnWidth(static_cast<int>(i)) != width) {

@@ -30,6 +30,19 @@ public:
     /// Scales column widths, row and header heights; the ratios are to the sizes at the first scaling.
     void Scala(double larghezza, double altezza);
 
+    /// Width at which all columns are in sight, beside the bar of the rows.
+    [[nodiscard]] int LarghezzaIntera() const;
+
+    /// The largest height, up to one given, that ends with a whole row.
+    [[nodiscard]] int AltezzaIntera(int altezza) const;
+
+    /// Whether the columns share a spare width among them.
+    void ImpostaRiempie(bool riempie) { riempie_ = riempie; }
+
+    /// Column widths that the user has drawn, by heading, at the sizes of the start.
+    [[nodiscard]] std::map<QString, int> LarghezzeScelte() const;
+    void RiprendeLarghezze(std::map<QString, int> larghezze);
+
     /// First row whose designation begins with the text, blanks and case ignored; -1 if none does.
     [[nodiscard]] int CercaIniziale(const QString& testo) const;
 
@@ -76,6 +89,8 @@ private:
     void LasciaRigheIntere();
     void FinisceConUnaRigaIntera();
     [[nodiscard]] std::vector<int> LarghezzeCedute(int eccesso) const;
+    [[nodiscard]] std::vector<int> LarghezzePrese(int spazio) const;
+    [[nodiscard]] bool Disegnata(std::size_t colonna) const;
     [[nodiscard]] int LarghezzaColonna(int column, const QStringList& texts) const;
 
     LettoreDati* lettore_ = nullptr;
@@ -86,6 +101,7 @@ private:
     double scalaLarghezza_ = 1;
     double scalaAltezza_ = 1;
     int altezzaRiga_ = 0;
+    bool riempie_ = false;
     bool seguendo_ = false;
     bool adattando_ = false;
     bool misurando_ = false;
