@@ -15,6 +15,7 @@
 #include "frame/ui/Twips.h"
 #include "screens/AggiornaVisibili.h"
 #include "screens/SchermoSezione.h"
+#include "screens/StatoUtente.h"
 #include "sections/SezioneCorrente.h"
 
 namespace sagomi {
@@ -202,6 +203,15 @@ void AcciaioCambiato(SchermoSezione& schermo) {
         section.TipoAcciaio = NomeAcciaio[IndiceAcciaio + 1];
     });
     schermo.Risultati();
+}
+
+void RiprendeStato(SchermoSezione& schermo) {
+    LeggeStato(schermo);
+    Collega(&NavigaSchermi::Unico(), &NavigaSchermi::schermoScaricato, &schermo,
+            [&schermo](const QString& name) {
+                if (name == schermo.objectName())
+                    ScriveStato(schermo);
+            });
 }
 
 void RidimensionaForm(SchermoSezione& schermo) {

@@ -32,7 +32,6 @@
 #include "screens/MenuSezione.h"
 #include "screens/PannelloFamiglie.h"
 #include "screens/PlottaSezioneCorrente.h"
-#include "screens/StatoUtente.h"
 #include "screens/VociSezione.h"
 #include "sections/SezioneCorrente.h"
 
@@ -305,15 +304,7 @@ void SchermoSezione::Carica() {
     HeightIni = height() * twipsAPixel;
     AggiornaCaptionNormativa(*this);
     DBGrid1->setFocus();
-    RiprendeStato();
-}
-
-void SchermoSezione::RiprendeStato() {
-    LeggeStato(*this);
-    Collega(&NavigaSchermi::Unico(), &NavigaSchermi::schermoScaricato, this, [this](const QString& name) {
-        if (name == objectName())
-            ScriveStato(*this);
-    });
+    RiprendeStato(*this);
 }
 
 void SchermoSezione::RiprendeFinestra(QPoint posto, QSize misura, bool massima) {

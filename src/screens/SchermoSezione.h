@@ -174,7 +174,6 @@ private:
     void CollegaTabella();
     void ApriDettaglio(const QString& nome);
     void SeguonoDettagli();
-    void RiprendeStato();
     void RigaNuova();
     bool FrecciaDiRiga(int key);
     bool RicercaDiRiga(const QKeyEvent& event);
@@ -223,6 +222,9 @@ bool FyPossibile(double fy);
 
 /// The text of Txt_fy has changed. A strength that is none is told and put back, but not while it is typed.
 void AcciaioCambiato(SchermoSezione& schermo);
+
+/// Puts a screen that has been loaded into the state of an earlier run, and keeps its state at its end.
+void RiprendeStato(SchermoSezione& schermo);
 
 /// The window has been maximised, minimised or restored.
 void RidimensionaForm(SchermoSezione& schermo);
