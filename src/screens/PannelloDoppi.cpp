@@ -79,7 +79,11 @@ void PannelloDoppi::ImpostaSchermo(const QByteArray& nome) {
     inside->addWidget(gap.etichetta);
     inside->addWidget(gap.campo);
     inside->addWidget(CreaNota());
-    setFixedHeight(sizeHint().height()); // what comes and goes moves nothing
+    // What comes and goes moves nothing, at any size of the font.
+    QSizePolicy kept = frame->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    frame->setSizePolicy(kept);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     frame->hide();
 }
 
