@@ -16,8 +16,9 @@ double Luminanza(const QColor& c) {
 } // namespace
 
 double Contrasto(const QColor& a, const QColor& b) {
-    const auto [low, high] = std::minmax(Luminanza(a), Luminanza(b));
-    return (high + 0.05) / (low + 0.05);
+    const double one = Luminanza(a);
+    const double other = Luminanza(b);
+    return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
 bool Scuro(const QColor& fondo) { return Contrasto(fondo, Qt::white) > Contrasto(fondo, Qt::black); }
