@@ -132,6 +132,7 @@ void Giunto::Riprende(const Giunto& copia) {
 void Giunto::RiprendeEsito(const Giunto& copia) {
     parametriSelezione_ = copia.parametriSelezione_;
     Acquisito = copia.Acquisito;
+    Eq_Saldatura_ = copia.Eq_Saldatura_; // the same throat is not told of again
 }
 
 // Room for the holes. The groups of the sums matter: their whole parts are taken.

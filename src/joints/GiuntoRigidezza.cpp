@@ -46,6 +46,7 @@ void Giunto::Limiti() {
 void Giunto::CoefficentiRigidezza_Calcola() {
     const double tw = c().tw;
     const double tfc = c().tf;
+    (void)Diviso(1, tw, "tw");
     k1 = Beta > 0 ? 0.38 : rigido;
     k3 = Irrigidito() || SoloCompressione() ? rigido : 0.8;
     k2 = Irrigidito() ? rigido : 0.8;

@@ -24,6 +24,8 @@ void ImpostaGiunto(Giunto& g, const char* tipo) {
     g.IndiceBullone(1);
     g.fubl = 800;
     g.Classe = "8.8";
+    g.Acquisito = false;
+    g.Kwc = g.Kfc = 1;
     g.Criterio1 = true;
     g.Criterio2 = false;
     g.Beta_Cautel = true;
