@@ -46,8 +46,14 @@ fs::path FileCartellaUtente(const fs::path& programma, const fs::path& impostazi
     fs::path propria = FileAccanto(impostazioni, cartellaUtente);
     if (!fs::exists(propria, errore) && fs::exists(installata, errore)) {
         fs::create_directories(impostazioni, errore);
-        fs::copy_file(installata, propria, errore);
-        fs::permissions(propria, fs::perms::owner_write, fs::perm_options::add, errore);
+        // Whole or not at all, whatever ends the program meanwhile.
+        fs::path parte = propria;
+        parte += ".parte";
+        fs::remove(parte, errore);
+        if (fs::copy_file(installata, parte, errore)) {
+            fs::permissions(parte, fs::perms::owner_write, fs::perm_options::add, errore);
+            fs::rename(parte, propria, errore);
+        }
     }
     return propria;
 }
@@ -70,7 +76,10 @@ PiattiSaldati PiattiDi(const SezioneDoppioT& s) {
 }
 
 void InizializzaSaldata(SezioneDoppioT& sezione, const PiattiSaldati& p, MostraVplRd* schermo) {
-    sezione.InizializzaSezioneUtente(schermo, p.h, p.b, p.tw, p.tf, p.r, p.b2, p.tf2);
+    {
+        const MessaggiTaciuti quiet; // the next run says it
+        sezione.InizializzaSezioneUtente(schermo, p.h, p.b, p.tw, p.tf, p.r, p.b2, p.tf2);
+    }
     InizializzaConAreaEfficace(sezione, schermo);
 }
 

@@ -57,7 +57,8 @@ std::size_t MetteRiga(Foglio& foglio, const RigaScritta& riga, const std::filesy
     if (r >= massimeRighe)
         throw ErroreCatalogo(Inizio(file) + "il foglio \"" + foglio.nome + "\" è pieno.");
     for (std::size_t c = 0; c < riga.campi.size(); ++c)
-        foglio.Scrive(r, c, riga.campi[c]);
+        if (foglio.Legge(r, c) != riga.campi[c]) // a cell that keeps its value keeps its format
+            foglio.Scrive(r, c, riga.campi[c]);
     return r;
 }
 

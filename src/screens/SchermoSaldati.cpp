@@ -31,6 +31,8 @@ constexpr const char* messaggioElimina =
 constexpr const char* messaggioDati = "Dati non accettabili od incompleti ! Controllare";
 constexpr const char* domandaRilettura = "\nRileggere la tabella?";
 
+constexpr int raggio = 5; ///< the box that may be empty
+
 /// Which plate of a row each box holds: h, b, tw, tf, r, then the lower flange.
 constexpr Singolo SezioneDoppioT::*membri[] = {
     &SezioneDoppioT::h, &SezioneDoppioT::b,       &SezioneDoppioT::tw,     &SezioneDoppioT::tf,
@@ -99,8 +101,12 @@ void SchermoSaldati::CambiaTipo() {
     if (std::ranges::none_of(ChkTipo, &QCheckBox::isChecked))
         for (QCheckBox* box : ChkTipo)
             box->setChecked(box->text().toStdString() == FamigliaDi(objectName().toStdString()).primoFoglio);
-    if (LeggeInSilenzio([this] { return CambioFamiglia(*this); }))
+    if (LeggeInSilenzio([this] { return CambioFamiglia(*this); })) {
         Data1->MoveFirst(); // also where a row has the name of the one that was in hand
+        return;
+    }
+    bool shipped = false;
+    SettaTipoUtente(shipped); // the user's own are still the ones that are read
 }
 
 void SchermoSaldati::SettaTipoUtente(bool& standard) {
@@ -227,9 +233,11 @@ bool SchermoSaldati::DatiAccettabili() {
     if (named && PiattiScritti().Accettabili())
         return true;
     Avvisa(messaggioDati);
-    const auto wrong = named ? std::ranges::find_if(TxtProfUtente.begin() + 1, TxtProfUtente.end(),
-                                                    [](QLineEdit* box) { return !(NumeroIn(box) > 0); })
-                             : TxtProfUtente.begin();
+    const auto wrong =
+        named ? std::ranges::find_if(
+                    TxtProfUtente.begin() + 1, TxtProfUtente.end(),
+                    [this](QLineEdit* box) { return box != TxtProfUtente[raggio] && !(NumeroIn(box) > 0); })
+              : TxtProfUtente.begin();
     FuocoSu(wrong == TxtProfUtente.end() ? TxtProfUtente[1] : *wrong);
     return false;
 }
@@ -283,9 +291,22 @@ void SchermoSaldati::ScriveRiga(int azione) {
     Data1->Update();
 }
 
+// Plates are computed when they are confirmed.
+void SchermoSaldati::Conclusa(QLineEdit* casella) {
+    if (!TxtProfUtente.contains(casella))
+        SchermoDi::Conclusa(casella);
+}
+
 void SchermoSaldati::Rilegge() {
-    const QScopedValueRollback keeping(rileggendo_, true);
-    Aggiorna();
+    const Lettore& rows = Data1->Recordset();
+    const auto inHand = [&] { return RigaInMano() ? rows.Riga(rows.RigaCorrente()) : std::vector<Valore>(); };
+    const std::vector<Valore> before = inHand();
+    {
+        const QScopedValueRollback keeping(rileggendo_, true);
+        Aggiorna();
+    }
+    if (InModifica() && inHand() != before)
+        RiempieDati(); // another row would be rewritten, or others have changed this one
 }
 
 void SchermoSaldati::Risultati() {

@@ -39,6 +39,7 @@ public:
 protected:
     void LeggeSezione(const Lettore& riga, SezioneDoppioT& sezione) override;
     void ControllaSezione(const Lettore& riga, SezioneDoppioT& sezione) override;
+    void Conclusa(QLineEdit* casella) override;
 
 private:
     void TrovaUtente();
