@@ -3,8 +3,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <cmath>
 #include <limits>
-#include <type_traits>
 
 #include "screens/ColonnaInstabilita.h"
 #include "screens/PannelloInstabilita.h"
@@ -27,6 +27,27 @@ template <ConLunghezze S> double Snellezza(const S& s, int axis) {
             lamda = s.LamdaV();
         }
     return length < 0 ? nessunNumero : lamda;
+}
+
+/// Where the derivation about an axis starts and what it is for [mm, N].
+struct Asse {
+    double i = nessunNumero, N = 0, NbRd = nessunNumero;
+};
+
+template <ConLunghezze S> Asse AsseDi(const S& s, int axis) {
+    Asse of;
+    if constexpr (requires { s.Iz; }) {
+        of.i = axis == 0 ? s.iY : s.Iz;
+        of.NbRd = axis == 0 ? s.NbyRd : s.NbzRd;
+    }
+    if constexpr (ConLunghezzaV<S>)
+        if (axis == 2) {
+            of.i = s.iV;
+            of.NbRd = s.NbvRd;
+        }
+    if constexpr (ConMomenti<S>)
+        of.N = s.NSd;
+    return of;
 }
 
 } // namespace
@@ -62,8 +83,13 @@ void FrmInstabSagomi::Calcola() {
 
 void FrmInstabSagomi::CompletaForm1(int asse) {
     double lamda = nessunNumero;
-    SullaSezioneInUso([&lamda, asse](const ConLunghezze auto& s) { lamda = Snellezza(s, asse); });
+    Asse of;
+    SullaSezioneInUso([&](const ConLunghezze auto& s) {
+        lamda = Snellezza(s, asse);
+        of = AsseDi(s, asse);
+    });
     ColonnaInstabilita(lamda, asse, *this);
+    colonne_->MostraAsse(asse, of.i, of.N, std::isfinite(lamda) ? of.NbRd : nessunNumero);
 }
 
 } // namespace sagomi

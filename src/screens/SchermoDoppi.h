@@ -31,7 +31,8 @@ public:
     QCheckBox* chkDoppiLato = nullptr; ///< which sides are put together
     QLineEdit* txtDoppi = nullptr;     ///< gap [mm]
 
-    /// Keeps what one piece gives to a pair; where pairs are asked for the section is one.
+    /// Keeps what one piece gives to a pair; the section itself becomes one with the results, so that who is
+    /// told of the row sees a single piece and what is asked for.
     void Leggedati() override {
         SchermoDi<S>::Leggedati();
         S* section = this->RigaInMano() ? SezioneInUso<S>() : nullptr;
@@ -41,15 +42,21 @@ public:
         piece.InizializzaSezione();
         singolo_ = SingoloDi(piece);
         pesoSingolo_ = this->Data1->Recordset().Numero(posizioni_.g);
-        if (chkDoppi->isChecked())
-            Raddoppia(*section);
+        section->Doppi = daRaddoppiare_ = chkDoppi->isChecked();
+        section->DoppiCorto = chkDoppiLato->isChecked();
+        section->dDoppi = NumeroIn(txtDoppi);
     }
 
     void Risultati() override {
+        if (S* section = SezioneInUso<S>(); daRaddoppiare_ && this->RigaInMano() && section != nullptr)
+            Raddoppia(*section);
         SchermoDi<S>::Risultati();
-        for (QLineEdit* box : daAggiornare_)
-            SegnaDaAggiornare(box, false);
-        daAggiornare_.clear();
+        TogliDaAggiornare();
+    }
+
+    void SvuotaRisultati() override {
+        SchermoDi<S>::SvuotaRisultati();
+        TogliDaAggiornare();
     }
 
     // Until Enter nothing shown changes.
@@ -132,6 +139,7 @@ private:
     }
 
     void Raddoppia(S& section) {
+        daRaddoppiare_ = false;
         RendeDoppia(section, singolo_, NumeroIn(txtDoppi), chkDoppiLato->isChecked());
         MostraDoppio(section);
     }
@@ -158,6 +166,12 @@ private:
         this->TxtProf[posizione]->setText(QString::fromStdString(FormatoCifre(cifre, Singolo(valore))));
     }
 
+    void TogliDaAggiornare() {
+        for (QLineEdit* box : daAggiornare_)
+            SegnaDaAggiornare(box, false);
+        daAggiornare_.clear();
+    }
+
     void SegnaDaAggiornare(QLineEdit* box, bool on) {
         if (auto* result = qobject_cast<Casella*>(box))
             result->ImpostaSegno(on ? Casella::DaAggiornare : Casella::Nessuno);
@@ -169,8 +183,9 @@ private:
     }
 
     PosizioniDoppio posizioni_{};
-    SagomoSingolo singolo_;  ///< one piece of the row in hand
-    double pesoSingolo_ = 0; ///< [kg/m]
+    SagomoSingolo singolo_;      ///< one piece of the row in hand
+    double pesoSingolo_ = 0;     ///< [kg/m]
+    bool daRaddoppiare_ = false; ///< the section has been read and is still one piece
     QList<QLineEdit*> daAggiornare_;
 };
 
