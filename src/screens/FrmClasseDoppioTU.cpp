@@ -1,7 +1,6 @@
 #include "screens/FrmClasseDoppioTU.h"
 
 #include <array>
-#include <type_traits>
 
 #include "frame/Messaggi.h"
 #include "frame/Unita.h"
@@ -164,12 +163,10 @@ template <typename S> void FrmClasseDoppioTU::MostraValoriEfficaci(const S& s) {
     show("Lbl_WzEff", z, s.WzEff);
     show("Lbl_eNy", comp || y, s.eNy);
     show("Lbl_eNz", comp || z, s.eNz);
-    if constexpr (std::is_same_v<S, SezioneDoppioT>) {
-        const LunghezzePerse lost = PerseDi(s);
-        show("Lbl_PersaWebC", s.ClasseWebC == 4, lost.animaCompressa);
-        show("Lbl_PersaWebF", s.ClasseWebF == 4, lost.animaInflessa);
-        show("Lbl_PersaAla", s.ClasseAlaC == 4, lost.ala);
-    }
+    const LunghezzePerse lost = PerseDi(s);
+    show("Lbl_PersaWebC", s.ClasseWebC == 4, lost.animaCompressa);
+    show("Lbl_PersaWebF", s.ClasseWebF == 4, lost.animaInflessa);
+    show("Lbl_PersaAla", s.ClasseAlaC == 4, lost.ala);
 }
 
 void FrmClasseDoppioTU::CompletaFormAsimmetrici() {

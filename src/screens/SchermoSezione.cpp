@@ -28,6 +28,7 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/Twips.h"
+#include "screens/AggiornaVisibili.h"
 #include "screens/CorpoSezione.h"
 #include "screens/MenuSezione.h"
 #include "screens/PannelloFamiglie.h"
@@ -227,8 +228,10 @@ void SchermoSezione::RotturaCambiata() {
         return;
     const double fu = NumeroIn(Txt_fu);
     if (FyPossibile(fu)) {
-        if (RigaInMano())
+        if (RigaInMano()) {
             SullaSezioneInUso([fu](auto& section) { section.fu = fu; });
+            AggiornaVisibili(*this);
+        }
         return;
     }
     if (InDigitazione(Txt_fu))

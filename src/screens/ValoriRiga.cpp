@@ -28,7 +28,8 @@ std::vector<Testi> ScriveTesti(const std::vector<std::string_view>& headings) {
     for (std::size_t i = 1; i < headings.size(); ++i) {
         const std::string index = std::to_string(i);
         const std::string heading(headings[i]);
-        texts.push_back({"TxtProf_" + index, "LblProf_" + index, heading + ":", heading});
+        const std::string caption = i == 1 ? "g (Kg/m)" : heading; // whatever capitals the sheet has
+        texts.push_back({"TxtProf_" + index, "LblProf_" + index, caption + ":", heading});
     }
     return texts;
 }

@@ -216,7 +216,7 @@ const char* DescrizioneColonna(std::string_view intestazione) {
         {"b", "Larghezza delle ali"},
         {"b1", "Larghezza dell'ala superiore"},
         {"b2", "Larghezza dell'ala inferiore"},
-        {"t", "Spessore delle ali"},
+        {"t", "Spessore dei lati"},
         {"tw", "Spessore dell'anima"},
         {"tf", "Spessore delle ali"},
         {"tf1", "Spessore dell'ala superiore"},

@@ -8,6 +8,7 @@
 #include "sections/LarghezzeEfficaci.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneGenerica.h"
+#include "sections/SezioneSagomoU.h"
 
 namespace sagomi {
 
@@ -38,6 +39,20 @@ LunghezzePerse PerseDi(const SezioneDoppioT& s) {
         lost.animaCompressa = (1 - Rho(s.d, s.tw, s.fy, kSigmaAnimaCompressa)) * s.d;
     if (s.ClasseWebF == 4)
         lost.animaInflessa = AnimaInflessa(s);
+    if (s.ClasseAlaC == 4)
+        lost.ala = TaglioAla(s.c, s.tf, s.fy, kSigmaAlaCompressa);
+    return lost;
+}
+
+// The web of a channel in bending has its axis in the middle.
+LunghezzePerse PerseDi(const SezioneSagomoU& s) {
+    LunghezzePerse lost;
+    if (s.ClasseWebC == 4)
+        lost.animaCompressa = (1 - Rho(s.d, s.tw, s.fy, kSigmaAnimaCompressa)) * s.d;
+    if (s.ClasseWebF == 4) {
+        const StrisceEfficaci strisce = StrisceDelPiatto(-1, s.d, s.tw, s.fy);
+        lost.animaInflessa = s.d / 2 - strisce.be1 - strisce.be2;
+    }
     if (s.ClasseAlaC == 4)
         lost.ala = TaglioAla(s.c, s.tf, s.fy, kSigmaAlaCompressa);
     return lost;

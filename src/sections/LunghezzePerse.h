@@ -3,6 +3,7 @@
 namespace sagomi {
 
 class SezioneDoppioT;
+class SezioneSagomoU;
 
 /// What plates of class 4 lose [mm], ENV 1993-1-1 5.3.5; 0 where a plate is not of class 4.
 struct LunghezzePerse {
@@ -12,5 +13,6 @@ struct LunghezzePerse {
 };
 
 LunghezzePerse PerseDi(const SezioneDoppioT& s);
+LunghezzePerse PerseDi(const SezioneSagomoU& s);
 
 } // namespace sagomi
