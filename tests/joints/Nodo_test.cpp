@@ -92,7 +92,12 @@ TEST(Nodo, ImpostaNodo) {
     n.Giunti[1]->Beta_Cautel = false;
     n.Giunti[1]->TipoProgetto = 1;
     n.Giunti[1]->TipoUscitaProgetto = 2;
+    n.Giunti[1]->Acquisito = true;
+    n.Giunti[1]->Kwc = n.Giunti[1]->Kfc = 0.75;
     n.ImpostaNodo();
+    EXPECT_FALSE(n.Giunti[1]->Acquisito);
+    EXPECT_EQ(n.Giunti[1]->Kwc, 1);
+    EXPECT_EQ(n.Giunti[1]->Kfc, 1);
     EXPECT_EQ(n.Tipovie, 0);
     EXPECT_EQ(n.NumeroGiunti, 2);
     EXPECT_EQ(n.nGiunto, 1);

@@ -309,6 +309,19 @@ TEST_F(SagomiUtenteTest, TheTableIsReadAnewWhereTheUserWants) {
     EXPECT_EQ(Campo(0, 2, 0), Valore(S("altrui")));
 }
 
+TEST_F(SagomiUtenteTest, WhatWasTypedNeverGoesOntoAnotherRow) {
+    auto& s = Simmetrici();
+    Aggiunge(s, {"S1", "300", "200", "10", "20", "0"});
+    s.cmdUtente[1]->click();
+    s.TxtProfUtente[1]->setText("350");
+    ScriveRighe(File(), ImprontaDi(File()), simmetrico, {{1, {S("altrui"), {}, 400.0, 200.0, 10.0, 20.0}}});
+    const Registratore yes(true);
+    s.cmdUtenteEdita[2]->click();
+    EXPECT_EQ(s.TxtProfUtente[0]->text(), "altrui") << "its row is the one in hand now";
+    EXPECT_EQ(s.TxtProfUtente[1]->text(), "400");
+    EXPECT_EQ(Campo(0, 1, 2), Valore(400.0));
+}
+
 TEST_F(SagomiUtenteTest, HandlersAreSilentWhileARowIsWritten) {
     auto& s = Simmetrici();
     Aggiunge(s, {"S1", "300", "200", "10", "20", "0"});

@@ -199,6 +199,25 @@ TEST_F(FrmSagomiTest, TickedItStaysThroughRowsAndActivation) {
     EXPECT_EQ(Testo(&s, "TxtNbRd_0"), FormatoCifre(4, 8460 * 355.0 / GammaM1 / 1000));
 }
 
+// Who is told of a row is told of one piece and of what is asked for; the results are the pair's.
+TEST_F(FrmSagomiTest, ARowIsReadAsOnePieceAndComputedAsThePair) {
+    auto& s = Canali();
+    VaiA(s, "UPN 200");
+    Spunta(s, "chkDoppi");
+    Spunta(s, "chkDoppiAla");
+    Scrive(&s, "txtDoppi", "12");
+    s.Leggedati();
+    EXPECT_EQ(U().Designation, "UPN 200");
+    EXPECT_EQ(double(U().Area), 3220);
+    EXPECT_TRUE(U().Doppi && U().DoppiCorto);
+    EXPECT_EQ(double(U().dDoppi), 12);
+    s.Risultati();
+    EXPECT_EQ(U().Designation, "2 UPN 200");
+    EXPECT_EQ(double(U().Area), 6440);
+    s.Risultati();
+    EXPECT_EQ(double(U().Area), 6440) << "a pair is never doubled again";
+}
+
 TEST_F(FrmSagomiTest, APairOfAnglesSwapsItsAxesForTheShortSide) {
     auto& s = Angolari();
     SullaFamiglia(s, 1);

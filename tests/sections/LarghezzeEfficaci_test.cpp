@@ -1,4 +1,6 @@
 #include "sections/LarghezzeEfficaci.h"
+#include "sections/LunghezzePerse.h"
+#include "sections/SezioneSagomoU.h"
 
 #include <cmath>
 
@@ -11,6 +13,24 @@ using namespace sagomi;
 using namespace sagomi::prove;
 
 namespace {
+
+// By hand. Web 300 x 4: lambda = 75 / (28.4 x 2) = 1.32042, rho = (lambda - 0.22) / lambda2 = 0.63115. Flange
+// 100 x 5: lambda = 20 / (28.4 sqrt(0.43)) = 1.07393, rho = 0.74040. In bending, k 23.9: lambda = 75 / (28.4
+// x 4.88876) = 0.54019, below 0.673: nothing is lost.
+TEST(LunghezzePerse, OfAChannel) {
+    SezioneSagomoU s;
+    s.fy = 235;
+    s.d = 300;
+    s.tw = 4;
+    s.c = 100;
+    s.tf = 5;
+    EXPECT_EQ(PerseDi(s).animaCompressa, 0) << "of no class yet";
+    s.ClasseWebC = s.ClasseWebF = s.ClasseAlaC = 4;
+    const LunghezzePerse lost = PerseDi(s);
+    EXPECT_NEAR(lost.animaCompressa, 110.654, 0.01);
+    EXPECT_NEAR(lost.ala, 25.960, 0.01);
+    EXPECT_NEAR(lost.animaInflessa, 0, 1e-9);
+}
 
 // By hand, S235 (epsilon 1). Each plate is as wide as makes its slenderness b/t / (28.4 root(k)) equal to 1,
 // so that rho = (1 - 0.22) / 1 = 0.78.
