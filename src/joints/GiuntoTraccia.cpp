@@ -69,7 +69,10 @@ void Tracciatore::Irrigidimenti(const Giunto& g, TracciaGiunto& traccia) {
     if (!g.Irrigidito() && !g.SoloCompressione())
         return;
     Tracciatore riga(traccia, "Irrigidimenti", annessoJ);
-    riga("Irr_Spessore", g.Irr_Spessore, "mm")("Irr_B", g.Irr_B, "mm")("Irr_a", g.Irr_a, "mm");
+    riga("Irr_Spessore", g.Irr_Spessore, "mm")("Irr_B", g.Irr_B, "mm")("Irr_L1", g.Irr_L1, "mm");
+    if (g.Irrigidito())
+        riga("Irr_L2", g.Irr_L2, "mm");
+    riga("Irr_a", g.Irr_a, "mm");
     if (g.Irr_Spessore < g.t().tf)
         riga.Testo("Nota", "più sottile dell'ala della trave, la cui resistenza conta intera");
 }
@@ -106,9 +109,12 @@ void Tracciatore::Flangia(const Giunto& g, TracciaGiunto& traccia) {
                 annessoJ)("ef", g.ef, "mm")("mf", g.mf, "mm")("m2", g.m2, "mm");
     Tracciatore(traccia, "Flangia di estremità a flessione, fila interna", trattoT)
         .Modi(g.ModiFlangiaInterna(Bt), "FtRd_FilaInf_f", g.FtRd_FilaInf_f);
-    if (g.nf == 2)
-        Tracciatore(traccia, "Flangia di estremità a flessione, fila esterna", trattoT)
-            .Modi(g.ModiFlangiaEsterna(Bt), "FtRd_FilaSup_f", g.FtRd_FilaSup_f);
+    if (g.nf != 2)
+        return;
+    Tracciatore(traccia, "Flangia di estremità a flessione",
+                annessoJ)("ex", g.ex, "mm")("mx", g.mx, "mm")("w", g.w, "mm");
+    Tracciatore(traccia, "Flangia di estremità a flessione, fila esterna", trattoT)
+        .Modi(g.ModiFlangiaEsterna(Bt), "FtRd_FilaSup_f", g.FtRd_FilaSup_f);
 }
 
 void Tracciatore::Anima(const Giunto& g, TracciaGiunto& traccia) {
@@ -152,6 +158,9 @@ void Giunto::TracciaComponenti() {
     if (nf == 2)
         Tracciatore(Traccia, "Fila esterna", annessoJ)("FtRd_EffSup", FtRd_EffSup, "kN")
             .Testo("ComponenteDeboleFilaSup", ComponenteDeboleFilaSup);
+    if (nf == 2 && !Irrigidito())
+        Tracciatore(Traccia, "Ala della colonna a flessione, gruppo", annessoJ)(
+            "Ftrd_FilaSupRid_c", Ftrd_FilaSupRid_c, "kN")("Ftrd_FilaInfRid_c", Ftrd_FilaInfRid_c, "kN");
     Tracciatore::Anima(*this, Traccia);
     Tracciatore::Compressione(*this, Traccia);
     Tracciatore::Pannello(*this, Traccia);
@@ -167,6 +176,8 @@ void Giunto::TracciaMomento() {
     finale("FtotFile", FtotFile_, "kN")("FtRd_EffInf", FtRd_EffInf, "kN")("zInt", zInt_, "mm");
     if (nf == 2)
         finale("FtRd_EffSup", FtRd_EffSup, "kN")("zEst", zEst_, "mm");
+    // Where the inner row has taken all, the web of the column is the one of a single row.
+    finale("FtRd_Anima_c", FtRd_Anima_c, "kN")("TipoMessaggio", TipoMessaggio);
     finale.Testo("ComponenteDebole", ComponenteDebole);
     Tracciatore(Traccia, "Momento resistente", annessoJ)("MplRdGIUNTO", MplRdGIUNTO,
                                                          "kNm")("M_elastico", M_elastico, "kNm");
@@ -197,12 +208,15 @@ void Giunto::TracciaRigidezza() {
         mu("mu4_Estesa", mu4_Estesa)("mu5_Estesa", mu5_Estesa)("mu6_Estesa", mu6_Estesa);
     const std::string_view unita = "kNm/rad";
     Tracciatore::Rigidezza(*this, Traccia, "Rigidezza per Mj.Rd", 1);
-    Tracciatore(Traccia, "Rigidezza per Mj.Rd", annessoJ)("Sj_MjRd", Sj_MjRd, unita);
+    Tracciatore(Traccia, "Rigidezza per Mj.Rd", annessoJ)("Sj_MjRd_", Sj_MjRd_, unita)(
+        "Sj_MjRd_Estesa", Sj_MjRd_Estesa, unita)("Sj_MjRd", Sj_MjRd, unita);
     Tracciatore::Rigidezza(*this, Traccia, "Rigidezza per Mj.el", 1.5);
-    Tracciatore(Traccia, "Rigidezza per Mj.el", annessoJ)("Sj_Mela", Sj_Mela, unita);
+    Tracciatore(Traccia, "Rigidezza per Mj.el", annessoJ)("Sj_Mela_", Sj_Mela_, unita)(
+        "Sj_Mela_Estesa", Sj_Mela_Estesa, unita)("Sj_Mela", Sj_Mela, unita);
     if (t().Mysd != 0)
         Tracciatore::Rigidezza(*this, Traccia, "Rigidezza per Mj.Sd", MplRdGIUNTO / t().Mysd);
-    Tracciatore(Traccia, "Rigidezza per Mj.Sd", annessoJ)("Sj_MjSd", Sj_MjSd, unita);
+    Tracciatore(Traccia, "Rigidezza per Mj.Sd", annessoJ)("Sj_MjSd_", Sj_MjSd_, unita)(
+        "Sj_MjSd_Estesa", Sj_MjSd_Estesa, unita)("Sj_MjSd", Sj_MjSd, unita);
     Tracciatore(Traccia, "Classe di rigidezza", "EC3 6.9.6.2")("LimiteCerniera", LimiteCerniera, unita)(
         "LimiteRigido2", LimiteRigido2, unita)("LimiteRigido1", LimiteRigido1, unita)
         .Testo("RigidezzaGiunto1", RigidezzaGiunto1)

@@ -57,6 +57,25 @@ protected:
 
 } // namespace
 
+// By hand from the entries: mx = dX - 0.8 sqrt2 Af with dX = 85 - 40; w = 170 - 2 x 40. The sum of the rows
+// at the flange of the column is the group's.
+TEST_F(Traccia, FilaEsternaRidottaERigidezzeDelleFile) {
+    ASSERT_TRUE(n.EsegueCalcolo());
+    EXPECT_EQ(Valore("Flangia di estremità a flessione", "ex"), 40);
+    EXPECT_NEAR(Valore("Flangia di estremità a flessione", "mx"), 45 - 0.8 * std::sqrt(2.0) * g().Af, 1e-9);
+    EXPECT_EQ(Valore("Flangia di estremità a flessione", "w"), 90);
+    EXPECT_LE(Valore("Ala della colonna a flessione, gruppo", "Ftrd_FilaInfRid_c"),
+              Valore("Ala della colonna a flessione, gruppo", "FtRd_Gruppo"));
+    EXPECT_EQ(Valore("Ridistribuzione", "TipoMessaggio"), g().TipoMessaggio);
+    for (const auto& [livello, nome] : {std::pair{"Rigidezza per Mj.Rd", "Sj_MjRd"},
+                                        {"Rigidezza per Mj.el", "Sj_Mela"},
+                                        {"Rigidezza per Mj.Sd", "Sj_MjSd"}}) {
+        const std::string s = nome;
+        // Of two rows the joint has the larger path.
+        EXPECT_EQ(Valore(livello, s), std::max(Valore(livello, s + "_"), Valore(livello, s + "_Estesa")));
+    }
+}
+
 TEST_F(Traccia, ComponentiNellOrdineDelCalcolo) {
     ASSERT_TRUE(n.EsegueCalcolo());
     EXPECT_THAT(Componenti(),
