@@ -46,6 +46,8 @@ public:
         AggiornaVisibili(*this);
     }
 
+    void RotturaPassata() override { AggiornaVisibili(*this); }
+
     void ControlloDati() override {
         if (S* section = SezioneInUso<S>(); section != nullptr && RigaInMano())
             ControllaSezione(Data1->Recordset(), *section);

@@ -28,7 +28,6 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/Twips.h"
-#include "screens/AggiornaVisibili.h"
 #include "screens/CorpoSezione.h"
 #include "screens/MenuSezione.h"
 #include "screens/PannelloFamiglie.h"
@@ -230,7 +229,7 @@ void SchermoSezione::RotturaCambiata() {
     if (FyPossibile(fu)) {
         if (RigaInMano()) {
             SullaSezioneInUso([fu](auto& section) { section.fu = fu; });
-            AggiornaVisibili(*this);
+            RotturaPassata();
         }
         return;
     }

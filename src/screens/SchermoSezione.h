@@ -144,6 +144,8 @@ protected:
     /// @return whether there is a section that takes it; an axis that it does not have is told
     bool PassaLunghezza(int index);
     bool PassaForza();
+    /// The section in use has another fu, on which no result of a main screen hangs.
+    virtual void RotturaPassata() {}
     /// An entry has been concluded: what hangs on it is computed.
     virtual void Conclusa(QLineEdit* casella);
     /// What Enter does in the entry boxes: fy, lengths, axial force, then the first command. False leaves it
