@@ -39,7 +39,7 @@ void InstallaCartellaUtente(const fs::path& file) {
 }
 
 fs::path FileCartellaUtente(const fs::path& programma, const fs::path& impostazioni) {
-    const fs::path installata = FileAccanto(programma, cartellaUtente);
+    fs::path installata = FileAccanto(programma, cartellaUtente);
     if (impostazioni.empty() || impostazioni == programma)
         return installata;
     std::error_code errore;

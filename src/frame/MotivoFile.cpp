@@ -42,7 +42,7 @@ std::string MotivoNonScritto(const fs::path& file) {
         return "la cartella non esiste";
     if (!fs::is_directory(folder, error))
         return folder.string() + " non è una cartella";
-    if (const std::string other = NonFile(file); !other.empty())
+    if (std::string other = NonFile(file); !other.empty())
         return other;
     if (fs::exists(file, error) && access(file.c_str(), W_OK) != 0)
         return "il file è di sola lettura";
@@ -55,7 +55,7 @@ std::string MotivoNonLetto(const fs::path& file) {
     std::error_code error;
     if (!fs::exists(file, error))
         return "il file non esiste";
-    if (const std::string other = NonFile(file); !other.empty())
+    if (std::string other = NonFile(file); !other.empty())
         return other;
     return access(file.c_str(), R_OK) != 0 ? "il file non è leggibile da questo utente"
                                            : "il file è troppo grande o non è un file di dati";
