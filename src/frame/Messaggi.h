@@ -9,7 +9,7 @@ namespace sagomi {
 
 /// What the user is told when something happens in the middle of a calculation: the one way out of the
 /// mechanics to a screen. The program plugs a message box into the port, the tests a recorder.
-enum class Icona { Nessuna, Avviso, Stop, Domanda };
+enum class Icona { Nessuna, Informazione, Avviso, Stop, Domanda };
 enum class Bottoni { Ok, OkSalta, SiNo };
 enum class Risposta { Ok, Salta, Si, No };
 

@@ -51,7 +51,7 @@ void Giunto::Avviso(std::string_view testo) const {
     if (osservatore_ != nullptr)
         osservatore_->Avviso(testo);
     else
-        Avvisa(testo);
+        Avvisa(testo, {}, Icona::Informazione);
 }
 
 // ENV 1993-1-1 7.5.2 (1).

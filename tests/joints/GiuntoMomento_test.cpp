@@ -173,6 +173,7 @@ TEST_F(Momento, UnaFilaAnimaDellaTrave) {
     EXPECT_THAT(boxes.testi,
                 testing::ElementsAre("La resistenza è governata dall'anima della trave a trazione"));
     EXPECT_EQ(boxes.messaggi[0].bottoni, Bottoni::Ok);
+    EXPECT_EQ(boxes.messaggi[0].icona, Icona::Informazione);
 }
 
 // 300 + 45 - 5.35 = 339.65 and 238.95.

@@ -20,6 +20,8 @@ namespace {
 
 QMessageBox::Icon IconaQt(Icona icona) {
     switch (icona) {
+    case Icona::Informazione:
+        return QMessageBox::Information;
     case Icona::Avviso:
         return QMessageBox::Warning;
     case Icona::Stop:
