@@ -5,8 +5,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "frame/Acciaio.h"
 #include "frame/Singolo.h"
 #include "sections/Gemello.h"
 #include "sections/SezioneGenerica.h"
@@ -55,6 +57,24 @@ std::string RigaDato(std::string_view nome, Singolo valore);
 /// @param oggetto      target of "VIDEO" and "STAMPANTE"; null for files and CAD
 /// @param dispositivo  device, put in force
 void DisegnaQuotato(const PezzoQuotato& pezzo, Superficie* oggetto, std::string_view dispositivo);
+
+/// The piece of a section of any kind: name, outline, its twin in a pair, data and, where its fy is not the
+/// grade's, the steel.
+/// @param righe  the data
+template <typename S> PezzoQuotato PezzoDi(const S& s, std::vector<std::string> righe) {
+    PezzoQuotato pezzo;
+    pezzo.nome = s.Designation;
+    pezzo.contorno = s.SezioneGenericaCorrente.get();
+    pezzo.righe = std::move(righe);
+    if (FyRiscritta(s.TipoAcciaio, s.fy))
+        pezzo.righe.push_back(AcciaioMostrato(s.TipoAcciaio, s.fy));
+    if constexpr (requires { GemelloDi(s); })
+        if (s.Doppi) {
+            pezzo.gemello = GemelloDi(s);
+            pezzo.sopra = quotaOltreAsse + 2; // the gap stands there
+        }
+    return pezzo;
+}
 
 /// The effective outline that the detail screen of the classes has asked for, if it is there. One of an
 /// earlier run is not: the section may have left class 4 since.

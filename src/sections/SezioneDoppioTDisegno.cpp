@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "drawing/Quote.h"
-#include "frame/Acciaio.h"
 #include "frame/Numeri.h"
 #include "sections/DisegnoQuotato.h"
 #include "sections/SezioneDoppioT.h"
@@ -68,13 +67,8 @@ void Quotatura(const SezioneDoppioT& s, const Quote& quote, const PezzoQuotato::
 
 void SezioneDoppioT::PlottaSezione(Superficie* oggetto, std::string_view maschera,
                                    std::string_view dispositivo) const {
-    PezzoQuotato pezzo;
-    pezzo.nome = Designation;
-    pezzo.contorno = SezioneGenericaCorrente.get();
+    PezzoQuotato pezzo = PezzoDi(*this, Righe(*this));
     pezzo.efficace = EfficaceChiesto(*this, maschera);
-    pezzo.righe = Righe(*this);
-    if (FyRiscritta(TipoAcciaio, fy))
-        pezzo.righe.push_back(AcciaioMostrato(TipoAcciaio, fy));
     if (SaldataAsimm)
         pezzo.sopra = quotaOltreAsse + 2; // the width of the upper flange stands there
     pezzo.quotatura = [this](const Quote& quote, const PezzoQuotato::Riquadro& riquadro) {

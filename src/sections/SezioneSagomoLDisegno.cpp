@@ -55,15 +55,8 @@ void Quotatura(const SezioneSagomoL& s, const Quote& quote, const PezzoQuotato::
 
 void SezioneSagomoL::PlottaSezione(Superficie* oggetto, std::string_view maschera,
                                    std::string_view dispositivo) const {
-    PezzoQuotato pezzo;
-    pezzo.nome = Designation;
-    pezzo.contorno = SezioneGenericaCorrente.get();
+    PezzoQuotato pezzo = PezzoDi(*this, Righe(*this));
     pezzo.efficace = Efficace(*this, maschera);
-    pezzo.righe = Righe(*this);
-    if (Doppi) {
-        pezzo.gemello = GemelloDi(*this);
-        pezzo.sopra = quotaOltreAsse + 2; // the gap stands there
-    }
     pezzo.quotatura = [this](const Quote& quote, const PezzoQuotato::Riquadro& riquadro) {
         Quotatura(*this, quote, riquadro);
     };

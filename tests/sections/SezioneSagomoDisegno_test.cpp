@@ -105,6 +105,21 @@ TEST_F(DisegnoSagomi, AChannelStandsWithItsBackAtZero) {
     EXPECT_NEAR(su.cerchi[0].x, s.SezioneGenericaCorrente->xG, 1e-9);
 }
 
+TEST_F(DisegnoSagomi, AnOvertypedStrengthStandsAmongTheData) {
+    auto u = Canale();
+    u.TipoAcciaio = "S235 (Fe360)";
+    u.fy = 460;
+    u.InizializzaSezione();
+    Disegna(u);
+    EXPECT_EQ(su.Testi().back(), "S235 (Fe360), fy 460");
+    auto l = Angolare();
+    l.TipoAcciaio = "S355 (Fe510)";
+    l.fy = 400;
+    l.InizializzaSezione();
+    Disegna(l);
+    EXPECT_EQ(su.Testi().back(), "S355 (Fe510), fy 400");
+}
+
 TEST_F(DisegnoSagomi, APairBackToBackShowsItsGap) {
     const Ingombro e = Disegna(Coppia(Canale(), 12, false));
     EXPECT_EQ(e.lati, 80);
