@@ -50,6 +50,19 @@ TEST_F(ScritturaRigheTest, ARowIsRewrittenWhereItLies) {
     EXPECT_EQ(f.Legge(1, 0), Valore(S("a")));
 }
 
+// A row is written whole: the user's own columns beyond those of the program with it.
+TEST_F(ScritturaRigheTest, ACellThatKeepsItsValueKeepsItsFormat) {
+    CartellaDati cartella = LeggeXls(file);
+    Foglio& sheet = cartella.fogli.at(1);
+    sheet.Scrive(3, 3, 45000.0);
+    sheet.righe[3][3].genere = GenereNumero::Data;
+    ScriveXls(cartella, file);
+    Scrive({{3, {S("b"), 9.0, S("nota mia"), 45000.0}}});
+    EXPECT_EQ(Secondo().Legge(3, 1), Valore(9.0));
+    EXPECT_EQ(Secondo().righe[3][3].genere, GenereNumero::Data);
+    EXPECT_EQ(Secondo().Legge(3, 3), Valore(45000.0));
+}
+
 TEST_F(ScritturaRigheTest, NewRowsGoBehindTheLastWithAValue) {
     EXPECT_THAT(Scrive({{{}, {S("d"), 4.0}}, {{}, {S("d"), 5.0}}}).righe, testing::ElementsAre(4U, 5U));
     EXPECT_EQ(Secondo().Legge(5, 1), Valore(5.0));

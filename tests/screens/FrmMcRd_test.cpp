@@ -50,6 +50,16 @@ TEST_F(FrmMcRdTest, PlasticModulus) {
     EXPECT_EQ(Scritta(&f, "Lbl_McRd_1"), Locale(" 28.02"));
 }
 
+// S355: 510 / 355 = 1.437, so 1.25; with 380 typed 380 / 355 = 1.07.
+TEST_F(FrmMcRdTest, TheLimitFollowsBothStrengthsOfTheGrade) {
+    auto& f = Apre();
+    s->ComboTipoAcciaio->setCurrentIndex(2);
+    emit s->ComboTipoAcciaio->activated(2);
+    EXPECT_EQ(Scritta(&f, "Lbl_s_1"), "=" + Locale(" 1.25"));
+    Scrive(s, "Txt_fu", "380");
+    EXPECT_EQ(Scritta(&f, "Lbl_s_1"), "=" + Locale(" 1.07"));
+}
+
 TEST_F(FrmMcRdTest, ModulusFollowsTheClassOfEachAxis) {
     auto& f = Apre();
     Sezione().ClasseFlessioneY = 3;

@@ -116,6 +116,20 @@ TEST_F(SagomiUtenteTest, TheSheetTakesThePlaceOfTheFamilies) {
     EXPECT_EQ(Testo(&s, "TxtProf_0"), "ISE 300x37");
 }
 
+TEST_F(SagomiUtenteTest, WithoutTheShippedWorkbookTheUsersStaysInForce) {
+    Scrive(simmetrico, {{S("S1"), {}, 300.0, 200.0, 10.0, 20.0}});
+    auto& s = Simmetrici();
+    std::filesystem::remove(PathProgramma / "Sagomi.xls");
+    s.ChkTipoUtente->click();
+    EXPECT_EQ(registratore.testi.size(), 1U) << "told once";
+    EXPECT_TRUE(s.TipoUtente);
+    EXPECT_TRUE(s.ChkTipoUtente->isChecked());
+    EXPECT_FALSE(s.ChkTipo[0]->isEnabled());
+    EXPECT_EQ(s.Data1->Recordset().DatabaseName(), File());
+    EXPECT_EQ(s.TabellaOrdine, "['DoppioT Simmetrico'$]");
+    EXPECT_EQ(Testo(&s, "TxtProf_0"), "S1");
+}
+
 TEST_F(SagomiUtenteTest, OneFamilyIsSortedAlsoWhenItIsNotTicked) {
     auto& s = Asimmetrici();
     EXPECT_EQ(s.TabellaOrdine, "['DoppioT Asimmetrico'$]");
