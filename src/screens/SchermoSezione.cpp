@@ -474,10 +474,7 @@ void SchermoSezione::SeguonoDettagli() {
 }
 
 void SchermoSezione::closeEvent(QCloseEvent* event) {
-    EventoProtetto([event] {
-        event->accept();
-        ChiudiProgramma();
-    });
+    EventoProtetto([event] { event->setAccepted(ChiudiProgramma()); });
 }
 
 // The table, the steel list and the sort options keep their arrow keys to themselves: these never get here.

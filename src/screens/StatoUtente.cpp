@@ -11,6 +11,7 @@
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/ui/Collocazione.h"
+#include "frame/ui/DocumentoSchermo.h"
 #include "screens/SchermoSezione.h"
 
 namespace sagomi {
@@ -124,6 +125,10 @@ void ScriveComune(QSettings& file) {
     for (auto place = PostiFinestre().cbegin(); place != PostiFinestre().cend(); ++place)
         file.setValue(place.key(), place.value());
     file.endGroup();
+    file.beginGroup(QStringLiteral("recenti"));
+    for (auto recent = FileRecenti().cbegin(); recent != FileRecenti().cend(); ++recent)
+        file.setValue(recent.key(), recent.value());
+    file.endGroup();
     file.setValue(QStringLiteral("cartella"), QString::fromStdString(PathLavoro.string()));
 }
 
@@ -167,6 +172,10 @@ void LeggeStatoComune() {
     file->beginGroup(QStringLiteral("posti"));
     for (const QString& window : file->childKeys())
         PostiFinestre().insert(window, file->value(window).toPoint());
+    file->endGroup();
+    file->beginGroup(QStringLiteral("recenti"));
+    for (const QString& screen : file->childKeys())
+        FileRecenti().insert(screen, file->value(screen).toStringList());
     file->endGroup();
     const QString folder = file->value(QStringLiteral("cartella")).toString();
     if (!folder.isEmpty() && QDir(folder).exists())

@@ -4,19 +4,23 @@
 
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
+#include "frame/ui/DocumentoSchermo.h"
 #include "frame/ui/NavigaSchermi.h"
 
 namespace sagomi {
 
-void ChiudiProgramma() {
+bool ChiudiProgramma() {
     if (ChiusuraInCorso)
-        return;
+        return true;
+    if (!ServerAttivo && !DocumentoSchermo::TuttiDaLasciare())
+        return false;
     ChiusuraInCorso = true;
     NavigaSchermi::Unico().ScaricaTutti();
     IniLeggeScrive("S");
     if (ServerAttivo && OggettoServer != nullptr)
         OggettoServer->SagomiQuittato();
     QCoreApplication::quit();
+    return true;
 }
 
 } // namespace sagomi

@@ -2,7 +2,9 @@
 
 namespace sagomi {
 
-/// Unloads the screens, writes the settings, ends the run. Does its work once.
-void ChiudiProgramma();
+/// Unloads the screens, writes the settings, ends the run. Does its work once. Before that the user is asked
+/// about work that is not saved, unless an automation client is at work.
+/// @return false when the user stays
+bool ChiudiProgramma();
 
 } // namespace sagomi

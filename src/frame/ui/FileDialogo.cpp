@@ -76,9 +76,16 @@ bool FileDialogo(SchermoConFile& schermo, std::string_view modo, std::string_vie
         return false;
     if (modo == "S" && QFileInfo(chosen).suffix().isEmpty())
         chosen += u'.' + extension;
-    const std::int16_t number = ApreFile(chosen.toStdString(), modo);
+    if (!FileSenzaDialogo(schermo, modo, chosen))
+        return false;
+    file = chosen;
+    return true;
+}
+
+bool FileSenzaDialogo(SchermoConFile& schermo, std::string_view modo, const QString& file) {
+    const std::string name = file.toStdString();
+    const std::int16_t number = ApreFile(name, modo);
     if (number == 0) {
-        const std::string name = chosen.toStdString();
         Avvisa(modo == "S" ? AvvisoNonScritto(name) : AvvisoNonLetto(name));
         return false;
     }
@@ -87,11 +94,10 @@ bool FileDialogo(SchermoConFile& schermo, std::string_view modo, std::string_vie
         schermo.FileLeggeScrive(modo, number);
         abandon.dismiss();
     }
-    if (!ChiudeFile(number))
+    if (!ChiudeFile(number) || !schermo.FileRiuscito())
         return false;
-    file = chosen;
-    schermo.Finestra()->setWindowTitle(schermo.PrefissoTitolo() + QFileInfo(chosen).fileName());
-    PathLavoro = QFileInfo(chosen).absolutePath().toStdString();
+    schermo.Finestra()->setWindowTitle(schermo.PrefissoTitolo() + QFileInfo(file).fileName());
+    PathLavoro = QFileInfo(file).absolutePath().toStdString();
     return true;
 }
 

@@ -19,6 +19,8 @@ public:
     /// What stands before the file's title in the caption.
     [[nodiscard]] virtual QString PrefissoTitolo() const = 0;
     [[nodiscard]] virtual QWidget* Finestra() = 0;
+    /// Whether the last FileLeggeScrive has moved everything; a reading that has not leaves the old content.
+    [[nodiscard]] virtual bool FileRiuscito() const { return true; }
 };
 
 /// Asks the user for a file: the open dialog for "L", the save dialog (which asks before it overwrites) for
@@ -35,8 +37,12 @@ QString SceglieFile(QWidget* sopra, std::string_view modo, const QString& filtro
 /// @param descrizione  of the kind of file, for the filter
 /// @param estensione   without the dot; added to a name that is saved without one
 /// @param file         proposed name, "*.extension" when empty; receives the chosen path
-/// @return false when the user gave up or the file could not be opened: nothing has changed then
+/// @return false when the user gave up, or the file could not be opened or moved whole: caption, file and
+///         folder are as they were then
 bool FileDialogo(SchermoConFile& schermo, std::string_view modo, std::string_view descrizione,
                  std::string_view estensione, QString& file);
+
+/// The same with a file that is known, without the dialog.
+bool FileSenzaDialogo(SchermoConFile& schermo, std::string_view modo, const QString& file);
 
 } // namespace sagomi
