@@ -63,19 +63,6 @@ void AvvisaStampante() {
            {}, Icona::Avviso);
 }
 
-bool Stampa(const QString& name, const Disegno& drawing, const QString& maschera, QWidget* parent,
-            QString& outcome) {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(name);
-    const bool accepted = Scelta()(printer, parent);
-    TieneCartella(printer.outputFileName());
-    if (!accepted || !StampaSu(printer, drawing, maschera))
-        return false;
-    outcome = QString::fromUtf8(dispositivoStampante.data()) + QStringLiteral(": ") +
-              (printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName());
-    return true;
-}
-
 /// Puts a device in force while it lives.
 class Uscita {
 public:
@@ -88,6 +75,36 @@ public:
 private:
     StatoUscita before_;
 };
+
+/// Draws the pages of a printer that has been chosen.
+bool StampaTutte(QPrinter& printer, const PaginaStampata& draw) {
+    const bool onFile = !printer.outputFileName().isEmpty();
+    const bool missing = !onFile && printer.outputFormat() == QPrinter::NativeFormat &&
+                         (!printer.isValid() || QPrinterInfo::availablePrinterNames().isEmpty());
+    if (missing) {
+        AvvisaStampante();
+        return false;
+    }
+    LavoroDiStampa job(printer);
+    if (!job.Iniziato()) {
+        onFile ? AvvisaNonScrivibile(printer.outputFileName()) : AvvisaStampante();
+        return false;
+    }
+    const int copies = printer.supportsMultipleCopies() ? 1 : std::max(1, printer.copyCount());
+    return Protetto("Errore", [&] {
+        job.Pagine(copies, [&](Superficie& page, int number) {
+            const Uscita output(dispositivoStampante, &page);
+            return draw(page, number);
+        });
+    });
+}
+
+PaginaStampata PaginaDi(const Disegno& drawing, const QString& maschera) {
+    return [&drawing, screen = maschera.toStdString()](Superficie& page, int) {
+        drawing.PlottaInOggetto(&page, screen);
+        return false;
+    };
+}
 
 /// The file that the user saves to, with its extension; empty when he gives up.
 QString FileScelto(const QString& name, const QString& extension, std::string_view filter, int index,
@@ -210,25 +227,20 @@ void ImpostaSceltaStampante(SceltaStampante scelta) {
 }
 
 bool StampaSu(QPrinter& stampante, const Disegno& disegno, const QString& maschera) {
-    const bool onFile = !stampante.outputFileName().isEmpty();
-    const bool missing = !onFile && stampante.outputFormat() == QPrinter::NativeFormat &&
-                         (!stampante.isValid() || QPrinterInfo::availablePrinterNames().isEmpty());
-    if (missing) {
-        AvvisaStampante();
+    return StampaTutte(stampante, PaginaDi(disegno, maschera));
+}
+
+bool StampaPagine(const QString& nome, const PaginaStampata& pagina, QWidget* sopra, QString* esito) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(nome);
+    const bool accepted = Scelta()(printer, sopra);
+    TieneCartella(printer.outputFileName());
+    if (!accepted || !StampaTutte(printer, pagina))
         return false;
-    }
-    LavoroDiStampa job(stampante);
-    if (!job.Iniziato()) {
-        onFile ? AvvisaNonScrivibile(stampante.outputFileName()) : AvvisaStampante();
-        return false;
-    }
-    const int copies = stampante.supportsMultipleCopies() ? 1 : std::max(1, stampante.copyCount());
-    return Protetto("Errore", [&] {
-        job.Pagine(copies, [&](Superficie& page) {
-            const Uscita output(dispositivoStampante, &page);
-            disegno.PlottaInOggetto(&page, maschera.toStdString());
-        });
-    });
+    if (esito != nullptr)
+        *esito = QString::fromUtf8(dispositivoStampante.data()) + QStringLiteral(": ") +
+                 (printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName());
+    return true;
 }
 
 bool ScegliDispositivo(int scelta, const QString& nome, const Disegno& disegno, const QString& maschera,
@@ -238,7 +250,7 @@ bool ScegliDispositivo(int scelta, const QString& nome, const Disegno& disegno, 
     QString outcome;
     bool done = false;
     if (scelta == sceltaStampante)
-        done = Stampa(nome, disegno, maschera, sopra, outcome);
+        done = StampaPagine(nome, PaginaDi(disegno, maschera), sopra, &outcome);
     else if (scelta == sceltaDxf)
         done = ScriveDxf(nome, disegno, maschera, sopra, outcome);
     else if (scelta == sceltaCad)

@@ -37,6 +37,16 @@ void ImpostaSceltaStampante(SceltaStampante scelta);
 bool ScegliDispositivo(int scelta, const QString& nome, const Disegno& disegno, const QString& maschera,
                        QWidget* sopra, QString* esito = nullptr);
 
+/// Draws a page, counted from 0, and tells whether another one follows.
+using PaginaStampata = std::function<bool(Superficie& foglio, int numero)>;
+
+/// Prints pages: the print dialog, as many copies as it asks for.
+/// @param nome   of the print job
+/// @param esito  when given, receives in a few words where they went
+/// @return false when the user gave up or the printer could not be had, which is told in a message
+bool StampaPagine(const QString& nome, const PaginaStampata& pagina, QWidget* sopra,
+                  QString* esito = nullptr);
+
 /// Draws the pages of a printer that has been chosen. False, with a message, when it cannot be had or the
 /// drawing fails.
 bool StampaSu(QPrinter& stampante, const Disegno& disegno, const QString& maschera);

@@ -25,12 +25,15 @@ SuperficieStampante::SuperficieStampante(QPainter& pittore)
 LavoroDiStampa::LavoroDiStampa(QPrinter& stampante)
     : stampante_(stampante), iniziato_(pittore_.begin(&stampante)) {}
 
-void LavoroDiStampa::Pagine(int quante, const std::function<void(Superficie&)>& disegna) {
-    for (int i = 0; i < quante; ++i) {
-        if (i > 0)
-            stampante_.newPage();
-        SuperficieStampante page(pittore_);
-        disegna(page);
+void LavoroDiStampa::Pagine(int copie, const std::function<bool(Superficie&, int)>& disegna) {
+    for (int i = 0; i < copie; ++i) {
+        bool more = true;
+        for (int number = 0; more; ++number) {
+            if (i > 0 || number > 0)
+                stampante_.newPage();
+            SuperficieStampante page(pittore_);
+            more = disegna(page, number);
+        }
     }
 }
 

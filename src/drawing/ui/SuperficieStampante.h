@@ -25,8 +25,9 @@ public:
 
     /// False when the printer or its file cannot be had.
     [[nodiscard]] bool Iniziato() const { return iniziato_; }
-    /// Draws the same page so many times.
-    void Pagine(int quante, const std::function<void(Superficie&)>& disegna);
+    /// Draws pages, counted from 0, until one says that it was the last; all of them so many times.
+    /// @param disegna  draws a page and tells whether another one follows
+    void Pagine(int copie, const std::function<bool(Superficie& foglio, int numero)>& disegna);
 
 private:
     QPrinter& stampante_;

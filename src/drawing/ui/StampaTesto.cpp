@@ -1,0 +1,14 @@
+#include "drawing/ui/StampaTesto.h"
+
+#include "drawing/PagineTesto.h"
+#include "drawing/ui/ScegliDispositivo.h"
+
+namespace sagomi {
+
+bool StampaTesto(const std::vector<std::string>& righe, const QString& nome, QWidget* sopra, QString* esito) {
+    PagineTesto pages(righe);
+    return StampaPagine(
+        nome, [&pages](Superficie& page, int number) { return pages.Pagina(page, number); }, sopra, esito);
+}
+
+} // namespace sagomi
