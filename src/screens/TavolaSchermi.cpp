@@ -5,6 +5,7 @@
 #include "fasteners/ui/frmBulloni.h"
 #include "fasteners/ui/frmSaldature.h"
 #include "frame/ui/RigaDi.h"
+#include "joints/ui/frmGiunti.h"
 #include "screens/FrmClasseDoppioTU.h"
 #include "screens/FrmClasseSagomiL.h"
 #include "screens/FrmInform.h"
@@ -33,6 +34,7 @@ void CaricaTavolaSchermi() {
                                     RigaDi<frmSagomiL>("frmSagomiL", "mnuTipoL"),
                                     RigaDi<frmBulloni>("frmBulloni", "mnuCollegamenti_0"),
                                     RigaDi<frmSaldature>("frmSaldature", "mnuCollegamenti_1"),
+                                    RigaDi<frmGiunti>("frmGiunti", "MnuGiunto"),
                                     RigaDi<frmGamma>("frmGamma", "NormativaMain"),
                                     RigaDi<FrmInform>("FrmInform", "mnuHelp_1"),
                                     RigaDi<FrmClasseDoppioTU>("FrmClasseDoppioTU"),

@@ -93,7 +93,7 @@ int PercorriTutti(Schermo& main) {
 }
 
 TEST_F(AccessibilitaTest, EveryControlOfEveryScreenHasANameOfItsOwnAndItsValue) {
-    EXPECT_EQ(PercorriTutti(Avvia()), 22);
+    EXPECT_EQ(PercorriTutti(Avvia()), 23);
 }
 
 TEST_F(AccessibilitaTest, SoItIsWhereASlenderSectionBringsOtherResults) {

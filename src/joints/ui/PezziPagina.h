@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QGroupBox>
+#include <QList>
+#include <QString>
+
+class QButtonGroup;
+class QComboBox;
+class QGridLayout;
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+
+/// The pieces that the tabs of the joint screen are made of. Texts are UTF-8.
+namespace sagomi {
+
+class EtichettaRisultato;
+
+/// An option of a choice.
+struct Scelta {
+    const char* testo;
+    const char* aiuto = ""; ///< tool-tip
+    const char* letta = ""; ///< accessible name, where the text alone stands twice in the window
+};
+
+/// A room with a heading and an empty grid in it.
+QGridLayout* CreaStanza(QGroupBox* stanza, const char* nome, const char* titolo);
+
+/// Options name_0, name_1, ... of which one is chosen.
+/// @param padre  of the buttons' group
+QList<QRadioButton*> CreaScelte(QWidget* padre, const char* nome, const QList<Scelta>& scelte);
+
+/// A plain caption, of a control where one is given.
+QLabel* CreaScritta(const char* testo, QWidget* controllo = nullptr);
+
+/// A command.
+QPushButton* CreaBottone(const char* nome, const char* testo, const char* aiuto);
+
+/// The "?" beside a result, which says how to make it larger; it is no command with a key of its own.
+QPushButton* CreaDomanda(int indice, const char* letta);
+
+/// A text that the screen writes, read as a result.
+QLabel* CreaEsposto(const char* nome, const char* letta, const char* testo = "");
+
+/// A row of widgets with the spare room behind.
+QHBoxLayout* InRiga(const QList<QWidget*>& pezzi);
+QHBoxLayout* ScelteInRiga(const QList<QRadioButton*>& scelte);
+
+} // namespace sagomi
