@@ -11,7 +11,6 @@ namespace sagomi {
 
 namespace {
 
-constexpr double testoCarta = 2.5;   ///< mm, the lettering of technical drawings, ISO 3098-1
 constexpr double testiPerPezzo = 40; ///< heights of the text in the longer side, for files and CAD
 constexpr std::string_view campione = "0";
 
@@ -33,14 +32,6 @@ Area Resto(const Superficie& o, const Margini& m, double corpo) {
 /// Model units in one unit of the target.
 double Rapporto(const Area& area, double l, double h) { return std::max(l / area.l, h / area.h); }
 
-/// The next scale in use, ISO 5455, or 0.
-double ScalaInUso(double rapporto) {
-    constexpr double arrotondamento = 1 + 1e-9;
-    const auto* trovata = std::find_if(scaleInUso.begin(), scaleInUso.end(),
-                                       [&](double s) { return s * arrotondamento >= rapporto; });
-    return trovata == scaleInUso.end() ? 0 : *trovata;
-}
-
 void CorpoDelTesto(Superficie& o, bool carta) {
     o.Predefiniti();
     if (!carta)
@@ -48,10 +39,23 @@ void CorpoDelTesto(Superficie& o, bool carta) {
     o.FontName = carattereStampa;
     const double attuale = o.TextHeight(campione);
     if (attuale > 0)
-        o.FontSize *= testoCarta / attuale;
+        o.FontSize *= altezzaTestoCarta / attuale;
 }
 
 } // namespace
+
+double ScalaInUso(double rapporto) {
+    constexpr double arrotondamento = 1 + 1e-9;
+    const auto* trovata = std::find_if(scaleInUso.begin(), scaleInUso.end(),
+                                       [&](double s) { return s * arrotondamento >= rapporto; });
+    return trovata == scaleInUso.end() ? 0 : *trovata;
+}
+
+std::string ScalaScritta(double n) {
+    if (!(n > 0))
+        return {};
+    return n < 1 ? TestoPiano(std::round(1 / n)) + ":1" : "1:" + TestoPiano(Singolo(n));
+}
 
 TavolaDisegno::TavolaDisegno(Superficie* oggetto, std::string_view dispositivo,
                              const std::array<double, 4>& riquadro, std::span<const Margini> disposizioni) {
@@ -96,11 +100,6 @@ void TavolaDisegno::Adatta(Superficie& oggetto, const std::array<double, 4>& riq
     plottaggio_.AltezzaTesto = oggetto.TextHeight(campione);
 }
 
-std::string TavolaDisegno::Scala() const {
-    const Singolo n = plottaggio_.Denominatore;
-    if (!(n > 0))
-        return {};
-    return n < 1 ? TestoPiano(std::round(1 / n)) + ":1" : "1:" + TestoPiano(n);
-}
+std::string TavolaDisegno::Scala() const { return ScalaScritta(plottaggio_.Denominatore); }
 
 } // namespace sagomi

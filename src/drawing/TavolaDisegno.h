@@ -11,6 +11,15 @@ namespace sagomi {
 
 class Superficie;
 
+inline constexpr double altezzaTestoCarta = 2.5; ///< mm, the lettering of technical drawings, ISO 3098-1
+
+/// Denominator of the next scale in use on paper, ISO 5455 (0.1 for 10:1), at which a unit of it shows at
+/// least `rapporto` units of the model; 0 beyond all of them.
+double ScalaInUso(double rapporto);
+
+/// "1:5", or "2:1" for an enlargement; empty for 0.
+std::string ScalaScritta(double denominatore);
+
 /// Room around a piece for what explains it, in heights of the text.
 struct Margini {
     double sx, su, dx, giu;

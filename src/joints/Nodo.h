@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "frame/Singolo.h"
@@ -12,7 +13,10 @@
 
 namespace sagomi {
 
+class FoglioNodo;
 class OsservatoreProgetto;
+class Superficie;
+struct MascheraGiunti;
 
 /// Kinds of node.
 enum : std::int16_t { nodoCroce = 0, nodoCroceSenzaColonna = 1, nodoT = 2, nodoL = 3 };
@@ -96,6 +100,25 @@ public:
     /// @return false where a design found nothing or did not start: the joint is as it was
     bool EsegueCalcolo(OsservatoreProgetto* osservatore = nullptr);
 
+    // ---- drawing
+
+    std::string Uscita = "VIDEO"; ///< device of the drawings: "VIDEO", "STAMPANTE", "DXF", "DWG", "SVG"
+
+    /// Draws the current joint to scale: side view, front view of the plate, column of data.
+    /// @param oggetto  target of "VIDEO" and "STAMPANTE"; null for files and CAD
+    /// @param form     tells by Optvie whether the node has two beams
+    void PlottaInOggetto(Superficie* oggetto, const MascheraGiunti& form);
+    /// Puts `Uscita` and the target in force, with the font of printed sheets, and prepares the sheet. On the
+    /// screen and on paper both directions have one scale; for files and CAD a unit is a millimetre.
+    void PltInizializza(Superficie* oggetto, const MascheraGiunti& form);
+    /// The side view: column, beams, plate, bolts, welds, stiffeners; beam at the right for "TDx", "LDx",
+    /// "CroceDx", "Croce_Dx". Draws nothing before PltInizializza.
+    void PlottaGiuntoFlangiato();
+    /// The plate from the front, the beam behind it and the flange of the column. As above.
+    void PlottaProspettoGiunto();
+    /// The column of data, once a sheet; both views call for it.
+    void ScriviDati();
+
 private:
     [[nodiscard]] bool DueTravi() const { return NumeroGiunti == 2; }
     [[nodiscard]] std::shared_ptr<SezioneDoppioT>
@@ -110,6 +133,8 @@ private:
     [[nodiscard]] double BetaAnalitico();
     [[nodiscard]] double BetaDueTravi(double Vm);
     [[nodiscard]] double LunghezzaInclinata();
+
+    std::shared_ptr<FoglioNodo> foglio_; ///< that is being drawn
 };
 
 } // namespace sagomi

@@ -1,0 +1,131 @@
+#include "joints/FiguraGiunto.h"
+
+#include <cmath>
+#include <utility>
+
+#include "drawing/Grafica.h"
+#include "frame/Numeri.h"
+#include "joints/Nodo.h"
+
+namespace sagomi {
+
+namespace {
+
+std::string Cifre(double valore) {
+    std::string testo = FormatoCifre(4, valore);
+    return testo.erase(0, testo.find_first_not_of(' '));
+}
+
+std::string Unite(const std::vector<std::string>& nomi) {
+    std::string testo;
+    for (const std::string& nome : nomi)
+        testo += (testo.empty() ? "" : ", ") + nome;
+    return testo;
+}
+
+bool DueTravi(const Nodo& nodo) { return nodo.Tipovie == nodoCroce || nodo.Tipovie == nodoCroceSenzaColonna; }
+
+const Giunto* Quale(const Nodo& nodo, const Giunto* giunto) {
+    return giunto != nullptr ? giunto : nodo.ConnessioneCorrente.get();
+}
+
+std::string Misure(const Giunto& g) {
+    return Cifre(g.tf) + " x " + Cifre(g.bf) + " x " + Cifre(g.nf == 2 ? g.Trave->h + g.L + g.u : g.hf);
+}
+
+/// What is known, a line each.
+std::vector<std::string> Righe(const GeometriaNodo& geo, const Giunto* g) {
+    std::vector<std::string> righe;
+    if (geo.colonna.Presente())
+        righe.push_back("Colonna " + geo.colonna.nome);
+    if (geo.lato.trave.Presente())
+        righe.push_back("Trave " + geo.lato.trave.nome);
+    const std::vector<std::string> mancano = geo.Mancanze();
+    if (g != nullptr && geo.lato.Piastra() && geo.lato.bf > 0 && g->Trave)
+        righe.push_back("Flangia " + Misure(*g));
+    if (g != nullptr && geo.lato.trave.Presente() && g->Diam > 0)
+        righe.push_back("Bulloni M" + Cifre(g->Diam) + " " + g->Classe);
+    if (g != nullptr && geo.lato.Piastra() && g->Af > 0)
+        righe.push_back("af " + Cifre(g->Af) + "   aw " + Cifre(g->aw));
+    if (!mancano.empty())
+        righe.push_back((mancano.size() == 1 ? "Manca " : "Mancano ") + Unite(mancano));
+    if (g != nullptr && g->Acquisito)
+        righe.push_back("Mj,Rd " + Cifre(g->MplRdGIUNTO) + " kNm");
+    return righe;
+}
+
+void Vuoto() {
+    constexpr std::string_view testo = "Nessun sagomo assegnato";
+    Superficie* s = SuperficieInForza();
+    if (s == nullptr || !s->Limitata())
+        return;
+    s->Scale();
+    s->Predefiniti();
+    s->ScaleMode = Superficie::scalaUtente;
+    PennaPlt(pennaInchiostro);
+    TestoPlt(s->ScaleWidth / 2, s->ScaleHeight / 2, s->TextHeight("0"), testo, Allinea::Centro, Posa::Mezzo);
+}
+
+void Cornice(const std::vector<ZonaNodo>& zone, const ComponenteFila& scelto) {
+    for (const ZonaNodo& z : zone) {
+        if (z.quale.componente != scelto.componente)
+            continue;
+        const TracciaVista v(0, 0, 1, 1, 1);
+        PennaPlt(pennaInchiostro);
+        LineaStilePlt(2 * spessoreFine, TipoLinea::Tratteggiata, Estremi::Piatti);
+        v.Spezzata(z.contorno, true);
+    }
+}
+
+void Ricorda(TracciatoNodo& t, const FoglioNodo& foglio) {
+    t.zone = foglio.Zone();
+    if (const Superficie* s = SuperficieInForza(); s != nullptr) {
+        t.sinistra = s->ScaleLeft;
+        t.alto = s->ScaleTop;
+        t.larghezza = s->ScaleWidth;
+        t.altezza = s->ScaleHeight;
+    }
+    if (t.scelto.componente != ComponenteGiunto::Nessuno)
+        Cornice(t.zone, t.scelto);
+}
+
+} // namespace
+
+Disegno FiguraGiunto(const Nodo& nodo, const Giunto* giunto, const EvidenzaGiunto& evidenza,
+                     std::shared_ptr<TracciatoNodo> tracciato) {
+    const GeometriaNodo geometria(nodo, giunto, DueTravi(nodo));
+    const auto righe = Righe(geometria, Quale(nodo, giunto));
+    Disegno disegno{geometria.destro ? "Giunto destro" : "Giunto sinistro", {}, {420, 520}, {300, 320}};
+    disegno.PlottaInOggetto = [geometria, evidenza, righe, tracciato](Superficie* oggetto, std::string_view) {
+        const bool conta = tracciato && tracciato->attivo;
+        if (conta)
+            tracciato->zone.clear();
+        if (geometria.Vuota()) {
+            Vuoto();
+            return;
+        }
+        FoglioNodo foglio(geometria, UsoFoglio::Schermo, evidenza, righe);
+        foglio.Dispone(oggetto, Dispositivo);
+        foglio.VistaLaterale();
+        foglio.Prospetto();
+        foglio.Testi();
+        if (conta)
+            Ricorda(*tracciato, foglio);
+    };
+    return disegno;
+}
+
+std::string DescrizioneGiunto(const Nodo& nodo, const Giunto* giunto, const EvidenzaGiunto& evidenza) {
+    const GeometriaNodo geometria(nodo, giunto, DueTravi(nodo));
+    if (geometria.Vuota())
+        return "Nessun sagomo assegnato.";
+    std::string testo =
+        "Vista laterale e prospetto della flangia. " + Unite(Righe(geometria, Quale(nodo, giunto))) + ".";
+    if (!evidenza.testo.empty())
+        testo += " " + evidenza.testo + ".";
+    if (!evidenza.parametro.empty())
+        testo += " Fuori limite: " + evidenza.parametro + " " + evidenza.limite + ".";
+    return testo;
+}
+
+} // namespace sagomi

@@ -1,0 +1,368 @@
+// The views on the sheet of a joint.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "frame/Numeri.h"
+#include "joints/FoglioNodo.h"
+
+namespace sagomi {
+
+namespace {
+
+// In heights of the text.
+constexpr double primaQuota = 2.5;      ///< of dimension lines, from the piece
+constexpr double passoQuote = 2.7;      ///< from one to the next
+constexpr double altezzaSpessore = 4.2; ///< of the thickness of the plate, at least
+constexpr double distacco = 2;
+
+constexpr double sporgenzaBullone = 0.25; ///< of the thread beyond the nut, in diameters
+constexpr double assiForo = 0.75;         ///< of the axes of a hole, in its diameters
+
+std::string Mm(double valore) { return TestoPiano(std::round(valore * 10) / 10); }
+
+} // namespace
+
+// Side view ---------------------------------------------------------------------------------------------
+
+void FoglioNodo::VistaLaterale() const {
+    if (!tavola_)
+        return;
+    const TracciaVista v = Laterale();
+    if (g_.colonna.Presente())
+        Colonna(v);
+    if (g_.altro.trave.Presente())
+        Lato(TracciaVista(dove_[0].x, dove_[0].y, g_.destro ? -1.0 : 1.0, v.a(), tavola_->AltezzaTesto()),
+             g_.altro);
+    Lato(v, g_.lato);
+    Irrigidimenti(v);
+    QuoteLaterali(v);
+    if (!Schermo())
+        Richiami(v);
+    Evidenzia(v, false);
+}
+
+void FoglioNodo::Colonna(const TracciaVista& v) const {
+    const CampoNodo m = g_.Laterale();
+    const double x = g_.colonna.h / 2;
+    const double interna = x - g_.colonna.tf;
+    v.Area(CampoNodo{-x, m.y1, x, m.y2}.Contorno(), Fondo::Sfondo);
+    for (const double s : {-1.0, 1.0})
+        v.Area(CampoNodo{s * interna, m.y1, s * x, m.y2}.Contorno(), Fondo::Tenue);
+    TracciaVista::Contorno();
+    for (const double s : {-x, -interna, interna, x})
+        v.Linea({s, m.y1}, {s, m.y2});
+    if (!g_.sopra) {
+        TracciaVista::Contorno();
+        v.Linea({-x, m.y2}, {x, m.y2});
+    } else {
+        v.Rottura({-x, m.y2}, {x, m.y2});
+    }
+    v.Rottura({-x, m.y1}, {x, m.y1});
+    const bool entra = LarghezzaTestoPlt(tavola_->AltezzaTesto(), g_.colonna.nome) < 0.9 * 2 * interna;
+    if (entra)
+        v.Testo({0, m.y1 + distacco * v.a()}, g_.colonna.nome, Allinea::Centro);
+    else
+        v.Testo({-x - v.a(), m.y1 + v.a()}, g_.colonna.nome, Allinea::Destra);
+}
+
+void FoglioNodo::Lato(const TracciaVista& v, const LatoNodo& lato) const {
+    if (!lato.trave.Presente())
+        return;
+    Trave(v, lato);
+    if (lato.Piastra()) {
+        const CampoNodo piastra{lato.xColonna, lato.basso, lato.xTrave(), lato.alto};
+        v.Area(piastra.Contorno(), Fondo::Tenue);
+        TracciaVista::Contorno();
+        v.Campo(piastra);
+    }
+    Saldature(v, lato);
+    if (lato.Bulloni())
+        for (const FilaDisegnata& fila : lato.file)
+            Bullone(v, lato, fila.y);
+}
+
+void FoglioNodo::Trave(const TracciaVista& v, const LatoNodo& lato) const {
+    const ProfiloNodo& t = lato.trave;
+    const double x = lato.xTrave();
+    const CampoNodo m = g_.Laterale();
+    const double fine = &lato == &g_.lato ? m.x2 : -m.x1;
+    for (const double y : {-t.tf, -t.h})
+        v.Area(CampoNodo{x, y, fine, y + t.tf}.Contorno(), Fondo::Tenue);
+    TracciaVista::Contorno();
+    v.Linea({x, -t.h}, {x, 0});
+    for (const double y : {0.0, -t.tf, -t.h + t.tf, -t.h})
+        v.Linea({x, y}, {fine, y});
+    v.Rottura({fine, -t.h}, {fine, 0});
+    v.Testo({fine - v.a(), -t.h / 2}, t.nome, Allinea::Destra);
+}
+
+/// Head on the plate, nut and washer inside the column, the shank hidden between them.
+void FoglioNodo::Bullone(const TracciaVista& v, const LatoNodo& lato, double y) {
+    const double e = lato.larghezza / 2;
+    const double r = lato.d / 2;
+    const double dentro = lato.xColonna - lato.tfColonna;
+    const double rondella = dentro - lato.spessoreRondella;
+    const double dado = rondella - lato.dado;
+    const double testa = lato.xTrave();
+    const double cima = testa + lato.testa;
+    TracciaVista::Contorno();
+    for (const CampoNodo& c :
+         {CampoNodo{rondella, y - lato.rondella / 2, dentro, y + lato.rondella / 2},
+          CampoNodo{dado, y - e, rondella, y + e}, CampoNodo{testa, y - e, cima, y + e}}) {
+        v.Area(c.Contorno(), Fondo::Sfondo);
+        v.Area(c.Contorno(), Fondo::Tenue);
+        v.Campo(c);
+    }
+    const double fine = dado - sporgenzaBullone * lato.d;
+    v.Spezzata(std::array<PuntoNodo, 4>{{{dado, y - r}, {fine, y - r}, {fine, y + r}, {dado, y + r}}}, false);
+    TracciaVista::Fine();
+    for (const double s : {-e / 2, e / 2}) { // edges of the hexagon
+        v.Linea({dado, y + s}, {rondella, y + s});
+        v.Linea({testa, y + s}, {cima, y + s});
+    }
+    TracciaVista::Fine(TipoLinea::Tratteggiata);
+    for (const double s : {-r, r})
+        v.Linea({dentro, y + s}, {testa, y + s});
+    TracciaVista::Fine(TipoLinea::TrattoPunto);
+    v.Linea({fine - r, y}, {cima + r, y});
+}
+
+void FoglioNodo::Saldature(const TracciaVista& v, const LatoNodo& lato) {
+    for (const auto& cordone : lato.Cordoni()) {
+        TracciaVista::Contorno();
+        v.Area(cordone, Fondo::Pieno);
+    }
+    if (!lato.Piastra() || !(lato.aw > 0))
+        return;
+    const double x = lato.xTrave() + lato.aw * std::numbers::sqrt2;
+    const double tolto = lato.trave.tf + lato.Af * std::numbers::sqrt2;
+    TracciaVista::Fine();
+    v.Linea({x, -tolto}, {x, -lato.trave.h + tolto});
+}
+
+void FoglioNodo::Irrigidimenti(const TracciaVista& v) const {
+    for (const ContornoNodo& contorno : g_.irrigidimenti) {
+        v.Area(contorno, Fondo::Sfondo);
+        v.Area(contorno, Fondo::Tenue);
+        TracciaVista::Contorno();
+        v.Spezzata(contorno, true);
+    }
+}
+
+void FoglioNodo::QuoteLaterali(const TracciaVista& v) const {
+    const double a = v.a();
+    const CampoNodo m = g_.Laterale();
+    const LatoNodo& l = g_.lato;
+    if (l.Piastra()) {
+        const double y = std::max(l.Cima() + distacco * a, altezzaSpessore * a);
+        v.Spessore(l.xColonna, l.xTrave(), l.alto, y, Quota(0, l.tf, "tf", "tf"));
+    }
+    if (Schermo())
+        return;
+    const ProfiloNodo& t = l.trave;
+    if (t.Presente())
+        v.Verticali(m.x2, m.x2 + primaQuota * a, std::array{QuotaNodo{-t.h, 0, Mm(t.h)}});
+    if (g_.altro.trave.Presente())
+        v.Verticali(m.x1, m.x1 - primaQuota * a,
+                    std::array{QuotaNodo{-g_.altro.trave.h, 0, Mm(g_.altro.trave.h)}});
+    const double x = g_.colonna.h / 2;
+    if (g_.colonna.Presente())
+        v.Orizzontali(m.y1, m.y1 - primaQuota * a, std::array{QuotaNodo{-x, x, Mm(2 * x)}});
+}
+
+/// Bolts and welds are named inside the beam, the rows and the middle leave room there.
+void FoglioNodo::Richiami(const TracciaVista& v) const {
+    const LatoNodo& l = g_.lato;
+    const double a = v.a();
+    RichiamiIrrigidimenti(v);
+    if (!l.Piastra())
+        return;
+    const double x = l.xTrave() + l.testa;
+    if (l.Bulloni()) {
+        const std::string quanti = std::to_string(2 * l.file.size()) + " M" + Mm(l.d);
+        v.Richiamo({x, l.Fila(FilaGiunto::Interna)}, {x + distacco * a, l.Fila(FilaGiunto::Interna)}, quanti);
+    }
+    if (l.aw > 0) {
+        const double y = -l.trave.h - l.Fila(FilaGiunto::Interna);
+        const double basso = std::min(y, -l.trave.h / 2 - 1.5 * a);
+        v.Richiamo({l.xTrave() + l.aw, basso}, {x + distacco * a, basso}, "aw " + Mm(l.aw));
+    }
+    const auto cordoni = l.Cordoni();
+    if (cordoni.empty())
+        return;
+    const PuntoNodo c{(cordoni[0][0].x + cordoni[0][1].x) / 2, (cordoni[0][0].y + cordoni[0][2].y) / 2};
+    v.Richiamo(c, {x + distacco * a, 1.8 * a}, "af " + Mm(l.Af));
+}
+
+void FoglioNodo::RichiamiIrrigidimenti(const TracciaVista& v) const {
+    if (g_.irrigidimenti.empty())
+        return;
+    const double a = v.a();
+    const std::string misure = Mm(g_.larghezzaIrr) + " x " + Mm(g_.spessoreIrr) + " x ";
+    const double x = -g_.colonna.h / 2 - distacco * a;
+    const double fondo = std::min(g_.lato.Fondo(), g_.altro.Fondo());
+    const double cima = std::max(g_.lato.Cima(), g_.altro.Cima());
+    const auto nomina = [&](const ContornoNodo& c, double y, const std::string& testo) {
+        const PuntoNodo da{(c[2].x + 3 * c[1].x) / 4, (c[2].y + 3 * c[1].y) / 4};
+        v.Richiamo(da, {x, y}, testo);
+    };
+    const std::string gola = g_.golaIrr > 0 ? ", a " + Mm(g_.golaIrr) : "";
+    nomina(g_.irrigidimenti[0], fondo - distacco * a, "2 " + misure + Mm(g_.lunghezzaIrr) + gola);
+    if (g_.irrigidimenti.size() > 1)
+        nomina(g_.irrigidimenti[1], cima + distacco * a, "2 " + misure + Mm(g_.lunghezzaSup) + gola);
+}
+
+// Front view --------------------------------------------------------------------------------------------
+
+void FoglioNodo::Prospetto() const {
+    if (!tavola_ || g_.Vuota())
+        return;
+    const TracciaVista v = Frontale();
+    if (g_.colonna.Presente())
+        AlaColonna(v);
+    if (g_.lato.Piastra() && g_.lato.bf > 0)
+        Piastra(v);
+    if (g_.lato.trave.Presente())
+        SezioneTrave(v);
+    if (g_.lato.Forata())
+        Fori(v);
+    QuoteFrontali(v);
+    QuoteOrizzontali(v);
+    Evidenzia(v, true);
+}
+
+/// The flange of the column lies in front of the plate: as an adjacent part, ISO 128-2 line type 05.1.
+void FoglioNodo::AlaColonna(const TracciaVista& v) const {
+    const CampoNodo m = g_.Prospetto();
+    const double x = g_.colonna.b / 2;
+    TracciaVista::Fine(TipoLinea::TrattoPuntoCorto);
+    for (const double s : {-x, x})
+        v.Linea({s, m.y1}, {s, m.y2});
+    if (!g_.sopra)
+        v.Linea({-x, m.y2}, {x, m.y2});
+}
+
+void FoglioNodo::Piastra(const TracciaVista& v) const {
+    const CampoNodo p{-g_.lato.bf / 2, g_.lato.basso, g_.lato.bf / 2, g_.lato.alto};
+    v.Area(p.Contorno(), Fondo::Tenue);
+    TracciaVista::Contorno();
+    v.Campo(p);
+}
+
+/// Behind the plate, so hidden; in sight where there is no plate yet.
+void FoglioNodo::SezioneTrave(const TracciaVista& v) const {
+    const ProfiloNodo& t = g_.lato.trave;
+    const double b = t.b / 2;
+    const double w = t.tw / 2;
+    const std::array<PuntoNodo, 12> contorno{{{-b, 0},
+                                              {b, 0},
+                                              {b, -t.tf},
+                                              {w, -t.tf},
+                                              {w, -t.h + t.tf},
+                                              {b, -t.h + t.tf},
+                                              {b, -t.h},
+                                              {-b, -t.h},
+                                              {-b, -t.h + t.tf},
+                                              {-w, -t.h + t.tf},
+                                              {-w, -t.tf},
+                                              {-b, -t.tf}}};
+    if (g_.lato.Piastra() && g_.lato.bf > 0)
+        TracciaVista::Fine(TipoLinea::Tratteggiata);
+    else
+        TracciaVista::Contorno();
+    PennaPlt(pennaInchiostro);
+    v.Spezzata(contorno, true);
+}
+
+void FoglioNodo::Fori(const TracciaVista& v) const {
+    const LatoNodo& l = g_.lato;
+    const double braccio = assiForo * l.d0;
+    for (const FilaDisegnata& fila : l.file)
+        for (const double x : {-l.xFori, l.xFori}) {
+            TracciaVista::Contorno();
+            v.Cerchio({x, fila.y}, l.d0 / 2);
+            TracciaVista::Fine();
+            v.Linea({x - braccio, fila.y}, {x + braccio, fila.y});
+            v.Linea({x, fila.y - braccio}, {x, fila.y + braccio});
+        }
+}
+
+QuotaNodo FoglioNodo::Quota(double da, double a, const char* campo, const char* nome) const {
+    QuotaNodo q{da, a, Mm(std::abs(a - da))};
+    if (Schermo() && *nome != '\0')
+        q.testo = std::string(nome) + " " + q.testo;
+    q.rosso = *campo != '\0' && evidenza_.parametro == campo;
+    if (q.rosso && !evidenza_.limite.empty())
+        q.testo += " (" + evidenza_.limite + ")";
+    return q;
+}
+
+/// At the right the holes from edge to edge and the whole plate, at the left the holes from the beam.
+void FoglioNodo::QuoteFrontali(const TracciaVista& v) const {
+    const LatoNodo& l = g_.lato;
+    if (!l.Piastra())
+        return;
+    const double a = v.a();
+    const double destra = g_.Prospetto().x2;
+    const double piastra = l.bf > 0 ? l.bf / 2 : l.trave.b / 2;
+    const ProfiloNodo& t = l.trave;
+    std::vector<QuotaNodo> fori;
+    std::vector<QuotaNodo> trave;
+    const auto aggiunge = [this](std::vector<QuotaNodo>& catena, double da, double aY, const char* campo,
+                                 const char* nome) {
+        if (std::abs(aY - da) > 0.05)
+            catena.push_back(Quota(da, aY, campo, nome));
+    };
+    if (l.Bulloni()) {
+        const double interna = l.Fila(FilaGiunto::Interna);
+        const double esterna = l.Fila(FilaGiunto::Esterna);
+        const bool due = l.nf == 2 && l.dX > 0;
+        aggiunge(fori, due ? esterna : interna, l.alto, due ? "ex" : "", due ? "ex" : "");
+        if (due)
+            aggiunge(fori, interna, esterna, "", "");
+        aggiunge(fori, l.file.back().y, interna, "", "p");
+        aggiunge(fori, l.basso, l.file.back().y, "", "");
+        aggiunge(trave, 0, l.dX, "dX", "d2");
+        aggiunge(trave, -t.tf, interna, "d2", "d1");
+    }
+    aggiunge(trave, -t.h, -t.h - l.u, "u", "u");
+    v.Verticali(piastra, destra + primaQuota * a, fori);
+    v.Verticali(piastra, destra + (primaQuota + 1.9 * passoQuote) * a,
+                std::array{Quota(l.basso, l.alto, "hf", "hf")});
+    if (evidenza_.parametro == "L" && l.nf == 2)
+        aggiunge(trave, 0, l.alto, "L", "h'");
+    v.Verticali(-piastra, -destra - primaQuota * a, trave);
+}
+
+void FoglioNodo::QuoteOrizzontali(const TracciaVista& v) const {
+    const LatoNodo& l = g_.lato;
+    const double b = l.bf / 2;
+    const double y = g_.Prospetto().y1;
+    double livello = y - primaQuota * v.a();
+    if (l.Forata()) {
+        v.Orizzontali(l.basso, livello,
+                      std::array{Quota(-b, -l.xFori, "ef", "ef"), Quota(-l.xFori, l.xFori, "w", "w"),
+                                 Quota(l.xFori, b, "", "")});
+        livello -= passoQuote * v.a();
+    }
+    if (l.Piastra() && l.bf > 0) {
+        v.Orizzontali(l.basso, livello, std::array{Quota(-b, b, "bf", "bf")});
+        livello -= passoQuote * v.a();
+    }
+    const double c = g_.colonna.b / 2;
+    if (!Schermo() && g_.colonna.Presente())
+        v.Orizzontali(y, livello, std::array{QuotaNodo{-c, c, Mm(2 * c)}});
+}
+
+void FoglioNodo::Evidenzia(const TracciaVista& v, bool frontale) const {
+    for (const ComponenteFila& quale : evidenza_.governano)
+        for (const ContornoNodo& zona : frontale ? g_.ZoneFrontali(quale) : g_.ZoneLaterali(quale)) {
+            v.Tratteggia(zona, pennaGoverna);
+            TracciaVista::Rossa();
+            v.Spezzata(zona, true);
+        }
+}
+
+} // namespace sagomi
