@@ -32,6 +32,13 @@ QColor RossoSu(const QColor& fondo) {
     return red;
 }
 
+QColor Leggibile(const QColor& inchiostro, const QColor& fondo) {
+    QColor ink = inchiostro;
+    while (!Scuro(fondo) && ink.value() > 0 && Contrasto(ink, fondo) < contrastoLeggibile)
+        ink = QColor::fromHsv(ink.hsvHue(), ink.hsvSaturation(), ink.value() - 1).toRgb();
+    return ink;
+}
+
 QColor Velo(const QColor& fondo, const QColor& tinta, float parte) {
     const auto mix = [parte](float a, float b) { return a + (b - a) * parte; };
     return QColor::fromRgbF(mix(fondo.redF(), tinta.redF()), mix(fondo.greenF(), tinta.greenF()),

@@ -13,6 +13,9 @@ inline constexpr double contrastoLeggibile = 4.5;
 /// The red of verdicts and of what governs: plain on a light ground; on a dark one light enough to be read.
 QColor RossoSu(const QColor& fondo);
 
+/// An ink as it is painted on a light ground: itself where it can be read there, else so much darker.
+QColor Leggibile(const QColor& inchiostro, const QColor& fondo);
+
 /// Whether texts on this ground have to be light.
 bool Scuro(const QColor& fondo);
 
