@@ -1,5 +1,9 @@
 #include "frame/ui/EtichettaRisultato.h"
 
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
 #include <algorithm>
 
 #include "frame/Numeri.h"
@@ -11,6 +15,7 @@ namespace sagomi {
 namespace {
 
 constexpr int margine = 3; ///< between text and frame [px]
+constexpr int stanza = 2;  ///< more height, as a box has it [px]
 
 } // namespace
 
@@ -54,15 +59,35 @@ void EtichettaRisultato::paintEvent(QPaintEvent* event) {
     DipintoProtetto(this, [this] {
         if (indent() != Rientro())
             setIndent(Rientro());
+        if (frameShape() != QFrame::NoFrame)
+            DipingeCornice();
     });
     EtichettaSimbolo::paintEvent(event);
+}
+
+void EtichettaRisultato::initStyleOption(QStyleOptionFrame* option) const {
+    EtichettaSimbolo::initStyleOption(option);
+    option->frameShape = QFrame::NoFrame;
+}
+
+// Results look alike, whether they stand in a label or in a box that is read only.
+void EtichettaRisultato::DipingeCornice() {
+    QPainter painter(this);
+    QStyleOptionFrame frame;
+    frame.initFrom(this);
+    frame.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, this);
+    frame.state.setFlag(QStyle::State_HasFocus, false);
+    frame.state |= QStyle::State_Sunken | QStyle::State_ReadOnly;
+    frame.palette.setBrush(QPalette::Base, palette().brush(QPalette::Window));
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, this);
 }
 
 QSize EtichettaRisultato::sizeHint() const {
     const int border = 2 * (margine + frameWidth());
     const int figures = fontMetrics().horizontalAdvance(u'0') * caratteri_ + border;
     const int content = EtichettaSimbolo::sizeHint().width() - std::max(indent(), 0) + Rientro();
-    return {std::max(content, figures), fontMetrics().height() + border};
+    const int room = frameShape() == QFrame::NoFrame ? 0 : stanza;
+    return {std::max(content, figures), fontMetrics().height() + border + room};
 }
 
 } // namespace sagomi

@@ -4,9 +4,9 @@
 
 namespace sagomi {
 
-/// A label that shows a result: right-aligned in a thin frame, at least as wide as its content asks, its text
-/// to be copied from. It stands outside the tab order. In a column the decimals of its numbers line up with
-/// those above and below.
+/// A label that shows a result: right-aligned in the thin frame of a box that is read only, at least as wide
+/// as its content asks, its text to be copied from. It stands outside the tab order. In a column the decimals
+/// of its numbers line up with those above and below.
 class EtichettaRisultato : public EtichettaSimbolo {
     Q_OBJECT
     Q_PROPERTY(int caratteri READ Caratteri WRITE ImpostaCaratteri)
@@ -27,9 +27,12 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    /// No frame of a label's own: it is painted as that of a box.
+    void initStyleOption(QStyleOptionFrame* option) const override;
 
 private:
     [[nodiscard]] int Rientro() const;
+    void DipingeCornice();
 
     int caratteri_ = 7;
     int decimali_ = -1;

@@ -3,6 +3,10 @@
 #include <QLocale>
 #include <gtest/gtest.h>
 
+#include "frame/ui/Casella.h"
+#include "frame/ui/Colori.h"
+#include "frame/ui/Esito.h"
+
 using namespace sagomi;
 
 namespace {
@@ -16,6 +20,38 @@ TEST(EtichettaRisultato, IsAsWideAsItsFiguresAskWhateverItShows) {
     EXPECT_EQ(label.sizeHint().width(), empty);
     label.setText(QStringLiteral("Effettivo  1,234,567"));
     EXPECT_GT(label.sizeHint().width(), empty) << "never clipped";
+}
+
+TEST(EtichettaRisultato, LooksLikeABoxThatIsReadOnly) {
+    Casella box;
+    box.ImpostaRisultato(true);
+    EtichettaRisultato label;
+    EXPECT_EQ(label.sizeHint().height(), box.sizeHint().height());
+    for (QWidget* result : std::initializer_list<QWidget*>{&box, &label})
+        result->resize(90, box.sizeHint().height());
+    EXPECT_EQ(label.grab().toImage(), box.grab().toImage());
+    label.setFrameShape(QFrame::NoFrame);
+    EXPECT_NE(label.grab().toImage(), box.grab().toImage()) << "in a line of a formula it is bare";
+}
+
+// The palette has the red of the models, whose contrast on white is 4.0.
+TEST(EtichettaRisultato, PaintsAVerdictSoThatItCanBeRead) {
+    EtichettaRisultato label;
+    QFont big = label.font();
+    big.setPointSize(40);
+    label.setFont(big);
+    label.resize(label.sizeHint());
+    MostraEsito(&label, 2);
+    const QImage image = label.grab().toImage();
+    double best = 0;
+    for (int x = 0; x < image.width(); ++x)
+        for (int y = 0; y < image.height(); ++y) {
+            const QColor c = image.pixelColor(x, y);
+            EXPECT_NE(c, QColor(255, 0, 0));
+            if (c.red() > 200 && c.green() == 0)
+                best = std::max(best, Contrasto(c, Qt::white));
+        }
+    EXPECT_GE(best, contrastoLeggibile);
 }
 
 TEST(EtichettaRisultato, CanBeCopiedFromAndStaysOutOfTheTabOrder) {
