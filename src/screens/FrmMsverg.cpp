@@ -60,35 +60,35 @@ QString Titolo(int classe) {
 /// The interaction with its two forms of the moments' terms: as they are, and with the shift of the centroid.
 Formula Interazione() {
     return {.termini =
-                {{.sopra = {{"", "N", "Sd"}},
-                  .sotto = {{"", "N", "b,z,Rd"}},
+                {{.sopra = {{"", "N", "Sd"}, unitaN},
+                  .sotto = {{"", "N", "b,z,Rd"}, unitaN},
                   .valoreSopra = VoceValore("LblNsd", "Forza assiale di progetto [kN]", "NSd [kN]"),
                   .valoreSotto = VoceValore(
                       "LblNbzRd", "Resistenza all'instabilità per inflessione intorno a z-z [kN], EC3 6.3.1",
                       "Nb,z,Rd [kN]")},
-                 {.sopra = {{"", "k", "LT"}, {"", "M", "y,Sd"}},
-                  .sotto = {{"", "M", "b,Rd"}},
+                 {.sopra = {{"", "k", "LT"}, {"", "M", "y,Sd"}, unitaM},
+                  .sotto = {{"", "M", "b,Rd"}, unitaM},
                   .valoreSopra = VoceValore(
                       "LblKLTMySd", "Fattore kLT per il momento intorno a y-y [kNm], ENV 1993-1-1 5.5.4 (2)",
                       "kLT My,Sd", cifreProdotto),
                   .valoreSotto = VoceValore(
                       "LblMbRd", "Resistenza all'instabilità flesso-torsionale [kNm], ENV 1993-1-1 5.5.2",
                       "Mb,Rd [kNm]"),
-                  .altro = TermineSpostato("LT", true),
+                  .altro = Con(unitaM, TermineSpostato("LT", true)),
                   .valoreAltro = VoceValore("LakLTMySd4",
                                             "Fattore kLT per il momento intorno a y-y con lo spostamento del "
                                             "baricentro [kNm], ENV 1993-1-1 5.5.4 (6)",
                                             "kLT (My,Sd + NSd eNy)", cifreProdotto),
                   .piu = "LblValPiu1"},
-                 {.sopra = {{"", "k", "z"}, {"", "M", "z,Sd"}},
-                  .sotto = {{"", "M", "c,z,Rd"}},
+                 {.sopra = {{"", "k", "z"}, {"", "M", "z,Sd"}, unitaM},
+                  .sotto = {{"", "M", "c,z,Rd"}, unitaM},
                   .valoreSopra = VoceValore(
                       "LblkzMzSd", "Fattore kz per il momento intorno a z-z [kNm], ENV 1993-1-1 5.5.4 (2)",
                       "kz Mz,Sd", cifreProdotto),
                   .valoreSotto = VoceValore(
                       "LblMczRd", "Momento resistente intorno a z-z, con GammaM1 [kNm], ENV 1993-1-1 5.5.4",
                       "Mc,z,Rd [kNm]"),
-                  .altro = TermineSpostato("z", false),
+                  .altro = Con(unitaM, TermineSpostato("z", false)),
                   .valoreAltro = VoceValore("LblkzMzSd4",
                                             "Fattore kz per il momento intorno a z-z con lo spostamento del "
                                             "baricentro [kNm], ENV 1993-1-1 5.5.4 (6)",
@@ -234,6 +234,7 @@ void FrmMsverg::MostraInterazione() {
     Mostra(f.Sotto(2), figura, Nmm_a_kNm(t.z.MRd));
     const Verdetto v = Giudizio(s);
     ui_->formula->MostraSomma(v.somma, v.utilizzo);
+    ui_->formula->Evidenzia(TermineDi(v));
     ui_->verdetto->Mostra(v);
 }
 

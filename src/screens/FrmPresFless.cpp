@@ -382,6 +382,7 @@ void FrmPresFless::MostraInterazione() {
     Mostra(line->Sopra(1), figura, t.y.Valore());
     Mostra(line->Sopra(2), figura, t.z.Valore());
     line->MostraSomma(v.somma);
+    line->Evidenzia(TermineDi(v));
     MostraEsito(ui_->Lbl_Risultato, v.utilizzo);
     ui_->verdetto->Mostra(v);
 }

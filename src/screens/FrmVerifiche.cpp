@@ -22,8 +22,8 @@ void MostraM(QLabel* label, double moment) { Mostra(label, "0.0##", Nmm_a_kNm(mo
 Formula FormulaPlastica() {
     return {
         .termini =
-            {{.sopra = {{"", "M", "y,Sd"}},
-              .sotto = {{"", "M", "N,y,Rd"}},
+            {{.sopra = {{"", "M", "y,Sd"}, unitaM},
+              .sotto = {{"", "M", "N,y,Rd"}, unitaM},
               .valoreSopra = VoceValore("LblMysd", "Momento di progetto intorno a y-y [kNm]", "My,Sd [kNm]"),
               .valoreSotto =
                   VoceValore("LblMNyRd", "Momento plastico ridotto da N intorno a y-y [kNm], EC3 6.2.9.1",
@@ -31,8 +31,8 @@ Formula FormulaPlastica() {
               .esponente = {"LblSimAlfa", "α"},
               .valoreEsponente =
                   VoceValore("lblAlfa", "Esponente del termine di My, EC3 6.2.9.1", "alfa", 1)},
-             {.sopra = {{"", "M", "z,Sd"}},
-              .sotto = {{"", "M", "N,z,Rd"}},
+             {.sopra = {{"", "M", "z,Sd"}, unitaM},
+              .sotto = {{"", "M", "N,z,Rd"}, unitaM},
               .valoreSopra = VoceValore("LblMzsd", "Momento di progetto intorno a z-z [kNm]", "Mz,Sd [kNm]"),
               .valoreSotto =
                   VoceValore("LblMNzRd", "Momento plastico ridotto da N intorno a z-z [kNm], EC3 6.2.9.1",
@@ -47,20 +47,20 @@ Formula FormulaPlastica() {
 }
 
 Formula FormulaElastica() {
-    return {.termini = {{.sopra = {{"", "N", "Sd"}},
-                         .sotto = {{"", "N", "pl,Rd"}},
+    return {.termini = {{.sopra = {{"", "N", "Sd"}, unitaN},
+                         .sotto = {{"", "N", "pl,Rd"}, unitaN},
                          .valoreSopra = VoceValore("LblNsd", "Forza assiale di progetto [kN]", "NSd [kN]"),
                          .valoreSotto = VoceValore("LblNrd", "Resistenza a forza assiale [kN], EC3 6.2.4",
                                                    "Npl,Rd [kN]")},
-                        {.sopra = {{"", "M", "y,Sd"}},
-                         .sotto = {{"", "M", "el,y,Rd"}},
+                        {.sopra = {{"", "M", "y,Sd"}, unitaM},
+                         .sotto = {{"", "M", "el,y,Rd"}, unitaM},
                          .valoreSopra =
                              VoceValore("LblMsdy", "Momento di progetto intorno a y-y [kNm]", "My,Sd [kNm]"),
                          .valoreSotto = VoceValore(
                              "LblMry", "Momento elastico intorno a y-y [kNm], EC3 6.2.5", "Mel,y,Rd [kNm]"),
                          .piu = "LblValPiu20"},
-                        {.sopra = {{"", "M", "z,Sd"}},
-                         .sotto = {{"", "M", "el,z,Rd"}},
+                        {.sopra = {{"", "M", "z,Sd"}, unitaM},
+                         .sotto = {{"", "M", "el,z,Rd"}, unitaM},
                          .valoreSopra =
                              VoceValore("LblMsdz", "Momento di progetto intorno a z-z [kNm]", "Mz,Sd [kNm]"),
                          .valoreSotto = VoceValore(
@@ -74,14 +74,14 @@ Formula FormulaElastica() {
 Formula FormulaEfficace() {
     return {
         .termini =
-            {{.sopra = {{"", "N", "Sd"}},
-              .sotto = {{"", "N", "pl,Rd"}},
+            {{.sopra = {{"", "N", "Sd"}, unitaN},
+              .sotto = {{"", "N", "pl,Rd"}, unitaN},
               .valoreSopra = VoceValore("LblNsd4", "Forza assiale di progetto [kN]", "NSd [kN]"),
               .valoreSotto =
                   VoceValore("LblNrd4", "Resistenza a forza assiale con l'area efficace [kN], EC3 6.2.4",
                              "Npl,Rd [kN]")},
-             {.sopra = MomentoSpostato(true),
-              .sotto = {{"", "M", "c,y,Rd"}},
+             {.sopra = Con(unitaM, MomentoSpostato(true)),
+              .sotto = {{"", "M", "c,y,Rd"}, unitaM},
               .valoreSopra = VoceValore(
                   "LblMsdy4", "Momento intorno a y-y con lo spostamento del baricentro [kNm], EC3 6.2.9.3",
                   "My,Sd + NSd eNy [kNm]"),
@@ -90,8 +90,8 @@ Formula FormulaEfficace() {
                   "Momento resistente intorno a y-y della sezione nella sua classe [kNm], EC3 6.2.5",
                   "Mc,y,Rd [kNm]"),
               .piu = "LblValPiu31"},
-             {.sopra = MomentoSpostato(false),
-              .sotto = {{"", "M", "c,z,Rd"}},
+             {.sopra = Con(unitaM, MomentoSpostato(false)),
+              .sotto = {{"", "M", "c,z,Rd"}, unitaM},
               .valoreSopra = VoceValore(
                   "LblMsdz4", "Momento intorno a z-z con lo spostamento del baricentro [kNm], EC3 6.2.9.3",
                   "Mz,Sd + NSd eNz [kNm]"),
@@ -174,6 +174,7 @@ void FrmVerifiche::MostraPlastica(const TerminiInterazione& t, const Verdetto& v
     MostraM(f.Sopra(1), t.z.MSd);
     MostraM(f.Sotto(1), t.z.MRd);
     ui_->formula1->MostraSomma(v.somma, v.utilizzo);
+    ui_->formula1->Evidenzia(TermineDi(v) - 1); // the first term is that of My
 }
 
 void FrmVerifiche::MostraElastica(const TerminiInterazione& t, const Verdetto& v) {
@@ -185,6 +186,7 @@ void FrmVerifiche::MostraElastica(const TerminiInterazione& t, const Verdetto& v
     MostraM(f.Sopra(2), t.z.MSd);
     MostraM(f.Sotto(2), t.z.MRd);
     ui_->formula2->MostraSomma(v.somma, v.utilizzo);
+    ui_->formula2->Evidenzia(TermineDi(v));
 }
 
 // The moments carry the shift of the effective section's centroid.
@@ -197,6 +199,7 @@ void FrmVerifiche::MostraEfficace(const TerminiInterazione& t, const Verdetto& v
     MostraM(f.Sopra(2), t.z.M());
     MostraM(f.Sotto(2), t.z.MRd);
     ui_->formula3->MostraSomma(v.somma, v.utilizzo);
+    ui_->formula3->Evidenzia(TermineDi(v));
 }
 
 } // namespace sagomi

@@ -24,6 +24,8 @@ QString Nome(TermineVerifica termine) {
 
 } // namespace
 
+int TermineDi(const Verdetto& verdetto) { return static_cast<int>(verdetto.governa) - 1; }
+
 void RigaVerdetto::Mostra(const Verdetto& verdetto) {
     const double used =
         std::isfinite(verdetto.utilizzo) ? verdetto.utilizzo : std::numeric_limits<double>::quiet_NaN();

@@ -6,6 +6,16 @@
 
 namespace sagomi {
 
+/// Units, behind the symbols of a term.
+inline constexpr Dicitura unitaN{"", " [kN]"};
+inline constexpr Dicitura unitaM{"", " [kNm]"};
+
+/// Symbols with their unit.
+inline std::vector<Dicitura> Con(const Dicitura& unita, std::vector<Dicitura> simboli) {
+    simboli.push_back(unita);
+    return simboli;
+}
+
 /// Symbols of a moment with the axial force on the shift of the effective section's centroid:
 /// "My,Sd + NSd eNy", or with "Mz,Sd" and "eNz".
 inline std::vector<Dicitura> MomentoSpostato(bool y) {

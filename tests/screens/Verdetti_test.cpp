@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "frame/ui/LineaFormula.h"
 #include "frame/ui/UpDown.h"
 #include "screens/Comandi.h"
 
@@ -110,6 +111,29 @@ TEST_F(VerdettiTest, ForceBeyondBucklingOrTensionIsNo) {
     }
 }
 
+bool InGrassetto(const Schermo& f, const char* name) { return Trova<QLabel>(&f, name)->font().bold(); }
+
+// The units of a line stand in its symbols; the term that governs is marked in each of the lines.
+TEST_F(VerdettiTest, LinesShowUnitsAndWhatGoverns) {
+    auto& s = Ipe500();
+    auto& f = Dettaglio(s, "FrmVerifiche");
+    Scrive(&f, "TxtMysd", "300");
+    Scrive(&f, "TxtMzsd", "5");
+    EXPECT_TRUE(InGrassetto(f, "LblMNyRd"));
+    EXPECT_FALSE(InGrassetto(f, "LblMNzRd"));
+    Scrive(&f, "TxtMysd", "0");
+    EXPECT_FALSE(InGrassetto(f, "LblMNyRd"));
+    EXPECT_TRUE(InGrassetto(f, "LblMNzRd"));
+    auto& m = Dettaglio(s, "FrmMsverg");
+    for (Schermo* screen : {&f, &m})
+        for (const auto* line : screen->findChildren<LineaFormula*>()) {
+            int units = 0;
+            for (const auto* label : line->findChildren<QLabel*>())
+                units += label->text().startsWith(" [kN") ? 1 : 0;
+            EXPECT_GE(units, 4) << "two of each term";
+        }
+}
+
 // N 1200 kN in tension 1200/2585 = 0.464, My and Mz beside it 0.7 and 0.2: the sum shown is negative or
 // small.
 TEST_F(VerdettiTest, SignsThatCancelDoNotPass) {
@@ -124,11 +148,14 @@ TEST_F(VerdettiTest, SignsThatCancelDoNotPass) {
     EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "NO");
     EXPECT_NE(Scritta(&f, "LblMotivo").find("valore assoluto"), std::string::npos);
     EXPECT_NE(Scritta(&f, "LblUtilizzo").find("(governa My)"), std::string::npos);
+    EXPECT_TRUE(InGrassetto(f, "LblMbRd")) << "marked in the line, too";
+    EXPECT_FALSE(InGrassetto(f, "LblNbzRd"));
     Scrive(&f, "TxtMzsd", "0");
     Scrive(&f, "TxtNsd", "-1200");
     EXPECT_LT(Numero(&f, "Lbl_Risult"), 0.3);
     EXPECT_EQ(Scritta(&f, "Lbl_Risultato"), "NO");
     Scrive(&f, "Txt_L", "-1");
+    EXPECT_FALSE(InGrassetto(f, "LblMbRd")) << "of no sum nothing governs";
     for (const char* empty : {"Lbl_Mcr", "Lbl_Risult", "Lbl_Risultato", "LblMotivo", "LblUtilizzo"})
         EXPECT_EQ(Scritta(&f, empty), "") << empty;
 }

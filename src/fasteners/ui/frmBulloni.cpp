@@ -399,6 +399,11 @@ void frmBulloni::Interazione() {
     ui_->verdetto->Mostra(v.utilizzo, Nome(v.governa), QString::fromStdString(v.Motivo()));
     regole_.Applica();
     regole_.SvuotaRisultati();
+    const bool shown = !ui_->Lbl_Risultato_0->text().isEmpty();
+    const int governs = v.governa == TermineBullone::Taglio     ? 0
+                        : v.governa == TermineBullone::Trazione ? 1
+                                                                : -1;
+    ui_->Lbl_Risultato_0->Evidenzia(shown ? governs : -1, Nome(v.governa));
 }
 
 void frmBulloni::MostraSomma() {

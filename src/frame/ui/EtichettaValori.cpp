@@ -25,6 +25,17 @@ EtichettaValori::EtichettaValori(QWidget* parent) : EtichettaRisultato(parent) {
     setTextInteractionFlags(Qt::NoTextInteraction); // a selection would stand elsewhere than its text
 }
 
+void EtichettaValori::Evidenzia(int termine, const QString& nome) {
+    governa_ = termine;
+    setAccessibleDescription(termine < 0 ? QString() : tr("Termine che governa: ") + nome);
+    for (int i = 0; i + 1 < simboli_.size(); ++i) {
+        QFont font = simboli_[i]->font();
+        font.setBold(i == termine);
+        simboli_[i]->setFont(font);
+    }
+    update();
+}
+
 void EtichettaValori::paintEvent(QPaintEvent* event) {
     const QStringList pieces = Pezzi(text());
     if (pieces.isEmpty() || pieces.size() != simboli_.size())
@@ -47,7 +58,11 @@ void EtichettaValori::Dipinge() {
         if (i > 0)
             write(piu.trimmed(), end, start, Qt::AlignHCenter);
         end = start + simboli_[i]->width();
+        QFont font = this->font();
+        font.setBold(i == governa_);
+        painter.setFont(font);
         write(pieces[i].trimmed(), start, end, Qt::AlignHCenter);
+        painter.setFont(this->font());
     }
     write(uguale.mid(1) + pieces.last().trimmed(), Inizio(simboli_.last()), width(), Qt::AlignLeft);
 }

@@ -16,6 +16,11 @@ public:
     /// Siblings above the label: the symbol of each term, last the one behind the sum, where the sum begins.
     void Sotto(const QList<QWidget*>& simboli) { simboli_ = simboli; }
 
+    /// Marks the term that governs: bold, its symbol too, and named in the description.
+    /// @param termine  from 0; -1 for none
+    /// @param nome     what a screen reader says of it
+    void Evidenzia(int termine, const QString& nome = {});
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
@@ -24,6 +29,7 @@ private:
     void Dipinge();
 
     QList<QWidget*> simboli_;
+    int governa_ = -1;
 };
 
 } // namespace sagomi

@@ -29,17 +29,6 @@ QFrame* CreaLinea() {
     return line;
 }
 
-/// Symbols side by side; signs and brackets are centred in their room.
-QHBoxLayout* CreaSimboli(const std::vector<Dicitura>& symbols) {
-    auto* row = new QHBoxLayout;
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(2);
-    for (const Dicitura& s : symbols)
-        row->addWidget(
-            CreaDicitura(s, *s.pedice == '\0' ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter));
-    return row;
-}
-
 QWidget* InUnWidget(QHBoxLayout* row) {
     auto* widget = new QWidget;
     widget->setLayout(row);
@@ -51,6 +40,12 @@ EtichettaRisultato* CreaNudo(const Voce& voce, Qt::Alignment alignment) {
     value->setFrameShape(QFrame::NoFrame);
     value->setAlignment(alignment);
     return value;
+}
+
+void Ingrassa(QWidget* label, bool bold) {
+    QFont font = label->font();
+    font.setBold(bold);
+    label->setFont(font);
 }
 
 QString NomeSimbolo(const char* valore) {
@@ -108,7 +103,22 @@ void LineaFormula::PosaSegno(const char* segno, const char* nome, int colonna) {
     griglia_->addWidget(CreaDicitura({nome, segno}, Qt::AlignCenter), rigaValori, colonna, RigheValori(), 1);
 }
 
+/// Symbols side by side; signs and brackets are centred in their room.
+QHBoxLayout* LineaFormula::CreaSimboli(const std::vector<Dicitura>& simboli) {
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(2);
+    for (const Dicitura& s : simboli) {
+        QLabel* symbol =
+            CreaDicitura(s, *s.pedice == '\0' ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+        row->addWidget(symbol);
+        simboli_.last() << symbol;
+    }
+    return row;
+}
+
 void LineaFormula::PosaSimboli(const Termine& termine, int colonna) {
+    simboli_.append(QList<QLabel*>());
     if (termine.altro.empty())
         griglia_->addLayout(CreaSimboli(termine.sopra), rigaSimboli, colonna, Qt::AlignCenter);
     else {
@@ -185,6 +195,27 @@ void LineaFormula::MostraAltro(bool altro) {
         part->setVisible(!altro);
     for (QWidget* part : soloAltro_)
         part->setVisible(altro);
+}
+
+void LineaFormula::Evidenzia(int termine) {
+    if (termine == governa_)
+        return;
+    Segna(governa_, false);
+    Segna(termine, true);
+    governa_ = termine;
+}
+
+void LineaFormula::Segna(int termine, bool governa) {
+    if (termine < 0 || termine >= simboli_.size())
+        return;
+    for (QLabel* symbol : simboli_[termine])
+        Ingrassa(symbol, governa);
+    for (EtichettaRisultato* value : {sopra_[termine], altro_[termine], sotto_[termine], esponente_[termine]})
+        if (value != nullptr) {
+            Ingrassa(value, governa);
+            value->setAccessibleDescription(governa ? tr("Termine che governa. ") + value->toolTip()
+                                                    : QString());
+        }
 }
 
 void LineaFormula::MostraSomma(double somma, double giudizio) {

@@ -9,6 +9,7 @@
 #include "frame/ui/Voce.h"
 
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 
 namespace sagomi {
@@ -63,6 +64,10 @@ public:
     [[nodiscard]] EtichettaRisultato* Esponente(int termine) const { return esponente_[termine]; }
     [[nodiscard]] EtichettaRisultato* Somma() const { return somma_; }
 
+    /// Marks the term that governs, for the eye in bold, for the ear in the description of its values.
+    /// @param termine  from 0; -1 for none
+    void Evidenzia(int termine);
+
     /// Shows the sum by the picture "0.0##", and its verdict where the line has one.
     void MostraSomma(double somma) { MostraSomma(somma, somma); }
     /// The same with a verdict on another value than the sum.
@@ -71,7 +76,9 @@ public:
 private:
     void PosaTermine(const Termine& termine, int& colonna);
     void PosaSegno(const char* segno, const char* nome, int colonna);
+    QHBoxLayout* CreaSimboli(const std::vector<Dicitura>& simboli);
     void PosaSimboli(const Termine& termine, int colonna);
+    void Segna(int termine, bool governa);
     void PosaValori(const Termine& termine, int colonna);
     void PosaParentesi(int colonna, bool destra);
     void PosaEsponente(const Termine& termine, int colonna);
@@ -80,7 +87,9 @@ private:
     [[nodiscard]] int RigheValori() const;
 
     QGridLayout* griglia_;
-    bool valoriDoppi_ = false; ///< values are fractions too
+    bool valoriDoppi_ = false;      ///< values are fractions too
+    int governa_ = -1;              ///< the term that is marked
+    QList<QList<QLabel*>> simboli_; ///< of each term
     QList<EtichettaRisultato*> sopra_, sotto_, altro_, esponente_;
     QList<QWidget*> soloPrimo_, soloAltro_;
     EtichettaRisultato* somma_ = nullptr;

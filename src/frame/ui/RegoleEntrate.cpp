@@ -8,6 +8,7 @@
 
 #include "frame/ui/Entrata.h"
 #include "frame/ui/Esito.h"
+#include "frame/ui/LineaFormula.h"
 
 namespace sagomi {
 
@@ -65,8 +66,11 @@ bool RegoleEntrate::Sta(const QLineEdit* casella) const {
 void SvuotaRisultato(QWidget* risultato) {
     if (auto* box = qobject_cast<QLineEdit*>(risultato))
         box->clear();
-    else if (auto* label = qobject_cast<QLabel*>(risultato))
+    else if (auto* label = qobject_cast<QLabel*>(risultato)) {
         MostraEsito(label, std::numeric_limits<double>::quiet_NaN());
+        if (auto* line = qobject_cast<LineaFormula*>(label->parentWidget()))
+            line->Evidenzia(-1); // of a sum that is not known no term governs
+    }
 }
 
 } // namespace sagomi

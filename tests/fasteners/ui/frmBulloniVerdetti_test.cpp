@@ -49,6 +49,9 @@ TEST_F(FrmBulloniTest, TensionAloneBeyondItsResistanceIsNoThoughTheSumPasses) {
     EXPECT_EQ(Somma(), Locale(" 0 +  0.7899 =  0.7899")) << "the sum keeps its value";
     EXPECT_EQ(Verdetto(), "NO");
     EXPECT_EQ(Scritta("LblUtilizzo"), "Utilizzo " + Locale("110.6") + " % (governa trazione)");
+    EXPECT_TRUE(Trova<QLabel>(b, "LblSimTrazione")->font().bold()) << "marked in the line, too";
+    EXPECT_FALSE(Trova<QLabel>(b, "LblSimTaglio")->font().bold());
+    EXPECT_EQ(Trova<QLabel>(b, "Lbl_Risultato_0")->accessibleDescription(), "Termine che governa: trazione");
     const std::string motivo =
         "Ft,Sd = " + Locale("100.0") + " kN supera da sola Ft,Rd = " + Locale("90.432") + " kN";
     EXPECT_EQ(Scritta("LblMotivo"), motivo);

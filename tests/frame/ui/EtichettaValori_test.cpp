@@ -46,6 +46,19 @@ TEST_F(EtichettaValoriTest, EachValueStandsUnderItsSymbol) {
     EXPECT_EQ(label.text(), " 0.3 +  0.4 =  0.7") << "read as a whole";
 }
 
+TEST_F(EtichettaValoriTest, TheTermThatGovernsStandsOut) {
+    label.setText(" 0.3 +  0.4 =  0.7");
+    label.Evidenzia(1, "trazione");
+    EXPECT_FALSE(first.font().bold());
+    EXPECT_TRUE(second.font().bold());
+    EXPECT_EQ(label.accessibleDescription(), "Termine che governa: trazione");
+    const QImage marked = label.grab().toImage();
+    label.Evidenzia(-1);
+    EXPECT_FALSE(second.font().bold());
+    EXPECT_EQ(label.accessibleDescription(), "");
+    EXPECT_NE(label.grab().toImage(), marked) << "its value is in bold too";
+}
+
 TEST_F(EtichettaValoriTest, WhatIsNoFormulaIsPaintedAsItIs) {
     label.setText("");
     EXPECT_FALSE(Dipinto(0, 399));

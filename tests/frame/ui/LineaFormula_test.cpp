@@ -6,6 +6,7 @@
 #include "frame/ui/EtichettaPedice.h"
 #include "frame/ui/EtichettaRisultato.h"
 #include "frame/ui/Parentesi.h"
+#include "frame/ui/RegoleEntrate.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -86,6 +87,29 @@ TEST_F(LineaFormulaTest, SumBringsItsVerdict) {
     linea.MostraSomma(1.0625);
     EXPECT_EQ(linea.Somma()->text().toStdString(), Locale("1.063"));
     EXPECT_EQ(Trova<QLabel>(&linea, "Esito")->text(), "NO");
+}
+
+TEST_F(LineaFormulaTest, TheTermThatGovernsStandsOut) {
+    linea.Evidenzia(1);
+    for (const char* name : {"M1", "M2", "M3"}) {
+        EXPECT_TRUE(Trova<QLabel>(&linea, name)->font().bold()) << name;
+        EXPECT_EQ(Trova<QLabel>(&linea, name)->accessibleDescription(),
+                  "Termine che governa. " + Trova<QLabel>(&linea, name)->toolTip());
+    }
+    EXPECT_FALSE(linea.Sopra(0)->font().bold());
+    int bold = 0;
+    for (const auto* symbol : linea.findChildren<EtichettaPedice*>())
+        bold += symbol->font().bold() ? 1 : 0;
+    EXPECT_EQ(bold, 4) << "M over M, and the two of the longer form";
+    linea.Evidenzia(-1);
+    EXPECT_FALSE(linea.Sopra(1)->font().bold());
+    EXPECT_EQ(linea.Sopra(1)->accessibleDescription(), "");
+}
+
+TEST_F(LineaFormulaTest, OfASumThatIsEmptiedNoTermGoverns) {
+    linea.Evidenzia(0);
+    SvuotaRisultato(linea.Somma());
+    EXPECT_FALSE(linea.Sopra(0)->font().bold());
 }
 
 TEST(LineaFormula, AnExponentPutsItsTermIntoBrackets) {
