@@ -43,8 +43,11 @@ double DueForze(double x) { return std::min({4 * x, 1.0, 4 * (1 - x)}); }
 /// Moment of a load between built-in ends; `ai_lati` is what the ends take of the moment of the free span.
 double FraIncastri(double libero, double ai_lati) { return libero - ai_lati; }
 
-constexpr double bordo = 10; ///< free between two bands
-constexpr double trave = 84; ///< length of a beam
+constexpr double bordo = 10;                 ///< free between two bands
+constexpr double trave = 84;                 ///< length of a beam
+constexpr double quotaM1 = 0.9;              ///< greater end moment of table F.1.1, in parts of the band
+constexpr std::string_view nomeM1 = "M ";    ///< its name, and the room of it
+constexpr std::string_view nomeM2 = " ψM  "; ///< the other end's
 
 /// Moments of an axis as they are, the largest that counts marked with its value.
 void AsseMomenti(const Quadro& quadro, const CampoQuadro& campo, std::string_view asse,
@@ -74,9 +77,14 @@ void AsseMomenti(const Quadro& quadro, const CampoQuadro& campo, std::string_vie
 }
 
 void FasciaPsi(const Quadro& quadro, const CampoQuadro& campo, double psi) {
-    const TavolaTrave tavola(quadro, {campo.sinistra, campo.alto, trave, campo.altezza});
+    const double inizio = campo.sinistra + quadro.LarghezzaTesto(nomeM1);
+    const TavolaTrave tavola(quadro, {inizio, campo.alto, trave, campo.altezza});
     DisegnaPsi(tavola, psi);
-    tavola.Nome({campo.sinistra + trave + bordo, campo.Centro().y}, "ψ = " + TestoPsi(psi), 1, 0);
+    tavola.Nome(tavola.Punto(0, quotaM1 / 2), "M", -1, 0);
+    if (psi != 0)
+        tavola.Nome(tavola.Punto(1, quotaM1 * psi / 2), "ψM", 1, 0);
+    const double fine = inizio + trave + quadro.LarghezzaTesto(nomeM2);
+    tavola.Nome({fine, campo.Centro().y}, "ψ = " + TestoPsi(psi), 1, 0);
 }
 
 void FasciaCaso(const Quadro& quadro, const CampoQuadro& campo, CasoF12 caso) {
@@ -99,7 +107,7 @@ void DisegnaPict(const TavolaTrave& tavola, std::int16_t pict) {
 }
 
 void DisegnaPsi(const TavolaTrave& tavola, double psi) {
-    tavola.Diagramma([=](double x) { return Lineare(0.9, 0.9 * psi, x); });
+    tavola.Diagramma([=](double x) { return Lineare(quotaM1, quotaM1 * psi, x); });
 }
 
 void DisegnaCaso(const TavolaTrave& carico, const TavolaTrave& diagramma, CasoF12 caso) {
@@ -186,7 +194,7 @@ Disegno DisegnoProspetto(int prospetto) {
     Disegno disegno;
     disegno.nome = diagrammi ? "Prospetto F.1.1" : "Prospetto F.1.2";
     if (diagrammi)
-        disegno.misura = {trave + 2 * bordo, 48.0 * psiF11, "ψ = +3/4  "};
+        disegno.misura = {trave + 2 * bordo, 48.0 * psiF11, "M  ψM  ψ = +3/4  "};
     else
         disegno.misura = {2 * trave + 5 * bordo, 60.0 * casiF12};
     disegno.PlottaInOggetto = [diagrammi, misura = disegno.misura](Superficie* oggetto, std::string_view) {

@@ -12,7 +12,7 @@ namespace sagomi {
 /// The shape of a moment diagram (DiagrammaMomenti.h), with the names of its moments.
 void DisegnaPict(const TavolaTrave& tavola, std::int16_t pict);
 
-/// A linear moment diagram of table F.1.1.
+/// A linear moment diagram of table F.1.1, without names.
 void DisegnaPsi(const TavolaTrave& tavola, double psi);
 
 /// Supports and loads of a case of table F.1.2, and its moment diagram below the beam.

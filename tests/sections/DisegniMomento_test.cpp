@@ -56,8 +56,12 @@ TEST_F(DisegniMomentoTest, ShapesNameTheirMoments) {
 TEST_F(DisegniMomentoTest, ATableHasABandForEachOfItsGroups) {
     DisegnoProspetto(1).PlottaInOggetto(&superficie, "frmMsvergH1");
     std::vector<std::string> attesi;
-    for (const char* psi : {"+1", "+3/4", "+1/2", "+1/4", "0", "-1/4", "-1/2", "-3/4", "-1"})
+    for (const char* psi : {"+1", "+3/4", "+1/2", "+1/4", "0", "-1/4", "-1/2", "-3/4", "-1"}) {
+        attesi.emplace_back("M");
+        if (*psi != '0')
+            attesi.emplace_back("ψM"); // of 0 there is no moment to name
         attesi.push_back(std::string("ψ = ") + psi);
+    }
     EXPECT_EQ(superficie.Testi(), attesi);
     EXPECT_EQ(superficie.linee.size(), 9U * 51);
     EXPECT_EQ(DisegnoProspetto(1).misura.altezza, 9 * 48);
