@@ -26,6 +26,10 @@ struct Moduli {
     double plastico, elastico, efficace;
 };
 
+double InForza(int classe, const Moduli& w) {
+    return classe < 3 ? w.plastico : classe == 3 ? w.elastico : w.efficace;
+}
+
 std::string Modulo(int classe, const Moduli& w) {
     if (classe < 3)
         return "Plastico " + FormatoCifreEsp(cifre, Singolo(w.plastico));
@@ -34,10 +38,20 @@ std::string Modulo(int classe, const Moduli& w) {
     return "Effettivo " + FormatoCifreEsp(cifre, w.efficace);
 }
 
+/// The numbers put in: W [mm3] times fy [N/mm2] over the factor, N mm in kNm.
+std::string Numeri(double W, Singolo fy, Singolo gamma) {
+    if (!std::isfinite(W))
+        return {};
+    return Formato("#,##0", W) + " · " + TestoPiano(fy) + " / (" + TestoPiano(gamma) + " · 10⁶)";
+}
+
 /// ENV 1993-1-1 5.4.5.2: W fy over the factor of the class.
-void MostraDerivazione(QLabel* factor, EtichettaFormula* formula, int classe) {
+void MostraDerivazione(QLabel* factor, EtichettaFormula* formula, QLabel* numbers, int classe,
+                       const Moduli& w, Singolo fy) {
     const bool efficace = classe > 3;
-    Mostra(factor, TestoPiano(efficace ? GammaM1 : GammaM0));
+    const Singolo gamma = efficace ? GammaM1 : GammaM0;
+    Mostra(factor, TestoPiano(gamma));
+    Mostra(numbers, Numeri(InForza(classe, w), fy, gamma));
     formula->ImpostaFormula(efficace ? QStringLiteral("W{eff} f{y} / γ{M1}")
                                      : QStringLiteral("W f{y} / γ{M0}"));
 }
@@ -75,10 +89,14 @@ void FrmMcRd::Calcola() {
     SullaSezioneInUso([this](const ConMomenti auto& s) {
         ui_->Lbl_Classe_0->setText(QString::number(s.ClasseFlessioneY));
         ui_->Lbl_Classe_1->setText(QString::number(s.ClasseFlessioneZ));
-        Mostra(ui_->Lbl_W_0, Modulo(s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}));
-        Mostra(ui_->Lbl_W_1, Modulo(s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}));
-        MostraDerivazione(ui_->Lbl_GammaM_0, ui_->LblFormulaMcRd_0, s.ClasseFlessioneY);
-        MostraDerivazione(ui_->Lbl_GammaM_1, ui_->LblFormulaMcRd_1, s.ClasseFlessioneZ);
+        const Moduli y{s.Wply, s.Wely, s.WyEff};
+        const Moduli z{s.Wplz, s.Welz, s.WzEff};
+        Mostra(ui_->Lbl_W_0, Modulo(s.ClasseFlessioneY, y));
+        Mostra(ui_->Lbl_W_1, Modulo(s.ClasseFlessioneZ, z));
+        MostraDerivazione(ui_->Lbl_GammaM_0, ui_->LblFormulaMcRd_0, ui_->Lbl_Numeri_0, s.ClasseFlessioneY, y,
+                          s.fy);
+        MostraDerivazione(ui_->Lbl_GammaM_1, ui_->LblFormulaMcRd_1, ui_->Lbl_Numeri_1, s.ClasseFlessioneZ, z,
+                          s.fy);
         Mostra(ui_->Lbl_McRd_0, Momento(s.McyRd));
         Mostra(ui_->Lbl_McRd_1, Momento(s.MczRd));
         ui_->Picture1->Mostra(DisegnoSagoma(SagomaDi(s)));

@@ -48,6 +48,9 @@ TEST_F(FrmMcRdTest, PlasticModulus) {
     EXPECT_EQ(Scritta(&f, "Lbl_W_1"), "Plastico " + Locale(" 125,200"));
     EXPECT_EQ(Scritta(&f, "Lbl_McRd_0"), Locale(" 140.6"));
     EXPECT_EQ(Scritta(&f, "Lbl_McRd_1"), Locale(" 28.02"));
+    EXPECT_EQ(Scritta(&f, "LblFormulaMcRd_0"), "W fy / γM0");
+    EXPECT_EQ(Scritta(&f, "Lbl_Numeri_0"), Locale("628,400") + " · 235 / (" + Locale("1.05") + " · 10⁶)");
+    EXPECT_EQ(Scritta(&f, "Lbl_Numeri_1"), Locale("125,200") + " · 235 / (" + Locale("1.05") + " · 10⁶)");
 }
 
 // S355: 510 / 355 = 1.437, so 1.25; with 380 typed 380 / 355 = 1.07.
@@ -78,6 +81,7 @@ TEST_F(FrmMcRdTest, ModulusFollowsTheClassOfEachAxis) {
     Sezione().WzEff = 7777.44;
     f.AllAttivazione();
     EXPECT_EQ(Scritta(&f, "Lbl_W_1"), "Effettivo " + Locale(" 7,777"));
+    EXPECT_EQ(Scritta(&f, "Lbl_Numeri_1"), Locale("7,777") + " · 235 / (" + Locale("1.05") + " · 10⁶)");
 }
 
 TEST_F(FrmMcRdTest, NumbersBelowOneStandInPowersOfTen) {
