@@ -13,11 +13,14 @@
 #include "screens/PlottaSezioneCorrente.h"
 #include "screens/TestaDettaglio.h"
 #include "sections/Eurocod3.h"
+#include "sections/LunghezzePerse.h"
 #include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 
 namespace {
+
+constexpr int cifre = 4;
 
 Voce CreaVoce(const Dicitura& etichetta, const char* nome, int caratteri, const char* aiuto,
               const char* letta) {
@@ -44,6 +47,22 @@ const std::vector<Voce>& VociCompressione() {
                  "Limite superiore"),
         CreaVoce({"LblClasse1", "classe"}, "Lbl_Classe", 2, "Classe in compressione, EC3 tabella 5.2",
                  "Classe in compressione")};
+    return values;
+}
+
+/// What stands beside the effective outline.
+const std::vector<Voce>& VociEfficaci() {
+    static const std::vector<Voce> values = {
+        CreaVoce({"LblAeff", "A{eff} [mm^{2}]"}, "Lbl_Aeff", 9, "Area efficace in compressione, EC3 6.2.4",
+                 "Aeff [mm2]"),
+        CreaVoce({"LblPersaH", "h persa [mm]"}, "Lbl_PersaH", 7,
+                 "Lunghezza persa dal lato lungo, in punta, ENV 1993-1-1 5.3.5", "h persa [mm]"),
+        CreaVoce({"LblPersaB", "b persa [mm]"}, "Lbl_PersaB", 7,
+                 "Lunghezza persa dal lato corto, in punta, ENV 1993-1-1 5.3.5", "b persa [mm]"),
+        CreaVoce({"LblENy", "e{Ny} [mm]"}, "Lbl_eNy", 7,
+                 "Spostamento del baricentro lungo il lato lungo, EC3 6.2.9.3", "eNy [mm]"),
+        CreaVoce({"LblENz", "e{Nz} [mm]"}, "Lbl_eNz", 7,
+                 "Spostamento del baricentro lungo il lato corto, EC3 6.2.9.3", "eNz [mm]")};
     return values;
 }
 
@@ -76,6 +95,9 @@ FrmClasseSagomiL::FrmClasseSagomiL()
     column->addWidget(head);
     column->addWidget(CreaStanza("fraClasse", "Classe Sezione", VociClasse()));
     column->addWidget(CreaStanza("fraCompressione", "COMPRESSIONE", VociCompressione()));
+    efficace_ = CreaStanza("fraEfficace", "Sezione efficace", VociEfficaci());
+    efficace_->hide();
+    column->addWidget(efficace_);
     auto* commands = new QHBoxLayout;
     commands->addStretch();
     commands->addWidget(pltAeff_);
@@ -89,6 +111,21 @@ FrmClasseSagomiL::FrmClasseSagomiL()
 
 QLabel* FrmClasseSagomiL::Valore(const char* nome) const {
     return findChild<QLabel*>(QString::fromLatin1(nome));
+}
+
+void FrmClasseSagomiL::MostraEfficaci(const SezioneSagomoL& s) {
+    const bool some = s.ClasseCompressione == 4 && s.SezioneComp4;
+    pltAeff_->setVisible(some);
+    efficace_->setVisible(some);
+    const LatiPersi lost = PerseDi(s);
+    const auto show = [&](const char* name, double value) {
+        Mostra(Valore(name), some ? FormatoCifre(cifre, value) : std::string());
+    };
+    show("Lbl_Aeff", s.betaA() * s.Area);
+    show("Lbl_PersaH", lost.lungo);
+    show("Lbl_PersaB", lost.corto);
+    show("Lbl_eNy", lost.eNy);
+    show("Lbl_eNz", lost.eNz);
 }
 
 void FrmClasseSagomiL::Calcola() {
@@ -106,7 +143,7 @@ void FrmClasseSagomiL::Calcola() {
     Mostra(Valore("Lbl_SnellAla"), "0.0#", mean ? s->SnellAla1 : s->SnellAla);
     Mostra(Valore("Lbl_Limite0Ala"), s->Limite0Ala);
     Mostra(Valore("Lbl_Limite1Ala"), s->Limite1Ala);
-    pltAeff_->setVisible(s->ClasseCompressione == 4 && s->SezioneComp4);
+    MostraEfficaci(*s);
     if (!isMaximized())
         DimensionaIniziale(size()); // the button asks for room
 }

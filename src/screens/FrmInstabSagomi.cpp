@@ -6,8 +6,13 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/Unita.h"
+#include "frame/ui/Casella.h"
+#include "frame/ui/Mostra.h"
 #include "screens/ColonnaInstabilita.h"
+#include "screens/PannelloAzioni.h"
 #include "screens/PannelloInstabilita.h"
+#include "screens/SchermoSezione.h"
 #include "screens/TestaDettaglio.h"
 #include "sections/SezioneCorrente.h"
 
@@ -15,6 +20,7 @@ namespace sagomi {
 
 namespace {
 
+constexpr const char* motivoLunghezza = "La lunghezza di libera inflessione non può essere negativa";
 constexpr double nessunNumero = std::numeric_limits<double>::quiet_NaN();
 
 /// The slenderness about an axis; no number with a negative length.
@@ -53,8 +59,8 @@ template <ConLunghezze S> Asse AsseDi(const S& s, int axis) {
 } // namespace
 
 FrmInstabSagomi::FrmInstabSagomi(const QString& nome, const QByteArray& assi)
-    : SchermoDettaglio(nome), colonne_(new PannelloInstabilita),
-      assi_(static_cast<int>(assi.count(' ')) + 1) {
+    : SchermoDettaglio(nome), azioni_(new PannelloColonna(nullptr, assi.contains("v-v"))),
+      colonne_(new PannelloInstabilita), assi_(static_cast<int>(assi.count(' ')) + 1) {
     setWindowTitle(tr("Resistenza all'instabilità - EC3 #6.3.1"));
     auto* centre = new QWidget;
     auto* column = new QVBoxLayout(centre);
@@ -63,6 +69,8 @@ FrmInstabSagomi::FrmInstabSagomi(const QString& nome, const QByteArray& assi)
     auto* head = new TestaDettaglio;
     head->setObjectName(QStringLiteral("fraSezione"));
     column->addWidget(head);
+    azioni_->setObjectName(QStringLiteral("fraAzioni"));
+    column->addWidget(azioni_);
     colonne_->setObjectName(QStringLiteral("fraColonne"));
     colonne_->ImpostaAssi(assi);
     column->addWidget(colonne_);
@@ -72,7 +80,42 @@ FrmInstabSagomi::FrmInstabSagomi(const QString& nome, const QByteArray& assi)
         findChild<QLabel*>(QStringLiteral("Lbl_chi_%1").arg(i))
             ->setObjectName(QStringLiteral("Lbl_Chi_%1").arg(i));
     CollegaControlli();
+    CollegaDati();
     DimensionaIniziale({});
+}
+
+void FrmInstabSagomi::CollegaDati() {
+    QList<QLineEdit*> boxes;
+    for (Casella* box : {azioni_->Txt_L0_0, azioni_->Txt_L0_1, azioni_->Txt_L0_2}) {
+        if (box == nullptr)
+            continue;
+        boxes << box;
+        regole_.Aggiunge({.caselle = {box}, .motivo = [box] {
+                              const double L = NumeroIn(box);
+                              return L >= 0 && std::isfinite(L) ? QString() : tr(motivoLunghezza);
+                          }});
+    }
+    if (azioni_->TxtNsd != nullptr)
+        boxes << azioni_->TxtNsd;
+    CalcolaA(boxes);
+}
+
+void FrmInstabSagomi::RiempieDati() {
+    SullaSezioneInUso([this]<ConLunghezze S>(const S& s) {
+        Riempie(azioni_->Txt_L0_0, mm_a_m(s.L0y));
+        Riempie(azioni_->Txt_L0_1, mm_a_m(s.L0z));
+        if constexpr (ConLunghezzaV<S>)
+            if (azioni_->Txt_L0_2 != nullptr)
+                Riempie(azioni_->Txt_L0_2, mm_a_m(s.L0v));
+        if constexpr (ConMomenti<S>)
+            if (azioni_->TxtNsd != nullptr)
+                Riempie(azioni_->TxtNsd, N_a_kN(s.NSd));
+    });
+}
+
+void FrmInstabSagomi::Riporta() {
+    if (RiportaAlChiamante() && chiamante_->RigaInMano())
+        chiamante_->Risultati();
 }
 
 void FrmInstabSagomi::Calcola() {

@@ -4,6 +4,7 @@
 
 namespace sagomi {
 
+class PannelloColonna;
 class PannelloInstabilita;
 
 /// How the buckling resistances of a channel or an angle come about, EC3 6.3.1: a column for each axis.
@@ -18,8 +19,15 @@ public:
 
 protected:
     void Calcola() override;
+    /// Axial force and lengths of the section go into their entries.
+    void RiempieDati() override;
+    /// The caller's results wait for Enter in its own boxes, not for this screen.
+    void Riporta() override;
 
 private:
+    void CollegaDati();
+
+    PannelloColonna* azioni_;
     PannelloInstabilita* colonne_;
     int assi_;
 };

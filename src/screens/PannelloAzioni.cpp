@@ -29,18 +29,29 @@ const std::vector<Voce>& Azioni() {
     return entries;
 }
 
-const std::vector<Voce>& Colonna() {
-    static const std::vector<Voce> entries = {Forza(),
-                                              {{"LblL0_0", "L      [m]", "0y"},
-                                               "Txt_L0_0",
-                                               7,
-                                               "Lunghezza di libera inflessione intorno a y-y, EC3 6.3.1",
-                                               "L0 y-y [m]"},
-                                              {{"LblL0_1", "L      [m]", "0z"},
-                                               "Txt_L0_1",
-                                               7,
-                                               "Lunghezza di libera inflessione intorno a z-z, EC3 6.3.1",
-                                               "L0 z-z [m]"}};
+std::vector<Voce> Lunghezze() {
+    return {{{"LblL0_0", "L      [m]", "0y"},
+             "Txt_L0_0",
+             7,
+             "Lunghezza di libera inflessione intorno a y-y, EC3 6.3.1",
+             "L0 y-y [m]"},
+            {{"LblL0_1", "L      [m]", "0z"},
+             "Txt_L0_1",
+             7,
+             "Lunghezza di libera inflessione intorno a z-z, EC3 6.3.1",
+             "L0 z-z [m]"}};
+}
+
+std::vector<Voce> Colonna(bool angolare) {
+    std::vector<Voce> entries = Lunghezze();
+    if (angolare)
+        entries.push_back({{"LblL0_2", "L      [m]", "0v"},
+                           "Txt_L0_2",
+                           7,
+                           "Lunghezza di libera inflessione intorno a v-v, EC3 6.3.1",
+                           "L0 v-v [m]"});
+    else
+        entries.insert(entries.begin(), Forza());
     return entries;
 }
 
@@ -58,12 +69,14 @@ PannelloAzioni::PannelloAzioni(QWidget* parent) : GruppoVoci(parent) {
     TxtMzsd = Trova(*this, "TxtMzsd");
 }
 
-PannelloColonna::PannelloColonna(QWidget* parent) : GruppoVoci(parent) {
-    setTitle(tr("Azione assiale e lunghezze di libera inflessione"));
-    InRiga(Colonna());
+PannelloColonna::PannelloColonna(QWidget* parent, bool angolare) : GruppoVoci(parent) {
+    setTitle(angolare ? tr("Lunghezze di libera inflessione")
+                      : tr("Azione assiale e lunghezze di libera inflessione"));
+    InRiga(Colonna(angolare));
     TxtNsd = Trova(*this, "TxtNsd");
     Txt_L0_0 = Trova(*this, "Txt_L0_0");
     Txt_L0_1 = Trova(*this, "Txt_L0_1");
+    Txt_L0_2 = Trova(*this, "Txt_L0_2");
 }
 
 } // namespace sagomi

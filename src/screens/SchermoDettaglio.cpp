@@ -93,13 +93,17 @@ void SchermoDettaglio::Aggiorna() {
     Ricalcola();
 }
 
-void SchermoDettaglio::RiportaAlChiamante() {
+bool SchermoDettaglio::RiportaAlChiamante() {
+    bool some = false;
     for (QLineEdit* box : CaselleDelChiamante()) {
         const auto* own = findChild<QLineEdit*>(box->objectName());
-        if (own != nullptr && !own->isReadOnly() && Diversi(NumeroIn(own), NumeroIn(box)))
+        if (own != nullptr && !own->isReadOnly() && Diversi(NumeroIn(own), NumeroIn(box))) {
+            some = true;
             box->setText(TestoPulito(own));
+        }
     }
     RicordaChiamante();
+    return some;
 }
 
 // The caller shows its results for N; the section in hand keeps what this screen has made of it.

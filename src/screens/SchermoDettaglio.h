@@ -62,7 +62,8 @@ protected:
     virtual void RiempieDati() {}
 
     /// Hands N and the buckling lengths to the boxes of the caller, which then reacts, where they differ.
-    void RiportaAlChiamante();
+    /// @return whether one did
+    bool RiportaAlChiamante();
     /// What the caller hears before this screen computes.
     virtual void Riporta();
 

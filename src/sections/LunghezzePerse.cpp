@@ -1,5 +1,6 @@
 #include "sections/LunghezzePerse.h"
 
+#include <cmath>
 #include <memory>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include "sections/LarghezzeEfficaci.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneGenerica.h"
+#include "sections/SezioneSagomoL.h"
 #include "sections/SezioneSagomoU.h"
 
 namespace sagomi {
@@ -55,6 +57,19 @@ LunghezzePerse PerseDi(const SezioneSagomoU& s) {
     }
     if (s.ClasseAlaC == 4)
         lost.ala = TaglioAla(s.c, s.tf, s.fy, kSigmaAlaCompressa);
+    return lost;
+}
+
+LatiPersi PerseDi(const SezioneSagomoL& s) {
+    LatiPersi lost;
+    const SezioneGenerica* left = s.SezioneComp4.get();
+    if (s.ClasseCompressione != 4 || left == nullptr || s.SezioneGenericaCorrente == nullptr)
+        return lost;
+    const SezioneGenerica& whole = *s.SezioneGenericaCorrente;
+    lost.lungo = TaglioAla(s.h, s.t, s.fy, kSigmaAlaCompressa);
+    lost.corto = TaglioAla(s.b, s.t, s.fy, kSigmaAlaCompressa);
+    lost.eNy = s.Doppi && s.DoppiCorto ? 0 : std::abs(whole.yG - left->yG);
+    lost.eNz = s.Doppi && !s.DoppiCorto ? 0 : std::abs(whole.xG - left->xG);
     return lost;
 }
 

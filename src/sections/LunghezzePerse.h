@@ -4,6 +4,7 @@ namespace sagomi {
 
 class SezioneDoppioT;
 class SezioneSagomoU;
+class SezioneSagomoL;
 
 /// What plates of class 4 lose [mm], ENV 1993-1-1 5.3.5; 0 where a plate is not of class 4.
 struct LunghezzePerse {
@@ -14,5 +15,16 @@ struct LunghezzePerse {
 
 LunghezzePerse PerseDi(const SezioneDoppioT& s);
 LunghezzePerse PerseDi(const SezioneSagomoU& s);
+
+/// What the effective outline of an angle of class 4 lacks [mm]; 0 below class 4.
+struct LatiPersi {
+    double lungo = 0; ///< of the longer leg, at its tip
+    double corto = 0; ///< of the shorter leg
+    double eNy = 0;   ///< shift of the centroid along the longer leg, which bends about y-y
+    double eNz = 0;   ///< the same along the shorter leg; the one across the faces of a pair cancels
+};
+
+/// InizializzaSezione must have run.
+LatiPersi PerseDi(const SezioneSagomoL& s);
 
 } // namespace sagomi
