@@ -1,8 +1,7 @@
 #include "frame/ui/EtichettaRisultato.h"
 
-#include <QPainter>
-#include <QStyle>
 #include <QStyleOptionFrame>
+#include <QStylePainter>
 
 #include <algorithm>
 
@@ -72,14 +71,14 @@ void EtichettaRisultato::initStyleOption(QStyleOptionFrame* option) const {
 
 // Results look alike, whether they stand in a label or in a box that is read only.
 void EtichettaRisultato::DipingeCornice() {
-    QPainter painter(this);
+    QStylePainter painter(this);
     QStyleOptionFrame frame;
     frame.initFrom(this);
     frame.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, this);
     frame.state.setFlag(QStyle::State_HasFocus, false);
     frame.state |= QStyle::State_Sunken | QStyle::State_ReadOnly;
     frame.palette.setBrush(QPalette::Base, palette().brush(QPalette::Window));
-    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, this);
+    painter.drawPrimitive(QStyle::PE_PanelLineEdit, frame);
 }
 
 QSize EtichettaRisultato::sizeHint() const {
