@@ -1,12 +1,15 @@
 #include "catalogue/Lettore.h"
 
 #include <algorithm>
+#include <numeric>
 #include <stdexcept>
 #include <utility>
 
 #include "catalogue/Catalogo.h"
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/Minuscole.h"
+#include "catalogue/OrdineQuery.h"
+#include "catalogue/OrdineRighe.h"
 #include "catalogue/ScritturaRighe.h"
 
 namespace sagomi {
@@ -22,6 +25,19 @@ ErroreCatalogo NonModificabile() {
     return ErroreCatalogo("Le righe di questa tabella non si possono modificare.");
 }
 
+bool HaTesto(const Valore& v, std::string_view testo) {
+    const auto* suo = std::get_if<std::string>(&v);
+    return suo != nullptr ? *suo == testo : TestoDi(v) == testo;
+}
+
+/// The field of that name, capitals ignored, as SQL finds it.
+std::optional<std::size_t> ColonnaDi(const std::vector<std::string>& campi, std::string_view nome) {
+    const auto trovato = std::ranges::find(campi, Minuscole(nome), Minuscole);
+    if (trovato == campi.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(trovato - campi.begin());
+}
+
 constexpr std::string_view nomePosto = "_rowid_"; ///< SQLite's name of a record's place
 
 /// The query with the place of each row in its sheet behind the fields.
@@ -35,33 +51,71 @@ std::string ConPosti(const std::string& query) {
 } // namespace
 
 void Lettore::Refresh() {
-    EsitoQuery nuovo;
-    std::vector<std::size_t> posti;
-    ImprontaFile impronta;
     try {
-        const auto catalogo = Catalogo::Apri(chiesta_.cartella);
-        const bool modificabile = !chiesta_.tabella.empty();
-        nuovo = catalogo->Esegue(modificabile ? ConPosti(chiesta_.query) : chiesta_.query);
-        impronta = catalogo->Impronta();
-        if (modificabile)
-            posti = SeparaPosti(nuovo);
-        if (static_cast<int>(nuovo.campi.size()) < campiAttesi_)
-            throw ErroreCatalogo("Errore nella lettura di \"" + chiesta_.cartella.filename().string() +
-                                 "\": la tabella ha " + std::to_string(nuovo.campi.size()) +
-                                 " colonne invece di " + std::to_string(campiAttesi_) + ".");
+        const std::shared_ptr<const Catalogo> catalogo = Catalogo::Apri(chiesta_.cartella);
+        if (!Riordina(catalogo))
+            Legge(catalogo);
     } catch (...) {
         if (letto_)
             chiesta_ = inVigore_;
         throw;
     }
-    esito_ = std::move(nuovo);
-    posti_ = std::move(posti);
-    impronta_ = impronta;
     modifica_.reset();
     inVigore_ = chiesta_;
     letto_ = true;
     riga_ = -1;
     MoveFirst();
+}
+
+/// Puts the rows in hand into the order of the query; false where they are not those that it gives.
+bool Lettore::Riordina(const std::shared_ptr<const Catalogo>& catalogo) {
+    const auto nuova = SeparaOrdine(chiesta_.query);
+    const auto vecchia = SeparaOrdine(inVigore_.query);
+    if (riordinabili_.lock() != catalogo || chiesta_.cartella != inVigore_.cartella ||
+        chiesta_.tabella != inVigore_.tabella || !nuova || !vecchia || nuova->righe != vecchia->righe)
+        return false;
+    const auto colonna = ColonnaDi(esito_.campi, nuova->colonna);
+    if (!colonna)
+        return false;
+    Controlla(esito_.campi.size());
+    ordine_ = OrdineRighe(esito_.righe, *colonna, nuova->unione);
+    return true;
+}
+
+/// Rows of one sheet are fetched as they stand there, and sorted here: so they can be sorted otherwise later.
+void Lettore::Legge(const std::shared_ptr<const Catalogo>& catalogo) {
+    const auto ordinata = SeparaOrdine(chiesta_.query);
+    const bool comeStanno = ordinata && !ordinata->unione;
+    EsitoQuery nuovo = Esegue(*catalogo, comeStanno ? ordinata->righe : chiesta_.query);
+    const auto colonna = ordinata ? ColonnaDi(nuovo.campi, ordinata->colonna) : std::nullopt;
+    if (comeStanno && !colonna)
+        nuovo = Esegue(*catalogo, chiesta_.query);
+    std::vector<std::size_t> posti;
+    if (!chiesta_.tabella.empty())
+        posti = SeparaPosti(nuovo);
+    Controlla(nuovo.campi.size());
+    if (comeStanno && colonna) {
+        ordine_ = OrdineRighe(nuovo.righe, *colonna, false);
+    } else {
+        ordine_.resize(nuovo.righe.size());
+        std::iota(ordine_.begin(), ordine_.end(), 0U);
+    }
+    esito_ = std::move(nuovo);
+    posti_ = std::move(posti);
+    impronta_ = catalogo->Impronta();
+    riordinabili_ = colonna ? catalogo : nullptr;
+    ++lettura_;
+}
+
+EsitoQuery Lettore::Esegue(const Catalogo& catalogo, std::string_view query) const {
+    return catalogo.Esegue(chiesta_.tabella.empty() ? query : ConPosti(std::string(query)));
+}
+
+void Lettore::Controlla(std::size_t campi) const {
+    if (static_cast<int>(campi) < campiAttesi_)
+        throw ErroreCatalogo("Errore nella lettura di \"" + chiesta_.cartella.filename().string() +
+                             "\": la tabella ha " + std::to_string(campi) + " colonne invece di " +
+                             std::to_string(campiAttesi_) + ".");
 }
 
 /// Every change of row ends here. The receiver is copied: it may plug in another one while it runs.
@@ -95,7 +149,7 @@ void Lettore::MoveTo(int riga) {
 
 bool Lettore::CercaRecord(std::string_view nome) {
     for (int i = 0; i < Righe(); ++i)
-        if (TestoDi(Cella(i, 0)) == nome) {
+        if (HaTesto(Cella(i, 0), nome)) {
             Porta(i);
             return true;
         }
@@ -119,7 +173,7 @@ const Valore& Lettore::Cella(int riga, int campo) const {
 const std::vector<Valore>& Lettore::Riga(int riga) const {
     if (riga < 0 || riga >= Righe())
         throw Fuori("riga", riga, Righe());
-    return esito_.righe[static_cast<std::size_t>(riga)];
+    return esito_.righe[Posto(riga)];
 }
 
 const Valore& Lettore::Campo(int campo) const {
@@ -147,7 +201,7 @@ std::vector<std::size_t> Lettore::SeparaPosti(EsitoQuery& esito) {
 
 void Lettore::Edit() {
     static_cast<void>(RigaDelFoglio(riga_));
-    modifica_ = {riga_, esito_.righe[static_cast<std::size_t>(riga_)]};
+    modifica_ = {riga_, Riga(riga_)};
 }
 
 void Lettore::AddNew() {
@@ -175,11 +229,14 @@ void Lettore::Update() {
 }
 
 void Lettore::Accoglie(Modifica modifica, std::size_t posto) {
+    ++lettura_;
+    riordinabili_.reset();
     if (modifica.riga >= 0) {
-        esito_.righe[static_cast<std::size_t>(modifica.riga)] = std::move(modifica.campi);
+        esito_.righe[Posto(modifica.riga)] = std::move(modifica.campi);
         return;
     }
     const bool oltre = riga_ >= Righe(); // EOF stays behind the last row
+    ordine_.push_back(static_cast<std::uint32_t>(esito_.righe.size()));
     esito_.righe.push_back(std::move(modifica.campi));
     posti_.push_back(posto);
     if (oltre && riga_ > 0)
@@ -187,9 +244,9 @@ void Lettore::Accoglie(Modifica modifica, std::size_t posto) {
 }
 
 std::size_t Lettore::RigaDelFoglio(int riga) const {
-    if (riga < 0 || riga >= static_cast<int>(posti_.size()))
+    if (riga < 0 || riga >= Righe() || posti_.empty())
         throw NonModificabile();
-    return posti_[static_cast<std::size_t>(riga)];
+    return posti_[Posto(riga)];
 }
 
 void MuoviRecord(Lettore& lettore, bool avanti) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,9 +40,10 @@ public:
     /// Fields that a row must have for its screen to work with it; a query that gives fewer fails.
     void CampiAttesi(int n) { campiAttesi_ = n; }
 
-    /// Runs the query and goes to the first row. The workbook is read anew when its file has changed.
-    /// Throws ErroreCatalogo when the workbook or the query fails; the rows, the row in hand, the workbook
-    /// and the query of the last Refresh that succeeded are then in force again.
+    /// Runs the query and goes to the first row. The workbook is read anew when its file has changed; rows
+    /// that the last query gave in another order are only sorted. Throws ErroreCatalogo when the workbook or
+    /// the query fails; the rows, the row in hand, the workbook and the query of the last Refresh that
+    /// succeeded are then in force again.
     void Refresh();
 
     [[nodiscard]] bool BOF() const { return esito_.righe.empty() || riga_ < 0; }
@@ -79,6 +82,10 @@ public:
     [[nodiscard]] int Campi() const { return static_cast<int>(esito_.campi.size()); }
     [[nodiscard]] int RigaCorrente() const { return riga_; } ///< -1 at BOF, Righe() at EOF
 
+    /// Another number where the rows are others than before, or have others among them; in another order the
+    /// same rows keep it.
+    [[nodiscard]] int Lettura() const { return lettura_; }
+
     /// The heading of a column. Outside 0..Campi() - 1 throws std::out_of_range.
     [[nodiscard]] const std::string& NomeCampo(int campo) const;
 
@@ -106,7 +113,12 @@ private:
         std::vector<Valore> campi;
     };
 
+    [[nodiscard]] bool Riordina(const std::shared_ptr<const Catalogo>& catalogo);
+    void Legge(const std::shared_ptr<const Catalogo>& catalogo);
+    [[nodiscard]] EsitoQuery Esegue(const Catalogo& catalogo, std::string_view query) const;
+    void Controlla(std::size_t campi) const;
     static std::vector<std::size_t> SeparaPosti(EsitoQuery& esito);
+    [[nodiscard]] std::size_t Posto(int riga) const { return ordine_[static_cast<std::size_t>(riga)]; }
     void Accoglie(Modifica modifica, std::size_t posto);
 
     void Porta(int riga);
@@ -116,7 +128,10 @@ private:
     int campiAttesi_ = 0;
     bool letto_ = false; ///< a Refresh has succeeded
     EsitoQuery esito_;
-    std::vector<std::size_t> posti_; ///< of the rows in their sheet, where they can be changed
+    std::vector<std::uint32_t> ordine_;          ///< the places in esito_ of the rows in their order
+    std::weak_ptr<const Catalogo> riordinabili_; ///< what rows come from that can be sorted without it
+    int lettura_ = 0;
+    std::vector<std::size_t> posti_; ///< in their sheet, of the rows of esito_, where they can be changed
     ImprontaFile impronta_;
     std::optional<Modifica> modifica_;
     int riga_ = -1;

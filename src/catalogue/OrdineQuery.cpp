@@ -9,6 +9,26 @@ namespace {
 
 constexpr std::string_view ordina = " ORDER BY ";
 
+/// Takes a text off the front; false where it does not stand there.
+bool Toglie(std::string_view& testo, std::string_view inizio) {
+    if (!testo.starts_with(inizio))
+        return false;
+    testo.remove_prefix(inizio.size());
+    return true;
+}
+
+/// Takes a name in brackets or quotation marks off the front; empty where none stands there.
+std::string_view ToglieNome(std::string_view& testo) {
+    if (!testo.starts_with('[') && !testo.starts_with('"'))
+        return {};
+    const auto fine = testo.find(testo.front() == '[' ? ']' : '"', 1);
+    if (fine == std::string_view::npos)
+        return {};
+    const std::string_view nome = testo.substr(1, fine - 1);
+    testo.remove_prefix(fine + 1);
+    return nome;
+}
+
 } // namespace
 
 std::string ColonnaOrdine(std::string_view query) {
@@ -27,6 +47,25 @@ std::string OrdinaPer(std::string_view query, std::string_view colonna) {
     const bool closes = name.find(']') != std::string::npos;
     return std::string(query.substr(0, query.rfind(ordina))) + std::string(ordina) +
            (closes ? TraVirgolette(name) : "[" + name + "]");
+}
+
+std::optional<QueryOrdinata> SeparaOrdine(std::string_view query) {
+    constexpr std::string_view tutto = "SELECT * FROM ";
+    std::string_view resto = query;
+    int fogli = 0;
+    do {
+        if (!Toglie(resto, tutto) || ToglieNome(resto).empty())
+            return std::nullopt;
+        ++fogli;
+    } while (Toglie(resto, " UNION "));
+    const std::string_view righe = query.substr(0, query.size() - resto.size());
+    if (!Toglie(resto, ordina))
+        return std::nullopt;
+    const std::string_view colonna = ToglieNome(resto);
+    Toglie(resto, " ASC");
+    if (colonna.empty() || !resto.empty())
+        return std::nullopt;
+    return QueryOrdinata{righe, colonna, fogli > 1};
 }
 
 bool NominaFoglio(std::string_view query, std::string_view foglio) {

@@ -231,4 +231,94 @@ TEST_F(LettoreTest, ReceiverMayMoveAndReplaceItself) {
     EXPECT_EQ(annunci, 1);
 }
 
+/// Values of every kind, with many that are equal; what SQLite gives is the measure.
+class OrdineRigheTest : public LettoreTest {
+protected:
+    static Foglio Misto(const S& nome, std::size_t passo) {
+        Foglio f = FoglioDi(nome, {{S("a"), S("b"), S("n")}});
+        const std::vector<Valore> valori = {3.0,  S("b"),  {},  -1.5, S("B"), -1E300,     S(""),
+                                            1E-9, S("bb"), 0.0, -0.0, {},     S("\u00E8")};
+        for (std::size_t i = 0; i < 60; ++i) {
+            f.Scrive(i + 1, 0, valori[i * passo % valori.size()]);
+            f.Scrive(i + 1, 1, valori[i * 5 % 11]);
+            f.Scrive(i + 1, 2, double(i / 2)); // no row without a value
+        }
+        return f;
+    }
+
+    void SetUp() override {
+        LettoreTest::SetUp();
+        ScriveXls({{Misto("x", 7), Misto("y", 4)}}, file);
+    }
+
+    void Chiede(const S& query) {
+        lettore.RecordSource(query);
+        lettore.Refresh();
+    }
+
+    [[nodiscard]] std::vector<std::vector<Valore>> Righe() const {
+        std::vector<std::vector<Valore>> righe;
+        for (int i = 0; i < lettore.Righe(); ++i)
+            righe.push_back(lettore.Riga(i));
+        return righe;
+    }
+};
+
+TEST_F(OrdineRigheTest, RowsInHandAreSortedAsSqliteSortsThem) {
+    for (const char* fogli : {"SELECT * FROM [x$]", "SELECT * FROM [y$] UNION SELECT * FROM [x$]"}) {
+        Chiede(S(fogli) + " ORDER BY [b]");
+        const int lettura = lettore.Lettura();
+        for (const char* colonna : {"a", "B", "n", "b"}) {
+            const S query = S(fogli) + " ORDER BY [" + colonna + "] ASC";
+            Chiede(query);
+            EXPECT_EQ(Righe(), Catalogo::Apri(file)->Esegue(query).righe) << query;
+            EXPECT_EQ(lettore.Lettura(), lettura) << "has been read again for " << query;
+            EXPECT_EQ(lettore.RigaCorrente(), 0);
+        }
+    }
+}
+
+TEST_F(OrdineRigheTest, OtherRowsAndAChangedFileAreReadAgain) {
+    Chiede("SELECT * FROM [x$] ORDER BY [a]");
+    const int lettura = lettore.Lettura();
+    Chiede("SELECT * FROM [y$] ORDER BY [a]");
+    EXPECT_NE(lettore.Lettura(), lettura);
+    ScriveXls({{FoglioDi("y", {{S("a"), S("b")}, {2.0, 1.0}, {1.0, 2.0}})}}, file);
+    Chiede("SELECT * FROM [y$] ORDER BY [b]");
+    EXPECT_EQ(lettore.Righe(), 2);
+    EXPECT_EQ(lettore.Numero(0), 2);
+    Chiede("SELECT * FROM [y$] ORDER BY [a]");
+    EXPECT_EQ(lettore.Numero(0), 1);
+}
+
+TEST_F(OrdineRigheTest, AColumnThatIsNotThereFailsAndTheOrderStays) {
+    Chiede("SELECT * FROM [x$] ORDER BY [n]");
+    lettore.MoveTo(7);
+    const auto righe = Righe();
+    lettore.RecordSource("SELECT * FROM [x$] ORDER BY [manca]");
+    EXPECT_THROW(lettore.Refresh(), ErroreCatalogo);
+    EXPECT_EQ(lettore.RecordSource(), "SELECT * FROM [x$] ORDER BY [n]");
+    EXPECT_EQ(lettore.RigaCorrente(), 7);
+    EXPECT_EQ(Righe(), righe);
+}
+
+TEST_F(OrdineRigheTest, RowsThatCanBeChangedKeepTheirPlaces) {
+    lettore.TabellaModificabile("y$");
+    for (const char* colonna : {"a", "b", "n"}) {
+        Chiede(S("SELECT * FROM [y$] ORDER BY [") + colonna + "]");
+        const EsitoQuery posti =
+            Catalogo::Apri(file)->Esegue(S("SELECT _rowid_ FROM [y$] ORDER BY [") + colonna + "]");
+        for (int i = 0; i < lettore.Righe(); ++i)
+            EXPECT_EQ(double(lettore.RigaDelFoglio(i)) + 1, NumeroDi(posti.righe[std::size_t(i)][0])) << i;
+    }
+    lettore.MoveTo(5);
+    lettore.Edit();
+    lettore.Campo(2, 1000.0);
+    lettore.Update();
+    EXPECT_EQ(lettore.Numero(2), 1000);
+    Chiede("SELECT * FROM [y$] ORDER BY [n]");
+    lettore.MoveLast();
+    EXPECT_EQ(lettore.Numero(2), 1000);
+}
+
 } // namespace

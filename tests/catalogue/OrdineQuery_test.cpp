@@ -23,6 +23,31 @@ TEST(OrdineQuery, PutsAnotherColumnInThePlaceOfTheOldOne) {
     EXPECT_EQ(ColonnaOrdine(OrdinaPer("SELECT * FROM [IPE$]", "a]b")), "a]b");
 }
 
+TEST(OrdineQuery, TakesAQueryOfWholeSheetsApart) {
+    const auto one = SeparaOrdine("SELECT * FROM ['L Uguali'$] ORDER BY [g (Kg/m)]");
+    ASSERT_TRUE(one);
+    EXPECT_EQ(one->righe, "SELECT * FROM ['L Uguali'$]");
+    EXPECT_EQ(one->colonna, "g (Kg/m)");
+    EXPECT_FALSE(one->unione);
+    const std::string query = ComponeQuery("frmDoppioT", {"HEA", "IPE"}, 0);
+    const auto two = SeparaOrdine(query);
+    ASSERT_TRUE(two);
+    EXPECT_EQ(two->righe, "SELECT * FROM [HEA$] UNION SELECT * FROM [IPE$]");
+    EXPECT_EQ(two->colonna, "Wy (cm3)");
+    EXPECT_TRUE(two->unione);
+    EXPECT_EQ(SeparaOrdine(R"(SELECT * FROM [x$] ORDER BY "a]b")")->colonna, "a]b");
+}
+
+TEST(OrdineQuery, LeavesEveryOtherFormAlone) {
+    for (const char* query :
+         {"", "SELECT * FROM [x$]", "SELECT a FROM [x$] ORDER BY [a]", "SELECT * FROM [x$] ORDER BY a",
+          "SELECT * FROM [x$] ORDER BY [a] DESC", "SELECT * FROM [x$] ORDER BY [a], [b]",
+          "SELECT * FROM [x$] UNION ALL SELECT * FROM [y$] ORDER BY [a]", "SELECT * FROM [x$ ORDER BY [a]",
+          "SELECT * FROM [x$] WHERE a > 1 ORDER BY [a]", "SELECT * FROM [x$] ORDER BY []",
+          R"(SELECT * FROM [x$] ORDER BY "a""b")", "SELECT * FROM [x$] ORDER BY [a"})
+        EXPECT_FALSE(SeparaOrdine(query)) << query;
+}
+
 TEST(OrdineQuery, KnowsTheSheetsOfAQuery) {
     const std::string query = ComponeQuery("frmDoppioT", {"HEAA", "IPE"}, 1);
     EXPECT_TRUE(NominaFoglio(query, "HEAA"));
