@@ -12,6 +12,7 @@
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/ScriveTesto.h"
 #include "frame/ui/Twips.h"
 #include "screens/AggiornaVisibili.h"
 #include "screens/SchermoSezione.h"
@@ -164,7 +165,7 @@ void MostraValoriRiga(SchermoSezione& schermo) {
     const Lettore& row = schermo.Data1->Recordset();
     const int fields = std::min(row.Campi(), static_cast<int>(schermo.TxtProf.size()));
     for (int i = 1; i < fields; ++i)
-        schermo.TxtProf[i]->setText(QString::fromStdString(FormatoCifre(cifreRisultati, row.Numero(i))));
+        ScriveTesto(schermo.TxtProf[i], FormatoCifre(cifreRisultati, row.Numero(i)));
 }
 
 void RecordCambiato(SchermoSezione& schermo, int indice) {

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "drawing/ui/ImmagineDisegno.h"
 #include "frame/Unita.h"
+#include "frame/ui/ScriveTesto.h"
 #include "screens/AggiornaVisibili.h"
 #include "screens/RisultatiSezione.h"
 #include "screens/SchermoSezione.h"
@@ -40,7 +42,7 @@ public:
         }
         InizializzaConAreaEfficace(*section, this);
         for (const auto& [box, text] : risultati_)
-            box->setText(QString::fromStdString(text(*section)));
+            ScriveTesto(box, text(*section));
         ApplicaRegole();
         MostraSagoma(section);
         AggiornaVisibili(*this);
@@ -71,7 +73,11 @@ protected:
     virtual void ControllaSezione(const Lettore& riga, S& sezione) = 0;
     /// Draws the section, or nothing for nullptr.
     virtual void MostraSagoma(const S* sezione) {
-        Picture1->Mostra(DisegnoSagoma(sezione == nullptr ? SagomaDisegnata{} : SagomaDi(*sezione)));
+        SagomaDisegnata shape = sezione == nullptr ? SagomaDisegnata{} : SagomaDi(*sezione);
+        if (sagoma_ == shape)
+            return;
+        Picture1->Mostra(DisegnoSagoma(shape));
+        sagoma_ = std::move(shape);
     }
 
     /// The boxes of the results. One that the form does not have throws std::out_of_range.
@@ -104,6 +110,7 @@ protected:
 
 private:
     std::vector<std::pair<QLineEdit*, std::string (*)(const S&)>> risultati_;
+    std::optional<SagomaDisegnata> sagoma_; ///< in the picture
 };
 
 } // namespace sagomi

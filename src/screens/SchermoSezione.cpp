@@ -27,6 +27,7 @@
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/ScriveTesto.h"
 #include "frame/ui/Twips.h"
 #include "screens/CorpoSezione.h"
 #include "screens/MenuSezione.h"
@@ -329,7 +330,7 @@ void SchermoSezione::Aggiorna() { CambioFamiglia(*this); }
 void SchermoSezione::RigaNuova() {
     if (AggiungeSagomoUtente)
         return;
-    TxtProf[0]->setText(QString::fromStdString(Data1->Recordset().Testo(0)));
+    ScriveTesto(TxtProf[0], Data1->Recordset().Testo(0));
     RecordCambiato(*this, 0);
 }
 

@@ -21,6 +21,8 @@ struct NomeSagoma {
     Allinea allinea = Allinea::Sinistra;
     Posa posa = Posa::Mezzo;
     bool richiamo = false; ///< a line leads to it
+
+    bool operator==(const NomeSagoma&) const = default;
 };
 
 /// What the picture of a section shows: its outline and the names of its dimensions. All in mm, y upwards.
@@ -35,6 +37,8 @@ struct SagomaDisegnata {
     double basso = 0, alto = 0;         ///< how far the upright one goes
     double xG = 0, yG = 0;              ///< where they cross
     std::vector<NomeSagoma> nomi;       ///< of what has no dimension line
+
+    bool operator==(const SagomaDisegnata&) const = default;
 };
 
 /// The picture of a section: its outline, as computed last, and what its dimensions are called.

@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <QSet>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -106,12 +105,23 @@ void GrigliaCatalogo::Collega(LettoreDati* lettore) {
 }
 
 void GrigliaCatalogo::FormatoGriglia(int count) {
-    for (int column = 1; column <= count; ++column)
-        lettore_->Modello()->ImpostaFigura(column, "#,##0.00");
     lettore_->Modello()->ImpostaFigura(1, "#,##0.0");
     lettore_->Modello()->ImpostaFigura(2, "#,##0");
     lettore_->Modello()->ImpostaFigura(3, "#,##0");
+    for (int column = 4; column <= count; ++column)
+        lettore_->Modello()->ImpostaFigura(column, "#,##0.00");
     AdattaColonne();
+}
+
+int LarghezzeMisurate::Di(const QFont& font, const QString& testo) {
+    if (!font_ || (!font.isCopyOf(*font_) && font != *font_)) {
+        font_ = font;
+        note_.clear();
+    }
+    auto known = note_.find(testo);
+    if (known == note_.end())
+        known = note_.insert(testo, QFontMetrics(font).horizontalAdvance(testo));
+    return *known;
 }
 
 int GrigliaCatalogo::LarghezzaColonna(int column, const QStringList& texts) const {
@@ -123,14 +133,10 @@ int GrigliaCatalogo::LarghezzaColonna(int column, const QStringList& texts) cons
     const bool sorted = headings->isSortIndicatorShown() && headings->sortIndicatorSection() == column;
     int width =
         std::max(qRound(least * scalaLarghezza_),
-                 headings->fontMetrics().horizontalAdvance(heading) + ariaColonna +
+                 larghezzeTitoli_.Di(headings->font(), heading) + ariaColonna +
                      (sorted ? style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, headings) : 0));
-    QSet<QString> measured;
     for (const QString& text : texts)
-        if (const QString shape = Forma(text); !measured.contains(shape)) {
-            measured.insert(shape);
-            width = std::max(width, fontMetrics().horizontalAdvance(text) + ariaColonna);
-        }
+        width = std::max(width, larghezzeTesti_.Di(font(), Forma(text)) + ariaColonna);
     return column == 0 ? std::min(width, qRound(larghezzaMassima * scalaLarghezza_)) : width;
 }
 
@@ -140,7 +146,7 @@ int GrigliaCatalogo::Altezza(int rows) const {
 }
 
 void GrigliaCatalogo::AdattaColonne() {
-    const std::vector<QStringList> texts = lettore_->Modello()->TestiLunghi();
+    const std::vector<QStringList>& texts = lettore_->Modello()->TestiLunghi();
     larghezzePiene_.clear();
     for (int column = 0; column < model()->columnCount(); ++column)
         larghezzePiene_.push_back(LarghezzaColonna(column, texts[static_cast<std::size_t>(column)]));

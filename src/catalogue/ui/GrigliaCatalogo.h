@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QFont>
+#include <QHash>
 #include <QTableView>
 
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace sagomi {
@@ -12,6 +15,16 @@ class LettoreDati;
 
 class ColonnaFerma;
 class EtichettaRicerca;
+
+/// Widths of texts [px], each asked of the text engine once a font.
+class LarghezzeMisurate {
+public:
+    int Di(const QFont& font, const QString& testo);
+
+private:
+    std::optional<QFont> font_;
+    QHash<QString, int> note_;
+};
 
 /// The table of sections: the row in hand follows the reader and leads it and is always selected, typing goes
 /// to the first designation that begins so, Ctrl+C copies the selected rows with their headings, a click on a
@@ -98,6 +111,8 @@ private:
     EtichettaRicerca* ricerca_ = nullptr;
     std::map<QString, int> larghezzeScelte_; ///< by heading, as the user drew them
     std::vector<int> larghezzePiene_;        ///< of the columns, where there is room
+    mutable LarghezzeMisurate larghezzeTesti_;
+    mutable LarghezzeMisurate larghezzeTitoli_;
     double scalaLarghezza_ = 1;
     double scalaAltezza_ = 1;
     int altezzaRiga_ = 0;

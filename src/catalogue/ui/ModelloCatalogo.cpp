@@ -81,7 +81,14 @@ const std::string& ModelloCatalogo::FiguraDi(int column) const {
     return at < figure_.size() ? figure_[at] : nessuna;
 }
 
-std::vector<QStringList> ModelloCatalogo::TestiLunghi() const {
+const std::vector<QStringList>& ModelloCatalogo::TestiLunghi() const {
+    if (!lunghi_ || letturaLunghi_ != lettore_.Lettura())
+        lunghi_ = CercaTestiLunghi();
+    letturaLunghi_ = lettore_.Lettura();
+    return *lunghi_;
+}
+
+std::vector<QStringList> ModelloCatalogo::CercaTestiLunghi() const {
     const auto columns = static_cast<std::size_t>(lettore_.Campi());
     std::vector<Estremi> estremi(columns);
     std::vector<QStringList> testi(columns);
@@ -119,7 +126,10 @@ void ModelloCatalogo::ImpostaFigura(int column, const std::string& figura) {
     const auto at = static_cast<std::size_t>(column);
     if (figure_.size() <= at)
         figure_.resize(at + 1);
+    if (figure_[at] == figura)
+        return;
     figure_[at] = figura;
+    lunghi_.reset();
 }
 
 } // namespace sagomi

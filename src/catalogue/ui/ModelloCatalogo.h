@@ -3,6 +3,7 @@
 #include <QAbstractTableModel>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 #include "catalogue/Lettore.h"
@@ -29,7 +30,7 @@ public:
 
     /// Texts among which the longest of each column stands: of the numbers in a picture the greatest and the
     /// least, of all else those that none before was longer than.
-    [[nodiscard]] std::vector<QStringList> TestiLunghi() const;
+    [[nodiscard]] const std::vector<QStringList>& TestiLunghi() const;
 
     /// First row whose designation begins with the text, blanks and case ignored; -1 if none does.
     [[nodiscard]] int CercaIniziale(const QString& testo) const;
@@ -43,7 +44,11 @@ private:
     [[nodiscard]] const std::string& FiguraDi(int column) const;
 
     std::vector<std::string> figure_;
+    [[nodiscard]] std::vector<QStringList> CercaTestiLunghi() const;
+
     mutable NomiPiegati nomi_; ///< of the rows in force, made when somebody types
+    mutable std::optional<std::vector<QStringList>> lunghi_;
+    mutable int letturaLunghi_ = 0; ///< the reading whose texts they are
 };
 
 } // namespace sagomi

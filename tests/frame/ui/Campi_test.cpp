@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "frame/ui/AmbienteFinestre.h"
+#include "frame/ui/ScriveTesto.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -111,6 +112,15 @@ TEST_F(CampiTest, BoxAndRecordShareOneFieldList) {
     name.clear();
     LeggeScriveTesto("L", &prima, name);
     EXPECT_EQ(name, "HEA 100");
+}
+
+TEST_F(CampiTest, ATextThatIsThereAlreadyKeepsItsSelection) {
+    prima.setText("12,50");
+    prima.setSelection(1, 2);
+    ScriveTesto(&prima, "12,50");
+    EXPECT_EQ(prima.selectedText(), "2,");
+    ScriveTesto(&prima, "13");
+    EXPECT_EQ(prima.text(), "13");
 }
 
 } // namespace
