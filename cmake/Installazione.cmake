@@ -19,7 +19,7 @@ install(FILES ${PROJECT_BINARY_DIR}/include/frame/VersioneProgramma.h
 set(accanto Sagomi.xls)
 if(SAGOMI_UI)
   install(TARGETS sagomi RUNTIME COMPONENT programma)
-  list(APPEND accanto Sagomi.hlp)
+  list(APPEND accanto Sagomi.hlp FormuleGiunto.rtf)
 endif()
 list(TRANSFORM accanto PREPEND ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/)
 install(FILES ${accanto} DESTINATION ${CMAKE_INSTALL_DATADIR}/sagomi COMPONENT programma)

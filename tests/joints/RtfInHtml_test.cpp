@@ -1,0 +1,74 @@
+#include "joints/RtfInHtml.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+using namespace sagomi;
+
+namespace {
+
+/// The paragraphs without the style of each.
+std::string Senza(std::string html) {
+    for (std::size_t i = html.find(" style=\"margin"); i != std::string::npos;
+         i = html.find(" style=\"margin"))
+        html.erase(i, html.find("\">", i) + 1 - i);
+    return html;
+}
+
+std::string Html(const std::string& corpo) { return Senza(HtmlDaRtf("{\\rtf1\\ansi " + corpo + "}")); }
+
+struct CasoRtf {
+    const char* nome;
+    const char* rtf;
+    const char* html;
+};
+void PrintTo(const CasoRtf& c, std::ostream* os) { *os << c.nome; }
+class RtfInHtmlTest : public testing::TestWithParam<CasoRtf> {};
+TEST_P(RtfInHtmlTest, Tabella) { EXPECT_EQ(Html(GetParam().rtf), GetParam().html); }
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(RtfInHtml, RtfInHtmlTest, testing::Values(
+    CasoRtf{"testo",        "ciao",                         "<p>ciao</p>\n"},
+    CasoRtf{"paragrafi",    "uno\\par\r\ndue\\par",         "<p>uno</p>\n<p>due</p>\n"},
+    CasoRtf{"grassetto",    "a{\\b b}c",                    "<p>a<b>b</b>c</p>\n"},
+    CasoRtf{"spento",       "a\\b b\\b0 c",                 "<p>a<b>b</b>c</p>\n"},
+    CasoRtf{"annidati",     "{\\b m{\\sub c}}",             "<p><b>m</b><b><sub>c</sub></b></p>\n"},
+    CasoRtf{"apice",        "t{\\super 2} x\\super 3\\nosupersub y", "<p>t<sup>2</sup> x<sup>3</sup>y</p>\n"},
+    CasoRtf{"corsivo",      "{\\i n}{\\ul s}",              "<p><i>n</i><u>s</u></p>\n"},
+    CasoRtf{"ansi",         "\\'e8 \\'E0\\'80",             "<p>è à€</p>\n"},
+    CasoRtf{"unicode",      "\\u947?\\u8730V3\\u-3913?",    "<p>γ√3\xEF\x82\xB7</p>\n"},
+    CasoRtf{"sostituti",    "\\uc2\\u947xyz\\uc0\\u947z",   "<p>γzγz</p>\n"},
+    CasoRtf{"sostituto_hex","\\u8722\\'2d5",                "<p>−5</p>\n"},
+    CasoRtf{"simboli",      "{\\fonttbl{\\f0 Times;}{\\f3\\fcharset2 Symbol;}}{\\f3 bS\\'b3\\'d6}b", "<p>βΣ≥√b</p>\n"},
+    CasoRtf{"segni",        "a\\{b\\}\\\\c\\~d\\_e\\emdash f", "<p>a{b}\\c\xC2\xA0" "d\xE2\x80\x91" "e—f</p>\n"},
+    CasoRtf{"html",         "a<b>&c",                       "<p>a&lt;b&gt;&amp;c</p>\n"},
+    CasoRtf{"a_capo",       "a\\line b\r\nc",               "<p>a<br>bc</p>\n"},
+    CasoRtf{"nascosto",     "a\\v xx\\v0 b{\\v y}c",        "<p>abc</p>\n"},
+    CasoRtf{"tavole",       "{\\colortbl;\\red1;}{\\info{\\title T}}{\\*\\ignoto z}a", "<p>a</p>\n"},
+    CasoRtf{"ignote",       "\\lang1040\\qualcosa a",       "<p>a</p>\n"},
+    CasoRtf{"corpo",        "{\\fs44 a}",                   "<p><span style=\"font-size:200%;\">a</span></p>\n"},
+    CasoRtf{"troncato",     "a{\\b b",                      "<p>a<b>b</b></p>\n"},
+    CasoRtf{"vuoto",        "",                             ""}),
+    [](const auto& i) { return std::string(i.param.nome); });
+// clang-format on
+
+TEST(RtfInHtml, RientriInPixel) {
+    EXPECT_EQ(HtmlDaRtf("{\\rtf1\\pard\\li570\\sa60\\sb120 a\\par\\pard b}"),
+              "<p style=\"margin:8px 0px 4px 38px; white-space:pre-wrap;\">a</p>\n"
+              "<p style=\"margin:0px 0px 0px 0px; white-space:pre-wrap;\">b</p>\n");
+}
+
+TEST(RtfInHtml, QualunqueByteDaUnTesto) {
+    std::mt19937 caso(7);
+    const std::string pezzi[] = {"{", "}", "\\", "\\'", "\\u", "\\uc", "-", "9", "\\b", "\\par", "\xE8", " "};
+    for (int prova = 0; prova < 2000; ++prova) {
+        std::string rtf;
+        for (unsigned i = caso() % 40; i > 0; --i)
+            rtf += pezzi[caso() % std::size(pezzi)];
+        (void)HtmlDaRtf(rtf);
+    }
+    (void)HtmlDaRtf(std::string(100000, '{') + "a" + std::string(100000, '}'));
+    EXPECT_EQ(Html(std::string(1000, '{') + "\\b a" + std::string(1000, '}') + "b"), "<p><b>a</b>b</p>\n");
+}
+
+} // namespace
