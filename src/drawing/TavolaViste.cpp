@@ -11,7 +11,7 @@ namespace sagomi {
 
 namespace {
 
-constexpr double quotaTesti = 0.65; ///< of a target that texts may take at most
+constexpr double quotaTesti = 0.72; ///< of a target that texts may take at most
 constexpr double foglio = 190;      ///< mm, width of a sheet A4 within its margins
 constexpr std::string_view campione = "0";
 

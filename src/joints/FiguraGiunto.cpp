@@ -29,8 +29,22 @@ const Giunto* Quale(const Nodo& nodo, const Giunto* giunto) {
     return giunto != nullptr ? giunto : nodo.ConnessioneCorrente.get();
 }
 
-std::string Misure(const Giunto& g) {
-    return Cifre(g.tf) + " x " + Cifre(g.bf) + " x " + Cifre(g.nf == 2 ? g.Trave->h + g.L + g.u : g.hf);
+std::string Misure(const LatoNodo& l) {
+    return Cifre(l.tf) + " x " + Cifre(l.bf) + " x " + Cifre(l.alto - l.basso);
+}
+
+/// What is missing: sections a line each, parameters in one.
+void Mancanze(std::vector<std::string>& righe, const GeometriaNodo& geo) {
+    const std::vector<std::string> mancano = geo.Mancanze();
+    if (mancano.empty())
+        return;
+    const bool parametri =
+        geo.colonna.Presente() && geo.lato.trave.Presente() && (!geo.dueTravi || geo.altro.trave.Presente());
+    if (parametri)
+        righe.push_back((mancano.size() == 1 ? "Manca " : "Mancano ") + Unite(mancano));
+    else
+        for (const std::string& nome : mancano)
+            righe.push_back("Manca " + nome);
 }
 
 /// What is known, a line each.
@@ -40,15 +54,14 @@ std::vector<std::string> Righe(const GeometriaNodo& geo, const Giunto* g) {
         righe.push_back("Colonna " + geo.colonna.nome);
     if (geo.lato.trave.Presente())
         righe.push_back("Trave " + geo.lato.trave.nome);
-    const std::vector<std::string> mancano = geo.Mancanze();
-    if (g != nullptr && geo.lato.Piastra() && geo.lato.bf > 0 && g->Trave)
-        righe.push_back("Flangia " + Misure(*g));
-    if (g != nullptr && geo.lato.trave.Presente() && g->Diam > 0)
-        righe.push_back("Bulloni M" + Cifre(g->Diam) + " " + g->Classe);
-    if (g != nullptr && geo.lato.Piastra() && g->Af > 0)
-        righe.push_back("af " + Cifre(g->Af) + "   aw " + Cifre(g->aw));
-    if (!mancano.empty())
-        righe.push_back((mancano.size() == 1 ? "Manca " : "Mancano ") + Unite(mancano));
+    const LatoNodo& l = geo.lato;
+    if (l.Piastra() && l.bf > 0)
+        righe.push_back("Flangia " + Misure(l));
+    if (l.Bulloni())
+        righe.push_back("Bulloni M" + Cifre(l.d) + " " + l.classe);
+    if (l.Piastra() && l.Af > 0)
+        righe.push_back("af " + Cifre(l.Af) + "   aw " + Cifre(l.aw));
+    Mancanze(righe, geo);
     if (g != nullptr && g->Acquisito)
         righe.push_back("Mj,Rd " + Cifre(g->MplRdGIUNTO) + " kNm");
     return righe;

@@ -13,11 +13,12 @@ namespace {
 // In heights of the text.
 constexpr double interlinea = 1.7;
 constexpr double margine = 1;        ///< around the whole sheet
+constexpr double piede = 2;          ///< under the views, for the scale
 constexpr double primaDeiTesti = 2;  ///< between a view and the column of texts
 constexpr double quotaFuori = 8;     ///< of a dimension with its text beside a view
-constexpr double sottoColonna = 4.5; ///< of the dimension of the column
+constexpr double sottoColonna = 5.5; ///< of the dimension of the column
 constexpr double sopraTravi = 6.5;   ///< of what stands over a node without column above
-constexpr double richiami = 14;      ///< of the texts beside a node with one beam
+constexpr double richiami = 20;      ///< of the texts beside a node with one beam
 constexpr double destraProspetto = 15;
 constexpr double sottoProspetto = 8;
 constexpr double sottoProspettoOfficina = 10.5;
@@ -93,7 +94,7 @@ std::vector<DisposizioneViste> FoglioNodo::Disposizioni() const {
         for (Ingombro& i : x.larghezze)
             i.testi += 2 * margine;
         for (Ingombro& i : x.altezze)
-            i.testi += titoli + 2 * margine;
+            i.testi += titoli + 2 * margine + (Schermo() ? 0 : piede);
     }
     return d;
 }
@@ -154,6 +155,8 @@ void FoglioNodo::Testi() {
         t.Testo({margine * a, y}, riga, Allinea::Sinistra, true);
         y -= interlinea * a;
     }
+    if (!Scala().empty())
+        t.Testo({margine * a, (margine + 0.5) * a}, "Quote in mm, disegno " + Scala(), Allinea::Sinistra);
     y = testi_.y - 0.5 * a;
     for (const std::string& riga : righe_) {
         t.Testo({testi_.x, y}, riga, Allinea::Sinistra);

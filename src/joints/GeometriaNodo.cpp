@@ -79,6 +79,7 @@ void LatoNodo::Bulloni(const Giunto& g) {
     xFori = bf / 2 - ef;
     d = g.Diam;
     d0 = g.d0;
+    classe = g.Classe;
     testa = g.bul_k;
     dado = g.bul_m;
     larghezza = g.bul_e;

@@ -56,6 +56,7 @@ struct LatoNodo {
     double Af = 0, aw = 0;
     double ef = 0, ex = 0, dX = 0, d2 = 0, u = 0;
     int nf = 1;
+    std::string classe;              ///< of the bolts
     std::vector<FilaDisegnata> file; ///< from above
 
     LatoNodo() = default;
@@ -63,7 +64,7 @@ struct LatoNodo {
 
     [[nodiscard]] bool Piastra() const { return tf > 0 && trave.Presente(); }
     [[nodiscard]] bool Bulloni() const { return Piastra() && d > 0 && d2 > 0; }
-    [[nodiscard]] bool Forata() const { return Bulloni() && bf > 0 && xFori > 0; }
+    [[nodiscard]] bool Forata() const { return Bulloni() && bf > 0 && ef > 0 && xFori > 0; }
     /// End of the beam.
     [[nodiscard]] double xTrave() const { return xColonna + (tf > 0 ? tf : 0); }
     /// Upper and lower edge of beam and plate.

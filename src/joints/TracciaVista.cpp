@@ -33,6 +33,19 @@ struct Ascisse {
 
 double Verso(double da, double a) { return a >= da ? 1 : -1; }
 
+/// The first and the last of several texts stand outside where they are wider than what they measure.
+void EstremeFuori(std::span<const QuotaNodo> quote, const std::vector<double>& mezze,
+                  std::vector<double>& centri) {
+    if (quote.size() < 2)
+        return;
+    const std::size_t ultima = quote.size() - 1;
+    const auto stretta = [&](std::size_t i) { return 2 * mezze[i] > std::abs(quote[i].a - quote[i].da); };
+    if (stretta(0))
+        centri[0] = std::min(quote[0].da, quote[0].a) - mezze[0];
+    if (stretta(ultima))
+        centri[ultima] = std::max(quote[ultima].da, quote[ultima].a) + mezze[ultima];
+}
+
 } // namespace
 
 std::vector<double> Distanziati(std::vector<double> centri, const std::vector<double>& mezze) {
@@ -173,6 +186,7 @@ void TracciaVista::Orizzontali(double yPezzo, double y, std::span<const QuotaNod
         centri.push_back((q.da + q.a) / 2);
         mezze.push_back((LarghezzaTestoPlt(testo_, q.testo) + stacco * a_) / 2);
     }
+    EstremeFuori(quote, mezze, centri);
     centri = Distanziati(centri, mezze);
     for (std::size_t i = 0; i < quote.size(); ++i)
         Testo({centri[i], y + verso * (stacco + 0.5) * a_}, quote[i].testo, Allinea::Centro, quote[i].rosso);

@@ -14,6 +14,7 @@ namespace {
 // In heights of the text.
 constexpr double primaQuota = 2.5;      ///< of dimension lines, from the piece
 constexpr double passoQuote = 2.7;      ///< from one to the next
+constexpr double secondaCatena = 6.5;   ///< of the height of the plate, beyond the chain of the holes
 constexpr double altezzaSpessore = 4.2; ///< of the thickness of the plate, at least
 constexpr double distacco = 2;
 
@@ -62,7 +63,7 @@ void FoglioNodo::Colonna(const TracciaVista& v) const {
     v.Rottura({-x, m.y1}, {x, m.y1});
     const bool entra = LarghezzaTestoPlt(tavola_->AltezzaTesto(), g_.colonna.nome) < 0.9 * 2 * interna;
     if (entra)
-        v.Testo({0, m.y1 + distacco * v.a()}, g_.colonna.nome, Allinea::Centro);
+        v.Testo({0, m.y1 + 1.3 * v.a()}, g_.colonna.nome, Allinea::Centro);
     else
         v.Testo({-x - v.a(), m.y1 + v.a()}, g_.colonna.nome, Allinea::Destra);
 }
@@ -95,7 +96,7 @@ void FoglioNodo::Trave(const TracciaVista& v, const LatoNodo& lato) const {
     for (const double y : {0.0, -t.tf, -t.h + t.tf, -t.h})
         v.Linea({x, y}, {fine, y});
     v.Rottura({fine, -t.h}, {fine, 0});
-    v.Testo({fine - v.a(), -t.h / 2}, t.nome, Allinea::Destra);
+    v.Testo({fine - 1.8 * v.a(), -t.h / 2}, t.nome, Allinea::Destra);
 }
 
 /// Head on the plate, nut and washer inside the column, the shank hidden between them.
@@ -181,7 +182,7 @@ void FoglioNodo::Richiami(const TracciaVista& v) const {
         return;
     const double x = l.xTrave() + l.testa;
     if (l.Bulloni()) {
-        const std::string quanti = std::to_string(2 * l.file.size()) + " M" + Mm(l.d);
+        const std::string quanti = std::to_string(2 * l.file.size()) + " M" + Mm(l.d) + " " + l.classe;
         v.Richiamo({x, l.Fila(FilaGiunto::Interna)}, {x + distacco * a, l.Fila(FilaGiunto::Interna)}, quanti);
     }
     if (l.aw > 0) {
@@ -209,15 +210,15 @@ void FoglioNodo::RichiamiIrrigidimenti(const TracciaVista& v) const {
         v.Richiamo(da, {x, y}, testo);
     };
     const std::string gola = g_.golaIrr > 0 ? ", a " + Mm(g_.golaIrr) : "";
-    nomina(g_.irrigidimenti[0], fondo - distacco * a, "2 " + misure + Mm(g_.lunghezzaIrr) + gola);
+    nomina(g_.irrigidimenti[0], fondo - distacco * a, "2 piatti " + misure + Mm(g_.lunghezzaIrr) + gola);
     if (g_.irrigidimenti.size() > 1)
-        nomina(g_.irrigidimenti[1], cima + distacco * a, "2 " + misure + Mm(g_.lunghezzaSup) + gola);
+        nomina(g_.irrigidimenti[1], cima + distacco * a, "2 piatti " + misure + Mm(g_.lunghezzaSup) + gola);
 }
 
 // Front view --------------------------------------------------------------------------------------------
 
 void FoglioNodo::Prospetto() const {
-    if (!tavola_ || g_.Vuota())
+    if (!tavola_ || !g_.lato.trave.Presente())
         return;
     const TracciaVista v = Frontale();
     if (g_.colonna.Presente())
@@ -302,11 +303,11 @@ QuotaNodo FoglioNodo::Quota(double da, double a, const char* campo, const char* 
 /// At the right the holes from edge to edge and the whole plate, at the left the holes from the beam.
 void FoglioNodo::QuoteFrontali(const TracciaVista& v) const {
     const LatoNodo& l = g_.lato;
-    if (!l.Piastra())
+    if (!l.Piastra() || !(l.bf > 0))
         return;
     const double a = v.a();
     const double destra = g_.Prospetto().x2;
-    const double piastra = l.bf > 0 ? l.bf / 2 : l.trave.b / 2;
+    const double piastra = l.bf / 2;
     const ProfiloNodo& t = l.trave;
     std::vector<QuotaNodo> fori;
     std::vector<QuotaNodo> trave;
@@ -329,7 +330,7 @@ void FoglioNodo::QuoteFrontali(const TracciaVista& v) const {
     }
     aggiunge(trave, -t.h, -t.h - l.u, "u", "u");
     v.Verticali(piastra, destra + primaQuota * a, fori);
-    v.Verticali(piastra, destra + (primaQuota + 1.9 * passoQuote) * a,
+    v.Verticali(piastra, destra + (primaQuota + secondaCatena) * a,
                 std::array{Quota(l.basso, l.alto, "hf", "hf")});
     if (evidenza_.parametro == "L" && l.nf == 2)
         aggiunge(trave, 0, l.alto, "L", "h'");

@@ -3,6 +3,8 @@
 #include <QFontMetrics>
 #include <QPainter>
 
+#include "frame/ui/Colori.h"
+
 namespace sagomi {
 
 namespace {
@@ -20,7 +22,7 @@ SuperficieFigura::SuperficieFigura(QPainter& pittore, const QSizeF& misura, cons
                                    const QPalette& colori)
     : SuperficieQt(pittore, Carta{misura, 1, 1, carattere, colori.color(QPalette::WindowText),
                                   Leggero(colori.color(QPalette::WindowText)), colori.color(QPalette::Window),
-                                  true}) {}
+                                  true, RossoSu(colori.color(QPalette::Window))}) {}
 
 QSize InPixel(const Misura& misura, const QFont& carattere) {
     const int text = QFontMetrics(carattere).horizontalAdvance(QString::fromStdString(misura.campione));

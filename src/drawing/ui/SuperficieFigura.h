@@ -9,8 +9,8 @@
 namespace sagomi {
 
 /// A small picture beside the figures of a screen as surface: its own scale is pixels, lines lie where they
-/// fall, inks and ground follow the palette (pen 8 is the light ink), texts in the widget's own font are the
-/// widget's own texts.
+/// fall, inks and ground follow the palette (pen 8 is the light ink, pen 12 the red of verdicts), texts in
+/// the widget's own font are the widget's own texts.
 class SuperficieFigura : public SuperficieQt {
 public:
     SuperficieFigura(QPainter& pittore, const QSizeF& misura, const QFont& carattere, const QPalette& colori);

@@ -12,8 +12,9 @@ namespace sagomi {
 namespace {
 
 constexpr double corpoCampione = 100; ///< points; metrics of this size have no rounding to speak of
-constexpr int opacitaTenue = 38;      ///< of a light fill, of 255
-constexpr double lontano = 1e7;       ///< beyond it a painter would dash and clip for ever [its units]
+constexpr std::int16_t pennaRossa = 12;
+constexpr int opacitaTenue = 38; ///< of a light fill, of 255
+constexpr double lontano = 1e7;  ///< beyond it a painter would dash and clip for ever [its units]
 
 bool Dipingibile(const QPointF& p) { return std::abs(p.x()) < lontano && std::abs(p.y()) < lontano; }
 
@@ -84,6 +85,8 @@ QColor SuperficieQt::Colore() const {
         return carta_.inchiostro;
     if (ForeColor == pennaGrigia && carta_.grigio.isValid())
         return carta_.grigio;
+    if (ForeColor == pennaRossa && carta_.rosso.isValid())
+        return carta_.rosso;
     const ColoreRgb c = ColoreTabella(ForeColor);
     return {c.rosso, c.verde, c.blu};
 }

@@ -38,6 +38,7 @@ protected:
         QColor grigio{};             ///< of pen 8; that of the table when it is none
         QColor sfondo{Qt::white};    ///< what lies behind the drawing
         bool testiDelWidget = false; ///< texts in the own font are those of widgets, in whole pixels
+        QColor rosso{};              ///< of pen 12; that of the table when it is none
     };
     SuperficieQt(QPainter& pittore, Carta carta);
 

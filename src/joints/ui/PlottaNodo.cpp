@@ -42,33 +42,33 @@ std::shared_ptr<Nodo> Copia(const Nodo& nodo) {
     return copy;
 }
 
-Disegno DisegnoDi(const std::shared_ptr<Nodo>& copy, int Optvie) {
+Disegno DisegnoDi(const std::shared_ptr<Nodo>& copy) {
     if (!copy->ConnessioneCorrente)
         return {};
-    return {Nome(*copy), [copy, Optvie](Superficie* target, std::string_view) {
+    return {Nome(*copy), [copy](Superficie* target, std::string_view) {
                 copy->Uscita = Dispositivo;
-                copy->PlottaInOggetto(target, {Optvie});
+                copy->PlottaInOggetto(target, {copy->Tipovie});
             }};
 }
 
 } // namespace
 
-Disegno DisegnoNodo(const Nodo& nodo, int Optvie) { return DisegnoDi(Copia(nodo), Optvie); }
+Disegno DisegnoNodo(const Nodo& nodo) { return DisegnoDi(Copia(nodo)); }
 
-Disegno DisegnoSelezione(const Nodo& nodo, int Optvie, const TabellaSelezione& tabella, int riga) {
+Disegno DisegnoSelezione(const Nodo& nodo, const TabellaSelezione& tabella, int riga) {
     const auto copy = Copia(nodo);
     if (copy->ConnessioneCorrente)
         copy->ConnessioneCorrente->DatiSelezione_Completa(tabella, riga);
-    return DisegnoDi(copy, Optvie);
+    return DisegnoDi(copy);
 }
 
-void PlottaNodo(Schermo& da, const Nodo& nodo, int Optvie) {
-    FrmPltSezione::Mostra(da, da.objectName(), [&nodo, Optvie] { return DisegnoNodo(nodo, Optvie); });
+void PlottaNodo(Schermo& da, const Nodo& nodo) {
+    FrmPltSezione::Mostra(da, da.objectName(), [&nodo] { return DisegnoNodo(nodo); });
 }
 
-void PlottaSelezione(Schermo& da, const Nodo& nodo, int Optvie, const TabellaSelezione& tabella, int riga) {
+void PlottaSelezione(Schermo& da, const Nodo& nodo, const TabellaSelezione& tabella, int riga) {
     FrmPltSezione::Mostra(da, da.objectName(),
-                          [drawing = DisegnoSelezione(nodo, Optvie, tabella, riga)] { return drawing; });
+                          [drawing = DisegnoSelezione(nodo, tabella, riga)] { return drawing; });
 }
 
 } // namespace sagomi
