@@ -18,7 +18,13 @@ install(FILES ${PROJECT_BINARY_DIR}/include/frame/VersioneProgramma.h
 
 set(accanto Sagomi.xls)
 if(SAGOMI_UI)
-  install(TARGETS sagomi RUNTIME COMPONENT programma)
+  install(TARGETS sagomi sagomi-server RUNTIME COMPONENT programma)
+  # The session bus starts the program by this file, which names its place.
+  install(CODE "
+    get_filename_component(cartella \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\" ABSOLUTE)
+    configure_file(\"${PROJECT_SOURCE_DIR}/src/automation/Sagomi_v6.SezioneSagomi.service.in\"
+      \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/dbus-1/services/Sagomi_v6.SezioneSagomi.service\"
+      @ONLY)" COMPONENT programma)
   list(APPEND accanto Sagomi.hlp FormuleGiunto.rtf)
 endif()
 list(TRANSFORM accanto PREPEND ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/)

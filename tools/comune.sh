@@ -13,6 +13,7 @@ pacchetti_prove=(
   libgtest-dev libgmock-dev libfreexl-dev
   python3 python3-xlrd python3-ezdxf
   poppler-utils
+  dbus-daemon libglib2.0-bin
   clang clang-format clang-tidy
 )
 
