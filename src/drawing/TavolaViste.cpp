@@ -11,12 +11,13 @@ namespace sagomi {
 
 namespace {
 
-constexpr double quotaTesti = 0.72; ///< of a target that texts may take at most
-constexpr double foglio = 190;      ///< mm, width of a sheet A4 within its margins
+constexpr double quotaSchermo = 0.72; ///< of a target that texts may take at most
+constexpr double quotaCarta = 0.9;    ///< the same of paper, where they are small
+constexpr double foglio = 190;        ///< mm, width of a sheet A4 within its margins
 constexpr std::string_view campione = "0";
 
 /// Part of their size that the texts can have.
-double Riduzione(const std::vector<Ingombro>& ingombri, double spazio, double corpo) {
+double Riduzione(const std::vector<Ingombro>& ingombri, double spazio, double corpo, double quotaTesti) {
     double f = 1;
     for (const Ingombro& i : ingombri)
         if (i.testi * corpo > quotaTesti * spazio)
@@ -89,12 +90,14 @@ void TavolaViste::SuBersaglio(std::span<const DisposizioneViste> disposizioni) {
     const double l = o.ScaleWidth;
     const double h = o.ScaleHeight;
     const double corpo = o.TextHeight(campione);
+    const double quota = carta ? quotaCarta : quotaSchermo;
     double riduzione = 1;
     double rapporto = 0;
     double merito = -1;
     for (std::size_t i = 0; i < disposizioni.size(); ++i) {
         const DisposizioneViste& d = disposizioni[i];
-        const double f = std::min(Riduzione(d.larghezze, l, corpo), Riduzione(d.altezze, h, corpo));
+        const double f =
+            std::min(Riduzione(d.larghezze, l, corpo, quota), Riduzione(d.altezze, h, corpo, quota));
         const double r = std::max(Rapporto(d.larghezze, l, f * corpo), Rapporto(d.altezze, h, f * corpo));
         if (!(r > 0) || f * f / r <= merito)
             continue;

@@ -66,7 +66,7 @@ Ingombro FoglioNodo::Largo(const Riquadro& r) { return {r.modello.x2 - r.modello
 Ingombro FoglioNodo::Alto(const Riquadro& r) { return {r.modello.y2 - r.modello.y1, r.su + r.giu}; }
 
 /// 0 the front view below with the texts beside it, 1 all in one row with the views on one level, 2 the views
-/// over one another and the texts beside both.
+/// over one another and the texts beside both, 3 the views on one level over the texts.
 std::vector<DisposizioneViste> FoglioNodo::Disposizioni() const {
     const double testi = larghezzaTesti_ > 0 ? larghezzaTesti_ + primaDeiTesti : 0;
     const double titoli = interlinea * static_cast<double>(titoli_.size());
@@ -79,6 +79,7 @@ std::vector<DisposizioneViste> FoglioNodo::Disposizioni() const {
     const Ingombro aL = Alto(laterale_);
     const Ingombro aP = Alto(prospetto_);
     const double colonna = AltezzaColonna();
+    const double sotto = colonna + primaDeiTesti;
     const CampoNodo& m = laterale_.modello;
     const CampoNodo& n = prospetto_.modello;
     std::vector<DisposizioneViste> d{{{lL, piu(lP, testi)}, {somma(aL, aP), piu(aL, colonna)}},
@@ -88,7 +89,12 @@ std::vector<DisposizioneViste> FoglioNodo::Disposizioni() const {
                                        {m.y2 - n.y1, laterale_.su + prospetto_.giu},
                                        {n.y2 - m.y1, prospetto_.su + laterale_.giu},
                                        {0, colonna}}},
-                                     {{piu(lL, testi), piu(lP, testi)}, {somma(aL, aP), {0, colonna}}}};
+                                     {{piu(lL, testi), piu(lP, testi)}, {somma(aL, aP), {0, colonna}}},
+                                     {{somma(lL, lP), {0, larghezzaTesti_}},
+                                      {piu(aL, sotto),
+                                       piu(aP, sotto),
+                                       {m.y2 - n.y1, laterale_.su + prospetto_.giu + sotto},
+                                       {n.y2 - m.y1, prospetto_.su + laterale_.giu + sotto}}}};
     for (DisposizioneViste& x : d) {
         x.larghezze.push_back({0, larghezzaTitoli_});
         for (Ingombro& i : x.larghezze)
@@ -116,11 +122,14 @@ void FoglioNodo::Colloca() {
         dove_[1] = posto(prospetto_, x, sotto);
         testi_ = {x + destraP, sotto};
         break;
-    case 1: {
+    case 1:
+    case 3: {
         const double y = std::min(dove_[0].y, posto(prospetto_, 0, cima).y);
         dove_[0].y = y;
         dove_[1] = {posto(prospetto_, x + larga(Largo(laterale_)), 0).x, y};
         testi_ = {x + larga(Largo(laterale_)) + destraP, cima};
+        if (tavola_->Scelta() == 3)
+            testi_ = {x, (margine + (Schermo() ? 0 : piede) + AltezzaColonna()) * a};
         break;
     }
     default:

@@ -1,0 +1,99 @@
+// Moment over rotation: points by hand, phi = M / Sj.
+
+#include "joints/DiagrammaRigidezza.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <gmock/gmock.h>
+
+#include "NodoDisegnato.h"
+#include "drawing/SuperficieFinta.h"
+#include "frame/GeneraleSagomi.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+using testing::Contains;
+using testing::HasSubstr;
+
+namespace {
+
+class DiagrammaRigidezzaTest : public testing::Test {
+protected:
+    DiagrammaRigidezzaTest() : n(NodoDisegnato(nodoT, 2)) {
+        n.TraveDx->McyRd = 484e3 * 235 / 1.05;
+        n.TraveDx->lunghezza() = 6;
+        n.TraveDx->Mysd = 70;
+        g().Criterio1 = false;
+        n.EsegueCalcolo();
+    }
+    Giunto& g() { return *n.ConnessioneCorrente; }
+    static SuperficieFinta Disegnato(const Giunto& g) {
+        SuperficieFinta s(440, 280);
+        const SuUscita uscita(&s);
+        DiagrammaRigidezza(g).PlottaInOggetto(&s, "frmGiunti");
+        return s;
+    }
+    /// The joint's line is the thickest.
+    static std::vector<SuperficieFinta::Linea> Curva(const SuperficieFinta& s) {
+        std::vector<SuperficieFinta::Linea> c;
+        std::copy_if(s.linee.begin(), s.linee.end(), std::back_inserter(c),
+                     [](const auto& l) { return l.spessore > 2; });
+        return c;
+    }
+    Nodo n;
+
+private:
+    StatoUscita prima_;
+};
+
+// The unit of an axis from the joint's own line: its last rise ends at Mj,Rd and Mj,Rd / Sj.
+TEST_F(DiagrammaRigidezzaTest, TheLineRunsThroughTheComputedPoints) {
+    ASSERT_TRUE(g().Acquisito);
+    const auto s = Disegnato(g());
+    const auto c = Curva(s);
+    ASSERT_GT(c.size(), 3U);
+    const double x0 = c.front().x1;
+    const double y0 = c.front().y1;
+    const auto& cima = c[c.size() - 2]; // the last one is the level
+    const double perMoment = (y0 - cima.y2) / g().MplRdGIUNTO;
+    const double perRotation = (cima.x2 - x0) / (g().MplRdGIUNTO / g().Sj_MjRd);
+    EXPECT_NEAR(c.back().y1, c.back().y2, 1e-9);
+    EXPECT_NEAR(c[0].y2, y0 - perMoment * g().M_elastico, 1e-6);
+    EXPECT_NEAR(c[0].x2, x0 + perRotation * g().M_elastico / g().Sj_Mela, 1e-6);
+    ASSERT_EQ(s.cerchi.size(), 1U); // the acting moment
+    EXPECT_NEAR(s.cerchi[0].y, y0 - perMoment * 70, 1e-6);
+    EXPECT_NEAR(s.cerchi[0].x, x0 + perRotation * 70 / g().Sj_MjSd, 1e-6);
+    for (const double limite : {g().LimiteRigido1, g().LimiteRigido2, g().LimiteCerniera})
+        EXPECT_TRUE(std::any_of(s.linee.begin(), s.linee.end(), [&](const auto& l) {
+            return l.tipo == TipoLinea::Tratteggiata && std::abs(l.x1 - x0) < 1e-9 && l.x2 > x0 &&
+                   std::abs((y0 - l.y2) / perMoment / ((l.x2 - x0) / perRotation) / limite - 1) < 1e-6;
+        })) << limite;
+}
+
+TEST_F(DiagrammaRigidezzaTest, AxesAndLimitsHaveTheirNames) {
+    const auto testi = Disegnato(g()).Testi();
+    for (const char* nome : {"rotazione [mrad]", "M [kNm]", "rigido (non controv.)", "rigido (controv.)",
+                             "cerniera", "Mj,Sd 70"})
+        EXPECT_THAT(testi, Contains(nome));
+    EXPECT_THAT(testi, Contains(HasSubstr("Mj,Rd ")));
+}
+
+TEST_F(DiagrammaRigidezzaTest, AMomentThatIsNotCarriedIsRed) {
+    n.TraveDx->Mysd = 2 * g().MplRdGIUNTO;
+    const auto s = Disegnato(g());
+    EXPECT_TRUE(s.cerchi.empty());
+    EXPECT_TRUE(std::any_of(s.linee.begin(), s.linee.end(), [](const auto& l) { return l.colore == 12; }));
+    EXPECT_THAT(s.Testi(), Contains(HasSubstr(" > Mj,Rd")));
+}
+
+TEST_F(DiagrammaRigidezzaTest, NothingMisleadsWhereSomethingIsMissing) {
+    n.TraveDx->lunghezza() = 0;
+    const auto testi = Disegnato(g()).Testi();
+    EXPECT_THAT(testi, Contains("luce non data: senza limiti"));
+    EXPECT_THAT(testi, testing::Not(Contains("cerniera")));
+    g().Acquisito = false;
+    EXPECT_THAT(Disegnato(g()).Testi(), testing::ElementsAre("Giunto non calcolato"));
+}
+
+} // namespace

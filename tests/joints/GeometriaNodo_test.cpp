@@ -1,0 +1,160 @@
+// Where the parts of a joint are drawn, by hand from the fields. Column HE 200 B (h 200, b 200, tf 15), beam
+// IPE 270 (h 270, tf 10.2), plate 20 x 160, bolts at 35 mm from the flange.
+
+#include "joints/GeometriaNodo.h"
+
+#include <cmath>
+
+#include <gmock/gmock.h>
+
+#include "NodoDisegnato.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+constexpr double vicino = 1e-4; // sections are kept in 32 bits
+
+double Altezza(const std::array<PuntoNodo, 3>& t) { // of a right triangle over its longest side
+    const double a = std::hypot(t[1].x - t[0].x, t[1].y - t[0].y);
+    const double b = std::hypot(t[2].x - t[0].x, t[2].y - t[0].y);
+    return a * b / std::hypot(a, b);
+}
+
+TEST(GeometriaNodo, PlateAndRowsOfTwoRowsInTension) {
+    const Nodo n = NodoDisegnato(nodoT, 2);
+    const GeometriaNodo g(n, nullptr, false);
+    EXPECT_TRUE(g.destro);
+    EXPECT_TRUE(g.sopra);
+    EXPECT_NEAR(g.lato.xColonna, 100, vicino);
+    EXPECT_NEAR(g.lato.xTrave(), 120, vicino);
+    EXPECT_NEAR(g.lato.alto, 65, vicino);    // ex + d2 of the screen
+    EXPECT_NEAR(g.lato.basso, -285, vicino); // h + u
+    EXPECT_NEAR(g.lato.alto - g.lato.basso, n.ConnessioneCorrente->hf, vicino);
+    ASSERT_EQ(g.lato.file.size(), 3U);
+    EXPECT_NEAR(g.lato.file[0].y, 35, vicino);
+    EXPECT_NEAR(g.lato.file[1].y, -45.2, vicino);
+    EXPECT_NEAR(g.lato.file[2].y, -224.8, vicino);
+    EXPECT_NEAR(g.lato.file[0].y - g.lato.file[1].y, n.ConnessioneCorrente->p, vicino);
+    EXPECT_NEAR(g.lato.file[1].y - g.lato.file[2].y, n.ConnessioneCorrente->pint, vicino);
+    EXPECT_NEAR(2 * g.lato.xFori, n.ConnessioneCorrente->w, vicino);
+}
+
+TEST(GeometriaNodo, PlateOfOneRowEndsInTheFlanges) {
+    const Nodo n = NodoDisegnato(nodoL, 1);
+    const GeometriaNodo g(n, nullptr, false);
+    EXPECT_FALSE(g.sopra);
+    EXPECT_NEAR(g.lato.alto, -5, vicino); // 270 - 10.2 rounded upward is 260, in the middle of 270
+    EXPECT_NEAR(g.lato.basso, -265, vicino);
+    ASSERT_EQ(g.lato.file.size(), 2U);
+    EXPECT_EQ(g.Laterale().y2, 0); // the column ends with the beam
+}
+
+TEST(GeometriaNodo, FilletsHaveTheirThroat) {
+    for (const int nf : {1, 2}) {
+        const Nodo n = NodoDisegnato(nodoT, nf);
+        const auto cordoni = GeometriaNodo(n, nullptr, false).lato.Cordoni();
+        ASSERT_EQ(cordoni.size(), 4U);
+        for (const auto& c : cordoni)
+            EXPECT_NEAR(Altezza(c), n.ConnessioneCorrente->Af, vicino) << nf;
+    }
+}
+
+TEST(GeometriaNodo, ThereIsNoFilletBeyondThePlate) {
+    Nodo n = NodoDisegnato(nodoT, 1);
+    n.ConnessioneCorrente->Af = 20; // half a flange has no room for it
+    for (const auto& c : GeometriaNodo(n, nullptr, false).lato.Cordoni())
+        for (const PuntoNodo& p : c)
+            EXPECT_GE(p.x, 100 - vicino);
+}
+
+TEST(GeometriaNodo, SideAndColumnFollowTheKind) {
+    struct Caso {
+        std::int16_t tipo;
+        bool sinistro, destro, sopra;
+    };
+    for (const Caso& c :
+         {Caso{nodoCroce, false, true, true}, Caso{nodoCroce, true, false, true},
+          Caso{nodoCroceSenzaColonna, false, true, false}, Caso{nodoCroceSenzaColonna, true, false, false},
+          Caso{nodoT, false, true, true}, Caso{nodoL, false, true, false}}) {
+        const Nodo n = NodoDisegnato(c.tipo, 2, "No", c.sinistro);
+        const GeometriaNodo g(n, nullptr, c.tipo <= nodoCroceSenzaColonna);
+        EXPECT_EQ(g.destro, c.destro) << n.ConnessioneCorrente->TipiGiunto;
+        EXPECT_EQ(g.sopra, c.sopra) << n.ConnessioneCorrente->TipiGiunto;
+        EXPECT_EQ(g.altro.trave.Presente(), c.tipo <= nodoCroceSenzaColonna);
+        EXPECT_NEAR(g.lato.trave.h, c.sinistro ? 330 : 270, vicino);
+    }
+}
+
+TEST(GeometriaNodo, StiffenersLieAtTheFlanges) {
+    const Nodo n = NodoDisegnato(nodoT, 2, "Si");
+    const GeometriaNodo g(n, nullptr, false);
+    ASSERT_EQ(g.irrigidimenti.size(), 2U);
+    EXPECT_NEAR(g.lunghezzaSup, 162, vicino); // 200 - 2 15 - 8
+    for (const PuntoNodo& p : g.irrigidimenti[1]) {
+        EXPECT_NEAR(std::abs(p.x), 81, vicino);
+        EXPECT_NEAR(std::abs(p.y + 5.1), 5, vicino); // 10 mm thick, in the middle of the flange
+    }
+    for (const PuntoNodo& p : g.irrigidimenti[0])
+        EXPECT_NEAR(std::abs(p.y + 264.9), 5, vicino);
+    EXPECT_EQ(GeometriaNodo(NodoDisegnato(nodoT, 2, "Cp"), nullptr, false).irrigidimenti.size(), 1U);
+    EXPECT_TRUE(GeometriaNodo(NodoDisegnato(nodoT, 2, "No"), nullptr, false).irrigidimenti.empty());
+}
+
+// 60 mm of 170: the axis is 180.3 long, the stiffener 180 - 8, seen from either side.
+TEST(GeometriaNodo, BeamsOfDifferentHeightPutTheLowerStiffenerOnASlope) {
+    for (const bool sinistro : {false, true}) {
+        const Nodo n = NodoDisegnato(nodoCroce, 2, "Si", sinistro);
+        const GeometriaNodo g(n, nullptr, true);
+        EXPECT_NEAR(g.lunghezzaIrr, 172, vicino);
+        const ContornoNodo& c = g.irrigidimenti[0];
+        EXPECT_NEAR(std::hypot(c[1].x - c[0].x, c[1].y - c[0].y), 172, vicino);
+        EXPECT_NEAR(std::abs((c[1].y - c[0].y) / (c[1].x - c[0].x)), 60.0 / 170, vicino);
+        // towards the other beam it falls where that is the deeper one
+        EXPECT_EQ(c[1].x < c[0].x, true);
+        EXPECT_EQ(c[1].y < c[0].y, !sinistro);
+        for (const PuntoNodo& p : g.irrigidimenti[1]) // the upper one is level
+            EXPECT_NEAR(std::abs(p.y + g.lato.trave.tf / 2), 6, vicino);
+    }
+}
+
+TEST(GeometriaNodo, SaysWhatIsMissing) {
+    using testing::ElementsAre;
+    Nodo n;
+    n.ImpostaNodo();
+    n.CaratterizzaGiunti();
+    EXPECT_TRUE(GeometriaNodo(n, nullptr, true).Vuota());
+    EXPECT_THAT(GeometriaNodo(n, nullptr, true).Mancanze(),
+                ElementsAre("colonna", "trave destra", "trave sinistra"));
+    n.PuntatoreColonna(HEB200());
+    n.PuntatoreTraveDestra(IPE270());
+    EXPECT_THAT(GeometriaNodo(n, nullptr, true).Mancanze(), ElementsAre("trave sinistra"));
+    EXPECT_THAT(GeometriaNodo(n, nullptr, false).Mancanze(), ElementsAre("tf", "bf", "ef", "d1"));
+    n.ConnessioneCorrente->nf = 2;
+    n.ConnessioneCorrente->tf = 20;
+    EXPECT_THAT(GeometriaNodo(n, nullptr, false).Mancanze(), ElementsAre("bf", "ef", "d1", "ex", "d2"));
+    EXPECT_FALSE(GeometriaNodo(n, nullptr, false).lato.Bulloni());
+}
+
+TEST(GeometriaNodo, ComponentsLieWhereTheyWork) {
+    const Nodo n = NodoDisegnato(nodoT, 2, "Cp");
+    const GeometriaNodo g(n, nullptr, false);
+    using enum ComponenteGiunto;
+    const auto zona = [&g](ComponenteGiunto c, FilaGiunto f) { return g.ZoneLaterali({c, f}); };
+    EXPECT_EQ(zona(Bulloni, FilaGiunto::Nessuna).size(), 3U);
+    ASSERT_EQ(zona(AlaColonna, FilaGiunto::Esterna).size(), 1U);
+    const ContornoNodo ala = zona(AlaColonna, FilaGiunto::Esterna)[0];
+    EXPECT_NEAR(ala[0].x, 85, vicino); // the flange of the column, at the outer row
+    EXPECT_NEAR(ala[2].x, 100, vicino);
+    EXPECT_NEAR((ala[0].y + ala[2].y) / 2, 35, vicino);
+    const ContornoNodo pannello = zona(Pannello, FilaGiunto::Nessuna)[0];
+    EXPECT_NEAR(pannello[0].y, -270, vicino);
+    EXPECT_NEAR(pannello[2].x, 85, vicino);
+    EXPECT_EQ(zona(Irrigidimenti, FilaGiunto::Nessuna).size(), 1U);
+    EXPECT_EQ(zona(Saldature, FilaGiunto::Nessuna).size(), 4U);
+    EXPECT_EQ(g.ZoneFrontali({Bulloni, FilaGiunto::Interna}).size(), 2U);
+    EXPECT_TRUE(zona(Nessuno, FilaGiunto::Nessuna).empty());
+}
+
+} // namespace
