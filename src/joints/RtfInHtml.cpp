@@ -80,6 +80,18 @@ std::optional<int> Esadecimale(char c) {
 bool Lettera(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 bool Cifra(char c) { return c >= '0' && c <= '9'; }
 
+/// The step of a rich text box that comes next to a size; empty for that of the box.
+std::string_view MisuraHtml(int corpo) {
+    const double rapporto = double(corpo) / corpoBase;
+    if (rapporto >= 1.6)
+        return "xx-large";
+    if (rapporto >= 1.35)
+        return "x-large";
+    if (rapporto >= 1.15)
+        return "large";
+    return rapporto <= 0.92 ? "small" : "";
+}
+
 /// Puts the paragraphs together.
 class Pagina {
 public:
@@ -115,9 +127,8 @@ private:
             return;
         Chiude();
         inForza_ = s;
-        if (s.corpo != corpoBase)
-            Marca("<span style=\"font-size:" + std::to_string(s.corpo * 100 / corpoBase) + "%;\">",
-                  "</span>");
+        if (const std::string_view misura = MisuraHtml(s.corpo); !misura.empty())
+            Marca("<span style=\"font-size:" + std::string(misura) + ";\">", "</span>");
         if (s.grassetto)
             Marca("<b>", "</b>");
         if (s.corsivo)

@@ -5,6 +5,8 @@
 #include "fasteners/ui/frmBulloni.h"
 #include "fasteners/ui/frmSaldature.h"
 #include "frame/ui/RigaDi.h"
+#include "joints/ui/FrmInfoGiunti.h"
+#include "joints/ui/FrmRisultatiIntermedi.h"
 #include "joints/ui/frmGiunti.h"
 #include "screens/FrmClasseDoppioTU.h"
 #include "screens/FrmClasseSagomiL.h"
@@ -48,6 +50,8 @@ void CaricaTavolaSchermi() {
                                     RigaDi<frmMsvergH1>("frmMsvergH1"),
                                     RigaDi<frmMsvergH2>("frmMsvergH2"),
                                     RigaDi<FrmVerifiche>("FrmVerifiche"),
+                                    RigaDi<FrmInfoGiunti>("FrmInfoGiunti"),
+                                    RigaDi<FrmRisultatiIntermedi>("FrmRisultatiIntermedi"),
                                     RigaDi<frmTimoshenko>("frmTimoshenko"),
                                     RigaDi<FrmPltSezione>("FrmPltSezione")})
         NavigaSchermi::Unico().Aggiunge(voce);

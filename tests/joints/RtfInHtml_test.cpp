@@ -46,7 +46,8 @@ INSTANTIATE_TEST_SUITE_P(RtfInHtml, RtfInHtmlTest, testing::Values(
     CasoRtf{"nascosto",     "a\\v xx\\v0 b{\\v y}c",        "<p>abc</p>\n"},
     CasoRtf{"tavole",       "{\\colortbl;\\red1;}{\\info{\\title T}}{\\*\\ignoto z}a", "<p>a</p>\n"},
     CasoRtf{"ignote",       "\\lang1040\\qualcosa a",       "<p>a</p>\n"},
-    CasoRtf{"corpo",        "{\\fs44 a}",                   "<p><span style=\"font-size:200%;\">a</span></p>\n"},
+    CasoRtf{"corpo",        "{\\fs44 a}{\\fs26 b}\\fs22 c", "<p><span style=\"font-size:xx-large;\">a</span>"
+                                                            "<span style=\"font-size:large;\">b</span>c</p>\n"},
     CasoRtf{"troncato",     "a{\\b b",                      "<p>a<b>b</b></p>\n"},
     CasoRtf{"vuoto",        "",                             ""}),
     [](const auto& i) { return std::string(i.param.nome); });

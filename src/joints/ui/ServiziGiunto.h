@@ -6,6 +6,7 @@ namespace sagomi {
 
 class Nodo;
 class Schermo;
+class TabellaSelezione;
 
 /// What the screens that the joint screen opens ask of it; they find it by a dynamic_cast of their opener.
 class ServiziGiunto {
@@ -18,6 +19,11 @@ public:
     virtual void PlottaSelezione(int riga) = 0;
     /// Puts such a row into the joint, and computes resistance and stiffness with it.
     virtual void InserisciSelezione(int riga) = 0;
+
+    /// The improvements to be listed: those of the last search, or of the running one as far as it is.
+    [[nodiscard]] virtual const TabellaSelezione& Selezioni() const;
+    /// A search runs: nothing but its stop is to react.
+    [[nodiscard]] virtual bool InRicerca() const { return false; }
 };
 
 /// What the joint screen asks of "FrmInfoGiunti".
