@@ -72,8 +72,8 @@ private:
     void Piatto(Punto da, Punto a) const {
         const Punto mezzo{0, ala_ / 2};
         const std::array<Punto, 4> contorno{da - mezzo, a - mezzo, a + mezzo, da + mezzo};
-        Quadro::Area(contorno, Fondo::Pieno);
         q_.Contorno();
+        Quadro::Area(contorno, Fondo::Pieno);
         Quadro::Spezzata(contorno, true);
     }
 

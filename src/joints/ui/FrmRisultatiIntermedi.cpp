@@ -16,7 +16,7 @@ namespace sagomi {
 
 namespace {
 
-constexpr QSize almeno(640, 360);
+constexpr QSize almeno(700, 360);
 
 int FileDi(const ServiziGiunto& services) {
     const auto& joint = services.NodoInMano().ConnessioneCorrente;
@@ -31,6 +31,9 @@ FrmRisultatiIntermedi::FrmRisultatiIntermedi()
     ui_->setupUi(this);
     ui_->Griglia->setModel(modello_);
     ui_->Griglia->verticalHeader()->hide();
+    ui_->Griglia->verticalHeader()->setMinimumSectionSize(0);
+    ui_->Griglia->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    ui_->Griglia->horizontalHeader()->setHighlightSections(false);
     ui_->Griglia->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     PreparaContenuto();
     DimensionaIniziale(almeno);
