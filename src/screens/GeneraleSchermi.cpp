@@ -16,6 +16,7 @@
 #include "frame/ui/MessaggiQt.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/StampaDiSchermo.h"
+#include "frame/ui/StileMinuto.h"
 #include "screens/StampaSchermo.h"
 #include "screens/StatoUtente.h"
 #include "screens/TavolaSchermi.h"
@@ -47,6 +48,7 @@ void PreparaApplicazione() {
     QCoreApplication::setApplicationName(QStringLiteral("Sagomi"));
     QCoreApplication::setApplicationVersion(QString::fromLatin1(versioneProgramma));
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(new StileMinuto);
     QApplication::setWindowIcon(IconaProgramma());
     static QTranslator texts; // the toolkit's own dialogs speak Italian too
     if (texts.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -436,12 +436,13 @@ void SchermoSezione::ScalaControlli(double larghezza, double altezza) {
     ScalaContenuto(altezza * rapportoIniziale_);
 }
 
-// A combo box keeps its height as long as its text has the room.
+// A combo box keeps its height as long as its text has the room, but for texts made smaller.
 void SchermoSezione::ScalaContenuto(double rapporto) {
     if (altezzaLista_ == 0)
         altezzaLista_ = ComboTipoAcciaio->sizeHint().height();
     Schermo::ScalaContenuto(rapporto);
-    ComboTipoAcciaio->setFixedHeight(std::max(altezzaLista_, ComboTipoAcciaio->sizeHint().height()));
+    const int asked = ComboTipoAcciaio->sizeHint().height();
+    ComboTipoAcciaio->setFixedHeight(rapporto < 1 ? asked : std::max(altezzaLista_, asked));
     DBGrid1->Scala(rapporto * scalaTabella_, rapporto);
 }
 

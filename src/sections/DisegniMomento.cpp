@@ -48,6 +48,7 @@ constexpr double trave = 84;                 ///< length of a beam
 constexpr double quotaM1 = 0.9;              ///< greater end moment of table F.1.1, in parts of the band
 constexpr std::string_view nomeM1 = "M ";    ///< its name, and the room of it
 constexpr std::string_view nomeM2 = " ψM  "; ///< the other end's
+constexpr std::string_view nomePsi = "ψ = +3/4  ";
 
 /// Moments of an axis as they are, the largest that counts marked with its value.
 void AsseMomenti(const Quadro& quadro, const CampoQuadro& campo, std::string_view asse,
@@ -78,18 +79,21 @@ void AsseMomenti(const Quadro& quadro, const CampoQuadro& campo, std::string_vie
 
 void FasciaPsi(const Quadro& quadro, const CampoQuadro& campo, double psi) {
     const double inizio = campo.sinistra + quadro.LarghezzaTesto(nomeM1);
-    const TavolaTrave tavola(quadro, {inizio, campo.alto, trave, campo.altezza});
+    const double luce = campo.Destra() - inizio - quadro.LarghezzaTesto(nomeM2) -
+                        quadro.LarghezzaTesto(nomePsi); // narrower in a smaller picture
+    const TavolaTrave tavola(quadro, {inizio, campo.alto, luce, campo.altezza});
     DisegnaPsi(tavola, psi);
     tavola.Nome(tavola.Punto(0, quotaM1 / 2), "M", -1, 0);
     if (psi != 0)
         tavola.Nome(tavola.Punto(1, quotaM1 * psi / 2), "ψM", 1, 0);
-    const double fine = inizio + trave + quadro.LarghezzaTesto(nomeM2);
+    const double fine = inizio + luce + quadro.LarghezzaTesto(nomeM2);
     tavola.Nome({fine, campo.Centro().y}, "ψ = " + TestoPsi(psi), 1, 0);
 }
 
 void FasciaCaso(const Quadro& quadro, const CampoQuadro& campo, CasoF12 caso) {
-    const CampoQuadro carico{campo.sinistra, campo.alto, trave, campo.altezza};
-    const CampoQuadro diagramma{campo.sinistra + trave + 2 * bordo, campo.alto, trave, campo.altezza};
+    const double luce = (campo.larghezza - 3 * bordo) / 2;
+    const CampoQuadro carico{campo.sinistra, campo.alto, luce, campo.altezza};
+    const CampoQuadro diagramma{campo.sinistra + luce + 2 * bordo, campo.alto, luce, campo.altezza};
     DisegnaCaso({quadro, carico}, {quadro, diagramma}, caso);
 }
 

@@ -1,7 +1,10 @@
 #include "drawing/ui/SuperficieFigura.h"
 
+#include <QApplication>
 #include <QFontMetrics>
 #include <QPainter>
+
+#include <algorithm>
 
 #include "frame/ui/Colori.h"
 
@@ -10,6 +13,7 @@ namespace sagomi {
 namespace {
 
 constexpr int opacitaFine = 170; ///< of the light ink, of 255
+constexpr double minimo = 0.5;   ///< a picture is made so much smaller, with small texts
 
 QColor Leggero(QColor ink) {
     ink.setAlpha(opacitaFine);
@@ -26,7 +30,8 @@ SuperficieFigura::SuperficieFigura(QPainter& pittore, const QSizeF& misura, cons
 
 QSize InPixel(const Misura& misura, const QFont& carattere) {
     const int text = QFontMetrics(carattere).horizontalAdvance(QString::fromStdString(misura.campione));
-    return {static_cast<int>(misura.larghezza) + text, static_cast<int>(misura.altezza)};
+    const double ratio = std::clamp(carattere.pointSizeF() / QApplication::font().pointSizeF(), minimo, 1.0);
+    return {static_cast<int>(ratio * misura.larghezza) + text, static_cast<int>(ratio * misura.altezza)};
 }
 
 } // namespace sagomi

@@ -16,7 +16,7 @@ public:
     SuperficieFigura(QPainter& pittore, const QSizeF& misura, const QFont& carattere, const QPalette& colori);
 };
 
-/// The size of a picture with texts in that font.
+/// The size of a picture with texts in that font; smaller than its own where the font is smaller than usual.
 QSize InPixel(const Misura& misura, const QFont& carattere);
 
 } // namespace sagomi

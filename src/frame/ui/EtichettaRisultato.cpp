@@ -14,7 +14,6 @@ namespace sagomi {
 namespace {
 
 constexpr int margine = 3; ///< between text and frame [px]
-constexpr int stanza = 2;  ///< more height, as a box has it [px]
 
 } // namespace
 
@@ -85,8 +84,22 @@ QSize EtichettaRisultato::sizeHint() const {
     const int border = 2 * (margine + frameWidth());
     const int figures = fontMetrics().horizontalAdvance(u'0') * caratteri_ + border;
     const int content = EtichettaSimbolo::sizeHint().width() - std::max(indent(), 0) + Rientro();
-    const int room = frameShape() == QFrame::NoFrame ? 0 : stanza;
-    return {std::max(content, figures), fontMetrics().height() + border + room};
+    const bool bare = frameShape() == QFrame::NoFrame;
+    return {std::max(content, figures), bare ? fontMetrics().height() + border : AltezzaCasella()};
+}
+
+/// Height of a box: a line, which the toolkit takes for no lower than an icon, and what the style puts round.
+int EtichettaRisultato::AltezzaCasella() const {
+    QStyleOptionFrame frame;
+    frame.initFrom(this);
+    frame.lineWidth = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, this);
+    constexpr int rigaMinima = 14;
+    constexpr int margineRiga = 1;
+    const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    const int least = std::max(rigaMinima, icon - 2);
+    const int line = std::max(fontMetrics().height(), least) + 2 * margineRiga;
+    const int lower = std::max(0, rigaMinima - fontMetrics().height());
+    return style()->sizeFromContents(QStyle::CT_LineEdit, &frame, {0, line}, this).height() - lower;
 }
 
 } // namespace sagomi

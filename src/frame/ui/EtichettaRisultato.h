@@ -32,6 +32,7 @@ protected:
 
 private:
     [[nodiscard]] int Rientro() const;
+    [[nodiscard]] int AltezzaCasella() const;
     void DipingeCornice();
 
     int caratteri_ = 7;

@@ -26,7 +26,13 @@ TEST(EtichettaRisultato, LooksLikeABoxThatIsReadOnly) {
     Casella box;
     box.ImpostaRisultato(true);
     EtichettaRisultato label;
-    EXPECT_EQ(label.sizeHint().height(), box.sizeHint().height());
+    for (const int pixels : {5, 9, 12, 20}) {
+        QFont font = label.font();
+        font.setPixelSize(pixels);
+        label.setFont(font);
+        box.setFont(font);
+        EXPECT_EQ(label.sizeHint().height(), box.sizeHint().height()) << pixels;
+    }
     for (QWidget* result : std::initializer_list<QWidget*>{&box, &label})
         result->resize(90, box.sizeHint().height());
     EXPECT_EQ(label.grab().toImage(), box.grab().toImage());

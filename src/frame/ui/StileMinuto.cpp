@@ -1,0 +1,56 @@
+#include "frame/ui/StileMinuto.h"
+
+#include <QStyleOption>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace sagomi {
+
+namespace {
+
+constexpr int rigaMinima = 14;  ///< the toolkit takes no line for lower [px]
+constexpr int bordoCasella = 2; ///< of a box, both sides together, that small texts do without [px]
+
+/// What a line of the widget's text is lower than that.
+int Avanzo(const QWidget* widget) {
+    return widget == nullptr ? 0 : std::max(0, rigaMinima - widget->fontMetrics().height());
+}
+
+bool Segno(QStyle::PixelMetric metric) {
+    return metric == QStyle::PM_IndicatorWidth || metric == QStyle::PM_IndicatorHeight ||
+           metric == QStyle::PM_ExclusiveIndicatorWidth || metric == QStyle::PM_ExclusiveIndicatorHeight;
+}
+
+} // namespace
+
+int StileMinuto::pixelMetric(PixelMetric metrica, const QStyleOption* opzioni, const QWidget* widget) const {
+    const int usual = QProxyStyle::pixelMetric(metrica, opzioni, widget);
+    return Segno(metrica) && Avanzo(widget) > 0 ? std::min(usual, widget->fontMetrics().height()) : usual;
+}
+
+QSize StileMinuto::sizeFromContents(ContentsType tipo, const QStyleOption* opzioni, const QSize& contenuto,
+                                    const QWidget* widget) const {
+    QSize size = QProxyStyle::sizeFromContents(tipo, opzioni, contenuto, widget);
+    if (tipo == CT_ComboBox || tipo == CT_SpinBox)
+        size.rheight() -= Avanzo(widget);
+    if (tipo == CT_LineEdit)
+        size.rheight() -= std::clamp(Avanzo(widget) - bordoCasella, 0, bordoCasella);
+    return size;
+}
+
+// The frame begins under the title, where the contents do.
+void StileMinuto::drawPrimitive(PrimitiveElement elemento, const QStyleOption* opzioni, QPainter* pittore,
+                                const QWidget* widget) const {
+    const int spare = elemento == PE_FrameGroupBox ? Avanzo(widget) : 0;
+    if (spare == 0 || opzioni == nullptr ||
+        qstrcmp(baseStyle()->metaObject()->className(), "QFusionStyle") != 0) {
+        QProxyStyle::drawPrimitive(elemento, opzioni, pittore, widget);
+        return;
+    }
+    QStyleOption frame = *opzioni;
+    frame.rect.adjust(0, -spare, 0, 0);
+    QProxyStyle::drawPrimitive(elemento, &frame, pittore, widget);
+}
+
+} // namespace sagomi
