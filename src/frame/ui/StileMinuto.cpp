@@ -34,6 +34,8 @@ QSize StileMinuto::sizeFromContents(ContentsType tipo, const QStyleOption* opzio
     QSize size = QProxyStyle::sizeFromContents(tipo, opzioni, contenuto, widget);
     if (tipo == CT_ComboBox || tipo == CT_SpinBox)
         size.rheight() -= Avanzo(widget);
+    if (tipo == CT_SizeGrip) // which makes the status line as high
+        size -= QSize(Avanzo(widget), Avanzo(widget));
     if (tipo == CT_LineEdit)
         size.rheight() -= std::clamp(Avanzo(widget) - bordoCasella, 0, bordoCasella);
     return size;
