@@ -25,7 +25,9 @@ struct DisposizioneViste {
 /// A sheet with several views and texts beside them: chooses layout, scale and height of the texts.
 ///  - On the screen the views are as large as the target lets them be, texts are those of the target; where
 ///    these would leave too little they become smaller.
-///  - On paper the scale is one of those in use, texts are 2.5 mm high.
+///  - On paper the scale is one of the series 1, 2, 5, texts are 2.5 mm high, or 1.8 mm where the views can
+///  then
+///    be larger.
 ///  - For files and CAD a unit is one of the model, and texts are as high as they would be on paper.
 /// The origin of the model is the lower left corner of what was laid out; y upwards.
 class TavolaViste {
@@ -55,6 +57,16 @@ public:
     [[nodiscard]] std::string Scala() const;
 
 private:
+    struct SceltaViste {
+        std::size_t quale = 0;
+        double testi = 1;    ///< part of their height that texts have
+        double rapporto = 1; ///< units of the model in one of the target
+        double merito = 0;
+    };
+
+    [[nodiscard]] SceltaViste SuSchermo(std::span<const DisposizioneViste> disposizioni, double corpo);
+    [[nodiscard]] SceltaViste SuCarta(std::span<const DisposizioneViste> disposizioni, double corpo);
+    [[nodiscard]] double Necessario(const DisposizioneViste& disposizione, double corpo) const;
     void SuBersaglio(std::span<const DisposizioneViste> disposizioni);
     void SenzaBersaglio(const DisposizioneViste& disposizione);
     void Misura(const DisposizioneViste& disposizione);

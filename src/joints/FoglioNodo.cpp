@@ -18,10 +18,10 @@ constexpr double primaDeiTesti = 2;  ///< between a view and the column of texts
 constexpr double quotaFuori = 8;     ///< of a dimension with its text beside a view
 constexpr double sottoColonna = 5.5; ///< of the dimension of the column
 constexpr double sopraTravi = 6.5;   ///< of what stands over a node without column above
-constexpr double richiami = 20;      ///< of the texts beside a node with one beam
+constexpr double richiami = 12;      ///< of the texts beside a node with one beam
 constexpr double destraProspetto = 15;
 constexpr double sottoProspetto = 8;
-constexpr double sottoProspettoOfficina = 10.5;
+constexpr double sopraProspetto = 5; ///< of the width of the column's flange
 
 std::vector<std::string> Righe(const std::string& testo) {
     std::vector<std::string> righe;
@@ -45,8 +45,8 @@ double FoglioNodo::AltezzaColonna() const { return interlinea * static_cast<doub
 /// Room for the views, the side view as it stands on the sheet.
 void FoglioNodo::Riquadri() {
     laterale_ = {g_.Laterale(), margine, margine, quotaFuori, sottoColonna};
-    prospetto_ = {g_.Prospetto(), quotaFuori, margine, destraProspetto,
-                  Schermo() ? sottoProspetto : sottoProspettoOfficina};
+    prospetto_ = {g_.Prospetto(), quotaFuori, Schermo() ? margine : sopraProspetto, destraProspetto,
+                  sottoProspetto};
     if (!g_.sopra)
         laterale_.su = sopraTravi;
     if (g_.dueTravi)

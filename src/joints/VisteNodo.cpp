@@ -17,6 +17,7 @@ constexpr double passoQuote = 2.7;      ///< from one to the next
 constexpr double secondaCatena = 6.5;   ///< of the height of the plate, beyond the chain of the holes
 constexpr double altezzaSpessore = 4.2; ///< of the thickness of the plate, at least
 constexpr double distacco = 2;
+constexpr double righe = 1.4; ///< from one line of a text to the next
 
 constexpr double sporgenzaBullone = 0.25; ///< of the thread beyond the nut, in diameters
 constexpr double assiForo = 0.75;         ///< of the axes of a hole, in its diameters
@@ -63,9 +64,9 @@ void FoglioNodo::Colonna(const TracciaVista& v) const {
     v.Rottura({-x, m.y1}, {x, m.y1});
     const bool entra = LarghezzaTestoPlt(tavola_->AltezzaTesto(), g_.colonna.nome) < 0.9 * 2 * interna;
     if (entra)
-        v.Testo({0, m.y1 + 1.3 * v.a()}, g_.colonna.nome, Allinea::Centro);
+        v.Testo({0, m.y1 + 1.8 * v.a()}, g_.colonna.nome, Allinea::Centro);
     else
-        v.Testo({-x - v.a(), m.y1 + v.a()}, g_.colonna.nome, Allinea::Destra);
+        v.Testo({x + v.a(), m.y1 + v.a()}, g_.colonna.nome, Allinea::Sinistra);
 }
 
 void FoglioNodo::Lato(const TracciaVista& v, const LatoNodo& lato) const {
@@ -182,8 +183,9 @@ void FoglioNodo::Richiami(const TracciaVista& v) const {
         return;
     const double x = l.xTrave() + l.testa;
     if (l.Bulloni()) {
-        const std::string quanti = std::to_string(2 * l.file.size()) + " M" + Mm(l.d) + " " + l.classe;
-        v.Richiamo({x, l.Fila(FilaGiunto::Interna)}, {x + distacco * a, l.Fila(FilaGiunto::Interna)}, quanti);
+        const double y = l.Fila(FilaGiunto::Interna);
+        v.Richiamo({x, y}, {x + distacco * a, y}, std::to_string(2 * l.file.size()) + " M" + Mm(l.d));
+        v.Testo({x + (distacco + 0.4) * a, y - righe * a}, "cl. " + l.classe, Allinea::Sinistra);
     }
     if (l.aw > 0) {
         const double y = -l.trave.h - l.Fila(FilaGiunto::Interna);
@@ -205,14 +207,20 @@ void FoglioNodo::RichiamiIrrigidimenti(const TracciaVista& v) const {
     const double x = -g_.colonna.h / 2 - distacco * a;
     const double fondo = std::min(g_.lato.Fondo(), g_.altro.Fondo());
     const double cima = std::max(g_.lato.Cima(), g_.altro.Cima());
-    const auto nomina = [&](const ContornoNodo& c, double y, const std::string& testo) {
+    const auto nomina = [&](const ContornoNodo& c, double y, double verso, double lunghezza) {
         const PuntoNodo da{(c[2].x + 3 * c[1].x) / 4, (c[2].y + 3 * c[1].y) / 4};
-        v.Richiamo(da, {x, y}, testo);
+        std::vector<std::string> testi{"2 piatti", misure + Mm(lunghezza)};
+        if (g_.golaIrr > 0)
+            testi.push_back("a " + Mm(g_.golaIrr));
+        if (verso > 0)
+            std::reverse(testi.begin(), testi.end());
+        v.Richiamo(da, {x, y}, testi[0]);
+        for (std::size_t i = 1; i < testi.size(); ++i)
+            v.Testo({x - 0.4 * a, y + verso * righe * a * static_cast<double>(i)}, testi[i], Allinea::Destra);
     };
-    const std::string gola = g_.golaIrr > 0 ? ", a " + Mm(g_.golaIrr) : "";
-    nomina(g_.irrigidimenti[0], fondo - distacco * a, "2 piatti " + misure + Mm(g_.lunghezzaIrr) + gola);
+    nomina(g_.irrigidimenti[0], fondo - distacco * a, -1, g_.lunghezzaIrr);
     if (g_.irrigidimenti.size() > 1)
-        nomina(g_.irrigidimenti[1], cima + distacco * a, "2 piatti " + misure + Mm(g_.lunghezzaSup) + gola);
+        nomina(g_.irrigidimenti[1], cima + distacco * a, 1, g_.lunghezzaSup);
 }
 
 // Front view --------------------------------------------------------------------------------------------
@@ -350,11 +358,11 @@ void FoglioNodo::QuoteOrizzontali(const TracciaVista& v) const {
     }
     if (l.Piastra() && l.bf > 0) {
         v.Orizzontali(l.basso, livello, std::array{Quota(-b, b, "bf", "bf")});
-        livello -= passoQuote * v.a();
     }
     const double c = g_.colonna.b / 2;
+    const double cima = g_.Prospetto().y2;
     if (!Schermo() && g_.colonna.Presente())
-        v.Orizzontali(y, livello, std::array{QuotaNodo{-c, c, Mm(2 * c)}});
+        v.Orizzontali(cima, cima + primaQuota * v.a(), std::array{QuotaNodo{-c, c, Mm(2 * c)}});
 }
 
 void FoglioNodo::Evidenzia(const TracciaVista& v, bool frontale) const {
