@@ -186,8 +186,9 @@ TEST_F(NodoDisegnoTest, PaperHasAScaleInUse) {
             ASSERT_FALSE(s.cerchi.empty());
             const double mm = s.InX(s.cerchi[0].r) - s.InX(0);
             const double denominatore = 10 / mm;
-            if (alto && c.tipo >= nodoT)
+            if (alto && c.tipo >= nodoT) {
                 EXPECT_NEAR(denominatore, 5, 1e-4) << c.nome;
+            }
             EXPECT_TRUE(std::abs(denominatore - 5) < 1e-4 || std::abs(denominatore - 10) < 1e-4)
                 << c.nome << ' ' << denominatore;
             const std::string testo = "Quote in mm, disegno 1:" + std::to_string(std::lround(denominatore));
