@@ -9,6 +9,7 @@
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "geometry/Poligono.h"
+#include "sections/AreaEfficace.h"
 #include "sections/SezioneDoppioT.h"
 
 namespace sagomi {
@@ -30,9 +31,14 @@ void AggiungeSpeculare(std::vector<double>& xs, std::vector<double>& ys) {
 
 } // namespace
 
+// A section of class 4 is prepared once more, for its resistance rests on the effective area found first.
 void AcciaioCls::InizializzaTrave() {
-    if (auto* sezione = SezioneInUso<SezioneDoppioT>())
-        sezione->InizializzaSezioneAcciaioCls();
+    auto* sezione = SezioneInUso<SezioneDoppioT>();
+    if (sezione == nullptr)
+        return;
+    sezione->InizializzaSezioneAcciaioCls();
+    if (sezione->ClasseCompressione == 4)
+        InizializzaConAreaEfficace(*sezione);
 }
 
 bool AcciaioCls::InizializzaAcciaioCls() {

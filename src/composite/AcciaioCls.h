@@ -22,6 +22,9 @@ enum : std::int16_t { solettaPiena = 0, nervatureTrasversali = 1, nervatureParal
 /// How a composite beam is checked: plastic ("S.L.U.") or elastic ("Metodo n"), sagging or hogging.
 enum : std::int16_t { sluPositivo = 0, sluNegativo = 1, metodoNPositivo = 2, metodoNNegativo = 3 };
 
+/// A moment as an entry in kNm that reads back to the same N mm, as short as it can be.
+[[nodiscard]] std::string TestoMomento(Singolo Nmm);
+
 /// A steel double-T that works with a concrete slab (EC4): slab, deck, reinforcement, studs, design moment
 /// and results.
 ///
@@ -107,6 +110,9 @@ public:
     /// below the greater of bb and bs, which becomes that and 1 more.
     /// @return false when it has stopped, or where there is no double-T with its outline
     bool InizializzaAcciaioCls();
+
+    /// The part of it that mends the data of a deck, each with its message, and takes b0.
+    void CorreggeGrecata();
 
     /// Whether the data of the deck pass as they are.
     [[nodiscard]] bool DatiGrecataAccettabili() const;
@@ -234,7 +240,6 @@ public:
     [[nodiscard]] double yNeutroDaSopra() const { return Sommita() - yNeutro; }
 
 private:
-    void CorreggeGrecata();
     void DivideParti(); ///< at yNeutro, elastic
     [[nodiscard]] double Riduzione() const;
     bool RecordLeggeScrive(std::string_view modo, std::int16_t nFile, Singolo& n, Singolo& resistenzaCls,

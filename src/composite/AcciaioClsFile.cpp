@@ -43,15 +43,14 @@ void NumeroLeggeScrive(CampiMaschera& maschera, std::string_view modo, std::stri
         maschera.Testo(controllo, indice, TestoPiano(valore));
 }
 
-/// A moment in kNm that reads back to the same N mm: as short as it can be.
+} // namespace
+
 std::string TestoMomento(Singolo Nmm) {
     const double kNm = Nmm_a_kNm(Nmm);
     std::string corto = TestoPiano(Singolo(kNm));
     const bool torna = Singolo(kNm_a_Nmm(ValoreNumerico(corto))).Stretto() == Nmm.Stretto();
     return torna ? corto : TestoPiano(kNm);
 }
-
-} // namespace
 
 void AcciaioCls::DatiGrecataLeggeScrive(CampiMaschera& maschera, std::string_view modo) {
     int indice = 0;

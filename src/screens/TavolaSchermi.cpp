@@ -1,5 +1,8 @@
 #include "screens/TavolaSchermi.h"
 
+#include "composite/ui/frmAcciaioCls.h"
+#include "composite/ui/frmConnettori.h"
+#include "composite/ui/frmSuggerimento.h"
 #include "criticalloads/ui/frmTimoshenko.h"
 #include "drawing/ui/FrmPltSezione.h"
 #include "fasteners/ui/frmBulloni.h"
@@ -37,6 +40,9 @@ void CaricaTavolaSchermi() {
                                     RigaDi<frmBulloni>("frmBulloni", "mnuCollegamenti_0"),
                                     RigaDi<frmSaldature>("frmSaldature", "mnuCollegamenti_1"),
                                     RigaDi<frmGiunti>("frmGiunti", "MnuGiunto"),
+                                    RigaDi<frmAcciaioCls>("frmAcciaioCls", "mnuAcciaioCls"),
+                                    RigaDi<frmConnettori>("frmConnettori"),
+                                    RigaDi<frmSuggerimento>("frmSuggerimento"),
                                     RigaDi<frmGamma>("frmGamma", "NormativaMain"),
                                     RigaDi<FrmInform>("FrmInform", "mnuHelp_1"),
                                     RigaDi<FrmClasseDoppioTU>("FrmClasseDoppioTU"),

@@ -1,0 +1,17 @@
+#pragma once
+
+class QAction;
+class QMenu;
+
+namespace sagomi {
+
+class Schermo;
+
+/// Builds the controls and the menus of the screen of composite beams, each found by its object name. The
+/// order of the tab key is that of reading.
+void ComponeTrave(Schermo& schermo);
+
+/// An entry of a menu by its object name.
+QAction* AggiungeVoce(QMenu& menu, const char* nome, const char* testo, const char* tasto = "");
+
+} // namespace sagomi
