@@ -123,7 +123,9 @@ void frmConnettori::RegolaPositivo(QLineEdit* casella) {
 }
 
 void frmConnettori::Apri(Schermo& da) {
-    trave_ = &dynamic_cast<TraveInUso&>(da);
+    trave_ = dynamic_cast<TraveInUso*>(&da);
+    if (trave_ == nullptr)
+        trave_ = &NavigaSchermi::Unico().Prendi<TraveInUso>(QStringLiteral("frmAcciaioCls"));
     NavigaSchermi::Unico().Apri(*this, da);
     FuocoSu(txtInput_[0]);
 }

@@ -21,7 +21,7 @@ class frmConnettori : public Schermo, public ConsiglioPioli {
 public:
     frmConnettori();
 
-    /// Opens the screen in front of that of a beam; any other throws std::bad_cast.
+    /// Opens the screen in front of the one that asks for it, for its beam, or for the beam of the program.
     void Apri(Schermo& da);
     void AllAttivazione() override { Aggiorna(); }
     /// The beam has changed.

@@ -45,7 +45,8 @@ frmSuggerimento::frmSuggerimento() : Schermo(QStringLiteral("frmSuggerimento")) 
 }
 
 void frmSuggerimento::Apri(Schermo& da) {
-    const int n = dynamic_cast<ConsiglioPioli&>(da).NervatureDoppie();
+    const auto* advice = dynamic_cast<ConsiglioPioli*>(&da);
+    const int n = advice == nullptr ? 1 : advice->NervatureDoppie();
     Mostra(findChild<QLabel*>(QStringLiteral("lblSuggerimento")), TestoSuggerimento(n));
     findChild<QLineEdit*>(QStringLiteral("TxtNerv"))->setText(QString::number(n));
     findChild<QLabel*>(QStringLiteral("lblNerv"))->setText(n == 1 ? tr("nervatura") : tr("nervature"));

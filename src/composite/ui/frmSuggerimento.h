@@ -10,7 +10,7 @@ class frmSuggerimento : public Schermo {
 public:
     frmSuggerimento();
 
-    /// Shows the advice of the screen that opens it; one that has none throws std::bad_cast.
+    /// Shows the advice of the screen that opens it, or that for one rib.
     void Apri(Schermo& da);
 };
 
