@@ -176,8 +176,7 @@ private:
     }
 
     void AsseNeutro() const {
-        quote_.Asse(riquadro_[0] - oltreAsse * a_, t_.yNeutro, xTensioni_ + mezzeTensioni * a_, t_.yNeutro,
-                    "a.n.");
+        quote_.Asse(riquadro_[0] - oltreAsse * a_, t_.yNeutro, xTensioni_, t_.yNeutro, "a.n.");
     }
 
     /// Stresses to the right in tension, to the left in compression.

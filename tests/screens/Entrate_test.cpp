@@ -53,7 +53,7 @@ protected:
         for (auto* box : screen.findChildren<QLineEdit*>())
             if (!box->isReadOnly() && box->isVisibleTo(&screen) && box->window() == &screen &&
                 qobject_cast<QComboBox*>(box->parentWidget()) == nullptr &&
-                !box->objectName().startsWith(QStringLiteral("qt_")))
+                !box->property("parole").toBool() && !box->objectName().startsWith(QStringLiteral("qt_")))
                 boxes << box;
         return boxes;
     }

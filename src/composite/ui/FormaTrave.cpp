@@ -234,11 +234,18 @@ ImmagineDisegno* Immagine(const char* nome, const char* letta) {
     return picture;
 }
 
+/// A box that holds words.
+void DiParole(QWidget* campo) {
+    campo->setProperty(proprietaParole, true);
+    static_cast<Casella*>(campo)->setAlignment(Qt::AlignLeft);
+}
+
 void RigaTitolo(QVBoxLayout& colonna) {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(9, 0, 9, 0);
     Coppia pair = CreaCoppia({{"lblTitolo", "Titolo"}, "txtTitolo", 30, "Titolo della trave", "Titolo"});
-    static_cast<Casella*>(pair.campo)->setAlignment(Qt::AlignLeft);
+    DiParole(pair.campo);
+    pair.campo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     row->addWidget(pair.etichetta);
     row->addWidget(pair.campo, 1);
     colonna.addLayout(row);
@@ -252,17 +259,16 @@ void StanzaSagomo(QVBoxLayout& colonna) {
         const Coppia made = CreaCoppia(voce);
         head->addWidget(made.etichetta);
         head->addWidget(made.campo);
-        return static_cast<Casella*>(made.campo);
+        return made.campo;
     };
-    pair({{"lblProf", "Sagomo"}, "Txt_Prof_0", 16, "Nome del sagomo", "Sagomo"})->setAlignment(Qt::AlignLeft);
+    DiParole(pair({{"lblProf", "Sagomo"}, "Txt_Prof_0", 16, "Nome del sagomo", "Sagomo"}));
     head->addWidget(Passi("UpDown1", "Cambia sagomo", "Sagomo precedente o seguente della tabella"));
-    pair({{"lblTipoAcciaio", "Tipo Acciaio"},
-          "Txt_TipoAcciaio",
-          12,
-          "Tipo Acciaio",
-          "Tipo Acciaio",
-          risultato})
-        ->setAlignment(Qt::AlignLeft);
+    DiParole(pair({{"lblTipoAcciaio", "Tipo Acciaio"},
+                   "Txt_TipoAcciaio",
+                   12,
+                   "Tipo Acciaio",
+                   "Tipo Acciaio",
+                   risultato}));
     head->addWidget(Passi("UpDown2", "Cambia acciaio", "Acciaio precedente o seguente"));
     pair({{"lblfy", "f{y} [N/mm2]"}, "Txt_fy", 6, "Snervamento putrella", "fy [N/mm2]"});
     head->addStretch(1);
@@ -279,7 +285,9 @@ void StanzaLamiera(QLayout& riga) {
     place.setHorizontalStretch(1);
     grid->parentWidget()->setSizePolicy(place);
     Posa(*grid, vociLamiera, 0, 0, 1);
-    grid->addWidget(Immagine("pctLamiera", "Disegno della lamiera"), 0, 2, 4, 1);
+    ImmagineDisegno* deck = Immagine("pctLamiera", "Disegno della lamiera");
+    deck->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding); // the section has the room
+    grid->addWidget(deck, 0, 2, 4, 1);
     grid->addWidget(Bottone("cmdLamiera", "&Zoom", "Ingrandisce il disegno della lamiera"), 4, 2,
                     Qt::AlignRight);
     grid->setColumnStretch(2, 1);
@@ -304,6 +312,7 @@ void RigaVerifica(QVBoxLayout& colonna) {
     QGridLayout* check = Stanza(*row, "fraVerifica", "Verifica");
     Opzioni(*check, "OpTipoVerifica", scelteVerifica, 2);
     auto* moment = new QHBoxLayout;
+    moment->setSpacing(spazio);
     const Coppia pair =
         CreaCoppia({{"lblM", "M{Sd} [kNm]"}, "Txt_M", 8, "Momento sollecitante di progetto", "MSd [kNm]"});
     moment->addWidget(pair.etichetta);
@@ -332,6 +341,8 @@ QStackedWidget* Risultati() {
     }
     n->setColumnStretch(4, 1);
     pages->addWidget(n->parentWidget());
+    for (auto* box : pages->findChildren<Casella*>())
+        box->resize(box->sizeHint()); // what is not in sight has not been laid out yet
     return pages;
 }
 

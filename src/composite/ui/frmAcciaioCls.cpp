@@ -139,10 +139,12 @@ void frmAcciaioCls::CollegaMenu() {
         documento_->Salva();
     });
     entry("mnuFileItem_3", [this] { Ritorna(); });
-    entry("mnuFileNuovo", [this] { documento_->Nuovo([this] {
+    entry("mnuFileNuovo", [this] {
+        documento_->Nuovo([this] {
             Nuova();
-            SezioneCorrente = trave_.Sezione;
-        }); });
+            MetteInUso();
+        });
+    });
     entry("mnuFileSubito", [this] {
         ConcludeEntrate();
         documento_->SalvaSubito();
@@ -177,8 +179,10 @@ void frmAcciaioCls::CollegaCaselle() {
     for (QLineEdit* box : findChildren<QLineEdit*>()) {
         if (box->isReadOnly() && !box->objectName().startsWith(u"txtHsd"))
             continue;
-        if (box->objectName() != u"txtTitolo" && box->objectName() != u"Txt_Prof_0")
+        if (!box->property(proprietaParole).toBool())
             entrate_->Osserva(box);
+        else
+            Collega(box, &QLineEdit::returnPressed, this, [this] { FuocoSuccessivo(this); });
         Collega(box, &QLineEdit::textChanged, this, [this] { Cambiata(); });
     }
     Collega(entrate_, &FiltroCampi::conclusa, this, [this](QLineEdit* box) { Conclusa(box); });
@@ -298,7 +302,7 @@ void frmAcciaioCls::VuotaZeri() {
 
 void frmAcciaioCls::AllAttivazione() {
     Guida::ImpostaFile(FileGuida());
-    SezioneCorrente = trave_.Sezione;
+    MetteInUso();
     MostraNormativa();
     const QScopedValueRollback loading(Caricamento, true);
     if (GammaM0Visto_ != GammaM0)
@@ -343,6 +347,8 @@ void frmAcciaioCls::ScalaContenuto(double rapporto) {
 void frmAcciaioCls::DatiLeggeScrive(std::string_view modo) {
     if (!trave_.Sezione)
         SezioneNuova();
+    else if (modo == "L") // the one in use stays as it is until this one can take its place
+        trave_.Sezione = std::make_shared<SezioneDoppioT>(*trave_.Sezione);
     const QScopedValueRollback loading(Caricamento, true);
     CampiTrave fields(*this);
     trave_.Sezione->DatiAcciaioClsLeggeScrive(modo, fields);
@@ -353,6 +359,12 @@ void frmAcciaioCls::DatiLeggeScrive(std::string_view modo) {
         trave_.Sezione->bAlaInf = trave_.Sezione->b;
         trave_.Sezione->tAlaInf = trave_.Sezione->tf;
     }
+}
+
+/// The steel of the beam becomes the section in use, once it is a section.
+void frmAcciaioCls::MetteInUso() {
+    if (SezionePossibile(trave_))
+        SezioneCorrente = trave_.Sezione;
 }
 
 /// The whole screen from the beam, nothing computed.
@@ -445,7 +457,7 @@ void frmAcciaioCls::Cambiata() {
         return;
     const MaterialiTrave before;
     DatiLeggeScrive("L");
-    SezioneCorrente = trave_.Sezione;
+    MetteInUso();
     documento_->Modifica();
     SvuotaUscite();
     MostraMisure();
@@ -518,7 +530,7 @@ void frmAcciaioCls::AssicuraRisultati() {
 void frmAcciaioCls::Calcola() {
     const MaterialiTrave before;
     DatiLeggeScrive("L");
-    SezioneCorrente = trave_.Sezione;
+    MetteInUso();
     SvuotaUscite();
     EsitoTrave esito;
     if (SezionePossibile(trave_))

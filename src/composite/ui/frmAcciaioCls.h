@@ -73,6 +73,7 @@ private:
     void Ritorna();
     void PrendeSezione();
     void SezioneNuova();
+    void MetteInUso();
     void ScriveTrave();
     void VuotaZeri();
     void MostraSezione();

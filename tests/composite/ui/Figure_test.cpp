@@ -34,7 +34,8 @@ protected:
     void Figura(Schermo& s, const char* state) const {
         for (int i = 0; i < 5; ++i)
             QCoreApplication::processEvents();
-        s.grab().save(folder + u'/' + s.objectName() + u'_' + QString::fromLatin1(state) + QStringLiteral(".png"));
+        s.grab().save(folder + u'/' + s.objectName() + u'_' + QString::fromLatin1(state) +
+                      QStringLiteral(".png"));
     }
 
     QString folder = qEnvironmentVariable("SAGOMI_FIGURE");
