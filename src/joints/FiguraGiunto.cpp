@@ -67,6 +67,41 @@ std::vector<std::string> Righe(const GeometriaNodo& geo, const Giunto* g) {
     return righe;
 }
 
+/// What the screen calls a field.
+std::string NomeParametro(const std::string& campo) {
+    if (campo == "d2")
+        return "d1";
+    if (campo == "dX")
+        return "d2";
+    return campo == "L" ? "h'" : campo;
+}
+
+/// Whether the picture has a dimension of a field.
+bool Quotata(const LatoNodo& l, const std::string& campo) {
+    if (campo == "tf")
+        return l.Piastra();
+    if (!l.Piastra() || !(l.bf > 0))
+        return false;
+    if (campo == "bf")
+        return true;
+    if (campo == "ef")
+        return l.Forata();
+    if (campo == "d2")
+        return l.Bulloni();
+    if (l.nf != 2)
+        return false;
+    if (campo == "u" || campo == "L")
+        return campo == "u" ? l.u > 0 : l.alto > 0;
+    return l.Bulloni() && l.dX > 0 && (campo == "ex" ? l.ex > 0 : campo == "dX");
+}
+
+/// A limit that no dimension can show is told over the picture.
+EvidenzaGiunto ConLimite(EvidenzaGiunto e, const LatoNodo& l) {
+    if (!e.parametro.empty() && !Quotata(l, e.parametro))
+        e.testo += (e.testo.empty() ? "" : "; ") + NomeParametro(e.parametro) + ": " + e.limite;
+    return e;
+}
+
 void Vuoto() {
     constexpr std::string_view testo = "Nessun sagomo assegnato";
     Superficie* s = SuperficieInForza();
@@ -109,7 +144,8 @@ Disegno FiguraGiunto(const Nodo& nodo, const Giunto* giunto, const EvidenzaGiunt
     const GeometriaNodo geometria(nodo, giunto, DueTravi(nodo));
     const auto righe = Righe(geometria, Quale(nodo, giunto));
     Disegno disegno{geometria.destro ? "Giunto destro" : "Giunto sinistro", {}, {420, 520}, {300, 320}};
-    disegno.PlottaInOggetto = [geometria, evidenza, righe, tracciato](Superficie* oggetto, std::string_view) {
+    disegno.PlottaInOggetto = [geometria, evidenza = ConLimite(evidenza, geometria.lato), righe,
+                               tracciato](Superficie* oggetto, std::string_view) {
         const bool conta = tracciato && tracciato->attivo;
         if (conta)
             tracciato->zone.clear();
@@ -137,7 +173,7 @@ std::string DescrizioneGiunto(const Nodo& nodo, const Giunto* giunto, const Evid
     if (!evidenza.testo.empty())
         testo += " " + evidenza.testo + ".";
     if (!evidenza.parametro.empty())
-        testo += " Fuori limite: " + evidenza.parametro + " " + evidenza.limite + ".";
+        testo += " Fuori limite: " + NomeParametro(evidenza.parametro) + " " + evidenza.limite + ".";
     return testo;
 }
 

@@ -100,7 +100,7 @@ std::vector<DisposizioneViste> FoglioNodo::Disposizioni() const {
         for (Ingombro& i : x.larghezze)
             i.testi += 2 * margine;
         for (Ingombro& i : x.altezze)
-            i.testi += titoli + 2 * margine + (Schermo() ? 0 : piede);
+            i.testi += titoli + 2 * margine + piede_;
     }
     return d;
 }
@@ -129,7 +129,7 @@ void FoglioNodo::Colloca() {
         dove_[1] = {posto(prospetto_, x + larga(Largo(laterale_)), 0).x, y};
         testi_ = {x + larga(Largo(laterale_)) + destraP, cima};
         if (tavola_->Scelta() == 3)
-            testi_ = {x, (margine + (Schermo() ? 0 : piede) + AltezzaColonna()) * a};
+            testi_ = {x, (margine + piede_ + AltezzaColonna()) * a};
         break;
     }
     default:
@@ -140,8 +140,10 @@ void FoglioNodo::Colloca() {
 
 void FoglioNodo::Dispone(Superficie* oggetto, std::string_view dispositivo) {
     const std::string uscita(dispositivo); // it may be a view of the one in force
-    tavola_ =
-        std::make_unique<TavolaViste>(oggetto, uscita, Schermo() ? std::string_view{} : carattereStampa);
+    const bool video = uscita == dispositivoVideo;
+    piede_ = video ? 0 : piede;
+    tavola_ = std::make_unique<TavolaViste>(oggetto, uscita,
+                                            Schermo() && video ? std::string_view{} : carattereStampa);
     larghezzaTesti_ = larghezzaTitoli_ = 0;
     for (const std::string& riga : righe_)
         larghezzaTesti_ = std::max(larghezzaTesti_, tavola_->InAltezze(riga));

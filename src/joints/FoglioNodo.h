@@ -98,6 +98,7 @@ private:
     std::array<PuntoNodo, 2> dove_;                   ///< where the origins of the views lie
     PuntoNodo testi_;                                 ///< upper left corner of the column of texts
     double larghezzaTesti_ = 0, larghezzaTitoli_ = 0; ///< [heights of the text]
+    double piede_ = 0;                                ///< room for the scale [heights of the text]
     bool testiScritti_ = false;
 };
 

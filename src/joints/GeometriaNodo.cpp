@@ -64,7 +64,7 @@ void LatoNodo::Piastra(const Giunto& g) {
     aw = g.aw;
     if (nf == 2) {
         ex = g.ex;
-        dX = g.L > 0 ? g.L - g.ex : g.dX;
+        dX = g.dX > 0 ? g.dX : std::max(g.L - g.ex, 0.0);
         u = g.u;
         alto = ex + dX;
         basso = -trave.h - u;

@@ -319,6 +319,18 @@ TEST_F(FiguraGiuntoTest, ABrokenLimitIsARedDimension) {
     }
 }
 
+TEST_F(FiguraGiuntoTest, ABrokenLimitWithoutDimensionIsToldOverThePicture) {
+    EvidenzaGiunto e;
+    e.parametro = "d2";
+    e.limite = "min 22";
+    Nodo n = NodoDisegnato(nodoT, 1);
+    n.ConnessioneCorrente->d2 = 0;
+    EXPECT_THAT(Figura(n, e).Testi(), Contains("d1: min 22"));
+    n.ConnessioneCorrente->d2 = 12;
+    EXPECT_THAT(Figura(n, e).Testi(), Not(Contains("d1: min 22")));
+    EXPECT_THAT(Figura(n, e).Testi(), Contains("d1 12 (min 22)"));
+}
+
 TEST_F(FiguraGiuntoTest, WhatGovernsIsHatchedAndOutlinedInRed) {
     const auto rosse = [](const SuperficieFinta& s) {
         return std::count_if(s.linee.begin(), s.linee.end(), [](const auto& l) { return l.colore == 12; });

@@ -1,0 +1,102 @@
+// A sheet of several views: scale and height of the texts by hand from the room that is left.
+
+#include "drawing/TavolaViste.h"
+
+#include <array>
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "SuperficieFinta.h"
+#include "drawing/TavolaDisegno.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class TavolaVisteTest : public testing::Test {
+private:
+    StatoUscita prima_;
+};
+
+// 300 mm and 10 heights of 10 pixels in 400 pixels leave one pixel to the millimetre.
+TEST_F(TavolaVisteTest, OnTheScreenTheViewsTakeWhatTheTextsLeave) {
+    SuperficieFinta s(400, 1000);
+    TavolaViste t(&s, dispositivoVideo, "");
+    t.Dispone(std::array<DisposizioneViste, 1>{{{{{300, 10}}, {{200, 5}}}}});
+    EXPECT_NEAR(s.InX(1) - s.InX(0), 1, 1e-9);
+    EXPECT_NEAR(s.InY(0) - s.InY(1), 1, 1e-9); // y upwards
+    EXPECT_NEAR(t.AltezzaTesto(), 10, 1e-6);
+    EXPECT_NEAR(t.Larghezza(), 400, 1e-6);
+    EXPECT_NEAR(t.Altezza(), 250, 1e-6);
+    EXPECT_NEAR(s.InX(0), 0, 1e-6);
+    EXPECT_NEAR(s.InY(t.Altezza() / 2), 500, 1e-3); // in the middle
+    EXPECT_EQ(t.Scala(), "");
+}
+
+TEST_F(TavolaVisteTest, TheLayoutWithTheLargestViewsIsTaken) {
+    const std::array<DisposizioneViste, 2> affiancateOSovrapposte{
+        {{{{400, 0}}, {{100, 0}}}, {{{200, 0}}, {{200, 0}}}}};
+    for (const bool larga : {true, false}) {
+        SuperficieFinta s(larga ? 800 : 300, larga ? 200 : 300);
+        TavolaViste t(&s, dispositivoVideo, "");
+        t.Dispone(affiancateOSovrapposte);
+        EXPECT_EQ(t.Scelta(), larga ? 0U : 1U);
+    }
+}
+
+TEST_F(TavolaVisteTest, TextsThatTakeTooMuchOfAScreenBecomeSmaller) {
+    SuperficieFinta s(100, 1000);
+    TavolaViste t(&s, dispositivoVideo, "");
+    t.Dispone(std::array<DisposizioneViste, 1>{{{{{28, 20}}, {{10, 0}}}}}); // 200 pixels of texts in 100
+    EXPECT_NEAR(s.FontSize, 3.6, 1e-9);                                     // 72 of 100
+    EXPECT_NEAR(s.InX(1) - s.InX(0), 1, 1e-9);
+}
+
+// 100 mm of paper: 400 mm fit at 1:5, not at the 1:4 that is no scale; 240 mm take 1:5, too, 1:2.5 is not in
+// the series.
+TEST_F(TavolaVisteTest, PaperTakesTheSeries) {
+    for (const double mm : {400.0, 240.0, 490.0}) {
+        SuperficieFinta s(100, 100);
+        TavolaViste t(&s, dispositivoStampante, carattereStampa);
+        t.Dispone(std::array<DisposizioneViste, 1>{{{{{mm, 0}}, {{10, 0}}}}});
+        EXPECT_EQ(t.Scala(), "1:5") << mm;
+        EXPECT_NEAR(s.InX(5) - s.InX(0), 1, 1e-6);
+        EXPECT_NEAR(t.AltezzaTesto(), 2.5 * 5, 1e-4);
+        EXPECT_EQ(s.FontName, carattereStampa);
+    }
+}
+
+TEST_F(TavolaVisteTest, PaperTakesSmallerTextsForALargerScale) {
+    SuperficieFinta s(100, 100);
+    TavolaViste t(&s, dispositivoStampante, carattereStampa);
+    t.Dispone(
+        std::array<DisposizioneViste, 1>{{{{{250, 20}}, {{10, 0}}}}}); // 50 mm and 50, or 36 mm of texts
+    EXPECT_EQ(t.Scala(), "1:5");
+    TavolaViste u(&s, dispositivoStampante, carattereStampa);
+    u.Dispone(std::array<DisposizioneViste, 1>{{{{{300, 20}}, {{10, 0}}}}});
+    EXPECT_EQ(u.Scala(), "1:5");
+    EXPECT_NEAR(u.AltezzaTesto(), 1.8 * 5, 1e-4);
+}
+
+TEST_F(TavolaVisteTest, FilesTakeTheUnitsOfTheModel) {
+    const SuUscita uscita(nullptr, dispositivoDxf);
+    TavolaViste t(nullptr, dispositivoDxf, carattereStampa);
+    t.Dispone(std::array<DisposizioneViste, 1>{{{{{900, 10}}, {{500, 4}}}}});
+    EXPECT_NEAR(t.AltezzaTesto(), 12.5, 1e-4); // as at 1:5 on 190 mm
+    EXPECT_NEAR(t.Larghezza(), 1025, 1e-3);
+    EXPECT_EQ(t.Scala(), "1:1");
+    EXPECT_NEAR(t.InAltezze("12345678"), 6.8, 1e-9); // estimated
+}
+
+TEST_F(TavolaVisteTest, ScalesInUse) {
+    EXPECT_EQ(ScalaInUso(4.2), 5);
+    EXPECT_EQ(ScalaInUso(5), 5);
+    EXPECT_EQ(ScalaInUso(5.01), 10);
+    EXPECT_EQ(ScalaInUso(2000), 0);
+    EXPECT_EQ(ScalaScritta(0.5), "2:1");
+    EXPECT_EQ(ScalaScritta(0), "");
+}
+
+} // namespace
