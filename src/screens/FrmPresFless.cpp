@@ -23,6 +23,7 @@
 #include "screens/TermineSpostato.h"
 #include "sections/DiagrammaMomenti.h"
 #include "sections/DisegniMomento.h"
+#include "sections/PressoFlessione.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/Verdetto.h"
 #include "ui_FrmPresFless.h"
@@ -213,24 +214,14 @@ void FrmPresFless::Calcola() {
         return;
     PrendeMomento(0);
     PrendeMomento(1);
-    s->k = 1;
-    s->Kw = 1;
-    s->za = 0;
-    s->c2 = 0;
-    s->c3 = 0;
-    double M = 0;
-    double BetaM = 0;
-    double C1 = 0;
-    CompletaForm1(0, M, BetaM, C1);
-    s->C1 = FattoreInForza(C1);
-    s->Mysd = M;
-    s->BetaMLT = BetaM;
-    s->BetaMy = BetaM;
-    Mostra(ui_->Lbl_C1, figura, s->C1);
-    CompletaForm1(1, M, BetaM, C1);
-    s->Mzsd = M;
+    EffettiDiagramma y;
+    EffettiDiagramma z;
+    CompletaForm1(0, y.M, y.BetaM, y.C1);
+    CompletaForm1(1, z.M, z.BetaM, z.C1);
+    y.C1 = FattoreInForza(y.C1);
+    ApplicaDiagrammi(*s, y, z);
     scritti_ = {s->Mysd, s->Mzsd};
-    s->BetaMz = BetaM;
+    Mostra(ui_->Lbl_C1, figura, s->C1);
     s->McrFunz();
     s->MbRdSub();
     MostraAsse(0);

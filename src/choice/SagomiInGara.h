@@ -1,0 +1,39 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneSagomoL.h"
+#include "sections/SezioneSagomoU.h"
+
+/// The rows that a choice is made of, read once.
+namespace sagomi {
+
+/// A row of the catalogue with its constants; without steel and forces.
+struct SagomoInGara {
+    std::string schermo;  ///< name of the main screen that its kind belongs to
+    std::string famiglia; ///< name of its sheet
+    bool utente = false;  ///< one of the user's own
+    double g = 0;         ///< weight [kg/m]
+    std::variant<SezioneDoppioT, SezioneSagomoU, SezioneSagomoL> sezione;
+
+    [[nodiscard]] const std::string& Designazione() const;
+};
+
+/// What was read, and in Italian why a sheet was not.
+struct Gara {
+    std::vector<SagomoInGara> sagomi;
+    std::vector<std::string> mancanti;
+};
+
+/// Reads the rows of all families of all main screens: "Sagomi.xls", and the user's own of "SagomiUtente.xls"
+/// where there is one. A sheet that cannot be read leaves the others.
+/// @param cartella  the folder of both workbooks
+/// @param famiglie  names of the sheets to read; empty for all
+Gara LeggeGara(const std::filesystem::path& cartella, const std::vector<std::string>& famiglie = {});
+
+} // namespace sagomi
