@@ -25,6 +25,10 @@ if(SAGOMI_UI)
     configure_file(\"${PROJECT_SOURCE_DIR}/src/automation/Sagomi_v6.SezioneSagomi.service.in\"
       \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/dbus-1/services/Sagomi_v6.SezioneSagomi.service\"
       @ONLY)" COMPONENT programma)
+  install(FILES ${PROJECT_SOURCE_DIR}/data/comando/sagomi.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+          COMPONENT programma)
+  install(FILES ${PROJECT_SOURCE_DIR}/data/comando/sagomi.bash RENAME sagomi
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT programma)
   list(APPEND accanto Sagomi.hlp FormuleGiunto.rtf)
 endif()
 list(TRANSFORM accanto PREPEND ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/)

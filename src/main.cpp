@@ -1,11 +1,32 @@
 #include <QApplication>
 #include <fontconfig/fontconfig.h>
 
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <string>
 #include <thread>
+#include <vector>
 
+#include "choice/Comando.h"
+#include "frame/Cartelle.h"
 #include "screens/GeneraleSchermi.h"
 
+namespace {
+
+/// What is answered without windows.
+std::optional<int> Comando(int argc, char* argv[]) {
+    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    std::error_code none;
+    const auto own = std::filesystem::read_symlink("/proc/self/exe", none).parent_path();
+    return sagomi::EsegueComando(arguments, sagomi::CartellaFile(own), std::cout, std::cerr);
+}
+
+} // namespace
+
 int main(int argc, char* argv[]) {
+    if (const auto status = Comando(argc, argv))
+        return *status;
     // The toolkit asks for the list of the system's fonts when it needs the first of them; reading it takes
     // as long as all the rest that comes before.
     std::jthread fonts([] { FcInit(); });

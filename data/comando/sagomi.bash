@@ -1,0 +1,13 @@
+# Completion of sagomi in bash.
+_sagomi() {
+  local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]}
+  case $prev in
+    --acciaio) mapfile -t COMPREPLY < <(compgen -W "S235 S275 S355" -- "$cur") ;;
+    --normativa) mapfile -t COMPREPLY < <(compgen -W "NTC EC3" -- "$cur") ;;
+    --diagramma) mapfile -t COMPREPLY < <(compgen -W "1 2 3 4 5 6" -- "$cur") ;;
+    *) mapfile -t COMPREPLY < <(compgen -W "--help --version --verifica --scelta --N --My --My2 --MyQ --Mz --Mz2
+         --MzQ --diagramma --L0y --L0z --L0v --L --k --Kw --C1 --C2 --C3 --za --acciaio --fy --normativa --famiglie
+         --hmax --bmax --gmin --gmax --verificati --doppi --accostati --json --csv" -- "$cur") ;;
+  esac
+}
+complete -F _sagomi sagomi

@@ -1,0 +1,111 @@
+#include "choice/Comando.h"
+
+#include <algorithm>
+#include <ostream>
+
+#include "choice/Opzioni.h"
+#include "choice/ScritturaScelta.h"
+#include "frame/VersioneProgramma.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr auto guida = R"(Uso: sagomi                              apre le finestre
+     sagomi --verifica "HEA 200" [opzioni]   verifica un sagomo
+     sagomi --scelta [opzioni]               verifica tutti i sagomi, i più leggeri per primi
+     sagomi --help, --version
+
+Azioni e lunghezze (numeri col punto decimale):
+  --N kN                  forza assiale, positiva se di compressione
+  --My kNm --Mz kNm       momento maggiore alle estremità; --My2, --Mz2 quello all'altra (se mancano 0)
+  --MyQ kNm --MzQ kNm     momento del carico in campata
+  --diagramma 1..6        forma del diagramma: 1 e 2 estremità concordi e discordi, 3 e 4 carico distribuito e
+                          concentrato contro i momenti di estremità, 5 e 6 gli stessi concordi
+  --L0y m --L0z m --L0v m lunghezze di libera inflessione
+  --L m                   distanza fra i vincoli torsionali (se manca L0z)
+  --k --Kw --C1 --C2 --C3 --za mm   dati del momento critico; C1 se manca è quello del diagramma
+Materiale e norma:
+  --acciaio S235|S275|S355  --fy N/mm2  --normativa NTC|EC3
+Sagomi:
+  --famiglie IPE,HEA      solo queste famiglie
+  --hmax mm --bmax mm --gmin kg/m --gmax kg/m   limiti
+  --verificati            solo quelli verificati
+  --doppi mm --accostati  canali e angolari doppi alla distanza data, accostati di ala o di lato corto
+Risposta:
+  --json, --csv           per altri programmi
+Stato di uscita: 0 verificato, 1 non verificato, 2 uso errato.
+)";
+
+/// A name without blanks, in small letters: "hea200" finds "HEA 200".
+std::string Piegato(std::string_view nome) {
+    std::string s;
+    for (const char c : nome)
+        if (c != ' ')
+            s += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    return s;
+}
+
+/// The rows, or the reason why there are none.
+Gara Legge(const std::filesystem::path& cartella, const std::vector<std::string>& famiglie) {
+    Gara gara = LeggeGara(cartella, famiglie);
+    if (gara.sagomi.empty())
+        throw ErroreUso(gara.mancanti.empty() ? "nessuna famiglia si chiama così" : gara.mancanti.front());
+    for (const std::string& famiglia : famiglie)
+        if (std::ranges::find(gara.sagomi, famiglia, &SagomoInGara::famiglia) == gara.sagomi.end())
+            throw ErroreUso("nessuna famiglia si chiama \"" + famiglia + "\"");
+    return gara;
+}
+
+int VerificaUno(const Comando& c, const std::filesystem::path& cartella, std::ostream& uscita) {
+    const Gara gara = Legge(cartella, c.filtri.famiglie);
+    const auto sagomo = std::ranges::find_if(
+        gara.sagomi, [&](const SagomoInGara& s) { return Piegato(s.Designazione()) == Piegato(c.sagomo); });
+    if (sagomo == gara.sagomi.end())
+        throw ErroreUso("nessun sagomo si chiama \"" + c.sagomo + "\"");
+    std::vector<std::string> messaggi = gara.mancanti;
+    const SagomoVerificato esito = Verifica(*sagomo, c.richiesta, messaggi);
+    ScriveVerifica(uscita, c, *sagomo, esito, messaggi);
+    return esito.riga.verificato ? comandoVerificato : comandoNonVerificato;
+}
+
+int SceglieFraTutti(const Comando& c, const std::filesystem::path& cartella, std::ostream& uscita) {
+    const Gara gara = Legge(cartella, c.filtri.famiglie);
+    std::vector<std::string> messaggi = gara.mancanti;
+    std::vector<RigaScelta> righe = Valuta(gara.sagomi, c.richiesta, c.filtri, messaggi);
+    OrdinaPerPeso(righe);
+    ScriveScelta(uscita, c, gara.sagomi, righe, messaggi);
+    return !righe.empty() && righe.front().verificato ? comandoVerificato : comandoNonVerificato;
+}
+
+int Esegue(Comando c, const std::filesystem::path& cartella, std::ostream& uscita) {
+    if (c.modo == ModoComando::Aiuto) {
+        uscita << guida;
+        return comandoVerificato;
+    }
+    if (c.modo == ModoComando::Versione) {
+        uscita << "sagomi " << versioneProgramma << '\n';
+        return comandoVerificato;
+    }
+    MetteInVigore(c);
+    return c.modo == ModoComando::Verifica ? VerificaUno(c, cartella, uscita)
+                                           : SceglieFraTutti(c, cartella, uscita);
+}
+
+} // namespace
+
+std::optional<int> EsegueComando(const std::vector<std::string>& argomenti,
+                                 const std::filesystem::path& cartella, std::ostream& uscita,
+                                 std::ostream& errori) {
+    try {
+        Comando comando = LeggeOpzioni(argomenti);
+        if (comando.modo == ModoComando::Finestre)
+            return std::nullopt;
+        return Esegue(std::move(comando), cartella, uscita);
+    } catch (const ErroreUso& e) {
+        errori << "sagomi: " << e.what() << "\nsagomi --help dice come si usa\n";
+        return comandoErrato;
+    }
+}
+
+} // namespace sagomi

@@ -1,0 +1,189 @@
+#include "choice/Opzioni.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <span>
+#include <string_view>
+
+#include "frame/GeneraleSagomi.h"
+#include "frame/Unita.h"
+
+namespace sagomi {
+
+namespace {
+
+using Prende = void (*)(Comando&, const std::string&);
+using PrendeNumero = void (*)(Comando&, double);
+
+struct OpzioneTesto {
+    std::string_view nome;
+    Prende prende;
+};
+
+/// A number of a range, ends included.
+struct OpzioneNumero {
+    std::string_view nome;
+    double minimo, massimo;
+    PrendeNumero prende;
+};
+
+constexpr double qualsiasi = 1e12; // beyond it no force nor length means anything
+
+std::vector<std::string> Separati(const std::string& testo) {
+    std::vector<std::string> pezzi;
+    std::size_t da = 0;
+    for (std::size_t a = 0; a != std::string::npos; da = a + 1) {
+        a = testo.find(',', da);
+        pezzi.push_back(testo.substr(da, a == std::string::npos ? a : a - da));
+        if (a == std::string::npos)
+            break;
+    }
+    return pezzi;
+}
+
+void Sceglie(Comando& c, ModoComando modo) {
+    if (c.modo != ModoComando::Finestre && c.modo != modo)
+        throw ErroreUso("si può chiedere una cosa sola fra --verifica e --scelta");
+    c.modo = modo;
+}
+
+void Scrive(Comando& c, FormatoUscita formato) {
+    if (c.formato != FormatoUscita::Testo && c.formato != formato)
+        throw ErroreUso("si può chiedere uno solo fra --json e --csv");
+    c.formato = formato;
+}
+
+std::int16_t Forma(double v) {
+    if (v != std::floor(v))
+        throw ErroreUso("--diagramma vuole un numero intero da 1 a 6");
+    return static_cast<std::int16_t>(v);
+}
+
+// clang-format off
+constexpr OpzioneTesto testi[] = {
+    {"--verifica",  [](Comando& c, const std::string& t) { Sceglie(c, ModoComando::Verifica); c.sagomo = t; }},
+    {"--acciaio",   [](Comando& c, const std::string& t) { c.acciaio = t; }},
+    {"--normativa", [](Comando& c, const std::string& t) { c.normativa = t; }},
+    {"--famiglie",  [](Comando& c, const std::string& t) { c.filtri.famiglie = Separati(t); }},
+};
+
+constexpr OpzioneNumero numeri[] = {
+    {"--N",     -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.NSd = kN_a_N(v); }},
+    {"--My",    0, qualsiasi, [](Comando& c, double v) { c.richiesta.y.M1 = kNm_a_Nmm(v); }},
+    {"--My2",   -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.y.M2 = kNm_a_Nmm(v); }},
+    {"--MyQ",   0, qualsiasi, [](Comando& c, double v) { c.richiesta.y.MQ = kNm_a_Nmm(v); }},
+    {"--Mz",    0, qualsiasi, [](Comando& c, double v) { c.richiesta.z.M1 = kNm_a_Nmm(v); }},
+    {"--Mz2",   -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.z.M2 = kNm_a_Nmm(v); }},
+    {"--MzQ",   0, qualsiasi, [](Comando& c, double v) { c.richiesta.z.MQ = kNm_a_Nmm(v); }},
+    {"--L0y",   0, qualsiasi, [](Comando& c, double v) { c.richiesta.L0y = m_a_mm(v); }},
+    {"--L0z",   0, qualsiasi, [](Comando& c, double v) { c.richiesta.L0z = m_a_mm(v); }},
+    {"--L0v",   0, qualsiasi, [](Comando& c, double v) { c.richiesta.L0v = m_a_mm(v); }},
+    {"--L",     0, qualsiasi, [](Comando& c, double v) { c.richiesta.LLT = m_a_mm(v); }},
+    {"--k",     0, qualsiasi, [](Comando& c, double v) { c.richiesta.k = v; }},
+    {"--Kw",    0, qualsiasi, [](Comando& c, double v) { c.richiesta.Kw = v; }},
+    {"--C1",    0, qualsiasi, [](Comando& c, double v) { c.richiesta.C1 = v; }},
+    {"--C2",    -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.c2 = v; }},
+    {"--C3",    -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.c3 = v; }},
+    {"--za",    -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.za = v; }},
+    {"--fy",    0.01, qualsiasi, [](Comando& c, double v) { c.fy = v; }},
+    {"--doppi", 0, qualsiasi, [](Comando& c, double v) { c.richiesta.doppi = true; c.richiesta.dDoppi = v; }},
+    {"--hmax",  0, qualsiasi, [](Comando& c, double v) { c.filtri.hMassima = v; }},
+    {"--bmax",  0, qualsiasi, [](Comando& c, double v) { c.filtri.bMassima = v; }},
+    {"--gmin",  0, qualsiasi, [](Comando& c, double v) { c.filtri.gMinimo = v; }},
+    {"--gmax",  0, qualsiasi, [](Comando& c, double v) { c.filtri.gMassimo = v; }},
+    {"--diagramma", 1, nPict, [](Comando& c, double v) { c.richiesta.pict = Forma(v); }},
+};
+
+constexpr std::pair<std::string_view, void (*)(Comando&)> interruttori[] = {
+    {"--help",       [](Comando& c) { c.modo = ModoComando::Aiuto; }},
+    {"--version",    [](Comando& c) { c.modo = ModoComando::Versione; }},
+    {"--scelta",     [](Comando& c) { Sceglie(c, ModoComando::Scelta); }},
+    {"--json",       [](Comando& c) { Scrive(c, FormatoUscita::Json); }},
+    {"--csv",        [](Comando& c) { Scrive(c, FormatoUscita::Csv); }},
+    {"--accostati",  [](Comando& c) { c.richiesta.accostati = true; }},
+    {"--verificati", [](Comando& c) { c.filtri.soloVerificati = true; }},
+};
+// clang-format on
+
+double NumeroDi(const OpzioneNumero& opzione, const std::string& testo) {
+    double v = 0;
+    const char* fine = testo.data() + testo.size();
+    const auto letto = std::from_chars(testo.data(), fine, v);
+    const std::string nome(opzione.nome);
+    if (letto.ec != std::errc() || letto.ptr != fine || !std::isfinite(v))
+        throw ErroreUso(nome + " vuole un numero col punto decimale, per esempio 2.5, non \"" + testo + "\"");
+    if (v < opzione.minimo || v > opzione.massimo)
+        throw ErroreUso(nome + " non può valere " + testo);
+    return v;
+}
+
+/// Takes one option, with its value where it has one.
+/// @return how many arguments it has taken
+std::size_t Prendi(Comando& c, std::span<const std::string> argomenti) {
+    const std::string& nome = argomenti.front();
+    for (const auto& [interruttore, mette] : interruttori)
+        if (interruttore == nome) {
+            mette(c);
+            return 1;
+        }
+    const auto* testo = std::ranges::find(testi, nome, &OpzioneTesto::nome);
+    const auto* numero = std::ranges::find(numeri, nome, &OpzioneNumero::nome);
+    if (testo == std::end(testi) && numero == std::end(numeri))
+        throw ErroreUso("\"" + nome + "\" non è un'opzione");
+    if (argomenti.size() < 2)
+        throw ErroreUso(nome + " vuole un valore");
+    if (testo != std::end(testi))
+        testo->prende(c, argomenti[1]);
+    else
+        numero->prende(c, NumeroDi(*numero, argomenti[1]));
+    return 2;
+}
+
+bool ChiedeRisposta(const std::string& argomento) {
+    constexpr std::string_view chiedono[] = {"--help", "--version", "--verifica", "--scelta"};
+    return std::ranges::find(chiedono, argomento) != std::end(chiedono);
+}
+
+/// The whole name, or what stands before its blank: "S275" of "S275 (Fe430)".
+bool ENomeDi(const std::string& nome, const std::string& intero) {
+    return nome == intero || (!nome.empty() && intero.starts_with(nome + ' '));
+}
+
+std::string NomiAcciai() {
+    std::string nomi;
+    for (const std::string& nome : NomeAcciaio)
+        nomi += (nomi.empty() ? "" : ", ") + nome.substr(0, nome.find(' '));
+    return nomi;
+}
+
+} // namespace
+
+Comando LeggeOpzioni(const std::vector<std::string>& argomenti) {
+    Comando c;
+    if (std::ranges::none_of(argomenti, ChiedeRisposta))
+        return c;
+    for (std::span<const std::string> resto(argomenti); !resto.empty();)
+        resto = resto.subspan(Prendi(c, resto));
+    c.richiesta.tipoDiagramma = TipoDiPict(c.richiesta.pict);
+    if (std::abs(c.richiesta.y.M2) > c.richiesta.y.M1 || std::abs(c.richiesta.z.M2) > c.richiesta.z.M1)
+        throw ErroreUso("--My2 e --Mz2 non possono superare --My e --Mz in valore assoluto");
+    return c;
+}
+
+void MetteInVigore(Comando& c) {
+    if (c.normativa != "NTC" && c.normativa != "EC3")
+        throw ErroreUso("--normativa vuole NTC o EC3, non \"" + c.normativa + "\"");
+    Normativa = c.normativa == "EC3" ? normativaEC3 : normativaNTC;
+    ImpostaGamma();
+    for (int i = 1; i <= NumAcciai; ++i)
+        if (ENomeDi(c.acciaio, NomeAcciaio[i])) {
+            c.richiesta.TipoAcciaio = NomeAcciaio[i];
+            c.richiesta.fy = c.fy > 0 ? c.fy : double(fyAcciaio[i]);
+            c.richiesta.fu = fuAcciaio[i];
+            return;
+        }
+    throw ErroreUso("--acciaio vuole " + NomiAcciai() + ", non \"" + c.acciaio + "\"");
+}
+
+} // namespace sagomi

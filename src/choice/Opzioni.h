@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "choice/Scelta.h"
+
+/// What a command line asks for.
+namespace sagomi {
+
+/// The program was called wrongly; the text says in Italian what was expected.
+class ErroreUso : public std::runtime_error {
+public:
+    using runtime_error::runtime_error;
+};
+
+enum class ModoComando : std::uint8_t { Finestre, Aiuto, Versione, Verifica, Scelta };
+enum class FormatoUscita : std::uint8_t { Testo, Json, Csv };
+
+struct Comando {
+    ModoComando modo = ModoComando::Finestre;
+    FormatoUscita formato = FormatoUscita::Testo;
+    std::string sagomo; ///< name of the section to be checked
+    std::string acciaio = "S235";
+    double fy = 0; ///< another strength than the grade's [N/mm2]; 0 for none
+    std::string normativa = "NTC";
+    Richiesta richiesta;
+    Filtri filtri;
+};
+
+/// Reads the arguments without the program's name. Numbers have a point, whatever the locale. Without one of
+/// the options that ask for an answer on the command line the windows are meant, whatever else stands there.
+/// Throws ErroreUso.
+Comando LeggeOpzioni(const std::vector<std::string>& argomenti);
+
+/// Puts code and steel of a command in force: the partial factors, and grade and strengths of the request.
+/// Throws ErroreUso for names that are none.
+void MetteInVigore(Comando& comando);
+
+} // namespace sagomi

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <iosfwd>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "choice/Opzioni.h"
+#include "choice/Scelta.h"
+
+/// What a command line answers, in kN, kNm, mm, cm2 and kg/m; numbers with a point, at most four decimals.
+/// What is no number is a dash in a text, empty in CSV, null in JSON.
+namespace sagomi {
+
+/// One section: its resistances and checks, with their clauses.
+void ScriveVerifica(std::ostream& uscita, const Comando& comando, const SagomoInGara& sagomo,
+                    const SagomoVerificato& esito, const std::vector<std::string>& messaggi);
+
+/// The table of a choice.
+void ScriveScelta(std::ostream& uscita, const Comando& comando, std::span<const SagomoInGara> sagomi,
+                  const std::vector<RigaScelta>& righe, const std::vector<std::string>& messaggi);
+
+} // namespace sagomi

@@ -1,0 +1,130 @@
+#include "choice/Comando.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+#include "choice/Scelta.h"
+#include "frame/GeneraleSagomi.h"
+
+using namespace sagomi;
+
+namespace {
+
+class ComandoTest : public testing::Test {
+protected:
+    void TearDown() override { RipristinaGenerale(); }
+
+    std::optional<int> Esegue(const std::vector<std::string>& argomenti) {
+        uscita.str("");
+        errori.str("");
+        return EsegueComando(argomenti, SAGOMI_BIN, uscita, errori);
+    }
+    [[nodiscard]] bool Dice(const std::string& testo) const {
+        return uscita.str().find(testo) != std::string::npos;
+    }
+    [[nodiscard]] std::ptrdiff_t Righe() const {
+        const std::string testo = uscita.str();
+        return std::ranges::count(testo, '\n');
+    }
+
+    std::ostringstream uscita, errori;
+};
+
+TEST_F(ComandoTest, WithoutAQuestionTheWindowsAreMeant) {
+    EXPECT_EQ(Esegue({}), std::nullopt);
+    EXPECT_EQ(Esegue({"-platform", "offscreen"}), std::nullopt);
+    EXPECT_EQ(Esegue({"trave.sco"}), std::nullopt);
+}
+
+TEST_F(ComandoTest, HelpAndVersionHold) {
+    EXPECT_EQ(Esegue({"--help"}), comandoVerificato);
+    EXPECT_TRUE(Dice("--verifica \"HEA 200\""));
+    EXPECT_EQ(Esegue({"--version"}), comandoVerificato);
+    EXPECT_TRUE(Dice("sagomi "));
+    EXPECT_TRUE(errori.str().empty());
+}
+
+// HEA 200 in S235, 400 kN, 4 m about z-z: Nb,z about 794 kN (the case of SceltaTest).
+TEST_F(ComandoTest, ASectionIsCheckedAndItsDerivationWritten) {
+    const std::vector<std::string> call = {"--verifica", "hea200", "--N",  "400", "--L0y",       "4",
+                                           "--L0z",      "4",      "--fy", "235", "--normativa", "EC3"};
+    EXPECT_EQ(Esegue(call), comandoVerificato);
+    EXPECT_TRUE(Dice("HEA 200")) << uscita.str();
+    EXPECT_TRUE(Dice("ENV 1993-1-1 5.5.1"));
+    EXPECT_TRUE(Dice("OK"));
+    std::vector<std::string> more = call;
+    more[3] = "900";
+    EXPECT_EQ(Esegue(more), comandoNonVerificato);
+    EXPECT_TRUE(Dice("supera da sola Nb,z,Rd")) << uscita.str();
+}
+
+TEST_F(ComandoTest, JsonHasTheFiguresOfTheChoice) {
+    EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--acciaio", "S275", "--normativa", "EC3", "--My", "100",
+                      "--L", "3", "--json"}),
+              comandoVerificato);
+    EXPECT_TRUE(Dice("\"designazione\":\"IPE 300\",\"famiglia\":\"IPE\"")) << uscita.str();
+    EXPECT_TRUE(Dice("\"McyRd\":172.81")) << "628.4 cm3 x 275: " << uscita.str();
+    EXPECT_TRUE(Dice("\"verificato\":true"));
+    EXPECT_TRUE(Dice("\"NbzRd\":"));
+    EXPECT_EQ(Righe(), 1);
+}
+
+TEST_F(ComandoTest, AChoiceGivesTheLightestFirst) {
+    EXPECT_EQ(Esegue({"--scelta", "--famiglie", "IPE,HEA", "--My", "100", "--L", "3", "--csv"}),
+              comandoVerificato);
+    EXPECT_EQ(uscita.str().find("designazione,famiglia,g,"), 0U);
+    const auto rows = LeggeGara(SAGOMI_BIN, {"IPE", "HEA"}).sagomi.size();
+    EXPECT_EQ(Righe(), static_cast<std::ptrdiff_t>(rows) + 1);
+    EXPECT_EQ(Esegue({"--scelta", "--famiglie", "IPE", "--My", "100000", "--L", "3"}), comandoNonVerificato);
+    EXPECT_TRUE(Dice("IPE 600"));
+    EXPECT_EQ(Esegue({"--scelta", "--famiglie", "IPE", "--My", "100000", "--verificati", "--json"}),
+              comandoNonVerificato);
+    EXPECT_TRUE(Dice("\"righe\":[]"));
+}
+
+TEST_F(ComandoTest, AngleInPairsUnderAForce) {
+    EXPECT_EQ(Esegue({"--verifica", "L 100x100x10", "--N", "200", "--L0y", "2", "--L0z", "2", "--L0v", "1",
+                      "--doppi", "10"}),
+              comandoVerificato);
+    EXPECT_TRUE(Dice("membratura"));
+}
+
+struct Errato {
+    std::vector<std::string> argomenti;
+    const char* atteso;
+};
+
+TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
+    const std::vector<Errato> calls = {
+        {{"--verifica"}, "--verifica vuole un valore"},
+        {{"--verifica", "HEA 200", "--N"}, "--N vuole un valore"},
+        {{"--verifica", "HEA 200", "--N", "2,5"}, "punto decimale"},
+        {{"--verifica", "HEA 200", "--N", "nan"}, "punto decimale"},
+        {{"--verifica", "HEA 200", "--N", "1e400"}, "punto decimale"},
+        {{"--verifica", "HEA 200", "--N", ""}, "punto decimale"},
+        {{"--verifica", "HEA 200", "--L0y", "-1"}, "--L0y non può valere -1"},
+        {{"--verifica", "HEA 200", "--fy", "0"}, "--fy non può valere 0"},
+        {{"--verifica", "HEA 200", "--diagramma", "7"}, "--diagramma non può valere 7"},
+        {{"--verifica", "HEA 200", "--diagramma", "1.5"}, "un numero intero"},
+        {{"--verifica", "HEA 200", "--My", "1", "--My2", "2"}, "--My2"},
+        {{"--verifica", "HEA 999"}, "nessun sagomo si chiama \"HEA 999\""},
+        {{"--verifica", "HEA 200", "--acciaio", "S999"}, "S235, S275, S355"},
+        {{"--verifica", "HEA 200", "--normativa", "DIN"}, "NTC o EC3"},
+        {{"--verifica", "HEA 200", "--scelta"}, "una cosa sola"},
+        {{"--scelta", "--json", "--csv"}, "uno solo"},
+        {{"--scelta", "--famiglie", "IPE,XYZ"}, "nessuna famiglia si chiama \"XYZ\""},
+        {{"--scelta", "--famiglie", ""}, "nessuna famiglia"},
+        {{"--scelta", "--pippo", "3"}, "\"--pippo\" non è un'opzione"},
+        {{"--scelta", "ciao"}, "\"ciao\" non è un'opzione"},
+    };
+    for (const auto& [call, expected] : calls) {
+        EXPECT_EQ(Esegue(call), comandoErrato) << expected;
+        EXPECT_NE(errori.str().find(expected), std::string::npos) << errori.str();
+        EXPECT_TRUE(uscita.str().empty()) << expected;
+    }
+    EXPECT_EQ(EsegueComando({"--scelta"}, "/nessuna", uscita, errori), comandoErrato);
+}
+
+} // namespace
