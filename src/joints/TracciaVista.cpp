@@ -11,6 +11,7 @@ namespace {
 
 // In heights of the text. Extension lines pass a little beyond the dimension line, ISO 129-1.
 constexpr double stacco = 0.4;
+constexpr double staccoTesto = 0.5; ///< of a text under its line, clear of the ticks
 constexpr double sporgenza = 0.5;
 constexpr double mezzaTacca = 0.4;
 constexpr double codolo = 1.6;
@@ -189,7 +190,8 @@ void TracciaVista::Orizzontali(double yPezzo, double y, std::span<const QuotaNod
     EstremeFuori(quote, mezze, centri);
     centri = Distanziati(centri, mezze);
     for (std::size_t i = 0; i < quote.size(); ++i)
-        Testo({centri[i], y + verso * (stacco + 0.5) * a_}, quote[i].testo, Allinea::Centro, quote[i].rosso);
+        Testo({centri[i], y + verso * (staccoTesto + 0.5) * a_}, quote[i].testo, Allinea::Centro,
+              quote[i].rosso);
 }
 
 void TracciaVista::Spessore(double x1, double x2, double yPezzo, double y, const QuotaNodo& quota) const {

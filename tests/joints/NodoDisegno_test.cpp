@@ -103,7 +103,32 @@ protected:
         }
     }
 
+    /// No line runs through a text.
+    static void SenzaLinee(const SuperficieFinta& s, const std::string& dove) {
+        for (const Casella& c : Caselle(s))
+            for (const auto& l : s.linee)
+                EXPECT_FALSE(Attraversa(l, c))
+                    << dove << ": " << c.testo << "; " << l.x1 << ' ' << l.y1 << " - " << l.x2 << ' ' << l.y2;
+    }
+
 private:
+    /// Whether a part of a line lies inside a box, by clipping it (Liang and Barsky).
+    static bool Attraversa(const SuperficieFinta::Linea& l, const Casella& c) {
+        double da = 0;
+        double a = 1;
+        const double dx = l.x2 - l.x1;
+        const double dy = l.y2 - l.y1;
+        for (const auto& [p, q] : {std::pair{-dx, l.x1 - c.x1}, std::pair{dx, c.x2 - l.x1},
+                                   std::pair{-dy, l.y1 - c.y1}, std::pair{dy, c.y2 - l.y1}}) {
+            if (p == 0 && q <= 0)
+                return false;
+            if (p < 0)
+                da = std::max(da, q / p);
+            else if (p > 0)
+                a = std::min(a, q / p);
+        }
+        return da < a - 1e-9;
+    }
     StatoUscita prima_;
 };
 
@@ -208,6 +233,14 @@ TEST_F(NodoDisegnoTest, TextsDoNotTouch) {
             SenzaSovrapposizioni(Disegnato(Di(c), carta ? dispositivoStampante : dispositivoVideo, l, h),
                                  c.nome + std::to_string(int(l)));
         }
+}
+
+TEST_F(NodoDisegnoTest, NoLineRunsThroughAText) {
+    for (const Caso& c : casi) {
+        SenzaLinee(Disegnato(Di(c), dispositivoStampante, 190, 277), c.nome);
+        SenzaLinee(Disegnato(Di(c), dispositivoStampante, 277, 190), c.nome);
+        SenzaLinee(Disegnato(Di(c), dispositivoVideo, 900, 650), c.nome);
+    }
 }
 
 TEST_F(NodoDisegnoTest, TextsDoNotTouchFromSmallToLargeSections) {
