@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -100,6 +101,11 @@ public:
     /// @return false where a design found nothing or did not start: the joint is as it was
     bool EsegueCalcolo(OsservatoreProgetto* osservatore = nullptr);
 
+    /// Puts a row of the last search's improvements, counted from 1, into the current joint and computes its
+    /// resistance and stiffness, as they were when the search found it. A row that is not there throws
+    /// std::out_of_range.
+    void EsegueSelezione(int riga);
+
     // ---- drawing
 
     std::string Uscita = "VIDEO"; ///< device of the drawings: "VIDEO", "STAMPANTE", "DXF", "DWG", "SVG"
@@ -127,7 +133,10 @@ private:
     void CopiaOggetti();
     [[nodiscard]] bool Valido();
     bool GiuntiInOut(std::string_view modo, std::int16_t nFile);
+    bool SullaCopia(const std::function<bool(Nodo& copia)>& calcola);
     [[nodiscard]] bool Calcola(OsservatoreProgetto* osservatore);
+    void Seleziona(int riga);
+    void Risultati();
     static void PreparaProgetto(Giunto& g);
     [[nodiscard]] double BetaCautelativo();
     [[nodiscard]] double BetaAnalitico();

@@ -124,7 +124,9 @@ void Nodo::CopiaOggetti() {
     (sinistro ? TraveSx : TraveDx) = ConnessioneCorrente->Trave;
 }
 
-bool Nodo::EsegueCalcolo(OsservatoreProgetto* osservatore) {
+/// The joint gets at the end what became of the copy.
+/// @param calcola  false where there are no results
+bool Nodo::SullaCopia(const std::function<bool(Nodo& copia)>& calcola) {
     if (!ConnessioneCorrente)
         PreparaSalvataggio();
     const std::shared_ptr<Giunto> giunto = ConnessioneCorrente;
@@ -132,7 +134,7 @@ bool Nodo::EsegueCalcolo(OsservatoreProgetto* osservatore) {
     Nodo copia = *this;
     copia.CopiaOggetti();
     try {
-        const bool esito = copia.Calcola(osservatore);
+        const bool esito = calcola(copia);
         if (esito)
             giunto->Riprende(*copia.ConnessioneCorrente);
         else
@@ -142,6 +144,39 @@ bool Nodo::EsegueCalcolo(OsservatoreProgetto* osservatore) {
         giunto->Acquisito = false;
         throw;
     }
+}
+
+bool Nodo::EsegueCalcolo(OsservatoreProgetto* osservatore) {
+    return SullaCopia([osservatore](Nodo& copia) { return copia.Calcola(osservatore); });
+}
+
+void Nodo::EsegueSelezione(int riga) {
+    SullaCopia([riga](Nodo& copia) {
+        copia.Seleziona(riga);
+        return true;
+    });
+}
+
+/// The welds are those that the search had: sized for its thickest plate.
+void Nodo::Seleziona(int riga) {
+    Giunto& g = *ConnessioneCorrente;
+    g.sTraveColonna_Calcola();
+    if (g.nf == 1)
+        g.AzzeraFilaEsterna();
+    PreparaProgetto(g);
+    CalcolaIrrigidimenti();
+    g.DatiSelezione_Completa(g.RisultatiIntermedi_Estrai(), riga);
+    g.Braccio_Calcola();
+    Beta_Calcola();
+    Risultati();
+}
+
+void Nodo::Risultati() {
+    Giunto& g = *ConnessioneCorrente;
+    g.Mrd_Giunto_Calcola();
+    g.Limiti();
+    g.Sj_Giunto_Calcola();
+    g.Acquisito = true;
 }
 
 bool Nodo::Calcola(OsservatoreProgetto* osservatore) {
@@ -160,10 +195,7 @@ bool Nodo::Calcola(OsservatoreProgetto* osservatore) {
     Beta_Calcola();
     if (g.Criterio1 && !g.Mrd_Giunto_Ottimizza_M_MAX(osservatore))
         return false;
-    g.Mrd_Giunto_Calcola();
-    g.Limiti();
-    g.Sj_Giunto_Calcola();
-    g.Acquisito = true;
+    Risultati();
     return true;
 }
 
