@@ -59,7 +59,8 @@ double NervatureDoppie(const AcciaioCls& t, double N) {
 void Suggerisce(const AcciaioCls& t, EsitoConnettori& esito) {
     if (t.TipoSoletta != nervatureTrasversali || t.nNervaturePasso > 0 || !esito.Passo)
         return;
-    const double N = std::floor(m_a_mm(t.Luce) / 2 / t.iNervature);
+    const Singolo luce = m_a_mm(t.Luce); // 7.6 m are 7600 mm, not a hair less
+    const double N = std::floor(luce / 2 / t.iNervature);
     const double n = t.Nr == 1 ? NervatureDoppie(t, N) : N + 1;
     if (n > N)
         esito.messaggio = nervatureScarse;

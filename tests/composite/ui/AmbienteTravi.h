@@ -9,7 +9,10 @@
 #include <vector>
 
 #include "composite/ui/frmAcciaioCls.h"
+#include "drawing/ui/ImmagineDisegno.h"
+#include "frame/ui/Casella.h"
 #include "frame/ui/FileDialogo.h"
+#include "frame/ui/UpDown.h"
 #include "screens/Comandi.h"
 
 namespace sagomi::prove {
