@@ -19,7 +19,7 @@ std::optional<int> Comando(int argc, char* argv[]) {
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     std::error_code none;
     const auto own = std::filesystem::read_symlink("/proc/self/exe", none).parent_path();
-    return sagomi::EsegueComando(arguments, sagomi::CartellaFile(own), std::cout, std::cerr);
+    return sagomi::EsegueComando(arguments, sagomi::CartellaFile(own), std::cin, std::cout, std::cerr);
 }
 
 } // namespace

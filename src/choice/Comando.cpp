@@ -1,8 +1,11 @@
 #include "choice/Comando.h"
 
 #include <algorithm>
+#include <istream>
+#include <iterator>
 #include <ostream>
 
+#include "choice/LavoriJson.h"
 #include "choice/Opzioni.h"
 #include "choice/ScritturaScelta.h"
 #include "frame/VersioneProgramma.h"
@@ -34,6 +37,7 @@ Sagomi:
   --doppi mm --accostati  canali e angolari doppi alla distanza data, accostati di ala o di lato corto
 Risposta:
   --json, --csv           per altri programmi
+  --json da solo          legge lavori, uno per riga ({"verifica":"HEA 200","N":400}), e risponde a ciascuno
 Stato di uscita: 0 verificato, 1 non verificato, 2 uso errato.
 )";
 
@@ -49,16 +53,18 @@ std::string Piegato(std::string_view nome) {
 /// The rows, or the reason why there are none.
 Gara Legge(const std::filesystem::path& cartella, const std::vector<std::string>& famiglie) {
     Gara gara = LeggeGara(cartella, famiglie);
-    if (gara.sagomi.empty())
-        throw ErroreUso(gara.mancanti.empty() ? "nessuna famiglia si chiama così" : gara.mancanti.front());
-    for (const std::string& famiglia : famiglie)
-        if (std::ranges::find(gara.sagomi, famiglia, &SagomoInGara::famiglia) == gara.sagomi.end())
-            throw ErroreUso("nessuna famiglia si chiama \"" + famiglia + "\"");
+    if (gara.sagomi.empty() && !gara.mancanti.empty())
+        throw ErroreUso(gara.mancanti.front());
     return gara;
 }
 
-int VerificaUno(const Comando& c, const std::filesystem::path& cartella, std::ostream& uscita) {
-    const Gara gara = Legge(cartella, c.filtri.famiglie);
+void ControllaFamiglie(const Gara& gara, const std::vector<std::string>& famiglie) {
+    for (const std::string& famiglia : famiglie)
+        if (std::ranges::find(gara.sagomi, famiglia, &SagomoInGara::famiglia) == gara.sagomi.end())
+            throw ErroreUso("nessuna famiglia si chiama \"" + famiglia + "\"");
+}
+
+int VerificaUno(const Comando& c, const Gara& gara, std::ostream& uscita) {
     const auto sagomo = std::ranges::find_if(
         gara.sagomi, [&](const SagomoInGara& s) { return Piegato(s.Designazione()) == Piegato(c.sagomo); });
     if (sagomo == gara.sagomi.end())
@@ -69,13 +75,50 @@ int VerificaUno(const Comando& c, const std::filesystem::path& cartella, std::os
     return esito.riga.verificato ? comandoVerificato : comandoNonVerificato;
 }
 
-int SceglieFraTutti(const Comando& c, const std::filesystem::path& cartella, std::ostream& uscita) {
-    const Gara gara = Legge(cartella, c.filtri.famiglie);
+int SceglieFraTutti(const Comando& c, const Gara& gara, std::ostream& uscita) {
     std::vector<std::string> messaggi = gara.mancanti;
     std::vector<RigaScelta> righe = Valuta(gara.sagomi, c.richiesta, c.filtri, messaggi);
     OrdinaPerPeso(righe);
     ScriveScelta(uscita, c, gara.sagomi, righe, messaggi);
     return !righe.empty() && righe.front().verificato ? comandoVerificato : comandoNonVerificato;
+}
+
+int Risponde(Comando& c, const Gara& gara, std::ostream& uscita) {
+    ControllaFamiglie(gara, c.filtri.famiglie);
+    MetteInVigore(c);
+    return c.modo == ModoComando::Verifica ? VerificaUno(c, gara, uscita) : SceglieFraTutti(c, gara, uscita);
+}
+
+/// One job; what is wrong with it is its answer.
+int EsegueLavoro(const LavoriJson& lavori, const std::string& riga, const std::vector<std::string>& comuni,
+                 const Gara& gara, std::ostream& uscita) {
+    try {
+        std::vector<std::string> argomenti = comuni;
+        std::ranges::copy(lavori.Argomenti(riga), std::back_inserter(argomenti));
+        Comando c = LeggeOpzioni(argomenti);
+        if ((c.modo != ModoComando::Verifica && c.modo != ModoComando::Scelta) ||
+            c.formato != FormatoUscita::Json)
+            throw ErroreUso("un lavoro chiede \"verifica\" o \"scelta\"");
+        return Risponde(c, gara, uscita);
+    } catch (const ErroreUso& e) {
+        ScriveErrore(uscita, e.what());
+        return comandoErrato;
+    }
+}
+
+/// The jobs on the input; options of the command line hold for each of them.
+int EsegueLavori(const std::vector<std::string>& comuni, const std::filesystem::path& cartella,
+                 std::istream& ingresso, std::ostream& uscita) {
+    const Gara gara = Legge(cartella, {});
+    const LavoriJson lavori;
+    int peggiore = comandoVerificato;
+    for (std::string riga; std::getline(ingresso, riga);) {
+        if (riga.find_first_not_of(" \t\r") == std::string::npos)
+            continue;
+        peggiore = std::max(peggiore, EsegueLavoro(lavori, riga, comuni, gara, uscita));
+        uscita.flush();
+    }
+    return peggiore;
 }
 
 int Esegue(Comando c, const std::filesystem::path& cartella, std::ostream& uscita) {
@@ -87,20 +130,20 @@ int Esegue(Comando c, const std::filesystem::path& cartella, std::ostream& uscit
         uscita << "sagomi " << versioneProgramma << '\n';
         return comandoVerificato;
     }
-    MetteInVigore(c);
-    return c.modo == ModoComando::Verifica ? VerificaUno(c, cartella, uscita)
-                                           : SceglieFraTutti(c, cartella, uscita);
+    return Risponde(c, Legge(cartella, c.filtri.famiglie), uscita);
 }
 
 } // namespace
 
 std::optional<int> EsegueComando(const std::vector<std::string>& argomenti,
-                                 const std::filesystem::path& cartella, std::ostream& uscita,
-                                 std::ostream& errori) {
+                                 const std::filesystem::path& cartella, std::istream& ingresso,
+                                 std::ostream& uscita, std::ostream& errori) {
     try {
         Comando comando = LeggeOpzioni(argomenti);
         if (comando.modo == ModoComando::Finestre)
             return std::nullopt;
+        if (comando.modo == ModoComando::Lavori)
+            return EsegueLavori(argomenti, cartella, ingresso, uscita);
         return Esegue(std::move(comando), cartella, uscita);
     } catch (const ErroreUso& e) {
         errori << "sagomi: " << e.what() << "\nsagomi --help dice come si usa\n";

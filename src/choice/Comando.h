@@ -15,11 +15,12 @@ enum : int { comandoVerificato = 0, comandoNonVerificato = 1, comandoErrato = 2 
 /// runs play no part.
 /// @param argomenti  without the program's name
 /// @param cartella   folder of the workbooks
-/// @param uscita     receives the answer
+/// @param ingresso   jobs, one a line, where --json stands without a question
+/// @param uscita     receives the answer; of a job one line, as soon as it is done
 /// @param errori     receives in Italian what was wrong with the call
-/// @return the exit status; nothing where the windows are asked for
+/// @return the exit status, of several jobs the worst; nothing where the windows are asked for
 std::optional<int> EsegueComando(const std::vector<std::string>& argomenti,
-                                 const std::filesystem::path& cartella, std::ostream& uscita,
-                                 std::ostream& errori);
+                                 const std::filesystem::path& cartella, std::istream& ingresso,
+                                 std::ostream& uscita, std::ostream& errori);
 
 } // namespace sagomi

@@ -140,9 +140,10 @@ std::size_t Prendi(Comando& c, std::span<const std::string> argomenti) {
     return 2;
 }
 
-bool ChiedeRisposta(const std::string& argomento) {
-    constexpr std::string_view chiedono[] = {"--help", "--version", "--verifica", "--scelta"};
-    return std::ranges::find(chiedono, argomento) != std::end(chiedono);
+bool ENostra(const std::string& argomento) {
+    return std::ranges::find(testi, argomento, &OpzioneTesto::nome) != std::end(testi) ||
+           std::ranges::find(numeri, argomento, &OpzioneNumero::nome) != std::end(numeri) ||
+           std::ranges::any_of(interruttori, [&](const auto& i) { return i.first == argomento; });
 }
 
 /// The whole name, or what stands before its blank: "S275" of "S275 (Fe430)".
@@ -161,10 +162,14 @@ std::string NomiAcciai() {
 
 Comando LeggeOpzioni(const std::vector<std::string>& argomenti) {
     Comando c;
-    if (std::ranges::none_of(argomenti, ChiedeRisposta))
+    if (std::ranges::none_of(argomenti, ENostra))
         return c;
     for (std::span<const std::string> resto(argomenti); !resto.empty();)
         resto = resto.subspan(Prendi(c, resto));
+    if (c.modo == ModoComando::Finestre && c.formato != FormatoUscita::Json)
+        throw ErroreUso("manca che cosa fare: --verifica o --scelta");
+    if (c.modo == ModoComando::Finestre)
+        c.modo = ModoComando::Lavori;
     c.richiesta.tipoDiagramma = TipoDiPict(c.richiesta.pict);
     if (std::abs(c.richiesta.y.M2) > c.richiesta.y.M1 || std::abs(c.richiesta.z.M2) > c.richiesta.z.M1)
         throw ErroreUso("--My2 e --Mz2 non possono superare --My e --Mz in valore assoluto");

@@ -16,7 +16,7 @@ public:
     using runtime_error::runtime_error;
 };
 
-enum class ModoComando : std::uint8_t { Finestre, Aiuto, Versione, Verifica, Scelta };
+enum class ModoComando : std::uint8_t { Finestre, Aiuto, Versione, Verifica, Scelta, Lavori };
 enum class FormatoUscita : std::uint8_t { Testo, Json, Csv };
 
 struct Comando {
@@ -30,8 +30,8 @@ struct Comando {
     Filtri filtri;
 };
 
-/// Reads the arguments without the program's name. Numbers have a point, whatever the locale. Without one of
-/// the options that ask for an answer on the command line the windows are meant, whatever else stands there.
+/// Reads the arguments without the program's name. Numbers have a point, whatever the locale. Without any of
+/// our options the windows are meant, whatever else stands there; --json without a question means jobs.
 /// Throws ErroreUso.
 Comando LeggeOpzioni(const std::vector<std::string>& argomenti);
 

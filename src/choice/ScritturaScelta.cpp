@@ -295,12 +295,16 @@ void ScriveScelta(std::ostream& uscita, const Comando& comando, std::span<const 
     ScriveOggetto(uscita, ValoriRichiesta(comando.richiesta));
     uscita << ",\"righe\":[";
     for (std::size_t i = 0; i < tabella.size(); ++i) {
-        uscita << (i == 0 ? "\n" : ",\n");
+        uscita << (i == 0 ? "" : ",");
         ScriveOggetto(uscita, tabella[i]);
     }
     uscita << "],\"messaggi\":";
     ScriveElenco(uscita, messaggi);
     uscita << "}\n";
+}
+
+void ScriveErrore(std::ostream& uscita, std::string_view testo) {
+    uscita << "{\"errore\":" << TraApici(testo) << "}\n";
 }
 
 } // namespace sagomi

@@ -3,6 +3,7 @@
 #include <iosfwd>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "choice/Opzioni.h"
@@ -19,5 +20,8 @@ void ScriveVerifica(std::ostream& uscita, const Comando& comando, const SagomoIn
 /// The table of a choice.
 void ScriveScelta(std::ostream& uscita, const Comando& comando, std::span<const SagomoInGara> sagomi,
                   const std::vector<RigaScelta>& righe, const std::vector<std::string>& messaggi);
+
+/// The answer of a job that is none: {"errore": text}.
+void ScriveErrore(std::ostream& uscita, std::string_view testo);
 
 } // namespace sagomi

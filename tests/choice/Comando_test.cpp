@@ -16,10 +16,11 @@ class ComandoTest : public testing::Test {
 protected:
     void TearDown() override { RipristinaGenerale(); }
 
-    std::optional<int> Esegue(const std::vector<std::string>& argomenti) {
+    std::optional<int> Esegue(const std::vector<std::string>& argomenti, const std::string& lavori = {}) {
+        std::istringstream ingresso(lavori);
         uscita.str("");
         errori.str("");
-        return EsegueComando(argomenti, SAGOMI_BIN, uscita, errori);
+        return EsegueComando(argomenti, SAGOMI_BIN, ingresso, uscita, errori);
     }
     [[nodiscard]] bool Dice(const std::string& testo) const {
         return uscita.str().find(testo) != std::string::npos;
@@ -91,6 +92,43 @@ TEST_F(ComandoTest, AngleInPairsUnderAForce) {
     EXPECT_TRUE(Dice("membratura"));
 }
 
+// The same figures as alone, in the order of the jobs.
+TEST_F(ComandoTest, AThousandJobsAreAnsweredLineByLine) {
+    std::string jobs;
+    for (int i = 0; i < 1000; ++i)
+        jobs += R"({"verifica":"HEA 200","acciaio":"S275","N":)" + std::to_string(i) +
+                R"(.5,"L0z":3,"L0y":3})"
+                "\n";
+    EXPECT_EQ(Esegue({"--json", "--normativa", "EC3"}, jobs), comandoVerificato);
+    EXPECT_EQ(Righe(), 1000);
+    const std::string all = uscita.str();
+    Esegue({"--verifica", "HEA 200", "--acciaio", "S275", "--N", "7.5", "--L0z", "3", "--L0y", "3",
+            "--normativa", "EC3", "--json"});
+    std::istringstream lines(all);
+    std::string line;
+    for (int i = 0; i <= 7; ++i)
+        std::getline(lines, line);
+    EXPECT_EQ(line + '\n', uscita.str());
+}
+
+TEST_F(ComandoTest, AWrongJobIsAnsweredToo) {
+    EXPECT_EQ(
+        Esegue({"--json"},
+               "{\"verifica\":\"IPE 200\",\"N\":100}\n\nciao\n[1]\n{}\n{\"N\":3}\n"
+               "{\"verifica\":\"IPE 999\"}\n{\"scelta\":true,\"famiglie\":[\"IPE\",\"HEA\"],\"csv\":false,"
+               "\"My\":50}\n{\"verifica\":{\"a\":1}}\n{\"verifica\":\"IPE 200\",\"N\":\"x\"}\n"),
+        comandoErrato);
+    EXPECT_EQ(Righe(), 9);
+    const std::string testo = uscita.str();
+    std::size_t errors = 0;
+    for (std::size_t at = testo.find("{\"errore\""); at != std::string::npos;
+         at = testo.find("{\"errore\"", at + 1))
+        ++errors;
+    EXPECT_EQ(errors, 7U) << testo;
+    EXPECT_TRUE(Dice("IPE 999"));
+    EXPECT_TRUE(Dice("\"famiglia\":\"HEA\""));
+}
+
 struct Errato {
     std::vector<std::string> argomenti;
     const char* atteso;
@@ -116,6 +154,8 @@ TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
         {{"--scelta", "--json", "--csv"}, "uno solo"},
         {{"--scelta", "--famiglie", "IPE,XYZ"}, "nessuna famiglia si chiama \"XYZ\""},
         {{"--scelta", "--famiglie", ""}, "nessuna famiglia"},
+        {{"--csv"}, "manca che cosa fare"},
+        {{"--N", "3"}, "manca che cosa fare"},
         {{"--scelta", "--pippo", "3"}, "\"--pippo\" non è un'opzione"},
         {{"--scelta", "ciao"}, "\"ciao\" non è un'opzione"},
     };
@@ -124,7 +164,8 @@ TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
         EXPECT_NE(errori.str().find(expected), std::string::npos) << errori.str();
         EXPECT_TRUE(uscita.str().empty()) << expected;
     }
-    EXPECT_EQ(EsegueComando({"--scelta"}, "/nessuna", uscita, errori), comandoErrato);
+    std::istringstream nessuno;
+    EXPECT_EQ(EsegueComando({"--scelta"}, "/nessuna", nessuno, uscita, errori), comandoErrato);
 }
 
 } // namespace

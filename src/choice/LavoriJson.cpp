@@ -1,0 +1,68 @@
+#include "choice/LavoriJson.h"
+
+#include <sqlite3.h>
+#include <string_view>
+
+#include "choice/Opzioni.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr auto query = "SELECT j.key, j.type, CASE j.type WHEN 'array' THEN (SELECT group_concat(value) FROM "
+                       "json_each(j.value)) ELSE CAST(j.value AS TEXT) END FROM json_each(?1) j "
+                       "WHERE json_type(?1) = 'object'";
+
+struct Finisce {
+    void operator()(sqlite3_stmt* s) const { sqlite3_finalize(s); }
+};
+using Istruzione = std::unique_ptr<sqlite3_stmt, Finisce>;
+
+[[noreturn]] void NonOggetto() {
+    throw ErroreUso(
+        "un lavoro è un oggetto JSON su una riga, per esempio {\"verifica\":\"HEA 200\",\"N\":400}");
+}
+
+std::string Testo(const Istruzione& s, int colonna) {
+    const auto* testo = reinterpret_cast<const char*>(sqlite3_column_text(s.get(), colonna));
+    return testo == nullptr ? std::string() : std::string(testo);
+}
+
+void Aggiunge(std::vector<std::string>& argomenti, const Istruzione& s) {
+    const std::string tipo = Testo(s, 1);
+    if (tipo == "false" || tipo == "null")
+        return;
+    if (tipo == "object")
+        NonOggetto();
+    argomenti.push_back("--" + Testo(s, 0));
+    if (tipo != "true")
+        argomenti.push_back(Testo(s, 2));
+}
+
+} // namespace
+
+void LavoriJson::Chiude::operator()(sqlite3* db) const { sqlite3_close(db); }
+
+LavoriJson::LavoriJson() {
+    sqlite3* db = nullptr;
+    const int esito = sqlite3_open_v2(":memory:", &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    db_.reset(db);
+    if (esito != SQLITE_OK)
+        throw ErroreUso("i lavori non si possono leggere");
+}
+
+std::vector<std::string> LavoriJson::Argomenti(const std::string& riga) const {
+    sqlite3_stmt* preparata = nullptr;
+    sqlite3_prepare_v2(db_.get(), query, -1, &preparata, nullptr);
+    const Istruzione s(preparata);
+    sqlite3_bind_text(s.get(), 1, riga.data(), static_cast<int>(riga.size()), SQLITE_STATIC);
+    std::vector<std::string> argomenti;
+    int passo = sqlite3_step(s.get());
+    for (; passo == SQLITE_ROW; passo = sqlite3_step(s.get()))
+        Aggiunge(argomenti, s);
+    if (passo != SQLITE_DONE || argomenti.empty())
+        NonOggetto();
+    return argomenti;
+}
+
+} // namespace sagomi
