@@ -29,7 +29,7 @@ if(SAGOMI_UI)
           COMPONENT programma)
   install(FILES ${PROJECT_SOURCE_DIR}/data/comando/sagomi.bash RENAME sagomi
           DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT programma)
-  list(APPEND accanto Sagomi.hlp FormuleGiunto.rtf)
+  list(APPEND accanto Sagomi.hlp GiuntoFlangiato.hlp FormuleGiunto.rtf)
 endif()
 list(TRANSFORM accanto PREPEND ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/)
 install(FILES ${accanto} DESTINATION ${CMAKE_INSTALL_DATADIR}/sagomi COMPONENT programma)
