@@ -17,6 +17,7 @@ constexpr double piede = 2;          ///< under the views, for the scale
 constexpr double primaDeiTesti = 2;  ///< between a view and the column of texts
 constexpr double quotaFuori = 8;     ///< of a dimension with its text beside a view
 constexpr double sottoColonna = 5.5; ///< of the dimension of the column
+constexpr double senzaQuote = 2;     ///< beside and under a side view without dimensions
 constexpr double sopraTravi = 6.5;   ///< of what stands over a node without column above
 constexpr double richiami = 12;      ///< of the texts beside a node with one beam
 constexpr double destraProspetto = 15;
@@ -45,12 +46,14 @@ double FoglioNodo::AltezzaColonna() const { return interlinea * static_cast<doub
 /// Room for the views, the side view as it stands on the sheet.
 void FoglioNodo::Riquadri() {
     laterale_ = {g_.Laterale(), margine, margine, quotaFuori, sottoColonna};
+    if (Schermo())
+        laterale_.dx = laterale_.giu = senzaQuote;
     prospetto_ = {g_.Prospetto(), quotaFuori, Schermo() ? margine : sopraProspetto, destraProspetto,
                   sottoProspetto};
     if (!g_.sopra)
         laterale_.su = sopraTravi;
     if (g_.dueTravi)
-        laterale_.sx = quotaFuori;
+        laterale_.sx = laterale_.dx;
     else if (!Schermo() && !g_.irrigidimenti.empty())
         laterale_.sx = richiami;
     if (!g_.destro) {

@@ -83,6 +83,9 @@ private:
     void Piastra(const TracciaVista& v) const;
     void SezioneTrave(const TracciaVista& v) const;
     void Fori(const TracciaVista& v) const;
+    static void Aggiunge(std::vector<QuotaNodo>& catena, const QuotaNodo& quota);
+    [[nodiscard]] std::vector<QuotaNodo> QuoteFori() const;
+    [[nodiscard]] std::vector<QuotaNodo> QuoteDallaTrave() const;
     void QuoteFrontali(const TracciaVista& v) const;
     void QuoteOrizzontali(const TracciaVista& v) const;
 

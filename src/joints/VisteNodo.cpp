@@ -308,41 +308,57 @@ QuotaNodo FoglioNodo::Quota(double da, double a, const char* campo, const char* 
     return q;
 }
 
-/// At the right the holes from edge to edge and the whole plate, at the left the holes from the beam.
+void FoglioNodo::Aggiunge(std::vector<QuotaNodo>& catena, const QuotaNodo& quota) {
+    constexpr double visibile = 0.05; // mm
+    if (std::abs(quota.a - quota.da) > visibile)
+        catena.push_back(quota);
+}
+
+/// The holes, from edge to edge of the plate.
+std::vector<QuotaNodo> FoglioNodo::QuoteFori() const {
+    const LatoNodo& l = g_.lato;
+    std::vector<QuotaNodo> catena;
+    if (!l.Bulloni())
+        return catena;
+    const double interna = l.Fila(FilaGiunto::Interna);
+    const double bassa = l.file.back().y;
+    if (l.nf == 2 && l.dX > 0) {
+        const double esterna = l.Fila(FilaGiunto::Esterna);
+        Aggiunge(catena, Quota(esterna, l.alto, "ex", "ex"));
+        Aggiunge(catena, Quota(interna, esterna, "", ""));
+    } else {
+        Aggiunge(catena, Quota(interna, l.alto, "", ""));
+    }
+    Aggiunge(catena, Quota(bassa, interna, "", "p"));
+    Aggiunge(catena, Quota(l.basso, bassa, "", ""));
+    return catena;
+}
+
+/// The holes and the edge of the plate from the flanges of the beam.
+std::vector<QuotaNodo> FoglioNodo::QuoteDallaTrave() const {
+    const LatoNodo& l = g_.lato;
+    const ProfiloNodo& t = l.trave;
+    std::vector<QuotaNodo> catena;
+    if (evidenza_.parametro == "L" && l.nf == 2)
+        Aggiunge(catena, Quota(0, l.alto, "L", "h'"));
+    else if (l.Bulloni())
+        Aggiunge(catena, Quota(0, l.dX, "dX", "d2"));
+    if (l.Bulloni())
+        Aggiunge(catena, Quota(-t.tf, l.Fila(FilaGiunto::Interna), "d2", "d1"));
+    Aggiunge(catena, Quota(-t.h, -t.h - l.u, "u", "u"));
+    return catena;
+}
+
+/// At the right the holes and the whole plate, at the left the distances from the beam.
 void FoglioNodo::QuoteFrontali(const TracciaVista& v) const {
     const LatoNodo& l = g_.lato;
     if (!l.Piastra() || !(l.bf > 0))
         return;
-    const double a = v.a();
-    const double destra = g_.Prospetto().x2;
-    const double piastra = l.bf / 2;
-    const ProfiloNodo& t = l.trave;
-    std::vector<QuotaNodo> fori;
-    std::vector<QuotaNodo> trave;
-    const auto aggiunge = [this](std::vector<QuotaNodo>& catena, double da, double aY, const char* campo,
-                                 const char* nome) {
-        if (std::abs(aY - da) > 0.05)
-            catena.push_back(Quota(da, aY, campo, nome));
-    };
-    if (l.Bulloni()) {
-        const double interna = l.Fila(FilaGiunto::Interna);
-        const double esterna = l.Fila(FilaGiunto::Esterna);
-        const bool due = l.nf == 2 && l.dX > 0;
-        aggiunge(fori, due ? esterna : interna, l.alto, due ? "ex" : "", due ? "ex" : "");
-        if (due)
-            aggiunge(fori, interna, esterna, "", "");
-        aggiunge(fori, l.file.back().y, interna, "", "p");
-        aggiunge(fori, l.basso, l.file.back().y, "", "");
-        aggiunge(trave, 0, l.dX, "dX", "d2");
-        aggiunge(trave, -t.tf, interna, "d2", "d1");
-    }
-    aggiunge(trave, -t.h, -t.h - l.u, "u", "u");
-    v.Verticali(piastra, destra + primaQuota * a, fori);
-    v.Verticali(piastra, destra + (primaQuota + secondaCatena) * a,
-                std::array{Quota(l.basso, l.alto, "hf", "hf")});
-    if (evidenza_.parametro == "L" && l.nf == 2)
-        aggiunge(trave, 0, l.alto, "L", "h'");
-    v.Verticali(-piastra, -destra - primaQuota * a, trave);
+    const double bordo = l.bf / 2;
+    const double fuori = g_.Prospetto().x2 + primaQuota * v.a();
+    v.Verticali(bordo, fuori, QuoteFori());
+    v.Verticali(bordo, fuori + secondaCatena * v.a(), std::array{Quota(l.basso, l.alto, "hf", "hf")});
+    v.Verticali(-bordo, -fuori, QuoteDallaTrave());
 }
 
 void FoglioNodo::QuoteOrizzontali(const TracciaVista& v) const {
@@ -356,9 +372,8 @@ void FoglioNodo::QuoteOrizzontali(const TracciaVista& v) const {
                                  Quota(l.xFori, b, "", "")});
         livello -= passoQuote * v.a();
     }
-    if (l.Piastra() && l.bf > 0) {
+    if (l.Piastra() && l.bf > 0)
         v.Orizzontali(l.basso, livello, std::array{Quota(-b, b, "bf", "bf")});
-    }
     const double c = g_.colonna.b / 2;
     const double cima = g_.Prospetto().y2;
     if (!Schermo() && g_.colonna.Presente())
