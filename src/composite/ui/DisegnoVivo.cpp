@@ -82,7 +82,7 @@ bool SezionePossibile(const AcciaioCls& trave) {
 }
 
 Disegno DisegnoVivo(const AcciaioCls& trave) {
-    Disegno drawing{nomeVuoto, {}, {560, 460}, {320, 300}};
+    Disegno drawing{nomeVuoto, {}, {560, 460}, {200, 160}};
     if (!SezionePossibile(trave))
         return drawing;
     drawing.nome = trave.TitoloFunz().empty() ? trave.Sezione->Designation : trave.TitoloFunz();

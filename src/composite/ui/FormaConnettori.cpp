@@ -118,9 +118,9 @@ QWidget* StanzaConnessione() {
 
 QWidget* StanzaSoletta() {
     QGridLayout* grid = Stanza("fraTipo", "Soletta");
-    grid->addWidget(Scritta("lblTipoSoletta", "Tipo di soletta"), 0, 0, 1, 2);
-    grid->addWidget(Scritta("lblOrditura", "Orditura"), 1, 0, 1, 2);
-    grid->addWidget(Scritta("lblParagrafo", "Paragrafo"), 2, 0, 1, 2);
+    grid->addWidget(Scritta("lblTipoSoletta", "Tipo di soletta"), 0, 0, 1, 3);
+    grid->addWidget(Scritta("lblOrditura", "Orditura"), 1, 0, 1, 3);
+    grid->addWidget(Scritta("lblParagrafo", "Paragrafo"), 2, 0, 1, 3);
     Posa(*grid,
          {{"lblb0", "b{0} [mm]"},
           "txtb0",
@@ -130,7 +130,7 @@ QWidget* StanzaSoletta() {
           risultato},
          3);
     grid->setRowStretch(4, 1);
-    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 1);
     return grid->parentWidget();
 }
 
@@ -145,8 +145,9 @@ QWidget* StanzaRisultati() {
           risultato},
          0);
     auto* row = new QHBoxLayout;
-    row->addWidget(Scritta("lblK", "Fattore di riduzione k"), 1);
-    row->addWidget(Bottone("lblDomandaPrd", "&?", "Le due resistenze del piolo, acciaio e calcestruzzo"));
+    row->addWidget(Scritta("lblK", "Fattore di riduzione k"));
+    row->addWidget(Bottone("lblDomandaPrd", "?", "Le due resistenze del piolo, acciaio e calcestruzzo"));
+    row->addStretch(1);
     grid->addLayout(row, 0, 2);
     Posa(*grid,
          {{"lblnConnettori", "n. connettori"},

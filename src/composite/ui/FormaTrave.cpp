@@ -53,7 +53,7 @@ const std::vector<Voce> vociSoletta{
     {{"lblDati_2", "b{eff} [mm]"},
      "txtDati_2",
      7,
-     "Larghezza efficace della soletta, EC4 5.4.1.2",
+     "Larghezza efficace della soletta, EC4 4.2.2.1",
      "beff [mm]"},
     {{"lblDati_3", "A{s} [mm2]"}, "txtDati_3", 7, "Armatura al \"negativo\"", "As [mm2]"},
     {{"lblDati_4", "c [mm]"},

@@ -355,7 +355,9 @@ void frmAcciaioCls::DatiLeggeScrive(std::string_view modo) {
     trave_.DatiGrecataLeggeScrive(fields, modo);
     trave_.DatiSolettaLeggeScrive(fields, modo);
     trave_.DatiProgettoLeggeScrive(fields, modo);
-    if (modo == "L" && !trave_.Sezione->SaldataAsimm) { // both flanges are one
+    if (modo != "L")
+        MostraTipi();
+    else if (!trave_.Sezione->SaldataAsimm) { // both flanges are one
         trave_.Sezione->bAlaInf = trave_.Sezione->b;
         trave_.Sezione->tAlaInf = trave_.Sezione->tf;
     }
@@ -555,6 +557,7 @@ void frmAcciaioCls::Calcola() {
 void frmAcciaioCls::SvuotaUscite() {
     calcolata_ = false;
     trave_.AzzeraRisultati();
+    trave_.b0 = 0; // with them: it follows from the data of the deck
     nota_.clear();
     for (const char* name : uscite)
         SegnaValida(name, true);
@@ -625,7 +628,9 @@ void frmAcciaioCls::MostraTensione(int indice, double valore) {
 
 void frmAcciaioCls::Disegna() {
     findChild<ImmagineDisegno*>(QStringLiteral("pctSezione"))->Mostra(DisegnoVivo(trave_));
-    findChild<ImmagineDisegno*>(QStringLiteral("pctLamiera"))->Mostra(DisegnoLamiera(trave_));
+    Disegno deck = DisegnoLamiera(trave_);
+    deck.minima = {150, 60}; // on a small desktop; the command shows it larger
+    findChild<ImmagineDisegno*>(QStringLiteral("pctLamiera"))->Mostra(std::move(deck));
 }
 
 // ---- file

@@ -298,9 +298,10 @@ void frmConnettori::MostraResistenze() {
     if (!(t.PRd > 0))
         return;
     const auto kN = [](double N) { return Cifre(N_a_kN(N)) + " kN"; };
-    Avvisa("PRd1 = 0.8 fu A/gammaV = " + kN(t.PRd1) + "\nPRd2 = 0.29 alfa d2 (fck Ecm)^0.5/gammaV = " +
-               kN(t.PRd2) + "\nPRd = k min(PRd1, PRd2) = " + Cifre(t.kRiduzione) + " x " +
-               kN(std::min(t.PRd1, t.PRd2)) + " = " + kN(t.PRd),
+    Avvisa("PRd1 = " + TestoPiano(0.8) + " fu A/gammaV = " + kN(t.PRd1) + "\nPRd2 = " + TestoPiano(0.29) +
+               " alfa d2 (fck Ecm)^" + TestoPiano(0.5) + "/gammaV = " + kN(t.PRd2) +
+               "\nPRd = k min(PRd1, PRd2) = " + Cifre(t.kRiduzione) + " x " + kN(std::min(t.PRd1, t.PRd2)) +
+               " = " + kN(t.PRd),
            {}, Icona::Informazione);
 }
 
