@@ -25,13 +25,13 @@ bool Segno(QStyle::PixelMetric metric) {
 } // namespace
 
 int StileMinuto::pixelMetric(PixelMetric metrica, const QStyleOption* opzioni, const QWidget* widget) const {
-    const int usual = QProxyStyle::pixelMetric(metrica, opzioni, widget);
+    const int usual = StileCornici::pixelMetric(metrica, opzioni, widget);
     return Segno(metrica) && Avanzo(widget) > 0 ? std::min(usual, widget->fontMetrics().height()) : usual;
 }
 
 QSize StileMinuto::sizeFromContents(ContentsType tipo, const QStyleOption* opzioni, const QSize& contenuto,
                                     const QWidget* widget) const {
-    QSize size = QProxyStyle::sizeFromContents(tipo, opzioni, contenuto, widget);
+    QSize size = StileCornici::sizeFromContents(tipo, opzioni, contenuto, widget);
     if (tipo == CT_ComboBox || tipo == CT_SpinBox)
         size.rheight() -= Avanzo(widget);
     if (tipo == CT_SizeGrip) // which makes the status line as high
@@ -47,12 +47,13 @@ void StileMinuto::drawPrimitive(PrimitiveElement elemento, const QStyleOption* o
     const int spare = elemento == PE_FrameGroupBox ? Avanzo(widget) : 0;
     if (spare == 0 || opzioni == nullptr ||
         qstrcmp(baseStyle()->metaObject()->className(), "QFusionStyle") != 0) {
-        QProxyStyle::drawPrimitive(elemento, opzioni, pittore, widget);
+        StileCornici::drawPrimitive(elemento, opzioni, pittore, widget);
         return;
     }
     QStyleOption frame = *opzioni;
+    frame.type = QStyleOption::SO_Default; // what it is a copy of
     frame.rect.adjust(0, -spare, 0, 0);
-    QProxyStyle::drawPrimitive(elemento, &frame, pittore, widget);
+    StileCornici::drawPrimitive(elemento, &frame, pittore, widget);
 }
 
 } // namespace sagomi

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QProxyStyle>
+#include "frame/ui/StileCornici.h"
 
 namespace sagomi {
 
@@ -8,10 +8,10 @@ namespace sagomi {
 /// buttons, and the frames of groups are no higher than the font of the control asks. Styles keep them at 13
 /// or 14 pixels, which on a small desktop at a large scale takes the room of the figures. Texts of a usual
 /// size change nothing.
-class StileMinuto : public QProxyStyle {
+class StileMinuto : public StileCornici {
     Q_OBJECT
 public:
-    using QProxyStyle::QProxyStyle;
+    using StileCornici::StileCornici;
 
     int pixelMetric(PixelMetric metrica, const QStyleOption* opzioni, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType tipo, const QStyleOption* opzioni, const QSize& contenuto,
