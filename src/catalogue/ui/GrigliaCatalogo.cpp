@@ -10,6 +10,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <initializer_list>
 #include <numeric>
 
 #include "catalogue/ui/ColonnaFerma.h"
@@ -45,6 +46,18 @@ bool Maiusc(const QEvent* event) {
     return (static_cast<const QInputEvent*>(event)->modifiers() & Qt::ShiftModifier) != 0;
 }
 
+/// The window has become the active one, or is no more.
+bool CambiaAttivazione(const QEvent* event) {
+    return event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
+}
+
+/// Whether these colours are the same in an active window and in another.
+bool Uguali(const QPalette& colours, std::initializer_list<QPalette::ColorRole> roles) {
+    return std::ranges::all_of(roles, [&colours](QPalette::ColorRole role) {
+        return colours.brush(QPalette::Active, role) == colours.brush(QPalette::Inactive, role);
+    });
+}
+
 } // namespace
 
 GrigliaCatalogo::GrigliaCatalogo(QWidget* parent) : QTableView(parent) {
@@ -66,6 +79,7 @@ GrigliaCatalogo::GrigliaCatalogo(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsMovable(false);
     CollegaIntestazioni(horizontalHeader());
+    horizontalHeader()->viewport()->installEventFilter(this);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* copy = new QAction(tr("&Copia") + u'\t' + QKeySequence(QKeySequence::Copy).toString(), this);
     copy->setObjectName(QStringLiteral("mnuCopia"));
@@ -251,6 +265,52 @@ void GrigliaCatalogo::resizeEvent(QResizeEvent* event) {
     EventoProtetto([this, event] {
         QTableView::resizeEvent(event);
         RipartisceColonne();
+    });
+}
+
+// The toolkit would paint all rows anew when the window becomes active and once more when the table gets the
+// focus, right after the first time: what looks otherwise is the selection.
+bool GrigliaCatalogo::viewportEvent(QEvent* event) {
+    return EventoProtetto([this, event] {
+        if (!CambiaAttivazione(event) ||
+            !Uguali(palette(), {QPalette::Base, QPalette::AlternateBase, QPalette::Text}))
+            return QTableView::viewportEvent(event);
+        DipingeScelte();
+        return QAbstractScrollArea::viewportEvent(event);
+    });
+}
+
+void GrigliaCatalogo::focusInEvent(QFocusEvent* event) {
+    EventoProtetto([this, event] {
+        if (!currentIndex().isValid()) {
+            QTableView::focusInEvent(event);
+            return;
+        }
+        setAttribute(Qt::WA_InputMethodEnabled, false); // nothing is entered here
+        update(QRegion(rect()).subtracted(contentsRect()));
+        DipingeScelte();
+    });
+}
+
+void GrigliaCatalogo::DipingeScelte() {
+    QRegion rows = visualRect(currentIndex());
+    for (int row = rowAt(0); row >= 0 && row < model()->rowCount(); ++row) {
+        const QRect strip(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
+        if (!strip.intersects(viewport()->rect()))
+            break;
+        if (row == currentIndex().row() || selectionModel()->isRowSelected(row))
+            rows += strip;
+    }
+    viewport()->update(rows);
+}
+
+// Headings look the same in every window.
+bool GrigliaCatalogo::eventFilter(QObject* object, QEvent* event) {
+    return EventoProtetto([this, object, event] {
+        if (object == horizontalHeader()->viewport() && CambiaAttivazione(event) &&
+            Uguali(palette(), {QPalette::Button, QPalette::ButtonText, QPalette::Window}))
+            return true;
+        return QTableView::eventFilter(object, event);
     });
 }
 

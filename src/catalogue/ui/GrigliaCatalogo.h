@@ -82,6 +82,9 @@ protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
     void resizeEvent(QResizeEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
     void updateGeometries() override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& search) override;
@@ -95,6 +98,7 @@ private:
     void Cerca(const QString& testo);
     [[nodiscard]] bool InRicerca() const;
     void SegueLettore();
+    void DipingeScelte();
     [[nodiscard]] int Altezza(int rows) const;
     void AdattaColonne();
     void RipartisceColonne();

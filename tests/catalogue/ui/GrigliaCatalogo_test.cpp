@@ -52,13 +52,22 @@ public:
             QCoreApplication::processEvents();
         return std::exchange(n_, 0);
     }
+    /// Height of all that was painted [px].
+    int Alti() {
+        Nuovi();
+        return std::exchange(dipinto_, {}).boundingRect().height();
+    }
     bool eventFilter(QObject* /*object*/, QEvent* event) override {
-        n_ += event->type() == QEvent::Paint ? 1 : 0;
+        if (event->type() == QEvent::Paint) {
+            ++n_;
+            dipinto_ += static_cast<QPaintEvent*>(event)->region();
+        }
         return false;
     }
 
 private:
     int n_ = 0;
+    QRegion dipinto_;
 };
 
 TEST_F(GrigliaCatalogoTest, PaintsWhatHasChangedAndOnce) {
@@ -72,6 +81,24 @@ TEST_F(GrigliaCatalogoTest, PaintsWhatHasChangedAndOnce) {
     Mostra({"HEM", "IPE", "HEAA"}); // other widths, and a scroll bar
     EXPECT_EQ(rows.Nuovi(), 1);
     EXPECT_EQ(headings.Nuovi(), 1);
+}
+
+TEST_F(GrigliaCatalogoTest, AnActiveWindowAndTheFocusPaintTheSelectionAlone) {
+    Dipinti rows(griglia.viewport());
+    Dipinti headings(griglia.horizontalHeader()->viewport());
+    EXPECT_GT(griglia.viewport()->height(), 5 * griglia.rowHeight(0));
+    for (const QEvent::Type type : {QEvent::WindowDeactivate, QEvent::WindowActivate}) {
+        rows.Alti();
+        headings.Alti();
+        QEvent event(type);
+        QCoreApplication::sendEvent(&griglia, &event);
+        EXPECT_EQ(rows.Alti(), griglia.rowHeight(0));
+        EXPECT_EQ(headings.Alti(), 0);
+    }
+    QFocusEvent focus(QEvent::FocusIn);
+    QCoreApplication::sendEvent(&griglia, &focus);
+    EXPECT_EQ(rows.Alti(), griglia.rowHeight(0));
+    EXPECT_EQ(headings.Alti(), 0);
 }
 
 TEST_F(GrigliaCatalogoTest, ShowsHeadingsAndNumbersInTheirPictures) {
