@@ -303,8 +303,7 @@ TEST_F(FrmPltSezioneTest, F1ExplainsThePreview) {
         if (w->objectName() == "FinestraGuida" && w->isVisible())
             help = w;
     ASSERT_NE(help, nullptr);
-    EXPECT_TRUE(
-        qobject_cast<QTextBrowser*>(help)->toPlainText().contains("La rotella del mouse ingrandisce"));
+    EXPECT_TRUE(help->findChild<QTextBrowser*>()->toPlainText().contains("La rotella del mouse ingrandisce"));
     help->hide();
 }
 

@@ -1,11 +1,17 @@
 #include "frame/ui/Guida.h"
 
 #include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
 #include <QTextBrowser>
 #include <QWheelEvent>
 
 #include "frame/ui/AmbienteFinestre.h"
+#include "frame/ui/IndiceGuida.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -14,15 +20,30 @@ namespace {
 
 class GuidaTest : public AmbienteFinestre {
 protected:
-    static QTextBrowser* Finestra() {
+    void SetUp() override {
+        AmbienteFinestre::SetUp();
+        CopiaAccanto("GiuntoFlangiato.hlp");
+    }
+    static QWidget* Finestra() {
         for (QWidget* w : QApplication::topLevelWidgets())
             if (w->objectName() == "FinestraGuida" && w->isVisible())
-                return qobject_cast<QTextBrowser*>(w);
+                return w;
         return nullptr;
     }
+    static QTextBrowser* Testo() {
+        return Finestra() == nullptr ? nullptr : Finestra()->findChild<QTextBrowser*>();
+    }
+    static std::string Posto() {
+        const QUrl source = Testo()->source();
+        return (source.path().mid(1) + u'#' + source.fragment()).toStdString();
+    }
+    static QListWidget* Lista(const char* name) { return Trova<QListWidget>(Finestra(), name); }
     void TearDown() override {
-        if (auto* window = Finestra())
+        Guida::ImpostaFile({});
+        if (auto* window = Finestra()) {
+            Trova<QLineEdit>(window, "txtCerca")->clear();
             window->hide();
+        }
         AmbienteFinestre::TearDown();
     }
 };
@@ -35,7 +56,8 @@ TEST_F(GuidaTest, F1OpensTheHelpOfTheProgram) {
     box->setFocus();
     QTest::keyClick(box, Qt::Key_F1);
     ASSERT_NE(Finestra(), nullptr);
-    EXPECT_TRUE(Finestra()->toPlainText().contains("Lunghezze di libera inflessione", Qt::CaseInsensitive));
+    EXPECT_TRUE(Testo()->toPlainText().contains("Lunghezze di libera inflessione", Qt::CaseInsensitive));
+    EXPECT_EQ(Posto(), "Sagomi.hlp#Txt_L0") << "the place of the array of boxes";
     QTest::keyClick(Finestra(), Qt::Key_Escape);
     EXPECT_EQ(Finestra(), nullptr);
 }
@@ -59,7 +81,7 @@ TEST_F(GuidaTest, MessageBoxGetsNoHelpBehindIt) {
 // one undoes.
 TEST_F(GuidaTest, ZoomHasItsBounds) {
     Guida::Apri(QStringLiteral("Sagomi.hlp"));
-    QTextBrowser* window = Finestra();
+    QTextBrowser* window = Testo();
     ASSERT_NE(window, nullptr);
     const auto notches = [window](int n) {
         QWheelEvent event({50, 50}, window->mapToGlobal(QPointF(50, 50)), {}, {0, 120 * n}, Qt::NoButton,
@@ -82,6 +104,106 @@ TEST_F(GuidaTest, MissingFileIsToldByName) {
     ASSERT_EQ(registratore.testi.size(), 1U);
     EXPECT_NE(registratore.testi[0].find("Manca.hlp"), std::string::npos);
     EXPECT_EQ(Finestra(), nullptr);
+}
+
+TEST_F(GuidaTest, JointScreenHasItsOwnFileAndTheIndexKnowsBoth) {
+    Guida::ImpostaFile(QStringLiteral("GiuntoFlangiato.hlp"));
+    Schermo joint(QStringLiteral("frmGiunti"));
+    auto* box = new QLineEdit(&joint);
+    box->setObjectName("Textbf");
+    joint.show();
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_F1);
+    ASSERT_NE(Finestra(), nullptr);
+    EXPECT_EQ(Posto(), "GiuntoFlangiato.hlp#Textbf");
+    const auto titles = [](const char* list) {
+        QStringList found;
+        for (int i = 0; i < Lista(list)->count(); ++i)
+            found << Lista(list)->item(i)->text().trimmed();
+        return found;
+    };
+    EXPECT_TRUE(titles("lstArgomenti").contains("Bulloni"));
+    EXPECT_TRUE(titles("lstArgomenti").contains("Scheda Parametri"));
+    EXPECT_TRUE(titles("lstIndice").contains("Nodo"));
+}
+
+// A control without a place of its own leads to the part of the screen that it stands in, then to the screen.
+TEST_F(GuidaTest, PlaceOfAControlIsTheNearestOneAroundIt) {
+    Schermo joint(QStringLiteral("frmGiunti"));
+    auto* part = new QGroupBox(&joint);
+    part->setObjectName("fraFlangia");
+    auto* inside = new QLineEdit(part);
+    inside->setObjectName("TextIgnota");
+    auto* outside = new QLineEdit(&joint);
+    const QString text = LeggeGuida(QStringLiteral("giuntoflangiato.HLP"));
+    EXPECT_EQ(AncoraDi(text, inside), "fraFlangia");
+    EXPECT_EQ(AncoraDi(text, outside), "frmGiunti");
+    inside->setObjectName("Texttf_1");
+    EXPECT_EQ(AncoraDi(text, inside), "frmGiunti.Texttf_1") << "the limit, not the thickness";
+    inside->setObjectName("Texttf");
+    EXPECT_EQ(AncoraDi(text, inside), "Texttf");
+}
+
+TEST_F(GuidaTest, SearchFindsTheTopicsThatHoldAllWords) {
+    Guida::Apri(QStringLiteral("Sagomi.hlp"));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Finestra()));
+    const int all = Lista("lstArgomenti")->count();
+    auto* search = Trova<QLineEdit>(Finestra(), "txtCerca");
+    QTest::keyClick(Testo(), Qt::Key_K, Qt::ControlModifier);
+    EXPECT_TRUE(search->hasFocus());
+    QTest::keyClicks(search, "rigidezza SEMIRIGIDO");
+    EXPECT_GT(Lista("lstArgomenti")->count(), 0);
+    EXPECT_LT(Lista("lstArgomenti")->count(), all);
+    EXPECT_EQ(Lista("lstArgomenti")->item(0)->text(), "Scheda Rigidezza") << "titles go first";
+    QTest::keyClick(search, Qt::Key_Return);
+    EXPECT_EQ(Posto(), "GiuntoFlangiato.hlp#pagRigidezza");
+    search->setText("unita");
+    EXPECT_GT(Lista("lstArgomenti")->count(), 0) << "accents do not count";
+    search->setText("parolachenonesiste");
+    EXPECT_EQ(Lista("lstArgomenti")->count(), 0);
+}
+
+TEST_F(GuidaTest, BackAndForwardFollowTheWayThroughTheTopics) {
+    Guida::Apri(QStringLiteral("Sagomi.hlp"), QStringLiteral("frmBulloni"));
+    const std::string first = Posto();
+    Guida::Apri(QStringLiteral("GiuntoFlangiato.hlp"), QStringLiteral("frmGiunti.Optfila"));
+    EXPECT_EQ(Posto(), "GiuntoFlangiato.hlp#Optfila");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Finestra()));
+    QTest::keyClick(Testo(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(Posto(), first);
+    EXPECT_TRUE(Trova<QPushButton>(Finestra(), "cmdAvanti")->isEnabled());
+    QTest::keyClick(Testo(), Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(Posto(), "GiuntoFlangiato.hlp#Optfila");
+}
+
+TEST_F(GuidaTest, FindBoxGoesFromWordToWordAndEscClosesItFirst) {
+    Guida::Apri(QStringLiteral("Sagomi.hlp"));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Finestra()));
+    QTest::keyClick(Testo(), Qt::Key_F, Qt::ControlModifier);
+    auto* find = Trova<QLineEdit>(Finestra(), "txtTrova");
+    ASSERT_TRUE(find->isVisible());
+    find->setText("rifollamento");
+    QTest::keyClick(find, Qt::Key_Return);
+    EXPECT_EQ(Testo()->textCursor().selectedText().toLower(), "rifollamento");
+    const int first = Testo()->textCursor().position();
+    QTest::keyClick(find, Qt::Key_F3);
+    EXPECT_GT(Testo()->textCursor().position(), first);
+    QTest::keyClick(find, Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(Testo()->textCursor().position(), first);
+    find->setText("zzzz");
+    QTest::keyClick(find, Qt::Key_Return);
+    EXPECT_EQ(Trova<QLabel>(Finestra(), "lblTrova")->text(), "non trovato");
+    QTest::keyClick(find, Qt::Key_Escape);
+    EXPECT_FALSE(find->isVisible());
+    QTest::keyClick(Testo(), Qt::Key_Escape);
+    EXPECT_EQ(Finestra(), nullptr);
+}
+
+TEST_F(GuidaTest, F1InTheGuideExplainsTheGuide) {
+    Guida::ImpostaFile(QStringLiteral("GiuntoFlangiato.hlp"));
+    Guida::Apri(QStringLiteral("GiuntoFlangiato.hlp"));
+    QTest::keyClick(Testo(), Qt::Key_F1);
+    EXPECT_EQ(Posto(), "Sagomi.hlp#FinestraGuida");
 }
 
 } // namespace

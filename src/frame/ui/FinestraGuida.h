@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QList>
+#include <QWidget>
+
+#include "frame/ui/IndiceGuida.h"
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QTabWidget;
+
+namespace sagomi {
+
+class TestoGuida;
+
+/// The viewer of the help: the topics and the index of all help files at the left, which a box searches, the
+/// text at the right, with a line to find words in it (Ctrl+F), back and forward (Alt+Left, Alt+Right).
+class FinestraGuida : public QWidget {
+    Q_OBJECT
+public:
+    FinestraGuida();
+
+    /// Shows a file at a place; without a place its top.
+    void Mostra(const QString& file, const QString& ancora);
+
+protected:
+    /// Esc closes the line of finding, then the window.
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QWidget* CreaComandi();
+    QWidget* CreaIndice();
+    QWidget* CreaTrova();
+    void CollegaTasti();
+    void Rilegge();
+    void Riempie(QListWidget& lista, const QList<ArgomentoGuida>& argomenti);
+    void Cerca();
+    void ApreTrova();
+    void Trova(bool avanti);
+
+    TestoGuida* testo_ = nullptr;
+    QLineEdit* cerca_ = nullptr;
+    QTabWidget* schede_ = nullptr;
+    QListWidget* listaArgomenti_ = nullptr;
+    QListWidget* listaIndice_ = nullptr;
+    QWidget* barraTrova_ = nullptr;
+    QLineEdit* trova_ = nullptr;
+    QLabel* esitoTrova_ = nullptr;
+    QList<ArgomentoGuida> argomenti_;
+    QList<ArgomentoGuida> indice_;
+};
+
+} // namespace sagomi

@@ -1,0 +1,138 @@
+#include "frame/ui/IndiceGuida.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QTextDocumentFragment>
+#include <QWidget>
+
+#include <algorithm>
+
+#include "frame/GeneraleSagomi.h"
+
+namespace sagomi {
+
+namespace {
+
+QString Piano(const QString& html) {
+    return QTextDocumentFragment::fromHtml(html).toPlainText().simplified();
+}
+
+/// Letters as they are compared: without case and accents.
+QString Piegato(const QString& text) {
+    static const QRegularExpression accents(QStringLiteral("\\p{M}"));
+    return text.normalized(QString::NormalizationForm_KD).remove(accents).toCaseFolded();
+}
+
+bool ContieneTutte(const QString& text, const QStringList& words) {
+    return std::ranges::all_of(words, [&](const QString& w) { return text.contains(w); });
+}
+
+QString PrimaAncora(const QString& html) {
+    static const QRegularExpression name(QStringLiteral("<a name=\"([^\"]+)\">"));
+    return name.match(html).captured(1);
+}
+
+qsizetype Posto(const QString& html, const QString& name) {
+    return html.indexOf(QLatin1String("name=\"") + name + u'"');
+}
+
+/// @return  the first of the names that has a place which fits the screen
+QString Trova(const QString& html, const QString& screen, const QStringList& names) {
+    for (const QString& name : names)
+        if (Posto(html, screen + u'.' + name) >= 0)
+            return screen + u'.' + name;
+    const qsizetype screenPlace = screen.isEmpty() ? -1 : Posto(html, screen);
+    for (const QString& name : names)
+        if (const qsizetype place = Posto(html, name); place >= 0 && place > screenPlace)
+            return name;
+    return {};
+}
+
+/// The name of a control, and that of its array.
+QStringList Nomi(const QString& name) {
+    static const QRegularExpression index(QStringLiteral("_\\d+$"));
+    QStringList names{name};
+    if (const QString array = QString(name).remove(index); array != name)
+        names << array;
+    return names;
+}
+
+} // namespace
+
+QString LeggeGuida(const QString& file) {
+    const QDir folder(QString::fromStdString(PathProgramma.string()));
+    for (const QString& name : folder.entryList(QDir::Files))
+        if (name.compare(file, Qt::CaseInsensitive) == 0) {
+            QFile help(folder.filePath(name));
+            return help.open(QIODevice::ReadOnly) ? QString::fromUtf8(help.readAll()) : QString();
+        }
+    return {};
+}
+
+QList<ArgomentoGuida> ArgomentiGuida(const QString& file, const QString& html) {
+    static const QRegularExpression heading(QStringLiteral("<h([23])>(.*?)</h\\1>"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    QList<ArgomentoGuida> topics;
+    qsizetype below = 0;
+    const auto endAt = [&](qsizetype end) {
+        if (!topics.isEmpty())
+            topics.last().testo = Piano(html.mid(below, end - below));
+    };
+    for (auto found = heading.globalMatch(html); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        endAt(match.capturedStart());
+        below = match.capturedEnd();
+        const QString inside = match.captured(2);
+        topics << ArgomentoGuida{file, PrimaAncora(inside), Piano(inside), match.captured(1).toInt()};
+    }
+    endAt(html.size());
+    return topics;
+}
+
+QList<ArgomentoGuida> IndiceGuida(const QString& file, const QString& html) {
+    static const QRegularExpression bold(
+        QStringLiteral("<a name=\"([^\"]+)\"></a>(?:<a name=\"[^\"]+\"></a>)*<b>(.*?)</b>"),
+        QRegularExpression::DotMatchesEverythingOption);
+    QList<ArgomentoGuida> words;
+    for (auto found = bold.globalMatch(html); found.hasNext();) {
+        const QRegularExpressionMatch match = found.next();
+        words << ArgomentoGuida{file, match.captured(1), Piano(match.captured(2)), 0};
+    }
+    for (const ArgomentoGuida& topic : ArgomentiGuida(file, html))
+        words << ArgomentoGuida{file, topic.ancora, topic.titolo, 0};
+    std::ranges::stable_sort(words, {}, [](const ArgomentoGuida& a) { return Piegato(a.titolo); });
+    return words;
+}
+
+QList<ArgomentoGuida> CercaGuida(const QList<ArgomentoGuida>& argomenti, const QString& parole) {
+    const QStringList words = Piegato(parole).split(u' ', Qt::SkipEmptyParts);
+    QList<ArgomentoGuida> found;
+    for (const ArgomentoGuida& topic : argomenti)
+        if (ContieneTutte(Piegato(topic.titolo + u' ' + topic.testo), words))
+            found << topic;
+    std::ranges::stable_partition(
+        found, [&](const ArgomentoGuida& topic) { return ContieneTutte(Piegato(topic.titolo), words); });
+    return found;
+}
+
+QString AncoraDi(const QString& html, const QWidget* controllo) {
+    if (controllo == nullptr)
+        return {};
+    const QString screen = controllo->window()->objectName();
+    for (const QWidget* w = controllo; w != nullptr && !w->isWindow(); w = w->parentWidget())
+        if (!w->objectName().isEmpty())
+            if (const QString place = Trova(html, screen, Nomi(w->objectName())); !place.isEmpty())
+                return place;
+    return Posto(html, screen) >= 0 ? screen : QString();
+}
+
+QString AncoraDi(const QString& html, const QString& argomento) {
+    const QString screen = argomento.section(u'.', 0, -2);
+    if (argomento.isEmpty())
+        return {};
+    const QString place = Trova(html, screen, Nomi(argomento.section(u'.', -1)));
+    return place.isEmpty() && Posto(html, screen) >= 0 ? screen : place;
+}
+
+} // namespace sagomi

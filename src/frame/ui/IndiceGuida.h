@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+namespace sagomi {
+
+/// The help files: HTML whose headings, from the second level on, begin its topics. Places carry the names of
+/// screens and controls.
+
+/// A topic of a help file, or a word of its index.
+struct ArgomentoGuida {
+    QString file;
+    QString ancora; ///< name of its place
+    QString titolo;
+    int livello = 2; ///< of the heading; 0 for a word of the index
+    QString testo{}; ///< plain text below the heading, for searching
+};
+
+/// A help file beside the program, found without regard to the case of its letters; empty where there is none
+/// or it cannot be read.
+QString LeggeGuida(const QString& file);
+
+/// Its topics in their order.
+QList<ArgomentoGuida> ArgomentiGuida(const QString& file, const QString& html);
+
+/// What stands bold right behind a place, and the topics, by the alphabet.
+QList<ArgomentoGuida> IndiceGuida(const QString& file, const QString& html);
+
+/// The topics that hold all words, those with all of them in their title first. Case and accents do not
+/// count; no words find everything.
+QList<ArgomentoGuida> CercaGuida(const QList<ArgomentoGuida>& argomenti, const QString& parole);
+
+/// The place of a control in a help file: its own, else that of the nearest part of the screen around it,
+/// else the screen's. Names are looked for as "screen.control", then in the part about the screen or later,
+/// since screens share names of controls; an index (_0) may be left out. Empty: there is none.
+QString AncoraDi(const QString& html, const QWidget* controllo);
+
+/// The place of a topic by its name, "screen.control" or less, by the same rule.
+QString AncoraDi(const QString& html, const QString& argomento);
+
+} // namespace sagomi
