@@ -4,6 +4,10 @@
 #include <cmath>
 #include <utility>
 
+#include "frame/Messaggi.h"
+#include "frame/Numeri.h"
+#include "frame/NumeroPulito.h"
+
 namespace sagomi {
 
 namespace {
@@ -39,6 +43,12 @@ void Azioni(SezioneDoppioT& s, double M, double V, double N) {
     s.Mysd = M;
     s.Vsd() = V;
     s.NSd = N;
+}
+
+void AzioniGiunto(Giunto& g, double M, double V, double N) {
+    g.MbSd = M;
+    g.VbSd = V;
+    g.NbSd = N;
 }
 
 } // namespace
@@ -135,8 +145,11 @@ void Nodo::PuntatoreSezioneCorrente(std::shared_ptr<SezioneDoppioT>& trave,
 
 void Nodo::Scrivi_Some_Load(const CasoAzioni& caso) {
     Azioni(*TraveDx, caso.MDx, caso.VDx, caso.NDx);
-    if (DueTravi())
+    AzioniGiunto(*Giunti[1], caso.MDx, caso.VDx, caso.NDx);
+    if (DueTravi()) {
         Azioni(*TraveSx, caso.MSx, caso.VSx, caso.NSx);
+        AzioniGiunto(*Giunti[2], caso.MSx, caso.VSx, caso.NSx);
+    }
     if (Colonnainf)
         Azioni(*Colonnainf, caso.MCol, caso.VCol, caso.NCol);
     VColSup = caso.VSup;
@@ -155,6 +168,29 @@ void Nodo::AzzeraParametriConnessioni() {
     for (int i = 1; i <= NumeroGiunti; ++i)
         if (Giunti[i])
             AzzeraParametri(*Giunti[i]);
+}
+
+void Nodo::AzzeraParametriConnessione(std::int16_t indice) { AzzeraParametri(*Giunti[indice]); }
+
+bool Nodo::Controll_Dati(std::string& casella, double& valore) {
+    const double letto = ValoreNumerico(casella);
+    if (!NumeroPulito(casella) || !std::isfinite(letto)) {
+        casella = TestoPiano(valore);
+        return false;
+    }
+    return std::exchange(valore, letto) != letto;
+}
+
+bool Nodo::ControllaLunghezza(std::string& casella, double& valore) {
+    double letto = valore;
+    const bool cambiato = Controll_Dati(casella, letto);
+    if (letto < 0) {
+        Avvisa("La luce non può essere negativa", "Giunto Flangiato", Icona::Stop);
+        casella = TestoPiano(valore);
+        return false;
+    }
+    valore = letto;
+    return cambiato;
 }
 
 void Nodo::PreparaSalvataggio() {

@@ -70,10 +70,18 @@ public:
     void PuntatoreSezioneCorrente(std::shared_ptr<SezioneDoppioT>& trave,
                                   std::shared_ptr<SezioneDoppioT>& colonna) const;
 
-    void Scrivi_Some_Load(const CasoAzioni& caso); ///< writes the actions into beams and column
-    void ImpostaNodo();                            ///< defaults of the node and of both joints
-    void AzzeraParametriConnessioni();             ///< bolt 1 and no plate in each joint present
-    void PreparaSalvataggio();                     ///< the current joint is the one of the node again
+    /// Writes the actions into beams and column, those of a beam also into its joint.
+    void Scrivi_Some_Load(const CasoAzioni& caso);
+    void ImpostaNodo();                                   ///< defaults of the node and of both joints
+    void AzzeraParametriConnessioni();                    ///< bolt 1 and no plate in each joint present
+    void AzzeraParametriConnessione(std::int16_t indice); ///< the same in one joint
+    void PreparaSalvataggio();                            ///< the current joint is the one of the node again
+
+    /// Takes the text of a box into a number. A text that is no number, whole, becomes the number again.
+    /// @return whether the number has changed
+    static bool Controll_Dati(std::string& casella, double& valore);
+    /// The same for a length, which is not below 0: that is told.
+    static bool ControllaLunghezza(std::string& casella, double& valore);
 
     /// Moves the node between a data file and its members: kind, column, joints, beams, current joint, number
     /// of beams, shear above. Before reading, joints and sections are made anew. Stops at the first field

@@ -7,6 +7,7 @@
 #include "Registratore.h"
 #include "frame/Errori.h"
 #include "frame/GeneraleSagomi.h"
+#include "frame/Numeri.h"
 #include "joints/Sezioni.h"
 
 using namespace sagomi;
@@ -246,6 +247,34 @@ TEST_F(NodoProva, AzioniDiUnCaso) {
     EXPECT_EQ(n.Colonnainf->Nsd(), 600);
     EXPECT_EQ(n.Colonnainf->Riservato2, 8);
     EXPECT_EQ(n.VColSup, 20);
+    EXPECT_EQ(n.Giunti[1]->MbSd, 80);
+    EXPECT_EQ(n.Giunti[1]->VbSd, 60);
+    EXPECT_EQ(n.Giunti[2]->NbSd, 2);
+}
+
+TEST_F(NodoProva, TestoCheNonENumeroTornaIlNumero) {
+    double valore = 12.5;
+    std::string testo = "abc";
+    EXPECT_FALSE(Nodo::Controll_Dati(testo, valore));
+    EXPECT_EQ(testo, TestoPiano(12.5));
+    testo = "12x";
+    EXPECT_FALSE(Nodo::Controll_Dati(testo, valore));
+    EXPECT_EQ(valore, 12.5);
+    testo = "7";
+    EXPECT_TRUE(Nodo::Controll_Dati(testo, valore));
+    EXPECT_EQ(valore, 7);
+    EXPECT_FALSE(Nodo::Controll_Dati(testo, valore)) << "the same number again";
+    testo = "";
+    EXPECT_TRUE(Nodo::Controll_Dati(testo, valore));
+    EXPECT_EQ(valore, 0);
+}
+
+TEST_F(NodoProva, LuceNegativaSiRifiuta) {
+    double luce = 6;
+    std::string testo = "-1";
+    EXPECT_FALSE(Nodo::ControllaLunghezza(testo, luce));
+    EXPECT_EQ(luce, 6);
+    EXPECT_EQ(testo, "6");
 }
 
 TEST_F(NodoProva, BetaCautelativo) {
