@@ -98,11 +98,16 @@ QWidget* CreaForza(const char* nome, const QString& letta) {
 /// The widgets of a line carry the rows of bolts that they belong to.
 void PosaComponente(QGridLayout& grid, const Componente& c, int line) {
     const QString text = QString::fromUtf8(c.testo);
-    QLabel* name = CreaScritta(c.testo);
+    QWidget* box = CreaForza(c.nome, text);
+    QLabel* name = CreaScritta(c.testo, box);
     name->setObjectName(QStringLiteral("LblNome") + QString::fromUtf8(c.nome));
-    QList<QWidget*> pieces{name, CreaDicitura({.testo = c.simbolo}), CreaForza(c.nome, text)};
+    QLabel* mark = CreaScritta("");
+    mark->setObjectName(QStringLiteral("LblSegno") + QString::fromUtf8(c.nome));
+    mark->setToolTip(QStringLiteral("Governa: ◆ colonna, ● trave, flangia o bulloni"));
+    mark->setFixedWidth(mark->fontMetrics().horizontalAdvance(u'◆') + 2);
+    QList<QWidget*> pieces{name, CreaDicitura({.testo = c.simbolo}), box};
     pieces << (*c.ridotta != '\0' ? CreaForza(c.ridotta, text + QStringLiteral(", ridistribuita")) : nullptr);
-    pieces << CreaBarra(c) << (c.domanda >= 0 ? CreaDomanda(c.domanda, c.testo) : nullptr);
+    pieces << mark << CreaBarra(c) << (c.domanda >= 0 ? CreaDomanda(c.domanda, c.testo) : nullptr);
     for (int i = 0; i < pieces.size(); ++i)
         if (pieces[i] != nullptr) {
             pieces[i]->setProperty("file", c.file);
@@ -205,7 +210,6 @@ QWidget* CreaCoefficienti() {
     for (int i = 0; i < static_cast<int>(std::size(coefficienti)); ++i) {
         const Coefficiente& c = coefficienti[i];
         QLabel* name = CreaScritta(c.testo);
-        name->setObjectName(QStringLiteral("LblNomek_%1").arg(i));
         name->setProperty("file", c.file);
         grid->addWidget(name, i, 0);
         PosaCoefficiente(*grid, "txtK", i, 1, c.k, c.domandaK);

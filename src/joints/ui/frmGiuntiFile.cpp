@@ -1,0 +1,343 @@
+// Files, report and drawings of the joint screen.
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScopeGuard>
+#include <QScopedValueRollback>
+
+#include <utility>
+
+#include "drawing/ui/StampaTesto.h"
+#include "frame/FileDati.h"
+#include "frame/GeneraleSagomi.h"
+#include "frame/MotivoFile.h"
+#include "frame/ui/Campi.h"
+#include "frame/ui/DocumentoSchermo.h"
+#include "frame/ui/Guida.h"
+#include "frame/ui/NavigaSchermi.h"
+#include "frame/ui/Protetto.h"
+#include "joints/ConsigliGiunto.h"
+#include "joints/RelazioneGiunto.h"
+#include "joints/ui/ComuneGiunti.h"
+#include "joints/ui/PlottaNodo.h"
+#include "joints/ui/VistaGiunto.h"
+#include "joints/ui/frmGiunti.h"
+#include "ui_frmGiunti.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr const char* titoloForma = "Giunto Flangiato - F1 per aiuto";
+
+enum VoceFile : int { nuovo, apri, salva, stampa, stampaSuFile, ritorna, numVociFile };
+
+/// A box of results, the component in the drawing, and the quantity as the formulas know it.
+struct Legame {
+    const char* casella;
+    const char* id;
+    ComponenteGiunto componente = ComponenteGiunto::Nessuno;
+    FilaGiunto fila = FilaGiunto::Nessuna;
+};
+
+using enum ComponenteGiunto;
+using enum FilaGiunto;
+
+constexpr Legame legami[] = {
+    {"txtF1", "VplRd_Pannello_c", Pannello},
+    {"txtF2", "FcRd_Anima_c", AnimaColonnaCompressa},
+    {"txtF3", "NbRd_Anima_c", InstabilitaAnimaColonna},
+    {"txtF4", "Bt_Rd", Bulloni},
+    {"txtF5", "FtRd_Anima_c", AnimaColonnaTesa},
+    {"txtF6", "Ftrd_FilaInf_c", AlaColonna},
+    {"txtF6_0", "Ftrd_FilaInf_c", AlaColonna, Interna},
+    {"txtF6_1", "Ftrd_FilaSup_c", AlaColonna, Esterna},
+    {"txtF6_0Ridistr", "Ftrd_FilaInfRid_c", AlaColonna, Interna},
+    {"txtF6_1Ridistr", "Ftrd_FilaSupRid_c", AlaColonna, Esterna},
+    {"txtF7", "FtRd_FilaInf_f", Flangia},
+    {"txtF7_0", "FtRd_FilaInf_f", Flangia, Interna},
+    {"txtF7_1", "FtRd_FilaSup_f", Flangia, Esterna},
+    {"txtF8", "FtRd_Anima_t", AnimaTrave},
+    {"txtFmin0", "FtRd_EffInf", Bulloni, Interna},
+    {"txtFmin1", "FtRd_EffSup", Bulloni, Esterna},
+    {"TxtMjRd", "MplRdGIUNTO"},
+    {"TxtMel", "M_elastico"},
+    {"txtMrdTrave", "McyRd"},
+    {"TxtVrd0", "Vrd0"},
+    {"TxtVrd1", "Vrd1"},
+    {"txtK_0", "k1", Pannello},
+    {"txtK_1", "k2", AnimaColonnaTesa},
+    {"txtK_2", "k4", AlaColonna},
+    {"txtK_3", "k5", Bulloni},
+    {"txtK_4", "k6", Flangia, Interna},
+    {"txtK_5", "k6_Estesa", Flangia, Esterna},
+    {"txtK_6", "k3", AnimaColonnaCompressa},
+    {"txtmu_0", "mu1", Pannello},
+    {"txtmu_1", "mu2", AnimaColonnaTesa},
+    {"txtmu_2", "mu4", AlaColonna},
+    {"txtmu_3", "mu5", Bulloni},
+    {"txtmu_4", "mu6", Flangia, Interna},
+    {"txtmu_5", "mu6_Estesa", Flangia, Esterna},
+    {"txtmu_6", "mu3", AnimaColonnaCompressa},
+    {"TxtCoef_0", "Beta", Pannello},
+    {"TxtCoef_1", "Kwc", AnimaColonnaCompressa},
+    {"TxtCoef_2", "Kfc", AlaColonna},
+    {"TxtSj_0", "Sj_MjRd"},
+    {"TxtSj_1", "Sj_Mela"},
+    {"TxtSj_2", "Sj_MjSd"},
+    {"txtLimite_0", "LimiteRigido2"},
+    {"txtLimite_1", "LimiteRigido1"},
+    {"txtLimite_2", "LimiteCerniera"},
+    {"Textd", "Diam", Bulloni},
+    {"Textd0", "d0", Bulloni},
+    {"Textdw", "rond_d2", Bulloni},
+    {"Textlb", "lb", Bulloni},
+    {"Textaf", "Af", Saldature},
+    {"Textaw", "aw", Saldature},
+    {"Textw", "w", Bulloni},
+    {"Textp", "pint", Bulloni},
+    {"Textec", "ec", AlaColonna},
+    {"Textmc", "mc", AlaColonna},
+    {"Textmf", "mf", Flangia},
+    {"Textm1", "m2", Flangia},
+    {"Textm2", "mx", Flangia},
+    {"Texthf", "hf", Flangia},
+    {"Txt_S_Irr", "Irr_Spessore", Irrigidimenti},
+    {"Txt_B_Irr", "Irr_B", Irrigidimenti},
+    {"Txt_L_Irr_0", "Irr_L1", Irrigidimenti},
+    {"Txt_L_Irr_1", "Irr_L2", Irrigidimenti},
+    {"Txt_Sal_Irr", "Irr_a", Irrigidimenti},
+    {"Texttf", "tf", Flangia},
+    {"Textbf", "bf", Flangia},
+    {"Textef", "ef", Flangia},
+    {"Textd2", "d2", Bulloni},
+    {"Textex", "ex", Bulloni},
+    {"Textdx", "dX", Bulloni},
+    {"Textu", "u", Flangia},
+};
+
+const Legame* LegameDi(const QString& box) {
+    for (const Legame& l : legami)
+        if (box == QLatin1String(l.casella))
+            return &l;
+    return nullptr;
+}
+
+} // namespace
+
+void frmGiunti::PreparaDocumento() {
+    documento_ = new DocumentoSchermo(*this, {"Giunto Flangiato", "Gfl", "Gfl"});
+    documento_->CollegaRecenti(*ui_->mnuRecenti);
+    setWindowTitle(QString::fromLatin1(titoloForma));
+}
+
+QString frmGiunti::PrefissoTitolo() const {
+    return QString::fromLatin1(titoloForma) + QStringLiteral(" - File: ");
+}
+
+void frmGiunti::CollegaFile() {
+    for (int i = 0; i < numVociFile; ++i)
+        Collega(findChild<QAction*>(QStringLiteral("mnufileitem_%1").arg(i)), &QAction::triggered, this,
+                [this, i] { SceltaFileMenu(i); });
+    Collega(ui_->mnuHelp_0, &QAction::triggered, this, [this] { Guida::Apri(FileGuida()); });
+}
+
+void frmGiunti::SceltaFileMenu(int indice) {
+    ConcludeEntrate();
+    switch (indice) {
+    case nuovo:
+        NuovoDocumento();
+        break;
+    case apri:
+        documento_->Apre();
+        break;
+    case salva:
+        documento_->Salva();
+        break;
+    case stampa:
+        StampaFile("STAMPANTE", 0);
+        break;
+    case stampaSuFile:
+        StampaSuFile();
+        break;
+    default:
+        close();
+    }
+}
+
+void frmGiunti::NuovoDocumento() {
+    EventoProtetto([this] {
+        if (documento_->Nuovo([this] { NuovoNodo(); }))
+            setWindowTitle(QString::fromLatin1(titoloForma));
+    });
+}
+
+void frmGiunti::NuovoNodo() {
+    NodoCorrente = Nodo();
+    NodoCorrente.ImpostaNodo();
+    NodoCorrente.CaratterizzaGiunti();
+    inAttesa_ = RuoloSagomo::Nessuno;
+    dalFile_ = false;
+    firma_ = FirmaSagomi(NodoCorrente);
+    {
+        const QScopedValueRollback loading(CaricaForm, true);
+        Casella("TxtDescrizione")->clear();
+        ui_->SSTab1->setCurrentIndex(schedaDati);
+    }
+    ui_->CmdAzzera->setEnabled(false);
+    ScriveSagomi();
+    CriterioScelto();
+}
+
+void frmGiunti::FileLeggeScrive(std::string_view modo, std::int16_t nFile) {
+    if (modo == "L") {
+        fileRiuscito_ = Legge(nFile);
+        return;
+    }
+    NodoCorrente.PreparaSalvataggio();
+    TogliVirgolette(NodoCorrente);
+    std::string description = Casella("TxtDescrizione")->text().toStdString();
+    fileRiuscito_ = FileInOut(modo, nFile, {&description}) && NodoCorrente.Input_Output(modo, nFile);
+}
+
+/// A node that is whole takes the place of the one in hand.
+bool frmGiunti::Legge(std::int16_t nFile) {
+    std::string description;
+    Nodo node;
+    if (!FileInOut("L", nFile, {&description}) || !node.AperturaFile(nFile))
+        return false;
+    RinnovaNplRd(node);
+    NodoCorrente = node;
+    firma_ = FirmaSagomi(NodoCorrente);
+    inAttesa_ = RuoloSagomo::Nessuno;
+    dalFile_ = true;
+    {
+        const QScopedValueRollback loading(CaricaForm, true);
+        Casella("TxtDescrizione")->setText(QString::fromStdString(description));
+    }
+    ScriveSagomi();
+    CriterioScelto();
+    ui_->CmdAzzera->setEnabled(true);
+    if (!NodoCorrente.Controllafile()) {
+        NuovoNodo();
+        QMetaObject::invokeMethod(
+            this, [this] { NuovoDocumento(); }, Qt::QueuedConnection);
+    }
+    return true;
+}
+
+// ---------------------------------------------------------------------------------------------- report
+
+bool frmGiunti::SubStampa(std::string_view Uscita, std::int16_t nFile, std::string_view testo) {
+    if (Uscita != "STAMPANTE")
+        return ScriveRiga(nFile, testo);
+    righeStampa_.emplace_back(testo);
+    return true;
+}
+
+void frmGiunti::StampaFile(std::string_view Uscita, std::int16_t nFile) {
+    const QString name = QFileInfo(documento_->File()).fileName();
+    const TestaRelazione head{.nomeFile = name.toStdString(),
+                              .descrizione = Casella("TxtDescrizione")->text().toStdString()};
+    righeStampa_.clear();
+    StampaRelazione(NodoCorrente, head,
+                    [&](std::string_view line) { return SubStampa(Uscita, nFile, line); });
+    if (Uscita == "STAMPANTE")
+        StampaTesto(std::exchange(righeStampa_, {}), name.isEmpty() ? tr("Giunto flangiato") : name, this);
+}
+
+void frmGiunti::StampaSuFile() {
+    const QString stem = QFileInfo(documento_->File()).completeBaseName();
+    const QString proposal = stem.isEmpty() ? QStringLiteral("*.txt") : stem + QStringLiteral(".txt");
+    QString chosen = SceglieFile(this, "S", QString::fromStdString(FiltroFileDialogo("Testo", "txt")),
+                                 indiceFiltroFileDialogo, proposal);
+    if (chosen.isEmpty())
+        return;
+    if (QFileInfo(chosen).suffix().isEmpty())
+        chosen += QStringLiteral(".txt");
+    const std::int16_t number = ApreFile(chosen.toStdString(), "S");
+    if (number == 0) {
+        Avvisa(AvvisoNonScritto(chosen.toStdString()));
+        return;
+    }
+    auto abandon = qScopeGuard([number] { AbbandonaFile(number); });
+    StampaFile("FILE", number);
+    abandon.dismiss();
+    ChiudeFile(number);
+}
+
+// ------------------------------------------------------------------------------- drawings and formulas
+
+void frmGiunti::Plotta() {
+    if (!SagomiAssegnati(NodoCorrente)) {
+        Dice("Completare l'assegnamento dei sagomi prima di disegnare il giunto");
+        return;
+    }
+    PlottaNodo(*this, NodoCorrente);
+}
+
+void frmGiunti::PlottaSelezione(int riga) {
+    sagomi::PlottaSelezione(*this, NodoCorrente, Corrente().RisultatiIntermedi_Estrai(), riga);
+}
+
+/// The results are those of the row from now on; the welds stay those of the search.
+void frmGiunti::InserisciSelezione(int riga) {
+    Giunto& g = Corrente();
+    g.Acquisito = false;
+    g.DatiSelezione_Completa(TabellaSelezione(g.RisultatiIntermedi_Estrai()), riga);
+    NodoCorrente.Beta_Calcola();
+    g.Mrd_Giunto_Calcola();
+    g.Limiti();
+    g.Sj_Giunto_Calcola();
+    g.Acquisito = true;
+    dalFile_ = false;
+    documento_->Modifica();
+    MostraRisultati();
+}
+
+std::string frmGiunti::IdFormula(const QString& casella) const {
+    const Legame* l = LegameDi(casella);
+    if (l == nullptr)
+        return {};
+    const bool stiffened = Corrente().Irrigidimenti != "No";
+    return stiffened && casella == QLatin1String("txtF2") ? "FcRd_AnimaIrrigidita_c" : l->id;
+}
+
+void frmGiunti::FormulaGiunto_Leggi(const std::string& id) {
+    NavigaSchermi::Unico()
+        .Prendi<SchermoInfoGiunti>(QStringLiteral("FrmInfoGiunti"))
+        .MostraFormula(*this, id);
+}
+
+/// The value of a component that was chosen in the drawing.
+void frmGiunti::VaiAlComponente(ComponenteGiunto componente) {
+    for (const Legame& l : legami) {
+        if (l.componente != componente)
+            continue;
+        QLineEdit* box = Casella(l.casella);
+        if (!box->isVisibleTo(box->parentWidget()))
+            continue; // of the other number of rows
+        for (int i = 0; i < ui_->SSTab1->count(); ++i)
+            if (ui_->SSTab1->widget(i)->isAncestorOf(box))
+                ui_->SSTab1->setCurrentIndex(i);
+        FuocoSu(box);
+        return;
+    }
+}
+
+/// The component of the value that has the focus is marked in the drawing.
+void frmGiunti::FuocoPassato(const QWidget* controllo) {
+    if (inRicerca_ || controllo == nullptr || controllo->window() != this)
+        return;
+    const Legame* l = LegameDi(controllo->objectName());
+    if (l == nullptr || l->componente == Nessuno)
+        return;
+    EvidenzaGiunto marks = Corrente().Acquisito ? Governa(Corrente()) : EvidenzaGiunto{};
+    marks.governano = {{l->componente, l->fila}};
+    vista_->Mostra(NodoCorrente, nullptr, marks);
+}
+
+} // namespace sagomi
