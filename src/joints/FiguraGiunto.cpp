@@ -140,7 +140,7 @@ void Ricorda(TracciatoNodo& t, const FoglioNodo& foglio) {
 } // namespace
 
 Disegno FiguraGiunto(const Nodo& nodo, const Giunto* giunto, const EvidenzaGiunto& evidenza,
-                     std::shared_ptr<TracciatoNodo> tracciato) {
+                     const std::shared_ptr<TracciatoNodo>& tracciato) {
     const GeometriaNodo geometria(nodo, giunto, DueTravi(nodo));
     const auto righe = Righe(geometria, Quale(nodo, giunto));
     Disegno disegno{geometria.destro ? "Giunto destro" : "Giunto sinistro", {}, {420, 520}, {300, 320}};

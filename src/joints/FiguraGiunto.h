@@ -23,7 +23,7 @@ struct TracciatoNodo {
 /// @param giunto     null for the current one of the node
 /// @param tracciato  told where the components lie; may be null
 Disegno FiguraGiunto(const Nodo& nodo, const Giunto* giunto, const EvidenzaGiunto& evidenza,
-                     std::shared_ptr<TracciatoNodo> tracciato = nullptr);
+                     const std::shared_ptr<TracciatoNodo>& tracciato = nullptr);
 
 /// The same in words, for those who do not see it.
 std::string DescrizioneGiunto(const Nodo& nodo, const Giunto* giunto, const EvidenzaGiunto& evidenza);

@@ -125,6 +125,7 @@ public:
     /// Puts `Uscita` and the target in force, with the font of printed sheets, and prepares the sheet. On the
     /// screen and on paper both directions have one scale; for files and CAD a unit is a millimetre.
     void PltInizializza(Superficie* oggetto, const MascheraGiunti& form);
+    void PltInizializza(); ///< on the target in force, with as many beams as Tipovie says
     /// The side view: column, beams, plate, bolts, welds, stiffeners; beam at the right for "TDx", "LDx",
     /// "CroceDx", "Croce_Dx". Draws nothing before PltInizializza.
     void PlottaGiuntoFlangiato();

@@ -76,6 +76,8 @@ void Nodo::PltInizializza(Superficie* oggetto, const MascheraGiunti& form) {
     foglio_->Dispone(oggetto, Uscita);
 }
 
+void Nodo::PltInizializza() { PltInizializza(OggettoGrafico, {Tipovie}); }
+
 void Nodo::PlottaInOggetto(Superficie* oggetto, const MascheraGiunti& form) {
     PltInizializza(oggetto, form);
     PlottaGiuntoFlangiato();

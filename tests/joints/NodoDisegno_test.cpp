@@ -291,7 +291,8 @@ TEST_F(NodoDisegnoTest, EachViewByItselfHasTheData) {
     for (const bool laterale : {true, false}) {
         s.scritte.clear();
         s.cerchi.clear();
-        n.PltInizializza(&s, {2});
+        OggettoGrafico = &s;
+        laterale ? n.PltInizializza(&s, {2}) : n.PltInizializza();
         laterale ? n.PlottaGiuntoFlangiato() : n.PlottaProspettoGiunto();
         EXPECT_THAT(s.Testi(), Contains("Bulloni [mm]"));
         EXPECT_EQ(s.cerchi.size(), laterale ? 0U : 6U);
