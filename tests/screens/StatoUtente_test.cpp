@@ -6,6 +6,7 @@
 
 #include "frame/ui/ChiudiProgramma.h"
 #include "frame/ui/Collocazione.h"
+#include "frame/ui/DocumentoSchermo.h"
 #include "screens/Comandi.h"
 
 using namespace sagomi;
@@ -37,6 +38,16 @@ TEST_F(StatoUtenteTest, TheFirstStartHasNothingOfIt) {
     const auto& s = Avvia();
     EXPECT_FALSE(QFile::exists(utente.filePath(QStringLiteral("stato.ini"))));
     EXPECT_TRUE(s.Txt_L0[0]->text().isEmpty() || NumeroIn(s.Txt_L0[0]) == 0);
+}
+
+TEST_F(StatoUtenteTest, TheNextStartFindsTheFilesLastUsedAgain) {
+    Avvia();
+    const QStringList files{QStringLiteral("/uno, \"due\".sco"), QStringLiteral("/tre.sco")};
+    FileRecenti()[QStringLiteral("frmAcciaioCls")] = files;
+    Finisce();
+    FileRecenti().clear();
+    LeggeStatoComune();
+    EXPECT_EQ(FileRecenti().value(QStringLiteral("frmAcciaioCls")), files);
 }
 
 TEST_F(StatoUtenteTest, TheNextStartFindsFamiliesOrderRowAndEntriesAgain) {

@@ -265,6 +265,9 @@ void frmAcciaioCls::PrendeSezione() {
         presa_ = std::make_shared<SezioneDoppioT>(*there);
         trave_.Sezione = std::make_shared<SezioneDoppioT>(*there);
         MostraSezione();
+        SvuotaUscite();
+        if (!documento_->File().isEmpty())
+            documento_->Modifica(); // it has another steel there
     } else if (!trave_.Sezione) {
         SezioneNuova();
         MostraSezione();
@@ -326,6 +329,8 @@ void frmAcciaioCls::closeEvent(QCloseEvent* event) {
         EventoProtetto([this, &stays] {
             ConcludeEntrate();
             stays = !documento_->Nuovo([this] {
+                for (Schermo* s : NavigaSchermi::Unico().VisibiliDa(*this))
+                    s->hide(); // they work on this beam
                 presa_.reset();
                 Nuova();
             });

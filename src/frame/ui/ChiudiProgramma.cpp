@@ -12,7 +12,7 @@ namespace sagomi {
 bool ChiudiProgramma() {
     if (ChiusuraInCorso)
         return true;
-    if (!ServerAttivo && !DocumentoSchermo::TuttiDaLasciare())
+    if (!DocumentoSchermo::TuttiDaLasciare())
         return false;
     ChiusuraInCorso = true;
     NavigaSchermi::Unico().ScaricaTutti();

@@ -3,7 +3,7 @@
 namespace sagomi {
 
 /// Unloads the screens, writes the settings, ends the run. Does its work once. Before that the user is asked
-/// about work that is not saved, unless an automation client is at work.
+/// about work that is not saved, whoever ends the run.
 /// @return false when the user stays
 bool ChiudiProgramma();
 

@@ -114,6 +114,29 @@ TEST_F(FileTraveTest, AsksBeforeNewOpenAndClose) {
     EXPECT_EQ(Legge("txtDati_1"), "") << "closing drops the beam";
 }
 
+TEST_F(FileTraveTest, AnotherSteelForABeamOfAFileIsAChange) {
+    Salva();
+    f->Calcola();
+    Menu("mnuFileItem_3");
+    VaiA(*partenza, "IPE 400");
+    Trova<QAction>(partenza, "mnuAcciaioCls")->trigger();
+    EXPECT_EQ(Legge("Txt_Prof_0"), "IPE 400");
+    EXPECT_EQ(Legge("Txt_Jid"), "") << "the results were those of the other steel";
+    EXPECT_FALSE(ChiudiProgramma());
+    EXPECT_EQ(registratore.testi.size(), 1U);
+}
+
+TEST_F(FileTraveTest, ClosingTheBeamTakesTheStudsAlong) {
+    Apre();
+    Piena();
+    Premi(f, "cmdConnessioni");
+    Schermo& studs = Aperto("frmConnettori");
+    const Registratore yes(true);
+    f->close();
+    EXPECT_FALSE(studs.isVisible());
+    EXPECT_TRUE(partenza->isVisible());
+}
+
 TEST_F(FileTraveTest, RecentFilesOpenAgain) {
     Salva();
     Menu("mnuFileNuovo");

@@ -467,4 +467,43 @@ TEST_F(FrmAcciaioClsTest, CommandsOpenPlotStudsAndDeck) {
     EXPECT_NE(Legge("Txt_MplRd"), "") << "the studs need the shear";
 }
 
+TEST_F(FrmAcciaioClsTest, ByTheKeyboardAlone) {
+    Apre();
+    f->activateWindow();
+    auto* title = Trova<QLineEdit>(f, "txtTitolo");
+    title->setFocus();
+    QStringList visited;
+    for (int i = 0; i < 60 && f->focusWidget()->objectName() != u"Txt_M"; ++i) {
+        visited << f->focusWidget()->objectName();
+        QTest::keyClick(f->focusWidget(),
+                        qobject_cast<QLineEdit*>(f->focusWidget()) ? Qt::Key_Return : Qt::Key_Tab);
+    }
+    EXPECT_EQ(f->focusWidget()->objectName(), "Txt_M");
+    for (const char* box :
+         {"Txt_Prof_0", "Txt_fy", "txtHsd_0", "txtHsd_8", "txtDati_1", "txtDati_5", "Txt_fck"})
+        EXPECT_TRUE(visited.contains(QString::fromLatin1(box))) << box;
+    EXPECT_LT(visited.indexOf(QStringLiteral("txtHsd_8")), visited.indexOf(QStringLiteral("txtDati_1")));
+    EXPECT_LT(visited.indexOf(QStringLiteral("txtDati_4")), visited.indexOf(QStringLiteral("Txt_fck")));
+    QSet<QString> keys;
+    for (const QAbstractButton* button : f->findChildren<QAbstractButton*>())
+        if (!button->shortcut().isEmpty()) {
+            EXPECT_FALSE(keys.contains(button->shortcut().toString())) << button->objectName().toStdString();
+            keys << button->shortcut().toString();
+        }
+    EXPECT_TRUE(keys.contains(QStringLiteral("Alt+C")));
+    EXPECT_TRUE(keys.contains(QStringLiteral("Alt+P")));
+}
+
+TEST_F(FrmAcciaioClsTest, MenuOfRulesOpensTheFactors) {
+    Apre();
+    Piena();
+    f->Calcola();
+    Menu("NormativaMain");
+    Schermo& factors = Aperto("frmGamma");
+    Premi(&factors, "optNormativa_0");
+    Premi(&factors, "cmdOK_0");
+    EXPECT_EQ(Trova<QAction>(f, "NormativaMain")->text(), "Normativa: NTC");
+    Vuote();
+}
+
 } // namespace

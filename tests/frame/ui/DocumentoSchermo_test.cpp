@@ -136,7 +136,7 @@ TEST_F(DocumentoSchermoTest, ProgramDoesNotCloseOverUnsavedWork) {
     EXPECT_FALSE(ChiusuraInCorso);
     ASSERT_EQ(registratore.testi.size(), 1U);
     EXPECT_EQ(registratore.testi[0], domanda);
-    ServerAttivo = true; // nobody is there to answer
+    const Registratore yes(true);
     EXPECT_TRUE(ChiudiProgramma());
 }
 
