@@ -120,9 +120,10 @@ void ServizioSagomi::ChiudeAppenaLibero() {
         menu->close();
     else if (QWidget* box = QApplication::activeModalWidget())
         box->close();
-    if (Libero())
+    if (Libero()) {
         sezione_.Quit();
-    else
+        inChiusura_ = ChiusuraInCorso; // the user, asked about work that is not saved, may have kept it
+    } else
         QTimer::singleShot(pausa, this, &ServizioSagomi::ChiudeAppenaLibero);
 }
 
