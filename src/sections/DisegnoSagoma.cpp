@@ -34,7 +34,7 @@ public:
         Contorno(s_.xAltra, s_.yAltra);
         Assi();
         QuotaAltezza("h");
-        QuotaLarghezza("b");
+        QuotaLarghezza(s_.nomeB);
         for (const NomeSagoma& nome : s_.nomi)
             Scrive(nome);
     }
@@ -164,6 +164,23 @@ void Raddoppia(SagomaDisegnata& s, const Gemello& altro) {
 
 } // namespace
 
+namespace {
+
+/// Of different flanges each has its width and its thickness.
+void AliDiverse(SagomaDisegnata& sagoma, const SezioneDoppioT& s) {
+    const double larga = std::max(s.b, s.bAlaInf);
+    sagoma.b = s.bAlaInf;
+    sagoma.xb = -s.bAlaInf / 2;
+    sagoma.nomeB = "b2";
+    sagoma.sinistra = -larga / 2;
+    sagoma.destra = larga / 2;
+    sagoma.nomi[1].testo = "tf1";
+    sagoma.nomi.push_back({"b1", s.b / 2, s.h, 0, sopraAla, Allinea::Destra, Posa::Basso});
+    sagoma.nomi.push_back({"tf2", -s.bAlaInf / 2, s.tAlaInf, 0, sopraAla, Allinea::Sinistra, Posa::Basso});
+}
+
+} // namespace
+
 SagomaDisegnata SagomaDi(const SezioneDoppioT& sezione) {
     const SezioneDoppioT& s = sezione;
     SagomaDisegnata sagoma = Sagoma(s.Designation, s.SezioneGenericaCorrente.get(), s.h, s.b, -s.b / 2);
@@ -174,6 +191,8 @@ SagomaDisegnata SagomaDi(const SezioneDoppioT& sezione) {
         {"tw", s.tw / 2, s.h * 0.28, staccoNome, 0},
         {"tf", -s.b / 2, s.h, 0, sopraAla, Allinea::Sinistra, Posa::Basso},
         {s.Saldata ? "r" : "r1", xRadice, yRadice, -braccio, braccio, Allinea::Destra, Posa::Alto, true}};
+    if (s.SaldataAsimm)
+        AliDiverse(sagoma, s);
     return sagoma;
 }
 

@@ -31,7 +31,8 @@ struct SagomaDisegnata {
     std::vector<double> x, y;           ///< closed outline
     std::vector<double> xAltra, yAltra; ///< that of the second piece of a pair, else empty
     double h = 0;                       ///< overall height of one piece, from y = 0
-    double b = 0;                       ///< flange width of one piece
+    double b = 0;                       ///< flange width of one piece; of different flanges the lower one's
+    std::string nomeB = "b";            ///< its name
     double xb = 0;                      ///< where this width begins
     double sinistra = 0, destra = 0;    ///< how far the horizontal axis goes
     double basso = 0, alto = 0;         ///< how far the upright one goes

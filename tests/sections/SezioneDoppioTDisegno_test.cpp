@@ -302,6 +302,17 @@ TEST_F(DisegnoTest, ASectionBeyondAllMeasureDrawsNothing) {
     EXPECT_TRUE(superficie.linee.empty() && superficie.scritte.empty() && superficie.cerchi.empty());
 }
 
+TEST_F(DisegnoTest, ThePictureOfDifferentFlangesNamesEach) {
+    const SagomaDisegnata picture = SagomaDi(Hsd());
+    std::vector<std::string> names{picture.nomeB};
+    for (const NomeSagoma& name : picture.nomi)
+        names.push_back(name.testo);
+    EXPECT_EQ(names, (std::vector<std::string>{"b2", "tw", "tf1", "r", "b1", "tf2"}));
+    EXPECT_EQ(picture.b, 200) << "the dimension below is that of the lower flange";
+    EXPECT_EQ(picture.destra, 150);
+    EXPECT_EQ(SagomaDi(Ipe()).nomeB, "b");
+}
+
 TEST_F(DisegnoTest, WithoutFilletsNoLeader) {
     Saldata("piatti", 235, 300, 150, 6, 10, 0).PlottaSezione(&superficie, "x", "VIDEO");
     const auto testi = superficie.Testi();
