@@ -291,6 +291,15 @@ void SchermoSaldati::ScriveRiga(int azione) {
     Data1->Update();
 }
 
+bool SchermoSaldati::FrecciaDiRiga(int key) {
+    const auto at = TxtProfUtente.indexOf(qobject_cast<QLineEdit*>(focusWidget()));
+    if (at < 0 || (key != Qt::Key_Up && key != Qt::Key_Down))
+        return SchermoDi::FrecciaDiRiga(key);
+    FuocoSu(TxtProfUtente[std::clamp<qsizetype>(at + (key == Qt::Key_Down ? 1 : -1), 0,
+                                                TxtProfUtente.size() - 1)]);
+    return true;
+}
+
 // Plates are computed when they are confirmed.
 void SchermoSaldati::Conclusa(QLineEdit* casella) {
     if (!TxtProfUtente.contains(casella))

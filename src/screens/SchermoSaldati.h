@@ -39,6 +39,8 @@ public:
 protected:
     void LeggeSezione(const Lettore& riga, SezioneDoppioT& sezione) override;
     void ControllaSezione(const Lettore& riga, SezioneDoppioT& sezione) override;
+    /// At the boxes of a section of the user an arrow goes from one to the other: the row would refill them.
+    bool FrecciaDiRiga(int key) override;
     void Conclusa(QLineEdit* casella) override;
 
 private:

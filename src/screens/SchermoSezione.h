@@ -164,6 +164,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    /// An arrow goes to the row before or behind.
+    /// @return whether the key was one of those
+    virtual bool FrecciaDiRiga(int key);
+
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
@@ -177,7 +181,6 @@ private:
     void ApriDettaglio(const QString& nome);
     void SeguonoDettagli();
     void RigaNuova();
-    bool FrecciaDiRiga(int key);
     bool RicercaDiRiga(const QKeyEvent& event);
 
     QLabel* barra_ = nullptr;

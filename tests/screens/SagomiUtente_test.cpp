@@ -116,6 +116,33 @@ TEST_F(SagomiUtenteTest, TheSheetTakesThePlaceOfTheFamilies) {
     EXPECT_EQ(Testo(&s, "TxtProf_0"), "ISE 300x37");
 }
 
+TEST_F(SagomiUtenteTest, ALongNameLeavesTheColumnsBehindItInSight) {
+    const std::string name(60, 'W');
+    Scrive(simmetrico, {{name, {}, 300.0, 200.0, 10.0, 20.0}});
+    auto& s = Simmetrici();
+    const int widest = s.DBGrid1->columnWidth(0);
+    EXPECT_LT(widest, s.DBGrid1->fontMetrics().horizontalAdvance(QString::fromStdString(name)));
+    EXPECT_LT(widest, s.DBGrid1->viewport()->width() / 2);
+}
+
+// A row that moved would refill the boxes with its own plates.
+TEST_F(SagomiUtenteTest, AnArrowAtTheBoxesLeavesTheRowAndWhatIsTyped) {
+    Scrive(simmetrico, {{S("S1"), {}, 300.0, 200.0, 10.0, 20.0}, {S("S2"), {}, 400.0, 200.0, 10.0, 20.0}});
+    auto& s = Simmetrici();
+    s.cmdUtente[1]->click();
+    s.TxtProfUtente[1]->setText("350");
+    s.TxtProfUtente[1]->setFocus();
+    QTest::keyClick(s.TxtProfUtente[1], Qt::Key_Down);
+    EXPECT_EQ(s.Data1->Recordset().RigaCorrente(), 0);
+    EXPECT_EQ(s.TxtProfUtente[1]->text(), "350");
+    EXPECT_EQ(s.focusWidget(), s.TxtProfUtente[2]) << "to the next box";
+    QTest::keyClick(s.TxtProfUtente[2], Qt::Key_Up);
+    EXPECT_EQ(s.focusWidget(), s.TxtProfUtente[1]);
+    s.cmdUtenteEdita[1]->setFocus();
+    QTest::keyClick(s.cmdUtenteEdita[1], Qt::Key_Down);
+    EXPECT_EQ(s.Data1->Recordset().RigaCorrente(), 1) << "elsewhere the row goes on";
+}
+
 TEST_F(SagomiUtenteTest, WithoutTheShippedWorkbookTheUsersStaysInForce) {
     Scrive(simmetrico, {{S("S1"), {}, 300.0, 200.0, 10.0, 20.0}});
     auto& s = Simmetrici();
