@@ -70,7 +70,14 @@ public:
         }
     }
 
-    void ForzaCambiata() override { this->PassaForza(); }
+    // No result here hangs on it, but the class that a detail shows.
+    void ForzaCambiata() override {
+        if (!this->PassaForza())
+            return;
+        if constexpr (ConMomenti<S>)
+            SezioneInUso<S>()->ClassePressoFlessioneCalcola();
+        AggiornaVisibili(*this);
+    }
 
 protected:
     /// To be called once the form stands, before the load.

@@ -295,6 +295,22 @@ TEST_F(FrmSagomiTest, ClassesOfAChannel) {
     EXPECT_TRUE(Trova<QLabel>(&d, "Lbl_cInf")->isHidden());
 }
 
+// UPN 400 at fy 900: flange 78/18 = 8.5 epsilon, class 1; web 45 epsilon, in bending class 1, in compression
+// class 4. A quarter of the plastic force is 91.5 x 900 / 1.05 / 40 = 1961 kN.
+TEST_F(FrmSagomiTest, TheClassUnderAxialForceFollowsEachKey) {
+    auto& s = Canali();
+    VaiA(s, "UPN 400");
+    Scrive(&s, "Txt_fy", "900");
+    Premi(&s, "LblClasse");
+    const Schermo& d = Aperto("FrmClasseDoppioTU");
+    EXPECT_EQ(Scritta(&d, "Lbl_ClasseC"), "1");
+    FuocoSu(s.TxtNsd);
+    QTest::keyClicks(s.TxtNsd, "300");
+    EXPECT_EQ(Scritta(&d, "Lbl_ClasseC"), "1");
+    QTest::keyClicks(s.TxtNsd, "0");
+    EXPECT_EQ(Scritta(&d, "Lbl_ClasseC"), "4") << "before Enter";
+}
+
 TEST_F(FrmSagomiTest, MomentsOfAChannel) {
     auto& s = Canali();
     VaiA(s, "UPN 200");
