@@ -32,7 +32,8 @@ const std::vector<Voce>& VociClasse() {
         CreaVoce({"LblClasseC", "Classe"}, "Lbl_ClasseC", 2, "Classe della sezione compressa", "Classe"),
         CreaVoce({"LblH", "h [mm]"}, "Lbl_h", 6, "Lato lungo [mm]", "h"),
         CreaVoce({"LblT", "t [mm]"}, "Lbl_t", 6, "Spessore dei lati [mm]", "t"),
-        CreaVoce({"LblNomeFy", "fy"}, "Lbl_fy", 5, "Tensione di snervamento [N/mm2], EC3 3.2.1", "fy"),
+        CreaVoce({"LblNomeFy", "f{y} [N/mm^{2}]"}, "Lbl_fy", 5, "Tensione di snervamento [N/mm2], EC3 3.2.1",
+                 "fy"),
         CreaVoce({"LblEps", "epsilon"}, "Lbl_eps", 6, "Radice di 235 / fy, EC3 tabella 5.2", "epsilon")};
     return values;
 }

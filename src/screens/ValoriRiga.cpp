@@ -12,7 +12,7 @@ namespace sagomi {
 
 namespace {
 
-constexpr int righe = 7; ///< of a column of boxes
+constexpr int colonne = 2; ///< of boxes: as high as the rooms beside them
 constexpr int cifre = 7;
 constexpr int cifreIngobbamento = 9; ///< the only values above a million
 
@@ -35,9 +35,9 @@ std::vector<Testi> ScriveTesti(const std::vector<std::string_view>& headings) {
 }
 
 /// Boxes of one column are equally wide.
-int Larghezza(const std::vector<Testi>& texts, std::size_t i) {
-    const std::size_t first = i / righe * righe;
-    const std::size_t last = std::min(texts.size(), first + righe);
+int Larghezza(const std::vector<Testi>& texts, std::size_t i, std::size_t rows) {
+    const std::size_t first = i / rows * rows;
+    const std::size_t last = std::min(texts.size(), first + rows);
     for (std::size_t k = first; k < last; ++k)
         if (Ingobbamento(texts[k].letta))
             return cifreIngobbamento;
@@ -54,18 +54,20 @@ ValoriRiga::ValoriRiga(QWidget* parent) : GruppoVoci(parent) {
 void ValoriRiga::ImpostaSchermo(const QByteArray& nome) {
     schermo_ = nome;
     const std::vector<Testi> texts = ScriveTesti(Intestazioni(nome.toStdString()));
+    const std::size_t rows = (texts.size() + colonne - 1) / colonne;
     std::vector<Voce> boxes;
     for (std::size_t i = 0; i < texts.size(); ++i) {
         const Testi& t = texts[i];
         boxes.push_back({{t.etichetta.c_str(), t.testo.c_str()},
                          t.nome.c_str(),
-                         Larghezza(texts, i),
-                         DescrizioneColonna(t.letta),
+                         Larghezza(texts, i, rows),
+                         DescrizioneColonna(t.letta, nome.toStdString()),
                          t.letta.c_str(),
                          Genere::risultato});
     }
-    QGridLayout* grid = InColonne(boxes, righe, 4);
-    grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding), righe, 0);
+    const int below = static_cast<int>(rows);
+    QGridLayout* grid = InColonne(boxes, below, 4);
+    grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding), below, 0);
     grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, grid->columnCount());
 }
 

@@ -209,7 +209,11 @@ const VociSchermo& VociDi(std::string_view schermo) {
     return *s;
 }
 
-const char* DescrizioneColonna(std::string_view intestazione) {
+const char* DescrizioneColonna(std::string_view intestazione, std::string_view schermo) {
+    static const std::map<std::string_view, const char*> angles = {{"h", "Lato lungo"},
+                                                                   {"b", "Lato corto"},
+                                                                   {"r1", "Raggio del raccordo fra i lati"},
+                                                                   {"r2", "Raggio all'estremità dei lati"}};
     static const std::map<std::string_view, const char*> columns = {
         {"g", "Massa a metro"},
         {"h", "Altezza totale"},
@@ -241,7 +245,10 @@ const char* DescrizioneColonna(std::string_view intestazione) {
         {"iv", "Raggio d'inerzia intorno a v-v"},
         {"IT", "Momento d'inerzia torsionale"},
         {"Iw", "Costante d'ingobbamento"}};
-    const auto found = columns.find(intestazione.substr(0, intestazione.find(' ')));
+    const std::string_view quantity = intestazione.substr(0, intestazione.find(' '));
+    if (const auto own = angles.find(quantity); own != angles.end() && schermo == "frmSagomiL")
+        return own->second;
+    const auto found = columns.find(quantity);
     return found == columns.end() ? "" : found->second;
 }
 

@@ -38,6 +38,6 @@ const VociSchermo& VociDi(std::string_view schermo);
 
 /// What a column of the catalogue holds, for a tool-tip: "Altezza totale" for "h (mm)". Empty for a column
 /// that is not known.
-const char* DescrizioneColonna(std::string_view intestazione);
+const char* DescrizioneColonna(std::string_view intestazione, std::string_view schermo = {});
 
 } // namespace sagomi

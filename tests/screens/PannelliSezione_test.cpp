@@ -165,6 +165,9 @@ TEST(VociSezioneTest, EveryMainScreenHasItsRowAndNoOther) {
     EXPECT_THROW(VociDi("frmGamma"), std::out_of_range);
     EXPECT_STREQ(DescrizioneColonna("h (mm)"), "Altezza totale");
     EXPECT_STREQ(DescrizioneColonna("zzz (mm)"), "");
+    EXPECT_STREQ(DescrizioneColonna("b (mm)", "frmSagomiU"), "Larghezza delle ali");
+    EXPECT_STREQ(DescrizioneColonna("b (mm)", "frmSagomiL"), "Lato corto") << "an angle has no flanges";
+    EXPECT_STREQ(DescrizioneColonna("r2 (mm)", "frmSagomiL"), "Raggio all'estremità dei lati");
 }
 
 // A screen reader tells controls apart by their names alone.
