@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLabel>
@@ -44,7 +45,11 @@ QSize StanzaDi(const QScreen& screen) {
 /// Layouts keep the sizes that they know: those of other fonts, or of other texts while nobody looks.
 void RinnovaMisure(const QWidget& window) {
     for (QWidget* w : window.findChildren<QWidget*>()) {
-        w->ensurePolished(); // the style may have its say on sizes
+        w->ensurePolished();                          // the style may have its say on sizes
+        if (qobject_cast<QComboBox*>(w) != nullptr) { // it keeps the least size that it had with other fonts
+            QEvent again(QEvent::StyleChange);
+            QApplication::sendEvent(w, &again);
+        }
         w->updateGeometry();
     }
     for (QLayout* layout : window.findChildren<QLayout*>())
