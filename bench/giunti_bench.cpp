@@ -12,28 +12,11 @@
 #include "frame/Messaggi.h"
 #include "joints/Nodo.h"
 #include "joints/OsservatoreProgetto.h"
+#include "joints/Sezioni.h"
 
 using namespace sagomi;
 
 namespace {
-
-std::shared_ptr<SezioneDoppioT> Laminato(const char* nome, double h, double b, double tw, double tf,
-                                         double r1, double Area, double Jy, double Wply) {
-    auto s = std::make_shared<SezioneDoppioT>();
-    s->Designation = nome;
-    s->h = h;
-    s->b = b;
-    s->tw = tw;
-    s->tf = tf;
-    s->r1 = r1;
-    s->Area = Area;
-    s->Jy = Jy;
-    s->fy = 235;
-    s->fu = 360;
-    s->McyRd = Wply * 235 / 1.05;
-    s->lunghezza() = 8;
-    return s;
-}
 
 /// IPE 600 on HE 400 B, accurate, tf_max 40, L_max 200.
 Nodo NodoDiProva(std::int16_t nf, const std::string& irrigidimenti) {
@@ -42,8 +25,9 @@ Nodo NodoDiProva(std::int16_t nf, const std::string& irrigidimenti) {
     n.Tipovie = nodoT;
     n.NumeroGiunti = 1;
     n.CaratterizzaGiunti();
-    n.TraveDx = Laminato("IPE 600", 600, 220, 12, 19, 24, 15600, 920800000, 3512000);
-    n.Colonnainf = Laminato("HE 400 B", 400, 300, 13.5, 24, 27, 19780, 576800000, 3232000);
+    n.TraveDx = prove::IPE600();
+    n.Colonnainf = prove::HEB400();
+    n.Colonnainf->McyRd = 3232000 * 235 / 1.05;
     Giunto& g = *n.ConnessioneCorrente;
     g.nf = nf;
     g.Irrigidimenti = irrigidimenti;

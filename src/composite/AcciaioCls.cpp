@@ -47,8 +47,8 @@ bool AcciaioCls::InizializzaAcciaioCls() {
         return false;
     }
     CorreggeGrecata();
-    if (const auto* inUso = std::get_if<std::shared_ptr<SezioneDoppioT>>(&SezioneCorrente))
-        Sezione = *inUso;
+    if (std::holds_alternative<std::shared_ptr<SezioneDoppioT>>(SezioneCorrente))
+        Sezione = std::get<std::shared_ptr<SezioneDoppioT>>(SezioneCorrente);
     if (!Sezione || !Sezione->SezioneGenericaCorrente)
         return false;
     SolettaOggettoCrea();

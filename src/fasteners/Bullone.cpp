@@ -38,6 +38,7 @@ double Riduzione(double distanza, double minima, double intera) {
 
 } // namespace
 
+// Heads by product grade A up to M24, by grade B above; ISO 4014, 4032 and 7089 end at M64.
 const Tabella1<DimensioneBullone>& TabellaBulloni() {
     // clang-format off
     static const Tabella1<DimensioneBullone> tabella{

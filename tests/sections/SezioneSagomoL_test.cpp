@@ -126,6 +126,30 @@ TEST_F(SezioneSagomoLTest, BucklesAboutThreeAxesByCurveB) {
         EXPECT_EQ(SezioneSagomoL::CurvaInstabilita(asse), "b");
 }
 
+TEST_F(SezioneSagomoLTest, ACopyComputedAnewLeavesTheOriginalAlone) {
+    auto s = Angolare(160, 160, 10); // class 4: both outlines
+    s.InizializzaSezione();
+    ASSERT_TRUE(s.SezioneComp4);
+    const auto intera = s.SezioneGenericaCorrente->Poligono->CoordX();
+    const auto efficace = s.SezioneComp4->Poligono->CoordY();
+    const double area = s.SezioneComp4->Area;
+    const double NbyRd = s.NbyRd;
+    SezioneSagomoL copia = s;
+    copia.h = 200;
+    copia.b = 180;
+    copia.fy = 355;
+    copia.InizializzaSezione();
+    EXPECT_EQ(s.SezioneGenericaCorrente->Poligono->CoordX(), intera);
+    EXPECT_EQ(s.SezioneComp4->Poligono->CoordY(), efficace);
+    EXPECT_EQ(s.SezioneComp4->Area, area);
+    EXPECT_EQ(s.NbyRd, NbyRd);
+    EXPECT_NE(copia.SezioneGenericaCorrente->Poligono->CoordX(), intera);
+    const double areaCopia = copia.SezioneComp4->Area;
+    s.fy = 460; // and the other way round
+    s.InizializzaSezione();
+    EXPECT_EQ(copia.SezioneComp4->Area, areaCopia);
+}
+
 TEST_F(SezioneSagomoLTest, DataThatDoNotDivideGiveNoNumber) {
     auto s = Angolare(100, 100, 10);
     s.iV = 0;
