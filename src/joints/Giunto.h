@@ -216,6 +216,9 @@ public:
     /// The improvements of the last search.
     [[nodiscard]] const TabellaSelezione& RisultatiIntermedi_Estrai() const { return parametriSelezione_; }
 
+    /// Forgets them: they belong to other data.
+    void AzzeraSelezione() { parametriSelezione_.Svuota(); }
+
     /// Puts a row of improvements into the joint. A row or a bolt that is not there throws std::out_of_range.
     void DatiSelezione_Completa(const TabellaSelezione& tabella, int riga);
 

@@ -180,7 +180,8 @@ void frmGiunti::PrendeSagomo() {
     if (!AssegnaSagomo(NodoCorrente, std::exchange(inAttesa_, RuoloSagomo::Nessuno), *section))
         return;
     firma_ = FirmaSagomi(NodoCorrente);
-    dalFile_ = false;
+    dalFile_ = {};
+    DimenticaSelezioni();
     documento_->Modifica();
     ScriveSagomi();
     ScriviDatiInForm();
@@ -195,7 +196,8 @@ void frmGiunti::RinnovaSeCambiato() {
     firma_ = now;
     RinnovaResistenze(NodoCorrente);
     NodoCorrente.No_Acquisito();
-    dalFile_ = false;
+    dalFile_ = {};
+    DimenticaSelezioni();
     ScriviDatiInForm();
     CriterioScelto();
 }

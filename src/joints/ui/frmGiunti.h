@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QLineEdit>
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -158,6 +159,8 @@ private:
     void AggiornaVisibili();
     void MostraConsiglio(int argomento);
     void MostraStato();
+    void DalFile(bool letti);
+    void DimenticaSelezioni();
     void Grassetta(std::string_view risultato);
     void ToglieGrassetto();
     void MostraDisegno(const Giunto* giunto = nullptr);
@@ -180,7 +183,7 @@ private:
     std::string firma_;                           ///< of factors and strengths that the sections have
     std::vector<std::string> righeStampa_;
     bool fileRiuscito_ = true;
-    bool dalFile_ = false; ///< the results were read, not computed
+    std::array<bool, 2> dalFile_{}; ///< the results of the right and the left joint were read, not computed
     bool inRicerca_ = false;
     const TabellaSelezione* trovate_ = nullptr; ///< of the running search
 };

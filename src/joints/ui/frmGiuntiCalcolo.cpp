@@ -177,7 +177,7 @@ void frmGiunti::cmdCalcola() {
         ScriveEntrate();
     }
     AzzeraRisultati();
-    dalFile_ = false;
+    DalFile(false);
     documento_->Modifica();
     const bool done = Calcola();
     if (done && g.Trave->lunghezza() == 0)
@@ -369,13 +369,18 @@ void frmGiunti::MostraUtilizzi() {
     }
 }
 
+/// Whether the results of the current joint were read from a file.
+void frmGiunti::DalFile(bool letti) {
+    dalFile_.at(static_cast<std::size_t>(NodoCorrente.nGiunto - 1)) = letti;
+}
+
 /// Whether the results are of now, and the verdict in short.
 void frmGiunti::MostraStato() {
     const Giunto& g = Corrente();
     QString text;
     if (g.Acquisito && g.Trave) {
         text = QStringLiteral("Mj,Rd = %1 kNm").arg(Numero(g.MplRdGIUNTO));
-        if (dalFile_)
+        if (dalFile_.at(static_cast<std::size_t>(NodoCorrente.nGiunto - 1)))
             text += QStringLiteral(" - ") + QString::fromUtf8(testoDalFile);
     }
     ui_->LblStato->setText(text);

@@ -145,15 +145,24 @@ void frmGiunti::Controlla(const CampoGiunto& campo) {
 /// Both joints hang on it.
 void frmGiunti::DatiCambiati() {
     NodoCorrente.No_Acquisito();
+    DimenticaSelezioni();
     AzzeraParametri();
     AzzeraRisultati();
     documento_->Modifica();
     MostraObiettivo();
 }
 
+/// The improvements of a search belong to the data that it had.
+void frmGiunti::DimenticaSelezioni() {
+    for (std::int16_t i = 1; i <= NodoCorrente.NumeroGiunti; ++i)
+        NodoCorrente.Giunti[i]->AzzeraSelezione();
+}
+
 /// The current joint hangs on it.
 /// @param parametri  those that a design has found go, too
 void frmGiunti::GiuntoCambiato(bool parametri) {
+    if (parametri)
+        Corrente().AzzeraSelezione();
     if (parametri && Corrente().Criterio1)
         NodoCorrente.AzzeraParametriConnessione(NodoCorrente.nGiunto);
     AzzeraRisultati();

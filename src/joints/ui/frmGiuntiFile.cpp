@@ -19,7 +19,7 @@
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
-#include "joints/ConsigliGiunto.h"
+#include "joints/FormuleGiunto.h"
 #include "joints/RelazioneGiunto.h"
 #include "joints/ui/ComuneGiunti.h"
 #include "joints/ui/PlottaNodo.h"
@@ -35,11 +35,10 @@ constexpr const char* titoloForma = "Giunto Flangiato - F1 per aiuto";
 
 enum VoceFile : int { nuovo, apri, salva, stampa, stampaSuFile, ritorna, numVociFile };
 
-/// A box of results, the component in the drawing, and the quantity as the formulas know it.
+/// A box and the component in the drawing that it belongs to.
 struct Legame {
     const char* casella;
-    const char* id;
-    ComponenteGiunto componente = ComponenteGiunto::Nessuno;
+    ComponenteGiunto componente;
     FilaGiunto fila = FilaGiunto::Nessuna;
 };
 
@@ -47,76 +46,65 @@ using enum ComponenteGiunto;
 using enum FilaGiunto;
 
 constexpr Legame legami[] = {
-    {"txtF1", "VplRd_Pannello_c", Pannello},
-    {"txtF2", "FcRd_Anima_c", AnimaColonnaCompressa},
-    {"txtF3", "NbRd_Anima_c", InstabilitaAnimaColonna},
-    {"txtF4", "Bt_Rd", Bulloni},
-    {"txtF5", "FtRd_Anima_c", AnimaColonnaTesa},
-    {"txtF6", "Ftrd_FilaInf_c", AlaColonna},
-    {"txtF6_0", "Ftrd_FilaInf_c", AlaColonna, Interna},
-    {"txtF6_1", "Ftrd_FilaSup_c", AlaColonna, Esterna},
-    {"txtF6_0Ridistr", "Ftrd_FilaInfRid_c", AlaColonna, Interna},
-    {"txtF6_1Ridistr", "Ftrd_FilaSupRid_c", AlaColonna, Esterna},
-    {"txtF7", "FtRd_FilaInf_f", Flangia},
-    {"txtF7_0", "FtRd_FilaInf_f", Flangia, Interna},
-    {"txtF7_1", "FtRd_FilaSup_f", Flangia, Esterna},
-    {"txtF8", "FtRd_Anima_t", AnimaTrave},
-    {"txtFmin0", "FtRd_EffInf", Bulloni, Interna},
-    {"txtFmin1", "FtRd_EffSup", Bulloni, Esterna},
-    {"TxtMjRd", "MplRdGIUNTO"},
-    {"TxtMel", "M_elastico"},
-    {"txtMrdTrave", "McyRd"},
-    {"TxtVrd0", "Vrd0"},
-    {"TxtVrd1", "Vrd1"},
-    {"txtK_0", "k1", Pannello},
-    {"txtK_1", "k2", AnimaColonnaTesa},
-    {"txtK_2", "k4", AlaColonna},
-    {"txtK_3", "k5", Bulloni},
-    {"txtK_4", "k6", Flangia, Interna},
-    {"txtK_5", "k6_Estesa", Flangia, Esterna},
-    {"txtK_6", "k3", AnimaColonnaCompressa},
-    {"txtmu_0", "mu1", Pannello},
-    {"txtmu_1", "mu2", AnimaColonnaTesa},
-    {"txtmu_2", "mu4", AlaColonna},
-    {"txtmu_3", "mu5", Bulloni},
-    {"txtmu_4", "mu6", Flangia, Interna},
-    {"txtmu_5", "mu6_Estesa", Flangia, Esterna},
-    {"txtmu_6", "mu3", AnimaColonnaCompressa},
-    {"TxtCoef_0", "Beta", Pannello},
-    {"TxtCoef_1", "Kwc", AnimaColonnaCompressa},
-    {"TxtCoef_2", "Kfc", AlaColonna},
-    {"TxtSj_0", "Sj_MjRd"},
-    {"TxtSj_1", "Sj_Mela"},
-    {"TxtSj_2", "Sj_MjSd"},
-    {"txtLimite_0", "LimiteRigido2"},
-    {"txtLimite_1", "LimiteRigido1"},
-    {"txtLimite_2", "LimiteCerniera"},
-    {"Textd", "Diam", Bulloni},
-    {"Textd0", "d0", Bulloni},
-    {"Textdw", "rond_d2", Bulloni},
-    {"Textlb", "lb", Bulloni},
-    {"Textaf", "Af", Saldature},
-    {"Textaw", "aw", Saldature},
-    {"Textw", "w", Bulloni},
-    {"Textp", "pint", Bulloni},
-    {"Textec", "ec", AlaColonna},
-    {"Textmc", "mc", AlaColonna},
-    {"Textmf", "mf", Flangia},
-    {"Textm1", "m2", Flangia},
-    {"Textm2", "mx", Flangia},
-    {"Texthf", "hf", Flangia},
-    {"Txt_S_Irr", "Irr_Spessore", Irrigidimenti},
-    {"Txt_B_Irr", "Irr_B", Irrigidimenti},
-    {"Txt_L_Irr_0", "Irr_L1", Irrigidimenti},
-    {"Txt_L_Irr_1", "Irr_L2", Irrigidimenti},
-    {"Txt_Sal_Irr", "Irr_a", Irrigidimenti},
-    {"Texttf", "tf", Flangia},
-    {"Textbf", "bf", Flangia},
-    {"Textef", "ef", Flangia},
-    {"Textd2", "d2", Bulloni},
-    {"Textex", "ex", Bulloni},
-    {"Textdx", "dX", Bulloni},
-    {"Textu", "u", Flangia},
+    {"txtF1", Pannello},
+    {"txtF2", AnimaColonnaCompressa},
+    {"txtF3", InstabilitaAnimaColonna},
+    {"txtF4", Bulloni},
+    {"txtF5", AnimaColonnaTesa},
+    {"txtF6", AlaColonna},
+    {"txtF6_0", AlaColonna, Interna},
+    {"txtF6_1", AlaColonna, Esterna},
+    {"txtF6_0Ridistr", AlaColonna, Interna},
+    {"txtF6_1Ridistr", AlaColonna, Esterna},
+    {"txtF7", Flangia},
+    {"txtF7_0", Flangia, Interna},
+    {"txtF7_1", Flangia, Esterna},
+    {"txtF8", AnimaTrave},
+    {"txtFmin0", Bulloni, Interna},
+    {"txtFmin1", Bulloni, Esterna},
+    {"txtK_0", Pannello},
+    {"txtK_1", AnimaColonnaTesa},
+    {"txtK_2", AlaColonna},
+    {"txtK_3", Bulloni},
+    {"txtK_4", Flangia, Interna},
+    {"txtK_5", Flangia, Esterna},
+    {"txtK_6", AnimaColonnaCompressa},
+    {"txtmu_0", Pannello},
+    {"txtmu_1", AnimaColonnaTesa},
+    {"txtmu_2", AlaColonna},
+    {"txtmu_3", Bulloni},
+    {"txtmu_4", Flangia, Interna},
+    {"txtmu_5", Flangia, Esterna},
+    {"txtmu_6", AnimaColonnaCompressa},
+    {"TxtCoef_0", Pannello},
+    {"TxtCoef_1", AnimaColonnaCompressa},
+    {"TxtCoef_2", AlaColonna},
+    {"Textd", Bulloni},
+    {"Textd0", Bulloni},
+    {"Textdw", Bulloni},
+    {"Textlb", Bulloni},
+    {"Textaf", Saldature},
+    {"Textaw", Saldature},
+    {"Textw", Bulloni},
+    {"Textp", Bulloni},
+    {"Textec", AlaColonna},
+    {"Textmc", AlaColonna},
+    {"Textmf", Flangia},
+    {"Textm1", Flangia},
+    {"Textm2", Flangia},
+    {"Texthf", Flangia},
+    {"Txt_S_Irr", Irrigidimenti},
+    {"Txt_B_Irr", Irrigidimenti},
+    {"Txt_L_Irr_0", Irrigidimenti},
+    {"Txt_L_Irr_1", Irrigidimenti},
+    {"Txt_Sal_Irr", Irrigidimenti},
+    {"Texttf", Flangia},
+    {"Textbf", Flangia},
+    {"Textef", Flangia},
+    {"Textd2", Bulloni},
+    {"Textex", Bulloni},
+    {"Textdx", Bulloni},
+    {"Textu", Flangia},
 };
 
 const Legame* LegameDi(const QString& box) {
@@ -180,7 +168,7 @@ void frmGiunti::NuovoNodo() {
     NodoCorrente.ImpostaNodo();
     NodoCorrente.CaratterizzaGiunti();
     inAttesa_ = RuoloSagomo::Nessuno;
-    dalFile_ = false;
+    dalFile_ = {};
     firma_ = FirmaSagomi(NodoCorrente);
     {
         const QScopedValueRollback loading(CaricaForm, true);
@@ -213,7 +201,7 @@ bool frmGiunti::Legge(std::int16_t nFile) {
     NodoCorrente = node;
     firma_ = FirmaSagomi(NodoCorrente);
     inAttesa_ = RuoloSagomo::Nessuno;
-    dalFile_ = true;
+    dalFile_ = {true, true};
     {
         const QScopedValueRollback loading(CaricaForm, true);
         Casella("TxtDescrizione")->setText(QString::fromStdString(description));
@@ -283,27 +271,16 @@ void frmGiunti::PlottaSelezione(int riga) {
     sagomi::PlottaSelezione(*this, NodoCorrente, Corrente().RisultatiIntermedi_Estrai(), riga);
 }
 
-/// The results are those of the row from now on; the welds stay those of the search.
+/// The results are those of the row from now on.
 void frmGiunti::InserisciSelezione(int riga) {
-    Giunto& g = Corrente();
-    g.Acquisito = false;
-    g.DatiSelezione_Completa(TabellaSelezione(g.RisultatiIntermedi_Estrai()), riga);
-    NodoCorrente.Beta_Calcola();
-    g.Mrd_Giunto_Calcola();
-    g.Limiti();
-    g.Sj_Giunto_Calcola();
-    g.Acquisito = true;
-    dalFile_ = false;
+    NodoCorrente.EsegueSelezione(riga);
+    DalFile(false);
     documento_->Modifica();
     MostraRisultati();
 }
 
 std::string frmGiunti::IdFormula(const QString& casella) const {
-    const Legame* l = LegameDi(casella);
-    if (l == nullptr)
-        return {};
-    const bool stiffened = Corrente().Irrigidimenti != "No";
-    return stiffened && casella == QLatin1String("txtF2") ? "FcRd_AnimaIrrigidita_c" : l->id;
+    return std::string(sagomi::IdFormula(casella.toStdString(), Corrente()));
 }
 
 void frmGiunti::FormulaGiunto_Leggi(const std::string& id) {
@@ -333,7 +310,7 @@ void frmGiunti::FuocoPassato(const QWidget* controllo) {
     if (inRicerca_ || controllo == nullptr || controllo->window() != this)
         return;
     const Legame* l = LegameDi(controllo->objectName());
-    if (l == nullptr || l->componente == Nessuno)
+    if (l == nullptr)
         return;
     EvidenzaGiunto marks = Corrente().Acquisito ? Governa(Corrente()) : EvidenzaGiunto{};
     marks.governano = {{l->componente, l->fila}};
