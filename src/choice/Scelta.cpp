@@ -292,6 +292,7 @@ std::vector<std::size_t> PiuLeggeri(const std::vector<RigaScelta>& righe,
             noto->second = i;
     }
     std::vector<std::size_t> posti;
+    posti.reserve(migliori.size());
     for (const auto& [famiglia, posto] : migliori)
         posti.push_back(posto);
     std::ranges::sort(posti);

@@ -74,7 +74,7 @@ std::string InTesto(const Valore& v, std::string_view nessuno) {
 
 /// A field of CSV: between quotation marks where it would not be one field else.
 std::string InCsv(const Valore& v) {
-    const std::string testo = InTesto(v, "");
+    std::string testo = InTesto(v, "");
     if (testo.find_first_of(",\"\n") == std::string::npos)
         return testo;
     std::string s = "\"";
@@ -280,6 +280,7 @@ void ScriveVerifica(std::ostream& uscita, const Comando& comando, const SagomoIn
 void ScriveScelta(std::ostream& uscita, const Comando& comando, std::span<const SagomoInGara> sagomi,
                   const std::vector<RigaScelta>& righe, const std::vector<std::string>& messaggi) {
     std::vector<Valori> tabella;
+    tabella.reserve(righe.size());
     for (const RigaScelta& riga : righe)
         tabella.push_back(ValoriRiga(sagomi[riga.indice], riga));
     if (comando.formato == FormatoUscita::Csv) {
