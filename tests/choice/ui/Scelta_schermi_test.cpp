@@ -100,7 +100,7 @@ protected:
             EXPECT_EQ(std::isnan(mine), std::isnan(shown)) << what;
             return;
         }
-        EXPECT_NEAR(shown, mine, 1e-9 * std::max(1.0, mine)) << what;
+        EXPECT_NEAR(shown, mine, 1e-6 * std::max(1.0, mine)) << what; // entries go through texts into singles
         if (mine < 1 || (mine > 1.01 && mine < 99)) {
             EXPECT_TRUE(Scritta(&detail, "LblUtilizzo").starts_with("Utilizzo " + Formato("0.0", mine * 100)))
                 << what << ": " << Scritta(&detail, "LblUtilizzo") << " for " << mine;
