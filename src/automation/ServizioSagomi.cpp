@@ -110,7 +110,8 @@ void ServizioSagomi::Chiude(const QDBusMessage& chiamata) {
     }
     if (std::exchange(inChiusura_, true))
         return;
-    ServerAttivo = false; // from here on no event is raised
+    chiamata.setDelayedReply(true); // answered at once: the user may be asked before the program ends
+    bus_.send(chiamata.createReply());
     ChiudeAppenaLibero();
 }
 
@@ -120,10 +121,9 @@ void ServizioSagomi::ChiudeAppenaLibero() {
         menu->close();
     else if (QWidget* box = QApplication::activeModalWidget())
         box->close();
-    if (Libero()) {
-        sezione_.Quit();
-        inChiusura_ = ChiusuraInCorso; // the user, asked about work that is not saved, may have kept it
-    } else
+    if (Libero())
+        inChiusura_ = sezione_.Quit();
+    else
         QTimer::singleShot(pausa, this, &ServizioSagomi::ChiudeAppenaLibero);
 }
 

@@ -30,7 +30,8 @@ public:
     /// when the screens stand, or after a while where a message of the start waits for the user.
     void Crea(const QDBusMessage& chiamata);
 
-    /// The call of a client that ends the program. What is open in front of the screens is closed before.
+    /// The call of a client that ends the program. What is open in front of the screens is closed before; who
+    /// has work that is not saved is asked, and may keep the program open.
     void Chiude(const QDBusMessage& chiamata);
 
 private:

@@ -105,9 +105,13 @@ void SezioneSagomi::SagomoCambiato() {
         Solleva(ComunicaSagomo);
 }
 
-void SezioneSagomi::Quit() {
+bool SezioneSagomi::Quit() {
+    const bool prima = ServerAttivo;
     ServerAttivo = false;
-    ChiudiProgramma();
+    const bool chiuso = ChiudiProgramma();
+    if (!chiuso)
+        ServerAttivo = prima;
+    return chiuso;
 }
 
 void SezioneSagomi::SagomiQuittato() { Solleva(SagomiQuit); }

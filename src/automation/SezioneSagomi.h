@@ -53,7 +53,8 @@ public:
     void SagomoCambiato() override;
 
     /// Closes the program, without an event.
-    void Quit();
+    /// @return false where the user keeps it open for work that is not saved; events go on then
+    bool Quit();
 
     /// Raises SagomiQuit.
     void SagomiQuittato() override;

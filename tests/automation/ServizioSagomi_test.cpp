@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "frame/Messaggi.h"
+#include "frame/ui/DocumentoSchermo.h"
 #include "frame/ui/MessaggiQt.h"
 #include "screens/Ambiente.h"
 
@@ -180,7 +181,7 @@ TEST_F(ServizioSagomiTest, ASecondProcessFollowsTheUser) {
 
     client.Comanda("Quit");
     client.Attende("Quit fatto");
-    EXPECT_TRUE(ChiusuraInCorso);
+    EXPECT_TRUE(QTest::qWaitFor([] { return bool(ChiusuraInCorso); }));
     EXPECT_EQ(NavigaSchermi::Unico().Trova(QStringLiteral("frmDoppioT")), nullptr);
     EXPECT_TRUE(client.Intanto().isEmpty()) << "a client that closes is not told";
 }
@@ -253,10 +254,39 @@ TEST_F(ServizioSagomiTest, QuitClosesTheBoxThatIsOpenBefore) {
     });
     Avvisa("Letto da nessuno"); // comes back when somebody has closed the box
     EXPECT_TRUE(open);
-    EXPECT_FALSE(ServerAttivo);
     client.Attende("Quit fatto");
     EXPECT_TRUE(QTest::qWaitFor([] { return bool(ChiusuraInCorso); }));
     EXPECT_TRUE(client.Intanto().isEmpty());
+}
+
+/// A screen with work that is not saved.
+struct ConLavoro : SchermoConFile {
+    QWidget finestra;
+    DocumentoSchermo* documento = nullptr;
+    ConLavoro() {
+        documento = new DocumentoSchermo(*this, {"Prova", "prv", "prv"});
+        documento->Modifica();
+    }
+    void FileLeggeScrive(std::string_view /*modo*/, std::int16_t /*nFile*/) override {}
+    [[nodiscard]] QString PrefissoTitolo() const override { return {}; }
+    [[nodiscard]] QWidget* Finestra() override { return &finestra; }
+};
+
+TEST_F(ServizioSagomiTest, QuitLosesNoWorkOfTheUser) {
+    Cliente client(Comando());
+    SchermoSezione& first = Crea(client);
+    {
+        ConLavoro work; // the question is answered no
+        client.Comanda("Quit");
+        client.Attende("Quit fatto");
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !registratore.testi.empty(); }));
+        EXPECT_FALSE(ChiusuraInCorso);
+        first.Data1->MoveNext();
+        EXPECT_EQ(client.Sagomo()["Designation"], "IPE 100") << "events go on";
+    }
+    client.Comanda("Quit");
+    client.Attende("Quit fatto");
+    EXPECT_TRUE(QTest::qWaitFor([] { return bool(ChiusuraInCorso); }));
 }
 
 TEST_F(ServizioSagomiTest, AMessageOfTheStartDoesNotKeepTheClientWaiting) {

@@ -136,6 +136,8 @@ TEST_F(DocumentoSchermoTest, ProgramDoesNotCloseOverUnsavedWork) {
     EXPECT_FALSE(ChiusuraInCorso);
     ASSERT_EQ(registratore.testi.size(), 1U);
     EXPECT_EQ(registratore.testi[0], domanda);
+    ServerAttivo = true; // the work is the user's, also where a client has opened the program
+    EXPECT_FALSE(ChiudiProgramma());
     const Registratore yes(true);
     EXPECT_TRUE(ChiudiProgramma());
 }
