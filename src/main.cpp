@@ -10,6 +10,8 @@
 
 #include "choice/Comando.h"
 #include "frame/Cartelle.h"
+#include "frame/ui/Protetto.h"
+#include "screens/ApreFile.h"
 #include "screens/GeneraleSchermi.h"
 
 namespace {
@@ -34,5 +36,7 @@ int main(int argc, char* argv[]) {
     sagomi::PreparaApplicazione();
     fonts.join();
     sagomi::Main();
+    for (const QString& file : QApplication::arguments().mid(1))
+        sagomi::Protetto("Errore", [&file] { sagomi::ApreFile(file); });
     return QApplication::exec();
 }

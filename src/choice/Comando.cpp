@@ -14,7 +14,7 @@ namespace sagomi {
 
 namespace {
 
-constexpr auto guida = R"(Uso: sagomi                              apre le finestre
+constexpr auto guida = R"(Uso: sagomi [file.sco|file.gfl]          apre le finestre, e il file
      sagomi --verifica "HEA 200" [opzioni]   verifica un sagomo
      sagomi --scelta [opzioni]               verifica tutti i sagomi, i più leggeri per primi
      sagomi --help, --version

@@ -1,0 +1,35 @@
+#include "screens/ApreFile.h"
+
+#include "screens/Comandi.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class ApreFileTest : public AmbienteSchermi {};
+
+TEST_F(ApreFileTest, AFileOfABeamOpensOnItsScreen) {
+    Avvia();
+    EXPECT_TRUE(ApreFile(QStringLiteral(SAGOMI_TEST_DATA "/composite/piena.sco")));
+    EXPECT_EQ(Aperto("frmAcciaioCls").windowTitle(), "AcciaioCls/Flessione - File: piena.sco");
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(ApreFileTest, WhatIsNoFileOfTheProgramIsTold) {
+    Avvia();
+    EXPECT_FALSE(ApreFile(QStringLiteral("foglio.txt")));
+    ASSERT_EQ(registratore.testi.size(), 1U);
+    EXPECT_EQ(registratore.testi[0], "Errore: foglio.txt non è un file di Sagomi (Gfl, Sco)");
+    EXPECT_TRUE(Aperto("frmDoppioT").isVisible());
+}
+
+TEST_F(ApreFileTest, AFileThatIsNotThereIsTold) {
+    Avvia();
+    EXPECT_FALSE(ApreFile(QStringLiteral("/nessuna/trave.SCO")));
+    ASSERT_FALSE(registratore.testi.empty());
+    EXPECT_TRUE(registratore.testi[0].starts_with("Non è possibile leggere il file "))
+        << registratore.testi[0];
+}
+
+} // namespace
