@@ -57,7 +57,7 @@ TEST_F(FigureTravi, OfTheScreensAtWork) {
     Premi(f, "cmdConnessioni");
     Schermo& c = Aperto("frmConnettori");
     Figura(c, "nuova");
-    Trova<QLineEdit>(&c, "txtInput_3")->setText(QStringLiteral("4"));
+    Trova<QLineEdit>(&c, "txtInput_3")->setText(QString::fromStdString(Locale("7.6")));
     Figura(c, "digitando");
     Premi(&c, "CmdProgetta");
     Figura(c, "trasversale");
