@@ -29,6 +29,18 @@ if(SAGOMI_UI)
           COMPONENT programma)
   install(FILES ${PROJECT_SOURCE_DIR}/data/comando/sagomi.bash RENAME sagomi
           DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT programma)
+  # What a desktop shows of the program: its entry in the menu, its icons, its kinds of files.
+  set(scrivania ${PROJECT_SOURCE_DIR}/data/scrivania)
+  install(FILES ${scrivania}/org.sagomi.Sagomi.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications
+          COMPONENT programma)
+  install(FILES ${scrivania}/org.sagomi.Sagomi.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
+          COMPONENT programma)
+  install(FILES ${scrivania}/org.sagomi.Sagomi.mime.xml RENAME org.sagomi.Sagomi.xml
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages COMPONENT programma)
+  set(icone ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable)
+  install(FILES ${scrivania}/org.sagomi.Sagomi.svg DESTINATION ${icone}/apps COMPONENT programma)
+  install(FILES ${scrivania}/application-x-sagomi-giunto.svg ${scrivania}/application-x-sagomi-trave.svg
+          DESTINATION ${icone}/mimetypes COMPONENT programma)
   list(APPEND accanto Sagomi.hlp GiuntoFlangiato.hlp FormuleGiunto.rtf)
 endif()
 list(TRANSFORM accanto PREPEND ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/)
