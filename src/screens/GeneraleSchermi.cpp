@@ -17,6 +17,8 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/StampaDiSchermo.h"
 #include "frame/ui/StileMinuto.h"
+#include "frame/ui/TestoGuida.h"
+#include "screens/FigureGuida.h"
 #include "screens/StampaSchermo.h"
 #include "screens/StatoUtente.h"
 #include "screens/TavolaSchermi.h"
@@ -56,6 +58,7 @@ void PreparaApplicazione() {
     CollegaMessaggiQt();
     CollegaAttesaQt();
     Guida::Installa();
+    TestoGuida::figura = FiguraGuida;
     ImpostaStampa(StampaSchermo);
 }
 

@@ -194,7 +194,7 @@ void FinestraGuida::Cerca() {
 void FinestraGuida::Riempie(QListWidget& lista, const QList<ArgomentoGuida>& argomenti) {
     lista.clear();
     for (const ArgomentoGuida& topic : argomenti) {
-        const QString indent(topic.livello > 2 ? 4 : 0, u' ');
+        const QString indent(topic.livello > 1 ? 3 * (topic.livello - 1) : 0, u' ');
         auto* item = new QListWidgetItem(indent + topic.titolo, &lista);
         item->setData(Qt::UserRole, TestoGuida::Indirizzo(topic.file, topic.ancora));
         item->setToolTip(topic.titolo);
@@ -207,12 +207,14 @@ void FinestraGuida::ApreTrova() {
     trova_->selectAll();
 }
 
-/// Round and round, from where the last word was found.
+/// Round and round, from where the last word was found, at first from what is in sight.
 void FinestraGuida::Trova(bool avanti) {
     if (trova_->text().isEmpty()) {
         ApreTrova();
         return;
     }
+    if (!testo_->textCursor().hasSelection())
+        testo_->setTextCursor(testo_->cursorForPosition({0, 0}));
     const auto how = avanti ? QTextDocument::FindFlags() : QTextDocument::FindBackward;
     bool found = testo_->find(trova_->text(), how);
     if (!found) {

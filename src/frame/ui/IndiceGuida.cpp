@@ -46,6 +46,9 @@ QString Trova(const QString& html, const QString& screen, const QStringList& nam
     for (const QString& name : names)
         if (const qsizetype place = Posto(html, name); place >= 0 && place > screenPlace)
             return name;
+    for (const QString& name : names)
+        if (const QString shared = QStringLiteral("*.") + name; Posto(html, shared) >= 0)
+            return shared;
     return {};
 }
 
@@ -71,7 +74,7 @@ QString LeggeGuida(const QString& file) {
 }
 
 QList<ArgomentoGuida> ArgomentiGuida(const QString& file, const QString& html) {
-    static const QRegularExpression heading(QStringLiteral("<h([23])>(.*?)</h\\1>"),
+    static const QRegularExpression heading(QStringLiteral("<h([123])>(.*?)</h\\1>"),
                                             QRegularExpression::DotMatchesEverythingOption);
     QList<ArgomentoGuida> topics;
     qsizetype below = 0;

@@ -8,8 +8,7 @@ class QWidget;
 
 namespace sagomi {
 
-/// The help files: HTML whose headings, from the second level on, begin its topics. Places carry the names of
-/// screens and controls.
+/// The help files: HTML whose headings begin its topics. Places carry the names of screens and controls.
 
 /// A topic of a help file, or a word of its index.
 struct ArgomentoGuida {

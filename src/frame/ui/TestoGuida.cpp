@@ -24,6 +24,8 @@ QUrl TestoGuida::Indirizzo(const QString& file, const QString& ancora) {
 }
 
 QVariant TestoGuida::loadResource(int type, const QUrl& name) {
+    if (type == QTextDocument::ImageResource && name.scheme() == QLatin1String("figura") && figura)
+        return figura(name.path());
     if (type != QTextDocument::HtmlResource)
         return {};
     return LeggeGuida(name.path().section(u'/', -1));

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QImage>
 #include <QTextBrowser>
 #include <QUrl>
+
+#include <functional>
 
 namespace sagomi {
 
@@ -14,7 +17,11 @@ public:
     /// The address of a place in a help file.
     [[nodiscard]] static QUrl Indirizzo(const QString& file, const QString& ancora);
 
-    /// The text of a help file.
+    /// Draws the pictures of the help, <img src="figura:NAME">, by their names; an empty one leaves its place
+    /// empty.
+    inline static std::function<QImage(const QString& nome)> figura;
+
+    /// The text of a help file, or a picture in it.
     QVariant loadResource(int type, const QUrl& name) override;
 
 protected:

@@ -1,0 +1,56 @@
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTableView>
+
+#include "frame/ui/IndiceGuida.h"
+#include "screens/Comandi.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class GuidaSchermiTest : public AmbienteSchermi {
+protected:
+    void SetUp() override {
+        AmbienteSchermi::SetUp();
+        CopiaAccanto("GiuntoFlangiato.hlp");
+    }
+};
+
+/// What the user can have in hand, with a name that the help may know.
+bool InMano(const QWidget* w) {
+    const bool part = w->objectName().isEmpty() || w->objectName().startsWith(QStringLiteral("qt_")) ||
+                      w->objectName().startsWith(QStringLiteral("Scroll")) ||
+                      w->objectName() == u"txtNascosto" || // never in sight
+                      qobject_cast<const QComboBox*>(w->parentWidget()) != nullptr;
+    return !part &&
+           (qobject_cast<const QAbstractButton*>(w) != nullptr ||
+            qobject_cast<const QLineEdit*>(w) != nullptr || qobject_cast<const QComboBox*>(w) != nullptr ||
+            qobject_cast<const QTableView*>(w) != nullptr);
+}
+
+// The topic of the control itself or of the part that it stands in: that of the whole window says too little.
+TEST_F(GuidaSchermiTest, EveryControlOfEveryScreenHasItsTopic) {
+    Schermo& main = Avvia();
+    auto& n = NavigaSchermi::Unico();
+    int controls = 0;
+    for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
+        const Schermo& screen = n.Prendi(voce.nome);
+        const QString html = LeggeGuida(screen.FileGuida());
+        ASSERT_FALSE(html.isEmpty());
+        EXPECT_FALSE(AncoraDi(html, voce.nome).isEmpty()) << voce.nome.toStdString();
+        for (const QWidget* w : screen.findChildren<QWidget*>())
+            if (InMano(w) && w->window() == &screen) {
+                const QString place = AncoraDi(html, w);
+                EXPECT_TRUE(!place.isEmpty() && (place != voce.nome || voce.nome == u"FrmInform"))
+                    << voce.nome.toStdString() << '.' << w->objectName().toStdString();
+                ++controls;
+            }
+    }
+    EXPECT_GT(controls, 500);
+    EXPECT_TRUE(main.isVisible());
+}
+
+} // namespace
