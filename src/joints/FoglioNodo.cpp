@@ -98,6 +98,8 @@ std::vector<DisposizioneViste> FoglioNodo::Disposizioni() const {
                                        piu(aP, sotto),
                                        {m.y2 - n.y1, laterale_.su + prospetto_.giu + sotto},
                                        {n.y2 - m.y1, prospetto_.su + laterale_.giu + sotto}}}};
+    if (Schermo()) // one view over the other, however wide the room
+        d = {d[0], d[2]};
     for (DisposizioneViste& x : d) {
         x.larghezze.push_back({0, larghezzaTitoli_});
         for (Ingombro& i : x.larghezze)
@@ -120,7 +122,8 @@ void FoglioNodo::Colloca() {
     const double sotto = cima - larga(Alto(laterale_));
     const double destraP = larga(Largo(prospetto_)) + primaDeiTesti * a;
     dove_[0] = posto(laterale_, x, cima);
-    switch (tavola_->Scelta()) {
+    const std::size_t scelta = Schermo() ? 2 * tavola_->Scelta() : tavola_->Scelta();
+    switch (scelta) {
     case 0:
         dove_[1] = posto(prospetto_, x, sotto);
         testi_ = {x + destraP, sotto};
@@ -131,7 +134,7 @@ void FoglioNodo::Colloca() {
         dove_[0].y = y;
         dove_[1] = {posto(prospetto_, x + larga(Largo(laterale_)), 0).x, y};
         testi_ = {x + larga(Largo(laterale_)) + destraP, cima};
-        if (tavola_->Scelta() == 3)
+        if (scelta == 3)
             testi_ = {x, (margine + piede_ + AltezzaColonna()) * a};
         break;
     }

@@ -337,6 +337,17 @@ TEST_F(FiguraGiuntoTest, TextsDoNotTouch) {
     }
 }
 
+TEST_F(FiguraGiuntoTest, TheFrontViewStandsBelowTheSideView) {
+    for (const double larga : {400.0, 480.0, 900.0, 1400.0}) {
+        const SuperficieFinta s = Figura(NodoDisegnato(nodoT, 2), {}, larga, 650);
+        const auto colonna = std::find_if(s.scritte.begin(), s.scritte.end(),
+                                          [](const auto& t) { return t.testo == "HE 200 B"; });
+        ASSERT_NE(colonna, s.scritte.end());
+        for (const auto& c : s.cerchi) // the holes, below the foot of the side view
+            EXPECT_LT(c.y, colonna->y) << larga;
+    }
+}
+
 TEST_F(FiguraGiuntoTest, ABrokenLimitIsARedDimension) {
     EvidenzaGiunto e;
     e.parametro = "ef";
