@@ -145,6 +145,7 @@ QWidget* StanzaRisultati() {
           risultato},
          0);
     auto* row = new QHBoxLayout;
+    row->setSpacing(6);
     row->addWidget(Scritta("lblK", "Fattore di riduzione k"));
     row->addWidget(Bottone("lblDomandaPrd", "?", "Le due resistenze del piolo, acciaio e calcestruzzo"));
     row->addStretch(1);
