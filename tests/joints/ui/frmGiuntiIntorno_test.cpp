@@ -1,0 +1,172 @@
+// What stands around the joint screen, on the screen itself: the list of improvements, formulas and notes,
+// the report on paper.
+#include <QLabel>
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTableView>
+#include <QTest>
+#include <QTextBrowser>
+
+#include "drawing/ui/Immagini.h"
+#include "drawing/ui/ScegliDispositivo.h"
+#include "frame/ui/FileDialogo.h"
+#include "joints/ui/AmbienteGiunti.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+class IntornoGiuntiTest : public AmbienteGiunti {
+protected:
+    void SetUp() override {
+        AmbienteGiunti::SetUp();
+        CopiaAccanto("FormuleGiunto.rtf");
+    }
+    void TearDown() override {
+        ImpostaSceltaFile({});
+        ImpostaSceltaStampante({});
+        AmbienteGiunti::TearDown();
+    }
+    Giunto& Joint() const { return *g->NodoCorrente.ConnessioneCorrente; }
+    void Progettato() {
+        NodoT();
+        Scrive("TxtL_Dx", "6");
+        Sceglie("OptOttimizza_1");
+        Scrive("Texttf_1", "25");
+        Scrive("TextL", "100");
+        Scrive("Textu_1", "20");
+        Premi(g, "cmdCalcola");
+        ASSERT_GT(Joint().RisultatiIntermedi_Estrai().n(), 1);
+    }
+    void DoppioClic(const char* casella) const {
+        const auto* box = Trova<QLineEdit>(g, casella);
+        for (QLabel* label : g->findChildren<QLabel*>())
+            if (label->buddy() == box)
+                QTest::mouseDClick(label, Qt::LeftButton);
+    }
+    [[nodiscard]] QString Percorso(const char* name) const {
+        return cartella.filePath(QString::fromUtf8(name));
+    }
+    void Menu(int i) const { Trova<QAction>(g, ("mnufileitem_" + std::to_string(i)).c_str())->trigger(); }
+    static std::string Formula() {
+        return Trova<QTextBrowser>(&Aperto("FrmInfoGiunti"), "RichTextBox4")->toPlainText().toStdString();
+    }
+};
+
+/// A check sizes the welds for its own plate; the row brings those of its search back.
+TEST_F(IntornoGiuntiTest, RowFromTheListGivesItsMomentAlsoAfterACheck) {
+    Progettato();
+    const auto M = std::get<std::string>(Joint().RisultatiIntermedi_Estrai()[1][2]);
+    Sceglie("OptCriterio_1");
+    Premi(g, "cmdCalcola");
+    Premi(g, "CmdRisultati");
+    const Schermo& list = Aperto("FrmRisultatiIntermedi");
+    Trova<QTableView>(&list, "Griglia")->selectRow(0);
+    Premi(&list, "CmdInsericiSelezione");
+    EXPECT_EQ(Formato("0.00", Joint().MplRdGIUNTO), M);
+    EXPECT_EQ(Legge("TxtMjRd"), FormatoCifre(4, Joint().MplRdGIUNTO));
+}
+
+TEST_F(IntornoGiuntiTest, OtherDataForgetTheImprovements) {
+    Progettato();
+    Premi(g, "CmdRisultati");
+    const Schermo& list = Aperto("FrmRisultatiIntermedi");
+    EXPECT_GT(Trova<QTableView>(&list, "Griglia")->model()->rowCount(), 1);
+    Scrive("TxtM_Col", "10");
+    EXPECT_EQ(Joint().RisultatiIntermedi_Estrai().n(), 0);
+    EXPECT_FALSE(Trova<QPushButton>(g, "CmdRisultati")->isEnabled());
+}
+
+TEST_F(IntornoGiuntiTest, DoubleClickOnANameOpensItsFormula) {
+    NodoT();
+    DoppioClic("txtF5");
+    EXPECT_THAT(Formula(), HasSubstr("Ft,Rd = beff · tw,c · fy,c / γM0"));
+    Sceglie("Optirr_1");
+    DoppioClic("txtF2");
+    EXPECT_THAT(Formula(), HasSubstr("con irrigidimento"));
+    DoppioClic("TextL");
+    EXPECT_THAT(Formula(), HasSubstr("h'min"));
+}
+
+TEST_F(IntornoGiuntiTest, EveryFormulaIsThere) {
+    NodoT();
+    int formulas = 0;
+    for (QLabel* label : g->findChildren<QLabel*>()) {
+        if (label->buddy() == nullptr || !label->toolTip().startsWith(QStringLiteral("Doppio clic")))
+            continue;
+        QTest::mouseDClick(label, Qt::LeftButton);
+        EXPECT_TRUE(Detto().empty()) << label->buddy()->objectName().toStdString();
+        ++formulas;
+    }
+    EXPECT_GT(formulas, 40);
+}
+
+TEST_F(IntornoGiuntiTest, InfoTellsOfTheStiffeners) {
+    NodoT();
+    Sceglie("Optirr_2");
+    Premi(g, "CmdInfo");
+    EXPECT_THAT(Formula(), HasSubstr("in zona compressa"));
+    EXPECT_THAT(Formula(), Not(HasSubstr("superiore")));
+}
+
+TEST_F(IntornoGiuntiTest, EachJointOfAFileIsMarkedUntilItIsComputed) {
+    Apre();
+    Prende("CmdColonnaInf", "HEB 200");
+    Prende("CmdTraveDx", "IPE 270");
+    Prende("CmdTraveSx", "IPE 270");
+    auto* joints = Trova<QComboBox>(g, "CboGiunto");
+    for (const int i : {0, 1}) {
+        joints->setCurrentIndex(i);
+        Verifica1Fila();
+        Premi(g, "cmdCalcola");
+    }
+    const QString file = Percorso("nodo.Gfl");
+    ImpostaSceltaFile(
+        [file](QWidget*, std::string_view, const QString&, int, const QString&) { return file; });
+    Menu(2);
+    Menu(1);
+    EXPECT_THAT(Scritta(g, "LblStato"), HasSubstr("dal file"));
+    Premi(g, "cmdCalcola");
+    EXPECT_THAT(Scritta(g, "LblStato"), Not(HasSubstr("dal file")));
+    joints->setCurrentIndex(1);
+    EXPECT_THAT(Scritta(g, "LblStato"), HasSubstr("dal file"));
+}
+
+TEST_F(IntornoGiuntiTest, PaperAndFileHaveTheSameLines) {
+    if (!ConPoppler())
+        GTEST_SKIP() << "poppler-utils is not installed";
+    NodoT();
+    Verifica2File();
+    Premi(g, "cmdCalcola");
+    const QString file = Percorso("relazione.txt");
+    const QString pdf = Percorso("relazione.pdf");
+    ImpostaSceltaFile(
+        [file](QWidget*, std::string_view, const QString&, int, const QString&) { return file; });
+    ImpostaSceltaStampante([pdf](QPrinter& printer, QWidget*) {
+        printer.setOutputFileName(pdf);
+        return true;
+    });
+    Menu(3);
+    Menu(4);
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+    ASSERT_TRUE(reader.waitForFinished());
+    const auto lines = [](const QString& text) {
+        QStringList all;
+        for (const QString& line : text.split(QRegularExpression(QStringLiteral("[\r\n\f]+"))))
+            if (!line.trimmed().isEmpty())
+                all << line.simplified();
+        return all;
+    };
+    QFile written(file);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    const QStringList onFile = lines(QString::fromLatin1(written.readAll()));
+    EXPECT_GT(onFile.size(), 60);
+    EXPECT_EQ(lines(QString::fromUtf8(reader.readAllStandardOutput())), onFile);
+}
+
+} // namespace
