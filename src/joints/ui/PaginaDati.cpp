@@ -11,6 +11,7 @@
 #include <array>
 
 #include "frame/ui/Voce.h"
+#include "joints/DisegniScelte.h"
 #include "joints/ui/PezziPagina.h"
 
 namespace sagomi {
@@ -132,8 +133,14 @@ QWidget* PaginaDati::CreaNodo() {
     kinds[0]->setChecked(true);
     grid->addWidget(CreaScritta("Due travi"), 0, 0, 1, 2);
     grid->addWidget(CreaScritta("Una trave"), 0, 2, 1, 2);
-    for (int i = 0; i < kinds.size(); ++i)
+    constexpr const char* pictures[] = {"PicCroce", "PicT", "PicTDx", "PicLDx"};
+    for (int i = 0; i < kinds.size(); ++i) {
+        const QByteArray read = "Disegno: " + kinds[i]->accessibleName().toUtf8();
+        grid->addWidget(
+            CreaFigura(pictures[i], read.constData(), DisegnoTipoNodo(static_cast<std::int16_t>(i))),
+            1 + i % 2, 2 * (i / 2));
         grid->addWidget(kinds[i], 1 + i % 2, 2 * (i / 2) + 1);
+    }
     grid->setColumnStretch(4, 1);
     return room;
 }

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "frame/ui/Voce.h"
+#include "joints/DisegniScelte.h"
 #include "joints/ui/PezziPagina.h"
 
 namespace sagomi {
@@ -75,10 +76,12 @@ QWidget* PaginaProgetto::CreaImpostazioni() {
     line(0, "Bulloni",
          ScelteInRiga(
              options("Optres", {{"Classe 8.8", "fub 800 N/mm²"}, {"Classe 10.9", "fub 1000 N/mm²"}})));
+    const QList<QRadioButton*> rows =
+        options("Optfila", {{"1 fila ", "Una fila di bulloni, sotto l'ala tesa della trave"},
+                            {"2 file ", "Due file di bulloni: la piastra sporge oltre l'ala tesa"}});
     line(1, "File tese",
-         ScelteInRiga(
-             options("Optfila", {{"1 fila ", "Una fila di bulloni, sotto l'ala tesa della trave"},
-                                 {"2 file ", "Due file di bulloni: la piastra sporge oltre l'ala tesa"}})));
+         InRiga(QList<QWidget*>{CreaFigura("Pic1Fila", "Disegno: 1 fila", DisegnoFile(1)), rows[0],
+                                CreaFigura("Pic2Fila", "Disegno: 2 file", DisegnoFile(2)), rows[1]}));
     const QList<QRadioButton*> stiffeners =
         options("Optirr", {{"senza irrigidimenti", "Nessun irrigidimento d'anima nella colonna"},
                            {"con irrigidimenti", "Irrigidimenti in zona tesa e compressa"},

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "drawing/ui/ImmagineDisegno.h"
 #include "frame/ui/Accessibilita.h"
 
 namespace sagomi {
@@ -33,6 +34,16 @@ QList<QRadioButton*> CreaScelte(QWidget* padre, const char* nome, const QList<Sc
         buttons << button;
     }
     return buttons;
+}
+
+QWidget* CreaFigura(const char* nome, const char* letta, const Disegno& disegno) {
+    auto* picture = new ImmagineDisegno;
+    picture->setObjectName(QString::fromUtf8(nome));
+    picture->setAccessibleName(QString::fromUtf8(letta));
+    picture->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    picture->Mostra(disegno);
+    picture->setFocusPolicy(Qt::NoFocus);
+    return picture;
 }
 
 QLabel* CreaScritta(const char* testo, QWidget* controllo) {

@@ -4,8 +4,6 @@
 #include <QList>
 #include <QString>
 
-class QButtonGroup;
-class QComboBox;
 class QGridLayout;
 class QHBoxLayout;
 class QLabel;
@@ -15,7 +13,7 @@ class QRadioButton;
 /// The pieces that the tabs of the joint screen are made of. Texts are UTF-8.
 namespace sagomi {
 
-class EtichettaRisultato;
+struct Disegno;
 
 /// An option of a choice.
 struct Scelta {
@@ -30,6 +28,9 @@ QGridLayout* CreaStanza(QGroupBox* stanza, const char* nome, const char* titolo)
 /// Options name_0, name_1, ... of which one is chosen.
 /// @param padre  of the buttons' group
 QList<QRadioButton*> CreaScelte(QWidget* padre, const char* nome, const QList<Scelta>& scelte);
+
+/// A small picture beside a choice, outside the tab order.
+QWidget* CreaFigura(const char* nome, const char* letta, const Disegno& disegno);
 
 /// A plain caption, of a control where one is given.
 QLabel* CreaScritta(const char* testo, QWidget* controllo = nullptr);

@@ -1,3 +1,4 @@
+#include "drawing/ui/ImmagineDisegno.h"
 #include "joints/ui/AmbienteGiunti.h"
 
 using namespace sagomi;
@@ -63,6 +64,16 @@ TEST_F(FrmGiuntiTest, AllControlsStandWithTheirTexts) {
           "txtF8",       "txtF6_1Ridistr", "txtFmin0",       "txtFmin1",  "txtMrdTrave", "TxtSj_2",
           "txtLimite_2", "txtK_6",         "txtmu_6",        "TxtCoef_2", "Txt_L_Irr_1"})
         EXPECT_TRUE(Trova<QLineEdit>(g, name)->isReadOnly()) << name;
+}
+
+TEST_F(FrmGiuntiTest, ChoicesHaveTheirPictures) {
+    Apre();
+    for (const char* name : {"PicCroce", "PicT", "PicTDx", "PicLDx", "Pic1Fila", "Pic2Fila"}) {
+        auto* picture = Trova<ImmagineDisegno>(g, name);
+        EXPECT_TRUE(picture->Mostrato().PlottaInOggetto) << name;
+        EXPECT_EQ(picture->focusPolicy(), Qt::NoFocus) << name;
+        EXPECT_FALSE(picture->grab().isNull());
+    }
 }
 
 TEST_F(FrmGiuntiTest, DesignOrCheckNamesTheCommand) {
