@@ -30,7 +30,8 @@ SuperficieFigura::SuperficieFigura(QPainter& pittore, const QSizeF& misura, cons
 
 QSize InPixel(const Misura& misura, const QFont& carattere) {
     const int text = QFontMetrics(carattere).horizontalAdvance(QString::fromStdString(misura.campione));
-    const double ratio = std::clamp(carattere.pointSizeF() / QApplication::font().pointSizeF(), minimo, 1.0);
+    const double usual = QFontMetricsF(QApplication::font()).height();
+    const double ratio = std::clamp(QFontMetricsF(carattere).height() / usual, minimo, 1.0);
     return {static_cast<int>(ratio * misura.larghezza) + text, static_cast<int>(ratio * misura.altezza)};
 }
 

@@ -48,6 +48,17 @@ TEST_F(ImmagineDisegnoTest, HasTheSizesOfItsDrawing) {
     EXPECT_EQ(immagine.minimumSizeHint(), immagine.sizeHint());
 }
 
+TEST_F(ImmagineDisegnoTest, IsSmallerWithSmallTextsDownToHalf) {
+    immagine.Mostra(Riga());
+    QFont font = immagine.font();
+    font.setPixelSize(40); // a size in pixels counts as well
+    immagine.setFont(font);
+    EXPECT_EQ(immagine.sizeHint(), QSize(120, 80)) << "never larger";
+    font.setPixelSize(2);
+    immagine.setFont(font);
+    EXPECT_EQ(immagine.sizeHint(), QSize(60, 40));
+}
+
 TEST_F(ImmagineDisegnoTest, DrawsOverTheWholeOfItsSize) {
     immagine.resize(200, 100);
     immagine.Mostra(Riga());
