@@ -4,6 +4,8 @@
 #include <QEvent>
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 #include "frame/ui/Colori.h"
 #include "frame/ui/Protetto.h"
 
@@ -48,7 +50,9 @@ void Casella::ImpostaSegno(Segno segno) {
 
 // The first figures of a number are the ones that count; a box left to itself shows the last ones.
 void Casella::MostraTesta() {
-    const bool cut = Risultato() && fontMetrics().horizontalAdvance(text()) > width() - margine / 2;
+    const bool fixed = sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+    const int room = fixed ? std::min(width(), sizeHint().width()) : width(); // also before it is laid out
+    const bool cut = Risultato() && fontMetrics().horizontalAdvance(text()) > room - margine / 2;
     if (Risultato())
         setCursorPosition(0);
     if (intero_.isEmpty() || toolTip() != intero_)
