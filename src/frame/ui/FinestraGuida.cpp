@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -21,7 +22,8 @@ namespace sagomi {
 namespace {
 
 constexpr std::array fileGuida{"Sagomi.hlp", "GiuntoFlangiato.hlp"};
-constexpr QSize almeno(900, 600);
+constexpr QSize misura(900, 600);
+constexpr QSize cornice(16, 54);     ///< title bar and borders of the window manager
 constexpr int larghezzaIndice = 260; // [px]
 
 QPushButton* Bottone(const char* nome, const QString& testo, const QString& aiuto) {
@@ -66,10 +68,10 @@ FinestraGuida::FinestraGuida() : testo_(new TestoGuida) {
     reading->addWidget(CreaTrova());
     halves->addWidget(right);
     halves->setStretchFactor(1, 1);
-    halves->setSizes({larghezzaIndice, almeno.width() - larghezzaIndice});
+    halves->setSizes({larghezzaIndice, misura.width() - larghezzaIndice});
     column->addWidget(halves, 1);
     CollegaTasti();
-    resize(almeno);
+    resize(misura.boundedTo(screen()->availableSize() - cornice));
 }
 
 QWidget* FinestraGuida::CreaComandi() {
