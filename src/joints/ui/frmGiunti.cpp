@@ -43,7 +43,7 @@ frmGiunti::frmGiunti() : Schermo(QStringLiteral("frmGiunti")), ui_(new Ui::frmGi
     PreparaDocumento();
     ScriveSagomi();
     CriterioScelto();
-    DimensionaIniziale({});
+    DimensionaIniziale({1340, 690}); // room for the drawing
 }
 
 frmGiunti::~frmGiunti() = default;
