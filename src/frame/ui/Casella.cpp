@@ -50,8 +50,7 @@ void Casella::ImpostaSegno(Segno segno) {
 
 // The first figures of a number are the ones that count; a box left to itself shows the last ones.
 void Casella::MostraTesta() {
-    const bool fixed = sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
-    const int room = fixed ? std::min(width(), sizeHint().width()) : width(); // also before it is laid out
+    const int room = testAttribute(Qt::WA_Resized) ? width() : sizeHint().width(); // before it is laid out
     const bool cut = Risultato() && fontMetrics().horizontalAdvance(text()) > room - margine / 2;
     if (Risultato())
         setCursorPosition(0);

@@ -92,6 +92,7 @@ QWidget* CreaDescrizione() {
     QWidget* box = CreaCampo({.nome = "TxtDescrizione",
                               .aiuto = "Descrizione del progetto, nel file e nella relazione",
                               .letta = "Descrizione"});
+    box->setProperty("parole", true); // no number
     static_cast<QLineEdit*>(box)->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return box;
