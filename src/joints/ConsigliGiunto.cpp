@@ -12,6 +12,11 @@ struct Consiglio {
     std::vector<std::string> righe;
 };
 
+constexpr const char* cambiareColonna = "- Cambiare il sagomo della colonna, aumentando lo spessore "
+                                        "dell'anima, dell'ala o il raggio di raccordo;";
+constexpr const char* rigidezzaFlangia =
+    "Per aumentare il coefficiente di rigidezza dell'ala della flangia bisogna agire sui seguenti parametri:";
+
 // The row of bolts, whose line depends on their class, is put together in RigheConsiglio.
 const std::array<Consiglio, numConsigliGiunto>& Consigli() {
     static const std::array<Consiglio, numConsigliGiunto> consigli{{
@@ -20,9 +25,7 @@ const std::array<Consiglio, numConsigliGiunto>& Consigli() {
           "- Cambiare il sagomo con un altro avente uno spessore d'anima maggiore."}},
         {"anima della colonna a compressione",
          {"Per aumentare la resistenza dell'anima della colonna in compressione è possibile: ",
-          "- Aumentare tf ed u;", "- Porre l'irrigidimento in zona compressa;",
-          "- Cambiare il sagomo della colonna, aumentando lo spessore dell'anima, dell'ala o il raggio di "
-          "raccordo;",
+          "- Aumentare tf ed u;", "- Porre l'irrigidimento in zona compressa;", cambiareColonna,
           "- Cambiare il sagomo della trave aumentando lo spessore dell'ala."}},
         {"instabilità dell'anima della colonna",
          {"Per aumentare la resistenza dell'anima della colonna a instabilità è possibile: ",
@@ -72,9 +75,7 @@ const std::array<Consiglio, numConsigliGiunto>& Consigli() {
           "Resistenza)",
           "- cambiare la trave adottando un sagomo con altezza maggiore."}},
         {"rigidezza della flangia",
-         {"Per aumentare il coefficiente di rigidezza dell'ala della flangia bisogna agire sui seguenti "
-          "parametri:",
-          "- aumentare ef.", "- aumentare tf.", "- diminuire d1.", "- diminuire d2."}},
+         {rigidezzaFlangia, "- aumentare ef.", "- aumentare tf.", "- diminuire d1.", "- diminuire d2."}},
         {"rigidezza dei bulloni",
          {"Per aumentare il coefficiente di rigidezza dei bulloni bisogna agire sui seguenti parametri:",
           "- diminuire la loro lunghezza lb.", "- aumentare la loro area resistente."}},
