@@ -1,5 +1,6 @@
 #include "composite/ui/DisegnoVivo.h"
 
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -92,9 +93,9 @@ Disegno DisegnoVivo(const AcciaioCls& trave) {
         drawing.PlottaInOggetto = [shown = Provata(trave), materials = MaterialiTrave()](
                                       Superficie* target, std::string_view screen) {
             const MaterialiTrave inForce;
+            const auto back = qScopeGuard([&inForce] { inForce.Imposta(); });
             materials.Imposta();
             shown->PlottaAcciaioCls(target, screen, Dispositivo);
-            inForce.Imposta();
         };
     return drawing;
 }

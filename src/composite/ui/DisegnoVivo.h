@@ -7,7 +7,8 @@ namespace sagomi {
 
 class AcciaioCls;
 
-/// The global materials of a composite beam; while one lives those that it has been given are in force.
+/// The global materials of a composite beam (fck, fsk [N/mm2], n, gamma M0) as they were; Imposta puts them
+/// in force again.
 class MaterialiTrave {
 public:
     /// Keeps those in force.

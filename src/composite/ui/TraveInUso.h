@@ -11,7 +11,8 @@ public:
 
     [[nodiscard]] virtual AcciaioCls& Trave() = 0;
     /// The beam's results are those of its data: computes them, with messages, where they are not.
-    virtual void AssicuraRisultati() = 0;
+    /// @return whether the data were accepted
+    virtual bool AssicuraRisultati() = 0;
     /// Data of its studs, or the moment, have been changed: the screen takes them over.
     virtual void TraveModificata() = 0;
 };

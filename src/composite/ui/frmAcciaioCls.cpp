@@ -216,6 +216,9 @@ void frmAcciaioCls::CollegaRegole() {
                                      ? QString()
                                      : tr("Il numero è troppo grande");
                       }});
+    RegolaMateriale("Txt_fck", "fck", " N/mm2", limitiResistenza);
+    RegolaMateriale("Txt_fsk", "fsk", " N/mm2", limitiResistenza);
+    RegolaMateriale("txtDati_5", "n", "", limitiRapporto);
     for (const char* name : {"TxtLam_3", "txtDati_1", "txtDati_2", "txtDati_4"})
         regole_.Aggiunge({.caselle = {Campo(name)}, .motivo = [this, name] {
                               const char* marked = CasellaDellaNota(nota_.toStdString());
@@ -234,6 +237,24 @@ void frmAcciaioCls::RegolaSegno(QLineEdit* casella) {
                                  : value < 0 && !anySign ? tr("Il valore non può essere negativo")
                                                          : QString();
                       }});
+}
+
+/// A global that cannot be is put back, so that nothing may be computed with what the box shows.
+void frmAcciaioCls::RegolaMateriale(const char* nome, const char* simbolo, const char* unita, Limiti limiti) {
+    const QString reason = QStringLiteral("%1: da %2 a %3%4")
+                               .arg(QLatin1String(simbolo))
+                               .arg(limiti.minimo)
+                               .arg(limiti.massimo)
+                               .arg(QLatin1String(unita));
+    QLineEdit* box = Campo(nome);
+    regole_.Aggiunge({.caselle = {box},
+                      .motivo =
+                          [=] {
+                              const bool stands =
+                                  box->text().isEmpty() || limiti.Comprende(Singolo(NumeroIn(box)));
+                              return stands ? QString() : reason;
+                          },
+                      .manca = [box] { return box->text().isEmpty(); }});
 }
 
 bool frmAcciaioCls::Invio(QLineEdit* casella) {
@@ -266,6 +287,7 @@ void frmAcciaioCls::PrendeSezione() {
         trave_.Sezione = std::make_shared<SezioneDoppioT>(*there);
         MostraSezione();
         SvuotaUscite();
+        regole_.Applica();
         if (!documento_->File().isEmpty())
             documento_->Modifica(); // it has another steel there
     } else if (!trave_.Sezione) {
@@ -313,6 +335,8 @@ void frmAcciaioCls::AllAttivazione() {
     GammaM0Visto_ = GammaM0;
     MostraSegno();
     Disegna();
+    if (!calcolata_)
+        AlleFinestre(); // what they show may be of another section or of other factors
 }
 
 void frmAcciaioCls::Ritorna() {
@@ -324,7 +348,7 @@ void frmAcciaioCls::Ritorna() {
 }
 
 void frmAcciaioCls::closeEvent(QCloseEvent* event) {
-    bool stays = false;
+    bool stays = !ChiusuraInCorso; // an error on the way loses nothing
     if (!ChiusuraInCorso)
         EventoProtetto([this, &stays] {
             ConcludeEntrate();
@@ -448,10 +472,21 @@ void frmAcciaioCls::PassoDiRiga(bool su) {
     Cambiata();
 }
 
+/// The section taken has the steel of its row: the beam keeps its own when it is opened on it again.
+void frmAcciaioCls::PrendeAcciaio() {
+    if (!presa_)
+        return;
+    const auto taken = std::make_shared<SezioneDoppioT>(*presa_);
+    taken->TipoAcciaio = chiamante_->ComboTipoAcciaio->currentText().toStdString();
+    taken->fy = NumeroIn(chiamante_->Txt_fy);
+    presa_ = taken;
+}
+
 void frmAcciaioCls::PassoDiAcciaio(bool su) {
     if (chiamante_ != nullptr) {
         const QScopedValueRollback loading(Caricamento, true);
         MuoviAcciaio(su, *chiamante_, Campo("Txt_TipoAcciaio"), Campo("Txt_fy"));
+        PrendeAcciaio();
     }
     Cambiata();
 }
@@ -526,10 +561,11 @@ void frmAcciaioCls::TraveModificata() {
     Disegna();
 }
 
-void frmAcciaioCls::AssicuraRisultati() {
+bool frmAcciaioCls::AssicuraRisultati() {
     ConcludeEntrate();
     if (!calcolata_)
         Calcola();
+    return calcolata_;
 }
 
 // ---- check and outputs
@@ -641,9 +677,11 @@ void frmAcciaioCls::Disegna() {
 // ---- file
 
 void frmAcciaioCls::FileLeggeScrive(std::string_view modo, std::int16_t nFile) {
+    const MaterialiTrave before;
     if (modo != "L") {
         DatiLeggeScrive("L");
         fileRiuscito_ = trave_.FileLeggeScrive(modo, nFile);
+        before.RimetteImpossibili();
         return;
     }
     AcciaioCls read;
@@ -651,8 +689,9 @@ void frmAcciaioCls::FileLeggeScrive(std::string_view modo, std::int16_t nFile) {
     if (!fileRiuscito_)
         return;
     trave_ = std::move(read);
-    SezioneCorrente = trave_.Sezione;
+    MetteInUso();
     ScriveTrave();
+    before.RimetteImpossibili();
 }
 
 } // namespace sagomi

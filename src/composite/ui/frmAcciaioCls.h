@@ -7,6 +7,7 @@
 #include "composite/AcciaioCls.h"
 #include "composite/VerificaTrave.h"
 #include "composite/ui/TraveInUso.h"
+#include "frame/Impostazioni.h"
 #include "frame/ui/FileDialogo.h"
 #include "frame/ui/RegoleEntrate.h"
 #include "frame/ui/Schermo.h"
@@ -51,7 +52,7 @@ public:
     [[nodiscard]] bool FileRiuscito() const override { return fileRiuscito_; }
 
     [[nodiscard]] AcciaioCls& Trave() override { return trave_; }
-    void AssicuraRisultati() override;
+    bool AssicuraRisultati() override;
     void TraveModificata() override;
 
     bool Caricamento = false; ///< the program is writing: change handlers do nothing
@@ -67,6 +68,7 @@ private:
     void CollegaComandi();
     void CollegaRegole();
     void RegolaSegno(QLineEdit* casella);
+    void RegolaMateriale(const char* nome, const char* simbolo, const char* unita, Limiti limiti);
     [[nodiscard]] QLineEdit* Campo(const char* nome) const; ///< a box by its name
 
     void Nuova();
@@ -83,6 +85,7 @@ private:
     void MostraNormativa();
     void PassoDiRiga(bool su);
     void PassoDiAcciaio(bool su);
+    void PrendeAcciaio();
 
     void Cambiata();
     void Conclusa(QLineEdit* casella);

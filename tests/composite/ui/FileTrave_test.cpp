@@ -88,6 +88,16 @@ TEST_F(FileTraveTest, FileThatIsNotWholeLeavesTheBeam) {
     EXPECT_EQ(f->windowTitle(), "AcciaioCls/Flessione - File: uno.sco");
 }
 
+TEST_F(FileTraveTest, SavingLeavesNoImpossibleMaterialInForce) {
+    Apre();
+    Piena();
+    Scrive({{"Txt_fck", "6000"}});
+    RispondeFile(InCartella("sei"));
+    Menu("mnuFileItem_2");
+    EXPECT_EQ(fck, 25);
+    EXPECT_EQ(Valore("Txt_fck"), 6000);
+}
+
 TEST_F(FileTraveTest, AsksBeforeNewOpenAndClose) {
     Apre();
     f->close(); // nothing has been entered

@@ -2,6 +2,7 @@
 // 628.4 cm3, so Fa 1264.5 kN, Ma 147.7 kNm. Bars Fs = 1000 · 430/1.15 = 373.9 kN; fcd = 0.85 · 25/1.5 = 14.17
 // N/mm2.
 
+#include <array>
 #include <cmath>
 
 #include "AmbienteTravi.h"
@@ -407,6 +408,25 @@ TEST_F(FrmAcciaioClsTest, MaterialsAreTheSettings) {
     EXPECT_EQ(fck, 4);
 }
 
+TEST_F(FrmAcciaioClsTest, MaterialsThatCannotBeAreMarkedAndNotComputedWith) {
+    Apre();
+    Piena();
+    Sceglie("OpTipoVerifica", 2);
+    Scrive({{"Txt_M", "100"}});
+    for (const auto& [box, text, good] :
+         {std::array{"Txt_fck", "0.5", "25"}, {"Txt_fsk", "5001", "430"}, {"txtDati_5", "101", "15"}}) {
+        Scrive({{box, text}});
+        f->Calcola();
+        EXPECT_EQ(Legge("Txt_Jid"), "") << box;
+        EXPECT_EQ(Valore(box), ValoreNumerico(Locale(text)));
+        EXPECT_NE(dynamic_cast<Casella*>(Trova<QLineEdit>(f, box))->SegnoMostrato(), Casella::Nessuno);
+        Scrive({{box, good}});
+        f->Calcola();
+        EXPECT_NE(Legge("Txt_Jid"), "") << box;
+    }
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
 TEST_F(FrmAcciaioClsTest, AnotherPartialFactorRenewsTheScreen) {
     Apre();
     Piena();
@@ -434,6 +454,17 @@ TEST_F(FrmAcciaioClsTest, AnotherRowBehindIsTakenAndTheSameOneKeepsWhatWasTyped)
     Trova<QAction>(partenza, "mnuAcciaioCls")->trigger();
     EXPECT_EQ(Legge("Txt_Prof_0"), "IPE 400");
     EXPECT_EQ(Valore("txtDati_1"), 120);
+}
+
+TEST_F(FrmAcciaioClsTest, AnotherGradeKeepsTheBeamOnItsRow) {
+    Apre();
+    Piena();
+    Scrive({{"txtHsd_4", "310"}});
+    Trova<UpDown>(f, "UpDown2")->stepUp();
+    Menu("mnuFileItem_3");
+    Trova<QAction>(partenza, "mnuAcciaioCls")->trigger();
+    EXPECT_EQ(Valore("txtHsd_4"), 310);
+    EXPECT_EQ(Valore("Txt_fy"), 275);
 }
 
 // ---- drawing
