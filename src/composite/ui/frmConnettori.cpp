@@ -126,6 +126,7 @@ void frmConnettori::Apri(Schermo& da) {
     trave_ = dynamic_cast<TraveInUso*>(&da);
     if (trave_ == nullptr)
         trave_ = &NavigaSchermi::Unico().Prendi<TraveInUso>(QStringLiteral("frmAcciaioCls"));
+    progettata_ = progettata_ && isVisible();
     NavigaSchermi::Unico().Apri(*this, da);
     FuocoSu(txtInput_[0]);
 }
@@ -260,11 +261,16 @@ void frmConnettori::Progetta() {
         return;
     }
     Leggedati();
-    trave_->AssicuraRisultati();
+    const bool accepted = trave_->AssicuraRisultati();
     MostraTipo();
+    if (!accepted) {
+        Disegna();
+        return;
+    }
     const EsitoConnettori esito = ProgettaConnettori(Trave(), Parziale());
     Mostra(esito);
     Disegna();
+    progettata_ = true;
     if (esito.nervatureDoppie > 0)
         SuggerimentoPerNervatura(esito.nervatureDoppie);
 }
@@ -312,6 +318,7 @@ void frmConnettori::SvuotaUscite() {
         Scritta(name)->clear();
     findChild<QPushButton*>(QStringLiteral("lblDomandaPrd"))->setEnabled(false);
     nervatureDoppie_ = 0;
+    progettata_ = false;
 }
 
 void frmConnettori::SuggerimentoPerNervatura(int n) {

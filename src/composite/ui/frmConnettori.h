@@ -23,7 +23,10 @@ public:
 
     /// Opens the screen in front of the one that asks for it, for its beam, or for the beam of the program.
     void Apri(Schermo& da);
-    void AllAttivazione() override { Aggiorna(); }
+    void AllAttivazione() override {
+        if (!progettata_)
+            Aggiorna();
+    }
     /// The beam has changed.
     void Aggiorna() override;
 
@@ -65,6 +68,7 @@ private:
     FiltroCampi* entrate_ = nullptr;
     RegoleEntrate regole_;
     int nervatureDoppie_ = 0;
+    bool progettata_ = false; ///< the outputs are those of the entries
 };
 
 } // namespace sagomi

@@ -192,6 +192,25 @@ TEST_F(FrmConnettoriTest, LimitsOfTransverseRibsAreBoxes) {
     VuoteC();
 }
 
+TEST_F(FrmConnettoriTest, BeamThatIsRefusedSaysNothingOfStuds) {
+    Trasversali("8");
+    Scrive({{"txtDati_1", "-20"}});
+    Progetta();
+    EXPECT_EQ(registratore.testi, (std::vector<std::string>{"hc < 0 ammesso solo per soletta piena",
+                                                            "Errore! Controllare i dati"}));
+    VuoteC();
+}
+
+TEST_F(FrmConnettoriTest, OtherFactorsEmptyTheDesign) {
+    Pieno();
+    Progetta();
+    f->AllAttivazione();
+    EXPECT_EQ(LeggeC("txtn"), "36");
+    GammaM0 = 1.05;
+    f->AllAttivazione();
+    VuoteC();
+}
+
 TEST_F(FrmConnettoriTest, StudMessagesStandOnTheScreen) {
     Pieno();
     const std::vector<std::pair<const char*, std::string>> heights = {
@@ -239,6 +258,8 @@ TEST_F(FrmConnettoriTest, PairsAreAdvisedWhereThereAreMoreStudsThanRibs) {
     EXPECT_EQ(advice.windowTitle(), "Suggerimento");
     Premi(&advice, "cmdOK");
     EXPECT_FALSE(advice.isVisible());
+    c->AllAttivazione();
+    EXPECT_EQ(LeggeC("txtn"), "40") << "the design stays until something changes";
     c->SuggerimentoPerNervatura(1);
     EXPECT_EQ(Trova<QLabel>(&advice, "lblSuggerimento")->text().toStdString(),
               "Dove si ha taglio massimo disporre\n2 connettori per nervatura");
