@@ -11,6 +11,7 @@
 #include "automation/AdattatoreSezione.h"
 #include "automation/NomiBus.h"
 #include "frame/GeneraleSagomi.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -47,9 +48,13 @@ QVariantMap AdattatoreSezione::Valori() const {
     return values;
 }
 
-void AdattatoreSezione::Class_Initialize(const QDBusMessage& chiamata) { servizio_.Crea(chiamata); }
+void AdattatoreSezione::Class_Initialize(const QDBusMessage& chiamata) {
+    EventoProtetto([&] { servizio_.Crea(chiamata); });
+}
 
-void AdattatoreSezione::Quit(const QDBusMessage& chiamata) { servizio_.Chiude(chiamata); }
+void AdattatoreSezione::Quit(const QDBusMessage& chiamata) {
+    EventoProtetto([&] { servizio_.Chiude(chiamata); });
+}
 
 ServizioSagomi::ServizioSagomi(QObject* parent)
     : QObject(parent), bus_(QDBusConnection::sessionBus()),
@@ -57,7 +62,7 @@ ServizioSagomi::ServizioSagomi(QObject* parent)
     sezione_.ComunicaSagomo = [this] { Comunica(); };
     sezione_.SagomiQuit = [this] { Manda("SagomiQuit"); };
     inutile_.setSingleShot(true);
-    connect(&inutile_, &QTimer::timeout, this, [this] {
+    Collega(&inutile_, &QTimer::timeout, this, [this] {
         if (!creato_)
             QCoreApplication::quit();
     });
@@ -116,7 +121,7 @@ void ServizioSagomi::Chiude(const QDBusMessage& chiamata) {
 }
 
 // A box would be left without the screen that it belongs to: it is closed first, by what Esc does.
-void ServizioSagomi::ChiudeAppenaLibero() {
+void ServizioSagomi::ProvaChiusura() {
     if (QWidget* menu = QApplication::activePopupWidget())
         menu->close();
     else if (QWidget* box = QApplication::activeModalWidget())
@@ -125,6 +130,15 @@ void ServizioSagomi::ChiudeAppenaLibero() {
         inChiusura_ = sezione_.Quit();
     else
         QTimer::singleShot(pausa, this, &ServizioSagomi::ChiudeAppenaLibero);
+}
+
+void ServizioSagomi::ChiudeAppenaLibero() {
+    const bool well = EventoProtetto([this] {
+        ProvaChiusura();
+        return true;
+    });
+    if (!well)
+        inChiusura_ = false; // it may be asked for again
 }
 
 void ServizioSagomi::Comunica() {

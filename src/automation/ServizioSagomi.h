@@ -31,7 +31,7 @@ public:
     void Crea(const QDBusMessage& chiamata);
 
     /// The call of a client that ends the program. What is open in front of the screens is closed before; who
-    /// has work that is not saved is asked, and may keep the program open.
+    /// has work that is not saved is asked, and may keep the program open. A running search is broken off.
     void Chiude(const QDBusMessage& chiamata);
 
 private:
@@ -40,6 +40,7 @@ private:
     bool SenzaArgomenti(const QDBusMessage& chiamata);
     void RispondeErrore(const QDBusMessage& chiamata, const QString& nome, const QString& testo);
     void ChiudeAppenaLibero();
+    void ProvaChiusura();
 
     QDBusConnection bus_;
     SezioneSagomi sezione_;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLibraryInfo>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTranslator>
 
@@ -74,10 +75,10 @@ void InizializzaProgramma() {
     IniLeggeScrive("L");
     LeggeStatoComune();
     AvvioInCorso = true;
+    const auto started = qScopeGuard([] { AvvioInCorso = false; });
     ImpostaGamma();
     CaricaTavolaSchermi();
     NavigaSchermi::Unico().Passa(NavigaSchermi::Unico().Prendi(QStringLiteral("frmDoppioT")), nullptr);
-    AvvioInCorso = false;
 }
 
 } // namespace sagomi
