@@ -21,12 +21,24 @@ fi
 
 # The events are listened for before the object is created: the first row is told of, too.
 coproc ascolto { exec gdbus monitor "${oggetto[@]}"; }
-eventi=${ascolto[0]}
-monitor=$ascolto_PID
+eventi=${ascolto[0]:-}
+monitor=${ascolto_PID:-}
 trap 'kill "$monitor" 2>/dev/null || true' EXIT
-until read -r riga <&"$eventi" && [[ $riga == *"is owned by"* ]]; do :; done
+riga=
+until [[ $riga == *"is owned by"* ]]; do
+  if ! read -r -t 30 riga <&"$eventi"; then
+    echo "Sagomi non risponde sul bus di sessione" >&2
+    exit 1
+  fi
+done
 
-chiama Class_Initialize 2>/dev/null || echo "Sagomi è già aperto: lo seguo"
+if ! errore=$(chiama Class_Initialize 2>&1); then
+  if [[ $errore != *OggettoEsistente* ]]; then
+    echo "$errore" >&2
+    exit 1
+  fi
+  echo "Sagomi è già aperto: lo seguo"
+fi
 
 while read -r riga <&"$eventi"; do
   case $riga in
