@@ -118,11 +118,13 @@ void SchermoSezione::CollegaMenu() {
     Collega(findChild<QAction*>(QStringLiteral("mnuHelp_0")), &QAction::triggered, this,
             [this] { Guida::Apri(FileGuida()); });
     NavigaSchermi::Unico().CollegaMenu(*this);
-    if (cmdSceltaSagomoGiunto != nullptr)
+    if (cmdSceltaSagomoGiunto != nullptr) {
+        cmdSceltaSagomoGiunto->setProperty(vuoleRiga, true);
         Collega(cmdSceltaSagomoGiunto, &QPushButton::clicked, this, [this] {
             SceltaSagomoGiunto = false;
             NavigaSchermi::Unico().Apri(QStringLiteral("frmGiunti"), *this);
         });
+    }
 }
 
 void SchermoSezione::CollegaTabella() {

@@ -36,6 +36,7 @@ std::string ErroreFattore(double factor) {
 frmGamma::frmGamma() : Schermo(QStringLiteral("frmGamma")), ui_(new Ui::frmGamma) {
     ui_->setupUi(this);
     PreparaContenuto();
+    ui_->cmdOK_1->setAutoDefault(false); // Enter is OK's; the space bar still cancels
     optNormativa_ = Vettore<QRadioButton>(QStringLiteral("optNormativa"));
     txtGamma_ = Vettore<QLineEdit>(QStringLiteral("txtGamma"));
     auto* entries = new FiltroCampi(this, [this](QLineEdit* /*box*/) {

@@ -160,7 +160,7 @@ TEST_F(AggiornaVisibiliTest, EscClosesTheObservationsOfTheBoltsFirst) {
 }
 
 TEST_F(AggiornaVisibiliTest, EnterPressesOkOfTheFactors) {
-    for (const char* control : {"optNormativa_2", "txtGamma_0", "txtGamma_2", "cmdOK_0"}) {
+    for (const char* control : {"optNormativa_2", "txtGamma_0", "txtGamma_2", "cmdOK_0", "cmdOK_1"}) {
         auto& dialog = Apre("frmGamma");
         Premi(&dialog, "optNormativa_2");
         Scrive(&dialog, "txtGamma_0", "1.1");

@@ -143,7 +143,8 @@ TEST_F(TastiSchermiTest, TabEntersThePicturesAtTheChosenOneAndArrowsGoOn) {
 
 TEST_F(TastiSchermiTest, CommandsWithoutARowAreDisabled) {
     auto& main = Avvia();
-    const auto commands = {"LblClasse", "LblNbRd", "LblMcRd", "Command1", "Command2", "CmdPlotta"};
+    const auto commands = {
+        "LblClasse", "LblNbRd", "LblMcRd", "Command1", "Command2", "CmdPlotta", "cmdSceltaSagomoGiunto"};
     for (const char* name : commands)
         EXPECT_TRUE(Trova<QWidget>(&main, name)->isEnabled()) << name;
     const std::string query = main.Data1->RecordSource();
