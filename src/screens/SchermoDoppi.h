@@ -3,6 +3,8 @@
 #include <QScopedValueRollback>
 #include <QStatusBar>
 
+#include <utility>
+
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/ui/Casella.h"
@@ -59,14 +61,19 @@ public:
         TogliDaAggiornare();
     }
 
-    // Until Enter nothing shown changes.
+    // Until Enter nothing shown changes; a length that cannot be empties its own result at once.
     void LunghezzaCambiata(int index) override {
         if (!this->PassaLunghezza(index))
             return;
         this->regole_.Applica();
         if (auto* box = this->template findChild<QLineEdit*>(QStringLiteral("TxtNbRd_%1").arg(index))) {
-            SegnaDaAggiornare(box, true);
-            daAggiornare_ << box;
+            const bool some = this->Lunghezza(index) >= 0;
+            daAggiornare_.removeAll(box);
+            if (some)
+                daAggiornare_ << box;
+            else
+                box->clear();
+            SegnaDaAggiornare(box, some);
         }
     }
 
@@ -174,16 +181,15 @@ private:
     }
 
     void TogliDaAggiornare() {
-        for (QLineEdit* box : daAggiornare_)
+        for (QLineEdit* box : std::exchange(daAggiornare_, {}))
             SegnaDaAggiornare(box, false);
-        daAggiornare_.clear();
     }
 
     void SegnaDaAggiornare(QLineEdit* box, bool on) {
         if (auto* result = qobject_cast<Casella*>(box))
             result->ImpostaSegno(on ? Casella::DaAggiornare : Casella::Nessuno);
         box->setAccessibleDescription(on ? QObject::tr("da aggiornare") : QString());
-        if (on)
+        if (!daAggiornare_.isEmpty())
             this->statusBar()->showMessage(QObject::tr("Risultati da aggiornare: premere Invio"));
         else
             this->statusBar()->clearMessage();

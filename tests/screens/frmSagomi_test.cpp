@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTest>
 
 using namespace sagomi;
@@ -119,6 +120,25 @@ TEST_F(FrmSagomiTest, LengthsWaitForEnter) {
     EXPECT_EQ(Testo(&s, "TxtNbRd_0"), dopo);
     s.LunghezzaCambiata(2);
     EXPECT_EQ(registratore.testi, std::vector<std::string>{"Errore in L0"});
+}
+
+TEST_F(FrmSagomiTest, ALengthBelowZeroEmptiesItsResultAtOnce) {
+    auto& s = Canali();
+    VaiA(s, "UPN 200");
+    Scrive(&s, "Txt_L0_0", "5");
+    Invio(s, "Txt_L0_0");
+    const std::string dopo = Testo(&s, "TxtNbRd_0");
+    ASSERT_NE(dopo, "");
+    Scrive(&s, "Txt_L0_0", "-5");
+    EXPECT_EQ(Testo(&s, "TxtNbRd_0"), "");
+    EXPECT_EQ(Segno(s, "TxtNbRd_0"), Casella::Nessuno);
+    EXPECT_EQ(s.statusBar()->currentMessage(), "");
+    Invio(s, "Txt_L0_0");
+    EXPECT_EQ(Testo(&s, "TxtNbRd_0"), "");
+    Scrive(&s, "Txt_L0_0", "5");
+    EXPECT_EQ(Segno(s, "TxtNbRd_0"), Casella::DaAggiornare);
+    Invio(s, "Txt_L0_0");
+    EXPECT_EQ(Testo(&s, "TxtNbRd_0"), dopo);
 }
 
 TEST_F(FrmSagomiTest, AnglesHaveAThirdLength) {

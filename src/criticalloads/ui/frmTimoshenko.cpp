@@ -174,6 +174,8 @@ void frmTimoshenko::Calcolo() {
     Iz = cm4_a_mm4(NumeroIn(ui_->TxtIz));
     IT = cm4_a_mm4(NumeroIn(ui_->TxtIT));
     Iw = cm6_a_mm6(NumeroIn(ui_->TxtIw));
+    if (Iz < 0 || IT < 0 || Iw < 0)
+        return; // the box is marked
     const auto Mcr =
         Mensola() ? McrMensola(TipoCarico(), QuotaCarico()) : McrAppoggiata(TipoCarico(), QuotaCarico());
     if (Mcr)

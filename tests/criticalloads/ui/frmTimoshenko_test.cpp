@@ -107,6 +107,20 @@ TEST_F(FrmTimoshenkoTest, SimplySupportedBeam) {
     EXPECT_EQ(t.Iw.Stretto(), 12.99e9F);
 }
 
+TEST_F(FrmTimoshenkoTest, ANegativeConstantGivesNoMoment) {
+    auto& t = Apre();
+    for (const char* box : {"TxtIz", "TxtIT", "TxtIw"}) {
+        const QString was = Trova<QLineEdit>(&t, box)->text();
+        Scrive(&t, box, "-5");
+        Premi(&t, "Command1");
+        EXPECT_EQ(Mcr(t), "") << box;
+        Scrive(&t, box, was.toStdString().c_str());
+        Premi(&t, "Command1");
+        EXPECT_EQ(Mcr(t), Locale(" 38.22")) << box;
+    }
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
 TEST_F(FrmTimoshenkoTest, WithoutWarping) {
     auto& t = Apre();
     Premi(&t, "chkNoIw");
