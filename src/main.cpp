@@ -21,7 +21,12 @@ std::optional<int> Comando(int argc, char* argv[]) {
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     std::error_code none;
     const auto own = std::filesystem::read_symlink("/proc/self/exe", none).parent_path();
-    return sagomi::EsegueComando(arguments, sagomi::CartellaFile(own), std::cin, std::cout, std::cerr);
+    const auto status =
+        sagomi::EsegueComando(arguments, sagomi::CartellaFile(own), std::cin, std::cout, std::cerr);
+    if (!status || std::cout.flush())
+        return status;
+    std::cerr << "sagomi: non è possibile scrivere la risposta\n";
+    return sagomi::comandoErrato;
 }
 
 } // namespace

@@ -1,10 +1,12 @@
 #include "choice/Comando.h"
 
 #include <algorithm>
+#include <exception>
 #include <istream>
 #include <iterator>
 #include <ostream>
 
+#include "catalogue/Minuscole.h"
 #include "choice/LavoriJson.h"
 #include "choice/Opzioni.h"
 #include "choice/ScritturaScelta.h"
@@ -43,10 +45,8 @@ Stato di uscita: 0 verificato, 1 non verificato, 2 uso errato.
 
 /// A name without blanks, in small letters: "hea200" finds "HEA 200".
 std::string Piegato(std::string_view nome) {
-    std::string s;
-    for (const char c : nome)
-        if (c != ' ')
-            s += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    std::string s = Minuscole(nome);
+    std::erase(s, ' ');
     return s;
 }
 
@@ -58,15 +58,25 @@ Gara Legge(const std::filesystem::path& cartella, const std::vector<std::string>
     return gara;
 }
 
+/// A family without rows may be one whose sheet could not be read; then that is said.
 void ControllaFamiglie(const Gara& gara, const std::vector<std::string>& famiglie) {
     for (const std::string& famiglia : famiglie)
         if (std::ranges::find(gara.sagomi, famiglia, &SagomoInGara::famiglia) == gara.sagomi.end())
-            throw ErroreUso("nessuna famiglia si chiama \"" + famiglia + "\"");
+            throw ErroreUso(gara.mancanti.empty() ? "nessuna famiglia si chiama \"" + famiglia + '"'
+                                                  : "nessuna riga della famiglia \"" + famiglia + "\"; " +
+                                                        gara.mancanti.front());
+}
+
+/// Whether a row is the one that is asked for; jobs share the rows of all families.
+bool Cercato(const Comando& c, const SagomoInGara& s) {
+    const auto& famiglie = c.filtri.famiglie;
+    return (famiglie.empty() || std::ranges::find(famiglie, s.famiglia) != famiglie.end()) &&
+           Piegato(s.Designazione()) == Piegato(c.sagomo);
 }
 
 int VerificaUno(const Comando& c, const Gara& gara, std::ostream& uscita) {
-    const auto sagomo = std::ranges::find_if(
-        gara.sagomi, [&](const SagomoInGara& s) { return Piegato(s.Designazione()) == Piegato(c.sagomo); });
+    const auto sagomo =
+        std::ranges::find_if(gara.sagomi, [&](const SagomoInGara& s) { return Cercato(c, s); });
     if (sagomo == gara.sagomi.end())
         throw ErroreUso("nessun sagomo si chiama \"" + c.sagomo + "\"");
     std::vector<std::string> messaggi = gara.mancanti;
@@ -89,7 +99,7 @@ int Risponde(Comando& c, const Gara& gara, std::ostream& uscita) {
     return c.modo == ModoComando::Verifica ? VerificaUno(c, gara, uscita) : SceglieFraTutti(c, gara, uscita);
 }
 
-/// One job; what is wrong with it is its answer.
+/// One job; what is wrong with it is its answer, and those after it go on.
 int EsegueLavoro(const LavoriJson& lavori, const std::string& riga, const std::vector<std::string>& comuni,
                  const Gara& gara, std::ostream& uscita) {
     try {
@@ -100,7 +110,7 @@ int EsegueLavoro(const LavoriJson& lavori, const std::string& riga, const std::v
             c.formato != FormatoUscita::Json)
             throw ErroreUso("un lavoro chiede \"verifica\" o \"scelta\"");
         return Risponde(c, gara, uscita);
-    } catch (const ErroreUso& e) {
+    } catch (const std::exception& e) {
         ScriveErrore(uscita, e.what());
         return comandoErrato;
     }
@@ -147,6 +157,9 @@ std::optional<int> EsegueComando(const std::vector<std::string>& argomenti,
         return Esegue(std::move(comando), cartella, uscita);
     } catch (const ErroreUso& e) {
         errori << "sagomi: " << e.what() << "\nsagomi --help dice come si usa\n";
+        return comandoErrato;
+    } catch (const std::exception& e) {
+        errori << "sagomi: " << e.what() << '\n';
         return comandoErrato;
     }
 }

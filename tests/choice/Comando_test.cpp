@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <sstream>
 
 #include "choice/Scelta.h"
@@ -127,6 +129,31 @@ TEST_F(ComandoTest, AWrongJobIsAnsweredToo) {
     EXPECT_EQ(errors, 7U) << testo;
     EXPECT_TRUE(Dice("IPE 999"));
     EXPECT_TRUE(Dice("\"famiglia\":\"HEA\""));
+}
+
+TEST_F(ComandoTest, AJobSearchesInItsFamiliesAlone) {
+    EXPECT_EQ(Esegue({"--json"}, "{\"verifica\":\"HEA 200\",\"famiglie\":[\"IPE\"]}\n"
+                                 "{\"verifica\":\"HEA 200\",\"famiglie\":[\"IPE\",\"HEA\"]}\n"),
+              comandoErrato);
+    EXPECT_EQ(Righe(), 2);
+    EXPECT_TRUE(uscita.str().starts_with("{\"errore\"")) << uscita.str();
+    EXPECT_TRUE(Dice("\"famiglia\":\"HEA\"")) << uscita.str();
+}
+
+// The user's own workbook is a text: the families of the other are there all the same.
+TEST_F(ComandoTest, AFamilyWhoseSheetCannotBeReadIsToldSo) {
+    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "ComandoTest";
+    std::filesystem::create_directories(folder);
+    std::filesystem::copy_file(std::filesystem::path(SAGOMI_BIN) / "Sagomi.xls", folder / "Sagomi.xls",
+                               std::filesystem::copy_options::overwrite_existing);
+    std::ofstream(folder / "SagomiUtente.xls") << "ciao";
+    std::istringstream jobs(
+        "{\"verifica\":\"HEA 200\",\"famiglie\":[\"XYZ\"]}\n{\"verifica\":\"HEA 200\"}\n");
+    EXPECT_EQ(EsegueComando({"--json"}, folder, jobs, uscita, errori), comandoErrato);
+    EXPECT_TRUE(Dice("nessuna riga della famiglia")) << uscita.str();
+    EXPECT_TRUE(Dice("SagomiUtente.xls")) << uscita.str();
+    EXPECT_EQ(Righe(), 2);
+    std::filesystem::remove_all(folder);
 }
 
 struct Errato {
