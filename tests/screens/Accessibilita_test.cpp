@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalBlocker>
+#include <QTabWidget>
 
 #include "frame/ui/EtichettaPedice.h"
 #include "frame/ui/EtichettaRisultato.h"
@@ -69,6 +71,21 @@ void Percorri(const Schermo& screen) {
     }
 }
 
+/// Each page of a screen that has pages; the one that was open is open again afterwards.
+void PercorriPagine(const Schermo& screen) {
+    Percorri(screen);
+    for (auto* tabs : screen.findChildren<QTabWidget*>()) {
+        const QSignalBlocker quiet(tabs);
+        const int open = tabs->currentIndex();
+        for (int i = 0; i < tabs->count(); ++i) {
+            tabs->setCurrentIndex(i);
+            if (i != open)
+                Percorri(screen);
+        }
+        tabs->setCurrentIndex(open);
+    }
+}
+
 const QHash<QString, QString> apritori = {{"FrmMsverg", "FrmPresFless"},
                                           {"FrmVerifiche", "FrmPresFless"},
                                           {"frmMsvergH1", "FrmMsverg"},
@@ -78,7 +95,7 @@ const QHash<QString, QString> apritori = {{"FrmMsverg", "FrmPresFless"},
 /// @return how many screens there are
 int PercorriTutti(Schermo& main) {
     auto& n = NavigaSchermi::Unico();
-    Percorri(main);
+    PercorriPagine(main);
     n.Apri("FrmPresFless", main);
     n.Apri("FrmMsverg", n.Prendi("FrmPresFless"));
     int screens = 1;
@@ -86,7 +103,7 @@ int PercorriTutti(Schermo& main) {
         if (voce.nome == main.objectName())
             continue;
         n.Apri(voce.nome, n.Prendi(apritori.value(voce.nome, main.objectName())));
-        Percorri(n.Prendi(voce.nome));
+        PercorriPagine(n.Prendi(voce.nome));
         ++screens;
     }
     return screens;
