@@ -16,7 +16,7 @@ struct TipoFile {
 };
 constexpr TipoFile tipi[] = {{"sco", "frmAcciaioCls"}, {"gfl", "frmGiunti"}};
 
-QString SchermoDi(const QString& file) {
+QString SchermoPer(const QString& file) {
     for (const TipoFile& tipo : tipi)
         if (QFileInfo(file).suffix().compare(QLatin1String(tipo.estensione), Qt::CaseInsensitive) == 0)
             return QLatin1String(tipo.schermo);
@@ -28,15 +28,17 @@ QString SchermoDi(const QString& file) {
 // The screen comes first: it takes the section of the row in hand as it opens, the file then puts its own
 // there.
 bool ApreFile(const QString& file) {
-    const QString name = SchermoDi(file);
+    const QString name = SchermoPer(file);
     Schermo* from = NavigaSchermi::Unico().Attivo();
-    if (name.isEmpty() || from == nullptr) {
+    if (name.isEmpty()) {
         Avvisa("Errore: " + file.toStdString() + " non è un file di Sagomi (Gfl, Sco)");
         return false;
     }
-    NavigaSchermi::Unico().Apri(name, *from);
-    if (auto* document = NavigaSchermi::Unico().Prendi(name).findChild<DocumentoSchermo*>())
-        return document->Apre(file);
+    if (from != nullptr) {
+        NavigaSchermi::Unico().Apri(name, *from);
+        if (auto* document = NavigaSchermi::Unico().Prendi(name).findChild<DocumentoSchermo*>())
+            return document->Apre(file);
+    }
     Avvisa("Errore: " + file.toStdString() + " non si apre dalla riga di comando");
     return false;
 }

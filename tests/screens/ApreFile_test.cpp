@@ -24,6 +24,13 @@ TEST_F(ApreFileTest, WhatIsNoFileOfTheProgramIsTold) {
     EXPECT_TRUE(Aperto("frmDoppioT").isVisible());
 }
 
+TEST_F(ApreFileTest, WithoutAScreenTheFileIsNotBlamed) {
+    ASSERT_EQ(NavigaSchermi::Unico().Attivo(), nullptr);
+    EXPECT_FALSE(ApreFile(QStringLiteral("trave.sco")));
+    EXPECT_EQ(registratore.testi,
+              std::vector<std::string>{"Errore: trave.sco non si apre dalla riga di comando"});
+}
+
 TEST_F(ApreFileTest, AFileThatIsNotThereIsTold) {
     Avvia();
     EXPECT_FALSE(ApreFile(QStringLiteral("/nessuna/trave.SCO")));

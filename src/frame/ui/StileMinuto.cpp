@@ -45,8 +45,7 @@ QSize StileMinuto::sizeFromContents(ContentsType tipo, const QStyleOption* opzio
 void StileMinuto::drawPrimitive(PrimitiveElement elemento, const QStyleOption* opzioni, QPainter* pittore,
                                 const QWidget* widget) const {
     const int spare = elemento == PE_FrameGroupBox ? Avanzo(widget) : 0;
-    if (spare == 0 || opzioni == nullptr ||
-        qstrcmp(baseStyle()->metaObject()->className(), "QFusionStyle") != 0) {
+    if (spare == 0 || opzioni == nullptr || !baseStyle()->inherits("QFusionStyle")) {
         StileCornici::drawPrimitive(elemento, opzioni, pittore, widget);
         return;
     }
