@@ -156,7 +156,7 @@ std::string LeggeFormula(const std::filesystem::path& cartella, std::string_view
 }
 
 std::string_view IdFormula(std::string_view controllo, const Giunto& giunto) {
-    if (controllo == "txtF2" && giunto.Irrigidimenti != "No")
+    if (controllo == "txtF2" && giunto.ConIrrigidimenti())
         return "FcRd_AnimaIrrigidita_c";
     for (const VoceFormula& voce : voci)
         if (voce.controllo == controllo)

@@ -180,6 +180,9 @@ public:
     /// Hole of a bolt [mm]; none for a diameter between those of the table.
     static std::optional<double> DiametroForo(double d);
 
+    /// Whether the column has stiffeners, in compression alone or in tension, too.
+    [[nodiscard]] bool ConIrrigidimenti() const { return Irrigidimenti == "Si" || Irrigidimenti == "Cp"; }
+
     /// Position in the table of bolts, 1 to 22.
     [[nodiscard]] std::int16_t IndiceBullone() const { return indiceBullone_; }
     /// Takes the bolt, nut, washer and hole of a position; any other throws std::out_of_range.

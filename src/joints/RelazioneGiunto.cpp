@@ -36,7 +36,6 @@ private:
     void Rigidezze();
 
     [[nodiscard]] bool DueFile() const { return giunto_->nf == 2; }
-    [[nodiscard]] bool Irrigidito() const { return giunto_->Irrigidimenti != "No"; }
 
     std::vector<std::string>& righe_;
     const Nodo& nodo_;
@@ -122,7 +121,7 @@ void Relatore::Flangia() {
 }
 
 void Relatore::Irrigidimenti() {
-    if (!Irrigidito())
+    if (!giunto_->ConIrrigidimenti())
         return;
     Riga("  ---- Irrigidimenti ----");
     Valore("     Spessore = ", "Txt_S_Irr", mm);
@@ -147,7 +146,7 @@ void Relatore::Resistenze() {
     if (DueFile())
         Valore("                                    Fila est. = ", "txtF7_1", kN);
     Valore("     Anima della colonna a compressione (schiacciamento) = ", "txtF2", kN);
-    if (!Irrigidito())
+    if (!giunto_->ConIrrigidimenti())
         Valore("     Anima della colonna a compressione (instabilità) = ", "txtF3", kN);
     Valore("     Pannello d'anima della colonna a taglio = ", "txtF1", kN);
 }

@@ -15,8 +15,6 @@ constexpr std::string_view animaTrave = " dall'anima della trave a trazione";
 
 using Mappa = TestiGiunto::Mappa;
 
-bool Irrigidito(const Giunto& g) { return g.Irrigidimenti == "Si" || g.Irrigidimenti == "Cp"; }
-
 std::string Cifre(const NumeroMostrato& valore) { return FormatoCifre(4, valore); }
 
 std::string Coefficiente(double k) { return k >= rigido ? testoInfinito : Cifre(k); }
@@ -29,18 +27,18 @@ void Azioni(Mappa& testi, const SezioneDoppioT& s, bool destra) {
 }
 
 void Parametri(Mappa& testi, const Giunto& g) {
-    testi["Texttf"] = TestoPiano(g.tf);
-    testi["Textbf"] = TestoPiano(g.bf);
-    testi["Textef"] = TestoPiano(g.ef);
-    testi["Textd2"] = TestoPiano(g.d2);
-    testi["Texttf_1"] = TestoPiano(g.tf_max);
-    testi["Textu_1"] = TestoPiano(g.u_max);
-    testi["TextL"] = TestoPiano(g.L_max);
+    testi["Texttf"] = TestoPiano(Singolo(g.tf));
+    testi["Textbf"] = TestoPiano(Singolo(g.bf));
+    testi["Textef"] = TestoPiano(Singolo(g.ef));
+    testi["Textd2"] = TestoPiano(Singolo(g.d2));
+    testi["Texttf_1"] = TestoPiano(Singolo(g.tf_max));
+    testi["Textu_1"] = TestoPiano(Singolo(g.u_max));
+    testi["TextL"] = TestoPiano(Singolo(g.L_max));
     if (g.nf != 2)
         return;
-    testi["Textex"] = TestoPiano(g.ex);
-    testi["Textdx"] = TestoPiano(g.dX);
-    testi["Textu"] = TestoPiano(g.u);
+    testi["Textex"] = TestoPiano(Singolo(g.ex));
+    testi["Textdx"] = TestoPiano(Singolo(g.dX));
+    testi["Textu"] = TestoPiano(Singolo(g.u));
 }
 
 void Bullone(Mappa& testi, const Giunto& g) {
@@ -65,7 +63,7 @@ void Geometria(Mappa& testi, const Giunto& g) {
 }
 
 void Irrigidimenti(Mappa& testi, const Giunto& g) {
-    if (!Irrigidito(g))
+    if (!g.ConIrrigidimenti())
         return;
     testi["Txt_L_Irr_0"] = Cifre(g.Irr_L1);
     testi["Txt_S_Irr"] = Cifre(g.Irr_Spessore);
@@ -94,8 +92,8 @@ void DueFile(Mappa& testi, const Giunto& g) {
 
 void Resistenze(Mappa& testi, const Giunto& g) {
     testi["txtF1"] = g.Beta > 0 ? Cifre(g.VplRd_Pannello_c) : testoInfinito;
-    testi["txtF2"] = Cifre(Irrigidito(g) ? g.FcRd_AnimaIrrigidita_c : g.FcRd_Anima_c);
-    if (!Irrigidito(g))
+    testi["txtF2"] = Cifre(g.ConIrrigidimenti() ? g.FcRd_AnimaIrrigidita_c : g.FcRd_Anima_c);
+    if (!g.ConIrrigidimenti())
         testi["txtF3"] = Cifre(g.NbRd_Anima_c);
     testi["txtF4"] = Cifre(2 * g.Bt_Rd());
     testi["txtF5"] = Cifre(g.FtRd_Anima_c);

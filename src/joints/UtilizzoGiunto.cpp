@@ -13,17 +13,15 @@ struct Coppia {
     double forza = 0, resistenza = 0;
 };
 
-bool Irrigidito(const Giunto& g) { return g.Irrigidimenti != "No"; }
-
 /// What all rows pass through.
 Coppia Comune(const Giunto& g, std::string_view controllo) {
     const double tutte = g.FtRd_EffInf + (g.nf == 2 ? double(g.FtRd_EffSup) : 0.0);
     if (controllo == "txtF1")
         return {tutte, g.Beta > 0 ? double(g.VplRd_Pannello_c) : 0};
     if (controllo == "txtF2")
-        return {tutte, Irrigidito(g) ? g.FcRd_AnimaIrrigidita_c : g.FcRd_Anima_c};
+        return {tutte, g.ConIrrigidimenti() ? g.FcRd_AnimaIrrigidita_c : g.FcRd_Anima_c};
     if (controllo == "txtF3")
-        return {tutte, Irrigidito(g) ? 0.0 : double(g.NbRd_Anima_c)};
+        return {tutte, g.ConIrrigidimenti() ? 0.0 : double(g.NbRd_Anima_c)};
     if (controllo == "txtF5")
         return {tutte, g.FtRd_Anima_c};
     if (controllo == "txtF4")
