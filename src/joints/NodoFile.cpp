@@ -10,6 +10,12 @@ namespace {
 
 constexpr const char* titolo = "Giunto Flangiato";
 
+/// The flanges of a section in a node are alike; its record has one.
+void AliUguali(SezioneDoppioT& s) {
+    s.bAlaInf = s.b;
+    s.tAlaInf = s.tf;
+}
+
 const char* Lato(bool destro) { return destro ? "destro" : "sinistro"; }
 
 } // namespace
@@ -35,6 +41,10 @@ bool Nodo::GiuntiInOut(std::string_view modo, std::int16_t nFile) {
         return false;
     if (modo != "L")
         return true;
+    AliUguali(*Colonnainf);
+    AliUguali(*TraveDx);
+    if (due)
+        AliUguali(*TraveSx);
     PuntatoreTraveDestra();
     if (due)
         PuntatoreTraveSinistra();

@@ -8,6 +8,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "joints/Nodo.h"
+#include "sections/AreaEfficace.h"
 
 namespace sagomi {
 
@@ -106,7 +107,7 @@ SezioneDoppioT Calcolata(const SezioneDoppioT& s) {
     SezioneDoppioT copia = s;
     copia.NSd = copia.Mysd = 0; // kN in a node
     const MessaggiTaciuti muto;
-    copia.InizializzaSezione();
+    InizializzaConAreaEfficace(copia);
     return copia;
 }
 
@@ -151,7 +152,7 @@ bool AssegnaSagomo(Nodo& nodo, RuoloSagomo ruolo, const SezioneDoppioT& scelta) 
 }
 
 std::string FirmaSagomi(const Nodo& nodo) {
-    std::string firma;
+    std::string firma = NomeNormativa() + ' ';
     for (const double fattore : {double(GammaM0), double(GammaM1), double(GammaM2)})
         firma += NumeroFile(fattore) + ' ';
     for (const Condiviso& s : {nodo.TraveDx.Riferimento(), nodo.TraveSx.Riferimento(), nodo.Colonnainf})

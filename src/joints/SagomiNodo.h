@@ -31,7 +31,7 @@ bool AssegnaSagomo(Nodo& nodo, RuoloSagomo ruolo, const SezioneDoppioT& scelta);
 /// McyRd and NplRd of the sections with the partial factors in force; computed on copies, tells nothing.
 void RinnovaResistenze(Nodo& nodo);
 
-/// What McyRd and NplRd hang on, as text: the partial factors and the strengths of the sections.
+/// What McyRd and NplRd hang on, as text: code, partial factors and strengths of the sections.
 [[nodiscard]] std::string FirmaSagomi(const Nodo& nodo);
 
 /// Data files have no quotes inside a text: two apostrophes take their place in the names of the sections.

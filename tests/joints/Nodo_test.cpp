@@ -8,6 +8,7 @@
 #include "frame/Errori.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
+#include "joints/SagomiNodo.h"
 #include "joints/Sezioni.h"
 
 using namespace sagomi;
@@ -54,6 +55,19 @@ protected:
     Nodo n;
     Registratore boxes;
 };
+
+/// Its effective area is known only after a first run.
+TEST_F(NodoProva, RenewedSectionOfClass4RestsOnItsEffectiveArea) {
+    const auto beam = Laminato("IPE 500", 500, 200, 10.2, 16, 21, 11550, 482000000);
+    beam->fy = 355;
+    beam->fu = 510;
+    beam->d = 426;
+    beam->bAlaInf = beam->b;
+    beam->tAlaInf = beam->tf;
+    n.TraveDx = beam;
+    RinnovaNplRd(n);
+    EXPECT_NEAR(n.TraveDx->NplRd * GammaM1, 3853e3, 2e3);
+}
 
 } // namespace
 
