@@ -63,9 +63,9 @@ void LatoNodo::Piastra(const Giunto& g) {
     Af = g.Af;
     aw = g.aw;
     if (nf == 2) {
-        ex = g.ex;
-        dX = g.dX > 0 ? g.dX : std::max(g.L - g.ex, 0.0);
-        u = g.u;
+        ex = std::max(g.ex, 0.0);
+        dX = g.dX > 0 ? g.dX : std::max(g.L - ex, 0.0);
+        u = std::max(g.u, 0.0);
         alto = ex + dX;
         basso = -trave.h - u;
         return;

@@ -11,16 +11,14 @@ namespace sagomi {
 
 namespace {
 
-/// The lines of data. A quantity that one row of bolts does not have stands without a value.
+/// The lines of data. A quantity that is not there stands without a value.
 class Colonna {
 public:
     void Riga(std::string testo) { righe.push_back(std::move(testo)); }
     void Dato(const char* nome, double valore) {
         righe.push_back(nome + TestoPiano(std::round(valore * 10) / 10));
     }
-    void Dato2File(const char* nome, double valore, bool dueFile) {
-        dueFile ? Dato(nome, valore) : Riga(nome);
-    }
+    void DatoSe(const char* nome, double valore, bool noto) { noto ? Dato(nome, valore) : Riga(nome); }
     std::vector<std::string> righe;
 };
 
@@ -35,22 +33,25 @@ void Bulloni(Colonna& c, const Giunto& g) {
     c.Dato("Anima: aw = ", g.aw);
 }
 
+/// What follows from the parameters stands without a value while one of them is missing.
 void Flangia(Colonna& c, const Giunto& g) {
     const bool due = g.nf == 2;
+    const bool given = g.tf != 0 && g.bf != 0 && g.ef != 0 && g.d2 != 0;
+    const auto derived = [&](const char* name, double value) { c.DatoSe(name, value, given); };
     c.Riga("Flangia  [mm]");
     c.Dato("Spessore: tf = ", g.tf);
     c.Dato("Larghezza: bf = ", g.bf);
     c.Dato("Distanza orizzontale del foro dal bordo (lato flangia): ef = ", g.ef);
-    c.Dato("Passo orizzontale fori: w = ", g.w);
-    c.Dato("Passo verticale fori interni: p = ", g.pint);
-    c.Dato("Distanza orizzontale del foro dal bordo (lato colonna): ec = ", g.ec);
-    c.Dato("Distanza orizzontale del foro dall'anima della colonna: mc = ", g.mc);
-    c.Dato("Distanza orizzontale del foro dall'anima della trave: mf = ", g.mf);
-    c.Dato("Distanza verticale del foro dall'ala della trave: m1 = ", g.m2);
-    c.Dato2File("Distanza verticale del foro dall'ala della trave: m2 = ", g.mx, due);
-    c.Dato2File("Distanza verticale del foro dal bordo della flangia: ex = ", g.ex, due);
-    c.Dato2File("Distanza del bordo inferiore della flangia dall'ala della trave: u = ", g.u, due);
-    c.Dato("Altezza della flangia: hf = ", g.hf);
+    derived("Passo orizzontale fori: w = ", g.w);
+    derived("Passo verticale fori interni: p = ", g.pint);
+    derived("Distanza orizzontale del foro dal bordo (lato colonna): ec = ", g.ec);
+    derived("Distanza orizzontale del foro dall'anima della colonna: mc = ", g.mc);
+    derived("Distanza orizzontale del foro dall'anima della trave: mf = ", g.mf);
+    derived("Distanza verticale del foro dall'ala della trave: m1 = ", g.m2);
+    c.DatoSe("Distanza verticale del foro dall'ala della trave: m2 = ", g.mx, due && given);
+    c.DatoSe("Distanza verticale del foro dal bordo della flangia: ex = ", g.ex, due);
+    c.DatoSe("Distanza del bordo inferiore della flangia dall'ala della trave: u = ", g.u, due);
+    derived("Altezza della flangia: hf = ", g.hf);
 }
 
 std::vector<std::string> Righe(const GeometriaNodo& geometria, const Giunto& g, std::string_view uscita) {

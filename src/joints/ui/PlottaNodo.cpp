@@ -2,9 +2,12 @@
 
 #include "drawing/Grafica.h"
 #include "drawing/ui/FrmPltSezione.h"
+#include "frame/Messaggi.h"
 #include "frame/ui/Schermo.h"
+#include "joints/LimitiGiunto.h"
 #include "joints/MascheraGiunti.h"
 #include "joints/Nodo.h"
+#include "joints/SagomiNodo.h"
 
 namespace sagomi {
 
@@ -53,7 +56,17 @@ Disegno DisegnoDi(const std::shared_ptr<Nodo>& copy) {
 
 } // namespace
 
-Disegno DisegnoNodo(const Nodo& nodo) { return DisegnoDi(Copia(nodo)); }
+Disegno DisegnoNodo(const Nodo& nodo) {
+    const auto copy = Copia(nodo);
+    Giunto* joint = copy->ConnessioneCorrente.get();
+    if (joint != nullptr && !joint->Acquisito && SagomiAssegnati(*copy)) {
+        const MessaggiTaciuti quiet;
+        PreparaLimiti(*joint);
+        joint->Derivati_Calcola();
+        copy->CalcolaIrrigidimenti();
+    }
+    return DisegnoDi(copy);
+}
 
 Disegno DisegnoSelezione(const Nodo& nodo, const TabellaSelezione& tabella, int riga) {
     const auto copy = Copia(nodo);
