@@ -46,7 +46,7 @@ frmGiunti::frmGiunti() : Schermo(QStringLiteral("frmGiunti")), ui_(new Ui::frmGi
     DimensionaIniziale({1340, 690}); // room for the drawing
 }
 
-frmGiunti::~frmGiunti() = default;
+frmGiunti::~frmGiunti() { disconnect(qApp, nullptr, this, nullptr); }
 
 void frmGiunti::PreparaForma() {
     for (auto* part : ui_->SSTab1->tabBar()->findChildren<QToolButton*>())
@@ -56,7 +56,10 @@ void frmGiunti::PreparaForma() {
         const QKeySequence key(QStringLiteral("Alt+%1").arg(i + 1));
         ui_->SSTab1->setTabToolTip(i, key.toString(QKeySequence::NativeText));
         auto* shortcut = new QShortcut(key, this);
-        Collega(shortcut, &QShortcut::activated, this, [this, i] { ui_->SSTab1->setCurrentIndex(i); });
+        Collega(shortcut, &QShortcut::activated, this, [this, i] {
+            if (!inRicerca_)
+                ui_->SSTab1->setCurrentIndex(i);
+        });
     }
     vista_ = new VistaGiunto;
     vista_->setObjectName(QStringLiteral("VistaGiunto"));
@@ -132,6 +135,8 @@ void frmGiunti::Apri(Schermo& chiamante) {
 }
 
 void frmGiunti::AllAttivazione() {
+    if (inRicerca_)
+        return;
     Guida::ImpostaFile(FileGuida());
     ui_->NormativaMain->setText(QStringLiteral("Normativa: ") + QString::fromStdString(NomeNormativa()));
     RinnovaSeCambiato();
@@ -141,6 +146,9 @@ void frmGiunti::AllAttivazione() {
 
 /// The tabs behind the data want the sections.
 void frmGiunti::SchedaScelta(int indice) {
+    if (inRicerca_ && indice != schedaProgetto &&
+        !findChild<QWidget*>(QStringLiteral("FrameAttesa"))->isHidden())
+        ui_->SSTab1->setCurrentIndex(schedaProgetto); // where the search tells of itself
     if (CaricaForm || inRicerca_)
         return;
     if (indice > 0 && !SagomiAssegnati(NodoCorrente)) {
@@ -188,6 +196,12 @@ void frmGiunti::PrendeSagomo() {
     CriterioScelto();
 }
 
+/// What was to be picked is not any more.
+void frmGiunti::AbbandonaScelta() {
+    inAttesa_ = RuoloSagomo::Nessuno;
+    SceltaSagomoGiunto = false;
+}
+
 /// Other factors, or another strength: the resistances of the sections are of yesterday.
 void frmGiunti::RinnovaSeCambiato() {
     const std::string now = FirmaSagomi(NodoCorrente);
@@ -195,6 +209,11 @@ void frmGiunti::RinnovaSeCambiato() {
         return;
     firma_ = now;
     RinnovaResistenze(NodoCorrente);
+    bool results = false;
+    for (std::int16_t i = 1; i <= NodoCorrente.NumeroGiunti; ++i)
+        results = results || NodoCorrente.Giunti[i]->Acquisito;
+    if (results && SagomiAssegnati(NodoCorrente))
+        documento_->Modifica();
     NodoCorrente.No_Acquisito();
     dalFile_ = {};
     DimenticaSelezioni();

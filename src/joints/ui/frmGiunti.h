@@ -146,6 +146,7 @@ private:
     // Picking of sections
     void ScegliSagomo(RuoloSagomo ruolo);
     void PrendeSagomo();
+    void AbbandonaScelta();
     void RinnovaSeCambiato();
     void NuovoNodo();
     void NuovoDocumento();

@@ -179,7 +179,13 @@ void frmGiunti::cmdCalcola() {
     AzzeraRisultati();
     DalFile(false);
     documento_->Modifica();
-    const bool done = Calcola();
+    bool done = false;
+    try {
+        done = Calcola();
+    } catch (...) {
+        MostraRisultati();
+        throw;
+    }
     if (done && g.Trave->lunghezza() == 0)
         Avvisa("Inserire la luce della trave per classificare il giunto in base alla rigidezza", titoloGiunto,
                Icona::Avviso);
@@ -260,7 +266,6 @@ void frmGiunti::MostraCandidato(const Giunto& giunto) {
 void frmGiunti::MostraRisultati() {
     ScriviDatiInForm();
     MostraDisegno();
-    AggiornaVisibili();
 }
 
 void frmGiunti::Azzera() {
@@ -298,11 +303,13 @@ void frmGiunti::ScriviDatiInForm() {
     MostraStato();
     diagramma_->Mostra(DiagrammaRigidezza(g));
     ui_->CmdRisultati->setEnabled(g.RisultatiIntermedi_Estrai().n() > 0);
+    AggiornaVisibili();
 }
 
 void frmGiunti::EvidenziaRisultatoMio() {
     const VerdettoGiunto v = Giudica(Corrente());
     QLabel* shape = Etichetta("ShapeResistenza");
+    Ingrassa(shape, true);
     shape->setText(!v.presente       ? QString()
                    : !v.resiste      ? QStringLiteral("NO")
                    : v.forma.empty() ? QStringLiteral("OK")
@@ -380,6 +387,9 @@ void frmGiunti::MostraStato() {
     QString text;
     if (g.Acquisito && g.Trave) {
         text = QStringLiteral("Mj,Rd = %1 kNm").arg(Numero(g.MplRdGIUNTO));
+        if (g.MplRdGIUNTO > 0)
+            text += QStringLiteral(", utilizzo %1 %")
+                        .arg(std::lround(100 * std::abs(double(g.Trave->Mysd)) / g.MplRdGIUNTO));
         if (dalFile_.at(static_cast<std::size_t>(NodoCorrente.nGiunto - 1)))
             text += QStringLiteral(" - ") + QString::fromUtf8(testoDalFile);
     }
@@ -393,6 +403,15 @@ void frmGiunti::MostraConsiglio(int argomento) {
 /// @param giunto  another than the current one: a candidate of a search
 void frmGiunti::MostraDisegno(const Giunto* giunto) {
     const Giunto& shown = giunto != nullptr ? *giunto : Corrente();
+    if (giunto == nullptr && !shown.Acquisito && SagomiAssegnati(NodoCorrente)) {
+        Nodo scratch = NodoCorrente; // with what follows from the parameters
+        scratch.ConnessioneCorrente = std::make_shared<Giunto>(shown);
+        Giunto& g = *scratch.ConnessioneCorrente;
+        PreparaLimiti(g);
+        g.Derivati_Calcola();
+        vista_->Mostra(scratch, &g, {});
+        return;
+    }
     vista_->Mostra(NodoCorrente, giunto, shown.Acquisito ? Governa(shown) : EvidenzaGiunto{});
 }
 

@@ -185,6 +185,9 @@ void frmGiunti::ScriveEntrate() {
         if (!NumeroPulito(box->text().toStdString()) || ValoreNumerico(box->text().toStdString()) != value ||
             (c.genere == GenereCampo::parametro && value == 0))
             box->setText(Testo(value));
+        const bool negative =
+            value < 0 && (c.genere == GenereCampo::parametro || c.genere == GenereCampo::limite);
+        SegnaEntrata(box, negative ? QStringLiteral("Il valore non può essere negativo") : QString());
     }
     auto* bolts = findChild<QComboBox*>(QStringLiteral("CboDiametriBulloni"));
     bolts->setCurrentIndex(std::max<int>(Corrente().IndiceBullone(), 1) - 1);
@@ -197,11 +200,14 @@ void frmGiunti::Digitata(QLineEdit* casella) {
     if (field == nullptr || field->genere != GenereCampo::parametro || !SagomiAssegnati(NodoCorrente) ||
         !NumeroPulito(casella->text().toStdString()))
         return;
+    const double typed = ValoreNumerico(casella->text().toStdString());
+    if (!std::isfinite(typed))
+        return;
     Nodo scratch = NodoCorrente;
     scratch.ConnessioneCorrente = std::make_shared<Giunto>(Corrente());
     Giunto& g = *scratch.ConnessioneCorrente;
     g.Acquisito = false;
-    field->scrive(scratch, ValoreNumerico(casella->text().toStdString()));
+    field->scrive(scratch, typed);
     EvidenzaGiunto marks;
     PreparaLimiti(g);
     g.Derivati_Calcola();
@@ -241,17 +247,21 @@ void frmGiunti::MostraCampi() {
 void frmGiunti::MostraNotaTf() {
     const Giunto& g = Corrente();
     const double tf = g.Criterio1 ? g.tf_max : g.tf;
-    Etichetta("lbltf")->setText(g.Trave && g.Trave->h > 0 ? QString::fromStdString(NotaSpessore(g, tf))
-                                                          : QString());
+    const QString note = g.Trave && g.Trave->h > 0 ? QString::fromStdString(NotaSpessore(g, tf)) : QString();
+    Etichetta("lbltf")->setText(note);
+    Etichetta("LblCampoTexttf")->setText(g.Criterio1 ? QString() : note);
 }
 
 // ---------------------------------------------------------------------------------------------- limits
 
 /// Runs a limit on the current joint, with its welds sized; what it replaces is shown.
 void frmGiunti::Limite(const std::function<void(Giunto&)>& controllo) {
+    Suggerimento.clear();
+    if (!SagomiAssegnati(NodoCorrente))
+        return;
     Giunto& g = Corrente();
-    PreparaLimiti(g);
     const Giunto before = g;
+    PreparaLimiti(g);
     controllo(g);
     const bool replaced = before.bf != g.bf || before.ef != g.ef || before.d2 != g.d2 || before.dX != g.dX ||
                           before.ex != g.ex || before.u != g.u || before.L != g.L ||
@@ -260,13 +270,21 @@ void frmGiunti::Limite(const std::function<void(Giunto&)>& controllo) {
     if (replaced) {
         AzzeraRisultati();
         documento_->Modifica();
+    } else if (g.Acquisito) {
+        g.Af = before.Af; // those of the results
+        g.aw = before.aw;
     }
     ScriveEntrate();
 }
 
 void frmGiunti::IndiceBulloneMax_Calcola(std::int16_t& Risultato) {
-    PreparaLimiti(Corrente());
-    const BulloneMassimo bolt = BulloneMax(Corrente());
+    Risultato = 1;
+    Suggerimento.clear();
+    if (!SagomiAssegnati(NodoCorrente))
+        return;
+    Giunto copy = Corrente();
+    PreparaLimiti(copy);
+    const BulloneMassimo bolt = BulloneMax(copy);
     Risultato = bolt.indice;
     Suggerimento = bolt.suggerimento;
 }
@@ -310,6 +328,7 @@ void frmGiunti::L_max_controlla() {
 void frmGiunti::BulloneScelto(int indice) {
     if (CaricaForm || inRicerca_ || indice < 0 || indice + 1 == Corrente().IndiceBullone())
         return;
+    ConcludeEntrate();
     Corrente().IndiceBullone(static_cast<std::int16_t>(indice + 1));
     GiuntoCambiato(false);
     if (SagomiAssegnati(NodoCorrente)) {
@@ -325,8 +344,10 @@ void frmGiunti::BulloneScelto(int indice) {
 void frmGiunti::CollegaOpzioni() {
     const auto group = [this](const char* name, const std::function<void(int)>& chosen) {
         Collega(Opzione(name, 0)->group(), &QButtonGroup::idToggled, this, [this, chosen](int i, bool on) {
-            if (on && !CaricaForm && !inRicerca_)
-                chosen(i);
+            if (!on || CaricaForm || inRicerca_)
+                return;
+            ConcludeEntrate(); // what is typed belongs to the joint as it was
+            chosen(i);
         });
     };
     group("Optvie", [this](int i) { NodoScelto(static_cast<std::int16_t>(i)); });
@@ -380,6 +401,8 @@ void frmGiunti::NodoScelto(std::int16_t tipo) {
     if (n.NumeroGiunti == 1) {
         n.Giunti[2].reset();
         n.nGiunto = 1;
+        if (inAttesa_ == RuoloSagomo::TraveSx)
+            AbbandonaScelta();
     } else if (!n.Giunti[2]) {
         n.Giunti[2]->IndiceBullone(1);
     }
@@ -396,6 +419,7 @@ void frmGiunti::NodoScelto(std::int16_t tipo) {
 void frmGiunti::GiuntoScelto(int indice) {
     if (CaricaForm || inRicerca_ || indice < 0)
         return;
+    ConcludeEntrate();
     NodoCorrente.nGiunto = static_cast<std::int16_t>(indice + 1);
     CriterioScelto();
 }

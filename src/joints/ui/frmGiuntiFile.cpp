@@ -118,6 +118,7 @@ const Legame* LegameDi(const QString& box) {
 
 void frmGiunti::PreparaDocumento() {
     documento_ = new DocumentoSchermo(*this, {"Giunto Flangiato", "Gfl", "Gfl"});
+    Collega(ui_->mnuRecenti, &QMenu::triggered, this, [this] { ConcludeEntrate(); });
     documento_->CollegaRecenti(*ui_->mnuRecenti);
     setWindowTitle(QString::fromLatin1(titoloForma));
 }
@@ -167,7 +168,7 @@ void frmGiunti::NuovoNodo() {
     NodoCorrente = Nodo();
     NodoCorrente.ImpostaNodo();
     NodoCorrente.CaratterizzaGiunti();
-    inAttesa_ = RuoloSagomo::Nessuno;
+    AbbandonaScelta();
     dalFile_ = {};
     firma_ = FirmaSagomi(NodoCorrente);
     {
@@ -200,7 +201,7 @@ bool frmGiunti::Legge(std::int16_t nFile) {
     RinnovaNplRd(node);
     NodoCorrente = node;
     firma_ = FirmaSagomi(NodoCorrente);
-    inAttesa_ = RuoloSagomo::Nessuno;
+    AbbandonaScelta();
     dalFile_ = {true, true};
     {
         const QScopedValueRollback loading(CaricaForm, true);
@@ -273,7 +274,12 @@ void frmGiunti::PlottaSelezione(int riga) {
 
 /// The results are those of the row from now on.
 void frmGiunti::InserisciSelezione(int riga) {
-    NodoCorrente.EsegueSelezione(riga);
+    try {
+        NodoCorrente.EsegueSelezione(riga);
+    } catch (...) {
+        MostraRisultati();
+        throw;
+    }
     DalFile(false);
     documento_->Modifica();
     MostraRisultati();

@@ -78,6 +78,7 @@ TEST_F(IntornoGiuntiTest, OtherDataForgetTheImprovements) {
     EXPECT_GT(Trova<QTableView>(&list, "Griglia")->model()->rowCount(), 1);
     Scrive("TxtM_Col", "10");
     EXPECT_EQ(Joint().RisultatiIntermedi_Estrai().n(), 0);
+    EXPECT_EQ(Trova<QTableView>(&list, "Griglia")->model()->rowCount(), 0);
     EXPECT_FALSE(Trova<QPushButton>(g, "CmdRisultati")->isEnabled());
 }
 

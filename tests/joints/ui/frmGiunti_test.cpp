@@ -1,3 +1,5 @@
+#include <QTest>
+
 #include "drawing/ui/ImmagineDisegno.h"
 #include "joints/ui/AmbienteGiunti.h"
 
@@ -111,6 +113,43 @@ TEST_F(FrmGiuntiTest, MenuCompletesThePickToo) {
     Trova<QAction>(partenza, "MnuGiunto")->trigger();
     EXPECT_EQ(Scritta(g, "LblColonnaInf"), "HEB 200");
     EXPECT_FALSE(SceltaSagomoGiunto);
+}
+
+TEST_F(FrmGiuntiTest, NewNodeAndOneBeamGiveUpThePick) {
+    Apre();
+    Nodo(0);
+    Premi(g, "CmdTraveSx");
+    EXPECT_TRUE(SceltaSagomoGiunto);
+    Nodo(2);
+    EXPECT_FALSE(SceltaSagomoGiunto);
+    Premi(g, "CmdTraveDx");
+    EXPECT_TRUE(SceltaSagomoGiunto);
+    g->NodoCorrente.ConnessioneCorrente->tf = 1;
+    const Registratore yes(true);
+    Trova<QAction>(g, "mnufileitem_0")->trigger();
+    EXPECT_EQ(g->NodoCorrente.ConnessioneCorrente->tf, 0) << "a new node";
+    EXPECT_FALSE(SceltaSagomoGiunto);
+}
+
+TEST_F(FrmGiuntiTest, OptionKeepsWhatIsTyped) {
+    NodoT();
+    Verifica1Fila();
+    auto* box = Trova<QLineEdit>(g, "Textbf");
+    box->clear();
+    QTest::keyClicks(box, "160");
+    Sceglie("Optres_1");
+    EXPECT_EQ(g->NodoCorrente.ConnessioneCorrente->bf, 160);
+    EXPECT_EQ(Legge("Textbf"), "160");
+}
+
+TEST_F(FrmGiuntiTest, NegativeParameterIsMarked) {
+    NodoT();
+    Verifica1Fila();
+    auto* box = Trova<QLineEdit>(g, "Texttf");
+    Scrive("Texttf", "-15");
+    EXPECT_THAT(box->toolTip().toStdString(), HasSubstr("non può essere negativo"));
+    Scrive("Texttf", "15");
+    EXPECT_THAT(box->toolTip().toStdString(), testing::Not(HasSubstr("negativo")));
 }
 
 TEST_F(FrmGiuntiTest, WeldedSectionIsTakenFromItsScreen) {
