@@ -31,13 +31,15 @@ void AggiungeSpeculare(std::vector<double>& xs, std::vector<double>& ys) {
 
 } // namespace
 
-// A section of class 4 is prepared once more, for its resistance rests on the effective area found first.
+// A section that is or was of class 4 is prepared once more, for its resistance rests on the effective area
+// found first.
 void AcciaioCls::InizializzaTrave() {
     auto* sezione = SezioneInUso<SezioneDoppioT>();
     if (sezione == nullptr)
         return;
+    const bool era4 = sezione->ClasseCompressione == 4;
     sezione->InizializzaSezioneAcciaioCls();
-    if (sezione->ClasseCompressione == 4)
+    if (era4 || sezione->ClasseCompressione == 4)
         InizializzaConAreaEfficace(*sezione);
 }
 

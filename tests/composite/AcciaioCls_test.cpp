@@ -47,6 +47,16 @@ protected:
     }
 };
 
+// Web 576/8 = 72: over the 42 epsilon of class 3 of 355 N/mm2, 34.2, and under those of 50, 91.1.
+TEST_F(AcciaioClsTest, EffectiveAreaOfAnotherSteelIsForgotten) {
+    const auto changed = InUso(355, 600, 200, 8, 12);
+    ASSERT_EQ(changed->ClasseCompressione, 4);
+    changed->fy = 50;
+    AcciaioCls::InizializzaTrave();
+    ASSERT_LT(changed->ClasseCompressione, 4);
+    EXPECT_NEAR(changed->NplRd, (2 * 200 * 12 + 576 * 8) * 50, 1);
+}
+
 TEST_F(AcciaioClsTest, SolidSlabHasSixVertices) {
     AcciaioCls t = Piena(120);
     ASSERT_TRUE(t.InizializzaAcciaioCls());
