@@ -165,6 +165,7 @@ private:
     void Grassetta(std::string_view risultato);
     void ToglieGrassetto();
     void MostraDisegno(const Giunto* giunto = nullptr);
+    void MostraDisegno(const Giunto* giunto, const EvidenzaGiunto& segni);
     void Plotta();
     void VaiAlComponente(ComponenteGiunto componente);
     void FuocoPassato(const QWidget* controllo);

@@ -403,16 +403,20 @@ void frmGiunti::MostraConsiglio(int argomento) {
 /// @param giunto  another than the current one: a candidate of a search
 void frmGiunti::MostraDisegno(const Giunto* giunto) {
     const Giunto& shown = giunto != nullptr ? *giunto : Corrente();
-    if (giunto == nullptr && !shown.Acquisito && SagomiAssegnati(NodoCorrente)) {
-        Nodo scratch = NodoCorrente; // with what follows from the parameters
-        scratch.ConnessioneCorrente = std::make_shared<Giunto>(shown);
-        Giunto& g = *scratch.ConnessioneCorrente;
-        PreparaLimiti(g);
-        g.Derivati_Calcola();
-        vista_->Mostra(scratch, &g, {});
+    MostraDisegno(giunto, shown.Acquisito ? Governa(shown) : EvidenzaGiunto{});
+}
+
+void frmGiunti::MostraDisegno(const Giunto* giunto, const EvidenzaGiunto& segni) {
+    if (giunto != nullptr || Corrente().Acquisito || !SagomiAssegnati(NodoCorrente)) {
+        vista_->Mostra(NodoCorrente, giunto, segni);
         return;
     }
-    vista_->Mostra(NodoCorrente, giunto, shown.Acquisito ? Governa(shown) : EvidenzaGiunto{});
+    Nodo scratch = NodoCorrente; // with what follows from the parameters
+    scratch.ConnessioneCorrente = std::make_shared<Giunto>(Corrente());
+    Giunto& g = *scratch.ConnessioneCorrente;
+    PreparaLimiti(g);
+    g.Derivati_Calcola();
+    vista_->Mostra(scratch, &g, segni);
 }
 
 } // namespace sagomi

@@ -320,7 +320,7 @@ void frmGiunti::FuocoPassato(const QWidget* controllo) {
         return;
     EvidenzaGiunto marks = Corrente().Acquisito ? Governa(Corrente()) : EvidenzaGiunto{};
     marks.governano = {{l->componente, l->fila}};
-    vista_->Mostra(NodoCorrente, nullptr, marks);
+    MostraDisegno(nullptr, marks);
 }
 
 } // namespace sagomi

@@ -4,6 +4,7 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
 #include <QTextBrowser>
@@ -12,6 +13,7 @@
 #include "drawing/ui/ScegliDispositivo.h"
 #include "frame/ui/FileDialogo.h"
 #include "joints/ui/AmbienteGiunti.h"
+#include "joints/ui/VistaGiunto.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -80,6 +82,31 @@ TEST_F(IntornoGiuntiTest, OtherDataForgetTheImprovements) {
     EXPECT_EQ(Joint().RisultatiIntermedi_Estrai().n(), 0);
     EXPECT_EQ(Trova<QTableView>(&list, "Griglia")->model()->rowCount(), 0);
     EXPECT_FALSE(Trova<QPushButton>(g, "CmdRisultati")->isEnabled());
+}
+
+/// Before a check the drawing has the distances that follow from the entries, with and without the focus.
+TEST_F(IntornoGiuntiTest, FocusMarksAComponentAndMovesNothing) {
+    NodoT();
+    Sceglie("OptCriterio_1");
+    Scrive("Texttf", "15");
+    Scrive("Textbf", "160");
+    Scrive("Textef", "40");
+    Scrive("Textd2", "50");
+    auto* view = Trova<VistaGiunto>(g, "VistaGiunto");
+    const auto plan = [view] {
+        view->grab(); // the components lie where they were painted last
+        std::vector<ComponenteGiunto> components;
+        for (int y = 0; y < view->height(); y += 5)
+            for (int x = 0; x < view->width(); x += 5)
+                components.push_back(view->Componente(QPointF(x, y)).componente);
+        return components;
+    };
+    Trova<QLineEdit>(g, "TxtM_Dx")->setFocus();
+    const auto before = plan();
+    ASSERT_THAT(before, testing::Contains(ComponenteGiunto::Bulloni));
+    Trova<QTabWidget>(g, "SSTab1")->setCurrentIndex(2);
+    Trova<QLineEdit>(g, "Textd2")->setFocus();
+    EXPECT_EQ(plan(), before);
 }
 
 TEST_F(IntornoGiuntiTest, DoubleClickOnANameOpensItsFormula) {
