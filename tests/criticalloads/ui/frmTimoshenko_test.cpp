@@ -114,7 +114,7 @@ TEST_F(FrmTimoshenkoTest, ANegativeConstantGivesNoMoment) {
         Scrive(&t, box, "-5");
         Premi(&t, "Command1");
         EXPECT_EQ(Mcr(t), "") << box;
-        Scrive(&t, box, was.toStdString().c_str());
+        Trova<QLineEdit>(&t, box)->setText(was);
         Premi(&t, "Command1");
         EXPECT_EQ(Mcr(t), Locale(" 38.22")) << box;
     }
