@@ -90,6 +90,8 @@ void Casella::Colora() {
         return; // setting the palette announces a change of palette
     const QScopedValueRollback guard(colorando_, true);
     QPalette colours;
+    if (const auto ink = property("inchiostro").value<QColor>(); ink.isValid())
+        colours.setColor(QPalette::Text, ink); // that a screen has given to the value
     const QColor ground = QApplication::palette().color(QPalette::Base);
     if (isReadOnly() && segno_ != DaAggiornare)
         colours.setBrush(QPalette::Base, QApplication::palette().brush(QPalette::Window));

@@ -103,6 +103,8 @@ void Ingrassa(QWidget* widget, bool bold) {
 }
 
 void Tinge(QWidget* widget, QPalette::ColorRole role, const QColor& colour) {
+    if (role == QPalette::Text)
+        widget->setProperty("inchiostro", colour); // a box colours itself anew at each change
     QPalette colours = widget->palette();
     colours.setColor(role, colour);
     widget->setPalette(colours);

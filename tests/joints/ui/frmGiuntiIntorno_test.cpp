@@ -109,6 +109,17 @@ TEST_F(IntornoGiuntiTest, FocusMarksAComponentAndMovesNothing) {
     EXPECT_EQ(plan(), before);
 }
 
+/// A row always has a component that governs it.
+TEST_F(IntornoGiuntiTest, WhatGovernsHasTheColourOfItsGroup) {
+    Progettato();
+    const auto* row = Trova<QLineEdit>(g, "txtFmin0");
+    EXPECT_TRUE(row->font().bold());
+    EXPECT_NE(row->palette().color(QPalette::Text), QApplication::palette().color(QPalette::Text));
+    Premi(g, "CmdAzzera");
+    EXPECT_FALSE(row->font().bold());
+    EXPECT_EQ(row->palette().color(QPalette::Text), QApplication::palette().color(QPalette::Text));
+}
+
 TEST_F(IntornoGiuntiTest, DoubleClickOnANameOpensItsFormula) {
     NodoT();
     DoppioClic("txtF5");
