@@ -5,6 +5,8 @@
 
 #include "frame/Messaggi.h"
 
+class QWidget;
+
 namespace sagomi {
 
 /// Title of the messages of the joint screen.
@@ -22,5 +24,8 @@ enum SchedaGiunto : int {
     schedaResistenza,
     schedaRigidezza
 };
+
+/// Gives the text of a box the colour of its group: the column, else the beams.
+void TingeGruppo(QWidget* box, bool column);
 
 } // namespace sagomi

@@ -120,6 +120,8 @@ QColor ColoreGruppo(bool column) {
 
 } // namespace
 
+void TingeGruppo(QWidget* box, bool column) { Tinge(box, QPalette::Text, ColoreGruppo(column)); }
+
 /// Shows a search while it runs.
 class OsservatoreSchermo : public OsservatoreProgetto {
 public:
@@ -349,7 +351,7 @@ void frmGiunti::Grassetta(std::string_view risultato) {
             const QString name = QString::fromUtf8(control.data(), static_cast<qsizetype>(control.size()));
             auto* box = findChild<QLineEdit*>(name);
             Ingrassa(box, true);
-            Tinge(box, QPalette::Text, ColoreGruppo(column));
+            TingeGruppo(box, column);
             QString row = name;
             if (auto* mark =
                     findChild<QLabel*>(QStringLiteral("LblSegno") + row.remove(QStringLiteral("Ridistr"))))

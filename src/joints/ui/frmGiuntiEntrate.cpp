@@ -68,6 +68,11 @@ QString TestoCampo(const CampoAmmesso& range) {
     return QStringLiteral("da ") + number(range.minimo) + QStringLiteral(" a ") + number(*range.massimo);
 }
 
+/// Whether an entry is an action on the column.
+bool DellaColonna(std::string_view casella) {
+    return casella == "TxtM_Col" || casella == "TxtN_Col" || casella == "TxtV_Col" || casella == "TxtV_Sup";
+}
+
 } // namespace
 
 void frmGiunti::CollegaEntrate() {
@@ -116,6 +121,7 @@ void frmGiunti::Conclusa(QLineEdit* casella, const QString& testo) {
 
 /// A text that is no number becomes the number again; another number goes into the node.
 void frmGiunti::Accetta(const CampoGiunto& campo, QLineEdit* casella, const QString& testo) {
+    TingeGruppo(casella, DellaColonna(campo.casella));
     const double before = campo.legge(NodoCorrente);
     double value = before;
     std::string text = testo.toStdString();

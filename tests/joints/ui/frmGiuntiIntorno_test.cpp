@@ -120,6 +120,17 @@ TEST_F(IntornoGiuntiTest, WhatGovernsHasTheColourOfItsGroup) {
     EXPECT_EQ(row->palette().color(QPalette::Text), QApplication::palette().color(QPalette::Text));
 }
 
+TEST_F(IntornoGiuntiTest, AnEntryThatIsTakenHasTheColourOfItsGroup) {
+    NodoT();
+    Scrive("TxtM_Dx", "40");
+    Scrive("TxtM_Col", "10");
+    const auto ink = [this](const char* box) {
+        return Trova<QLineEdit>(g, box)->palette().color(QPalette::Text);
+    };
+    EXPECT_NE(ink("TxtM_Dx"), ink("TxtM_Col"));
+    EXPECT_NE(ink("TxtM_Dx"), QApplication::palette().color(QPalette::Text));
+}
+
 TEST_F(IntornoGiuntiTest, DoubleClickOnANameOpensItsFormula) {
     NodoT();
     DoppioClic("txtF5");
