@@ -12,7 +12,7 @@ pacchetti_misure=(libbenchmark-dev libgeos-dev libfreexl-dev libx11-dev libxdama
 pacchetti_prove=(
   libgtest-dev libgmock-dev libfreexl-dev
   python3 python3-xlrd python3-ezdxf
-  poppler-utils
+  poppler-utils weasyprint python3-bs4 fonts-stix
   dbus-daemon libglib2.0-bin
   desktop-file-utils appstream libxml2-utils shared-mime-info librsvg2-bin
   clang clang-format clang-tidy
