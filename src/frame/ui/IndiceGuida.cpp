@@ -114,8 +114,9 @@ QList<ArgomentoGuida> CercaGuida(const QList<ArgomentoGuida>& argomenti, const Q
     for (const ArgomentoGuida& topic : argomenti)
         if (ContieneTutte(Piegato(topic.titolo + u' ' + topic.testo), words))
             found << topic;
-    std::ranges::stable_partition(
-        found, [&](const ArgomentoGuida& topic) { return ContieneTutte(Piegato(topic.titolo), words); });
+    std::stable_partition(found.begin(), found.end(), [&](const ArgomentoGuida& topic) {
+        return ContieneTutte(Piegato(topic.titolo), words);
+    });
     return found;
 }
 
