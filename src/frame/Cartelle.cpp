@@ -1,8 +1,11 @@
 #include "frame/Cartelle.h"
 
+#include <cstdlib>
 #include <system_error>
 
 #include "frame/FileDati.h"
+#include "frame/GeneraleSagomi.h"
+#include "frame/Ripristino.h"
 
 namespace sagomi {
 
@@ -15,13 +18,34 @@ bool ConCatalogo(const fs::path& cartella) {
     return fs::exists(PercorsoSenzaMaiuscole(cartella, "Sagomi.xls"), errore);
 }
 
+fs::path Variabile(const char* nome) {
+    const char* valore = std::getenv(nome); // NOLINT(concurrency-mt-unsafe): nobody writes the environment
+    return valore == nullptr ? fs::path() : fs::path(valore);
+}
+
+fs::path CartellaUtente(const char* variabile, const char* nellaCasa) {
+    fs::path scelta = Variabile(variabile);
+    return scelta.is_absolute() ? scelta : Variabile("HOME") / nellaCasa;
+}
+
+fs::path installata; // NOLINT: named once, at the start
+const bool ripristinata = AggiungeRipristino([] { installata.clear(); });
+
 } // namespace
 
 fs::path CartellaFile(const fs::path& programma) {
     if (ConCatalogo(programma))
         return programma;
-    fs::path installata = programma.parent_path() / "share" / "sagomi";
-    return ConCatalogo(installata) ? installata : programma;
+    fs::path condivisa = programma.parent_path() / "share" / "sagomi";
+    return ConCatalogo(condivisa) ? condivisa : programma;
 }
+
+fs::path CartellaDatiUtente() { return CartellaUtente("XDG_DATA_HOME", ".local/share"); }
+
+fs::path CartellaConfigurazioneUtente() { return CartellaUtente("XDG_CONFIG_HOME", ".config"); }
+
+fs::path CartellaInstallata() { return installata.empty() ? PathProgramma : installata; }
+
+void ImpostaCartellaInstallata(const fs::path& cartella) { installata = cartella; }
 
 } // namespace sagomi

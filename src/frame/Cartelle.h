@@ -9,4 +9,14 @@ namespace sagomi {
 /// @param programma  folder of the program
 std::filesystem::path CartellaFile(const std::filesystem::path& programma);
 
+/// The folders of the user after the rules of the desktops: XDG_DATA_HOME or ~/.local/share, XDG_CONFIG_HOME
+/// or ~/.config. A variable that names no absolute path does not count; without a home the path is relative.
+std::filesystem::path CartellaDatiUtente();
+std::filesystem::path CartellaConfigurazioneUtente();
+
+/// The folder of what came with the program and is only read, help and formulas: PathProgramma where
+/// ImpostaCartellaInstallata has named no other.
+std::filesystem::path CartellaInstallata();
+void ImpostaCartellaInstallata(const std::filesystem::path& cartella);
+
 } // namespace sagomi
