@@ -37,11 +37,15 @@ Sagomi:
   --hmax mm --bmax mm --gmin kg/m --gmax kg/m   limiti
   --verificati            solo quelli verificati
   --doppi mm --accostati  canali e angolari doppi alla distanza data, accostati di ala o di lato corto
+Cartella:
+  --cartella DIR          lavora in DIR (impostazioni, Sagomi.xls, SagomiUtente.xls), anche con le finestre
 Risposta:
   --json, --csv           per altri programmi
   --json da solo          legge lavori, uno per riga ({"verifica":"HEA 200","N":400}), e risponde a ciascuno
 Stato di uscita: 0 verificato, 1 non verificato, 2 uso errato.
 )";
+
+using TrovaCartella = std::function<std::filesystem::path()>;
 
 /// A name without blanks, in small letters: "hea200" finds "HEA 200".
 std::string Piegato(std::string_view nome) {
@@ -117,9 +121,9 @@ int EsegueLavoro(const LavoriJson& lavori, const std::string& riga, const std::v
 }
 
 /// The jobs on the input; options of the command line hold for each of them.
-int EsegueLavori(const std::vector<std::string>& comuni, const std::filesystem::path& cartella,
+int EsegueLavori(const std::vector<std::string>& comuni, const TrovaCartella& cartella,
                  std::istream& ingresso, std::ostream& uscita) {
-    const Gara gara = Legge(cartella, {});
+    const Gara gara = Legge(cartella(), {});
     const LavoriJson lavori;
     int peggiore = comandoVerificato;
     for (std::string riga; std::getline(ingresso, riga);) {
@@ -131,7 +135,7 @@ int EsegueLavori(const std::vector<std::string>& comuni, const std::filesystem::
     return peggiore;
 }
 
-int Esegue(Comando c, const std::filesystem::path& cartella, std::ostream& uscita) {
+int Esegue(Comando c, const TrovaCartella& cartella, std::ostream& uscita) {
     if (c.modo == ModoComando::Aiuto) {
         uscita << guida;
         return comandoVerificato;
@@ -140,7 +144,7 @@ int Esegue(Comando c, const std::filesystem::path& cartella, std::ostream& uscit
         uscita << "sagomi " << versioneProgramma << '\n';
         return comandoVerificato;
     }
-    return Risponde(c, Legge(cartella, c.filtri.famiglie), uscita);
+    return Risponde(c, Legge(cartella(), c.filtri.famiglie), uscita);
 }
 
 } // namespace
@@ -148,6 +152,12 @@ int Esegue(Comando c, const std::filesystem::path& cartella, std::ostream& uscit
 std::optional<int> EsegueComando(const std::vector<std::string>& argomenti,
                                  const std::filesystem::path& cartella, std::istream& ingresso,
                                  std::ostream& uscita, std::ostream& errori) {
+    return EsegueComando(
+        argomenti, [&cartella] { return cartella; }, ingresso, uscita, errori);
+}
+
+std::optional<int> EsegueComando(const std::vector<std::string>& argomenti, const TrovaCartella& cartella,
+                                 std::istream& ingresso, std::ostream& uscita, std::ostream& errori) {
     try {
         Comando comando = LeggeOpzioni(argomenti);
         if (comando.modo == ModoComando::Finestre)

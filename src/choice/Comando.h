@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -22,5 +23,11 @@ enum : int { comandoVerificato = 0, comandoNonVerificato = 1, comandoErrato = 2 
 std::optional<int> EsegueComando(const std::vector<std::string>& argomenti,
                                  const std::filesystem::path& cartella, std::istream& ingresso,
                                  std::ostream& uscita, std::ostream& errori);
+
+/// The same with a folder that is looked for when an answer needs it.
+/// @param cartella  a throw of it ends the command with its text
+std::optional<int> EsegueComando(const std::vector<std::string>& argomenti,
+                                 const std::function<std::filesystem::path()>& cartella,
+                                 std::istream& ingresso, std::ostream& uscita, std::ostream& errori);
 
 } // namespace sagomi

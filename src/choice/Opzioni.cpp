@@ -176,6 +176,18 @@ Comando LeggeOpzioni(const std::vector<std::string>& argomenti) {
     return c;
 }
 
+std::optional<std::filesystem::path> PrendeCartella(std::vector<std::string>& argomenti) {
+    constexpr std::string_view nome = "--cartella";
+    std::optional<std::filesystem::path> cartella;
+    for (auto a = argomenti.begin(); (a = std::ranges::find(a, argomenti.end(), nome)) != argomenti.end();) {
+        if (a + 1 == argomenti.end() || (a + 1)->empty())
+            throw ErroreUso("--cartella vuole una cartella");
+        cartella = *(a + 1);
+        a = argomenti.erase(a, a + 2);
+    }
+    return cartella;
+}
+
 void MetteInVigore(Comando& c) {
     if (c.normativa != "NTC" && c.normativa != "EC3")
         throw ErroreUso("--normativa vuole NTC o EC3, non \"" + c.normativa + "\"");

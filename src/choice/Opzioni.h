@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -34,6 +36,11 @@ struct Comando {
 /// our options the windows are meant, whatever else stands there; --json without a question means jobs.
 /// Throws ErroreUso.
 Comando LeggeOpzioni(const std::vector<std::string>& argomenti);
+
+/// Takes --cartella with its folder out of the arguments; it holds for windows and answers alike.
+/// @return the folder, where one is chosen; of several the last
+/// Throws ErroreUso.
+std::optional<std::filesystem::path> PrendeCartella(std::vector<std::string>& argomenti);
 
 /// Puts code and steel of a command in force: the partial factors, and grade and strengths of the request.
 /// Throws ErroreUso for names that are none.

@@ -5,8 +5,12 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <optional>
 #include <sstream>
+#include <stdexcept>
 
+#include "choice/Opzioni.h"
 #include "choice/Scelta.h"
 #include "frame/GeneraleSagomi.h"
 
@@ -160,6 +164,35 @@ struct Errato {
     std::vector<std::string> argomenti;
     const char* atteso;
 };
+
+TEST_F(ComandoTest, AFolderIsTakenOutOfTheArguments) {
+    std::vector<std::string> argomenti{"--cartella",        "/a",   "--scelta", "--cartella",
+                                       "lavori di Niccolò", "x.gfl"};
+    EXPECT_EQ(PrendeCartella(argomenti), "lavori di Niccolò");
+    EXPECT_EQ(argomenti, (std::vector<std::string>{"--scelta", "x.gfl"}));
+    EXPECT_EQ(PrendeCartella(argomenti), std::nullopt);
+    std::vector<std::string> senza{"--cartella"}, vuota{"--cartella", ""};
+    EXPECT_THROW(PrendeCartella(senza), ErroreUso);
+    EXPECT_THROW(PrendeCartella(vuota), ErroreUso);
+}
+
+TEST_F(ComandoTest, TheFolderIsLookedForWhenAnAnswerNeedsIt) {
+    int cercata = 0;
+    const std::function<std::filesystem::path()> rifiutata = [&cercata]() -> std::filesystem::path {
+        ++cercata;
+        throw std::runtime_error("la cartella /proc/x non si può usare");
+    };
+    std::istringstream nessuno;
+    EXPECT_EQ(EsegueComando({"--version"}, rifiutata, nessuno, uscita, errori), comandoVerificato);
+    EXPECT_EQ(EsegueComando({"nodo.gfl"}, rifiutata, nessuno, uscita, errori), std::nullopt);
+    EXPECT_EQ(cercata, 0);
+    for (const char* domanda : {"--scelta", "--json"}) {
+        errori.str("");
+        EXPECT_EQ(EsegueComando({domanda}, rifiutata, nessuno, uscita, errori), comandoErrato);
+        EXPECT_EQ(errori.str(), "sagomi: la cartella /proc/x non si può usare\n");
+    }
+    EXPECT_EQ(cercata, 2);
+}
 
 TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
     const std::vector<Errato> calls = {
