@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <fontconfig/fontconfig.h>
 
+#include <exception>
 #include <filesystem>
 #include <iostream>
 #include <optional>
@@ -8,40 +9,68 @@
 #include <thread>
 #include <vector>
 
+#include "catalogue/CartellaLavoro.h"
 #include "choice/Comando.h"
-#include "frame/Cartelle.h"
+#include "choice/Opzioni.h"
 #include "frame/ui/Protetto.h"
 #include "screens/ApreFile.h"
 #include "screens/GeneraleSchermi.h"
 
 namespace {
 
-/// What is answered without windows.
-std::optional<int> Comando(int argc, char* argv[]) {
-    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+using Scelta = std::optional<std::filesystem::path>;
+
+std::filesystem::path CartellaComando(const Scelta& chosen) {
     std::error_code none;
     const auto own = std::filesystem::read_symlink("/proc/self/exe", none).parent_path();
-    const auto status =
-        sagomi::EsegueComando(arguments, sagomi::CartellaFile(own), std::cin, std::cout, std::cerr);
+    return sagomi::ApreCartellaLavoro(own, chosen).lavoro;
+}
+
+/// What is answered without windows.
+std::optional<int> Comando(const std::vector<std::string>& arguments, const Scelta& chosen) {
+    const auto status = sagomi::EsegueComando(
+        arguments, [&chosen] { return CartellaComando(chosen); }, std::cin, std::cout, std::cerr);
     if (!status || std::cout.flush())
         return status;
     std::cerr << "sagomi: non è possibile scrivere la risposta\n";
     return sagomi::comandoErrato;
 }
 
-} // namespace
+/// The files to open: what neither the toolkit nor the program has taken for itself.
+std::vector<std::string> FileDaAprire() {
+    std::vector<std::string> files;
+    for (const QString& argument : QApplication::arguments().mid(1))
+        files.push_back(argument.toStdString());
+    sagomi::PrendeCartella(files);
+    return files;
+}
 
-int main(int argc, char* argv[]) {
-    if (const auto status = Comando(argc, argv))
-        return *status;
+int Finestre(int argc, char* argv[], const Scelta& chosen) {
     // The toolkit asks for the list of the system's fonts when it needs the first of them; reading it takes
     // as long as all the rest that comes before.
     std::jthread fonts([] { FcInit(); });
     const QApplication application(argc, argv);
     sagomi::PreparaApplicazione();
     fonts.join();
+    if (!sagomi::TrovaCartelle(chosen))
+        return sagomi::comandoErrato;
     sagomi::Main();
-    for (const QString& file : QApplication::arguments().mid(1))
-        sagomi::Protetto("Errore", [&file] { sagomi::ApreFile(file); });
+    for (const std::string& file : FileDaAprire())
+        sagomi::Protetto("Errore", [&file] { sagomi::ApreFile(QString::fromStdString(file)); });
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    try {
+        const Scelta chosen = sagomi::PrendeCartella(arguments);
+        if (const auto status = Comando(arguments, chosen))
+            return *status;
+        return Finestre(argc, argv, chosen);
+    } catch (const std::exception& e) {
+        std::cerr << "sagomi: " << e.what() << '\n';
+        return sagomi::comandoErrato;
+    }
 }

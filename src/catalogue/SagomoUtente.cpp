@@ -38,26 +38,6 @@ void InstallaCartellaUtente(const fs::path& file) {
         ScriveXls(CartellaUtenteVuota(), file);
 }
 
-fs::path FileCartellaUtente(const fs::path& programma, const fs::path& impostazioni) {
-    fs::path installata = FileAccanto(programma, cartellaUtente);
-    if (impostazioni.empty() || impostazioni == programma)
-        return installata;
-    std::error_code errore;
-    fs::path propria = FileAccanto(impostazioni, cartellaUtente);
-    if (!fs::exists(propria, errore) && fs::exists(installata, errore)) {
-        fs::create_directories(impostazioni, errore);
-        // Whole or not at all, whatever ends the program meanwhile.
-        fs::path parte = propria;
-        parte += ".parte";
-        fs::remove(parte, errore);
-        if (fs::copy_file(installata, parte, errore)) {
-            fs::permissions(parte, fs::perms::owner_write, fs::perm_options::add, errore);
-            fs::rename(parte, propria, errore);
-        }
-    }
-    return propria;
-}
-
 bool PiattiSaldati::Accettabili() const {
     const double bInf = b2.value_or(b);
     const double tInf = tf2.value_or(tf);

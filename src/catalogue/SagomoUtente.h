@@ -23,13 +23,6 @@ CartellaDati CartellaUtenteVuota();
 /// Writes it so where there is no file yet; what the user has stays. Throws ErroreCatalogo.
 void InstallaCartellaUtente(const std::filesystem::path& file);
 
-/// Where it lies: in the program's folder. Where the user has a folder of his own for settings, as in an
-/// installation for all, it lies there, at first use as a copy of the one that was installed.
-/// @param programma     folder of the program's files
-/// @param impostazioni  folder of the user's settings; empty where that is the program's
-std::filesystem::path FileCartellaUtente(const std::filesystem::path& programma,
-                                         const std::filesystem::path& impostazioni);
-
 /// The plates of a welded section [mm].
 struct PiattiSaldati {
     double h = 0;                  ///< overall height

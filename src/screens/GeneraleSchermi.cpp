@@ -1,15 +1,20 @@
 #include "screens/GeneraleSchermi.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTranslator>
 
+#include <cstdio>
+#include <stdexcept>
+#include <string>
+
+#include "catalogue/CartellaLavoro.h"
 #include "frame/Cartelle.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
+#include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/ui/AttesaQt.h"
 #include "frame/ui/Guida.h"
@@ -28,24 +33,31 @@ namespace sagomi {
 
 namespace {
 
-bool Scrivibile(const std::filesystem::path& folder) {
-    return QFileInfo(QString::fromStdString(folder.string())).isWritable();
-}
-
-/// The files lie beside the program, or where it was installed; settings that cannot lie there are the
-/// user's.
-void TrovaCartelle() {
-    if (!PathProgramma.empty())
-        return;
-    const std::filesystem::path own = QCoreApplication::applicationDirPath().toStdString();
-    PathProgramma = CartellaFile(own);
+/// A box, and a line for who has started the program from a terminal; a client waits for no box.
+void Racconta(const std::string& testo) {
+    std::fputs(("sagomi: " + testo + '\n').c_str(), stderr);
     if (!ServerAttivo)
-        CartellaStato(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
-    if (PathProgramma != own || !Scrivibile(own))
-        PathImpostazioni = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation).toStdString();
+        Avvisa(testo);
 }
 
 } // namespace
+
+bool TrovaCartelle(const std::optional<std::filesystem::path>& scelta) {
+    try {
+        const CartellaLavoro cartelle =
+            ApreCartellaLavoro(QCoreApplication::applicationDirPath().toStdString(), scelta);
+        PathProgramma = cartelle.lavoro;
+        ImpostaCartellaInstallata(cartelle.installazione);
+        if (!ServerAttivo)
+            CartellaStato(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+        if (!cartelle.avviso.empty())
+            Racconta(cartelle.avviso);
+        return true;
+    } catch (const std::runtime_error& e) {
+        Racconta(e.what());
+        return false;
+    }
+}
 
 void PreparaApplicazione() {
     QCoreApplication::setApplicationName(QStringLiteral("Sagomi"));
@@ -71,7 +83,8 @@ void Main() {
 void InizializzaProgramma() {
     ChiusuraInCorso = false;
     SeparatoriOk = true;
-    TrovaCartelle();
+    if (PathProgramma.empty())
+        TrovaCartelle();
     IniLeggeScrive("L");
     LeggeStatoComune();
     AvvioInCorso = true;

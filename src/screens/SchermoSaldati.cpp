@@ -131,7 +131,7 @@ bool SchermoSaldati::LeggeInSilenzio(const std::function<bool()>& legge) {
 }
 
 bool SchermoSaldati::ApreUtente() {
-    const std::filesystem::path file = FileCartellaUtente(PathProgramma, PathImpostazioni);
+    const std::filesystem::path file = FileAccanto(PathProgramma, cartellaUtente);
     const std::string table = "[" + TabellaUtente() + "]";
     const QScopedValueRollback own(TipoUtente, true);
     Data1->DatabaseName(file);

@@ -72,17 +72,6 @@ TEST_F(SagomoUtenteTest, WhatTheUserHasIsNotWrittenOver) {
     EXPECT_EQ(prove::LeggeByte(file), prima);
 }
 
-TEST_F(SagomoUtenteTest, AnInstallationForAllGivesEachUserHisOwnCopy) {
-    EXPECT_EQ(FileCartellaUtente(dir.percorso, {}), file);
-    EXPECT_EQ(FileCartellaUtente(dir.percorso, dir.percorso), file);
-    const auto propria = FileCartellaUtente(dir.percorso, dir.percorso / "casa");
-    EXPECT_EQ(propria, dir.percorso / "casa" / "SagomiUtente.xls");
-    EXPECT_EQ(prove::LeggeByte(propria), prove::LeggeByte(file));
-    prove::ScriveByte(propria, "mio");
-    EXPECT_EQ(FileCartellaUtente(dir.percorso, dir.percorso / "casa"), propria);
-    EXPECT_EQ(prove::LeggeByte(propria), "mio");
-}
-
 // 300 x 200 x 10 x 20 without fillets, by hand: A = 106 cm2, Iy = 17171.3 cm4, Iz = 2668.8 cm4,
 // Wply = 40 x 28 + 26^2 / 4 = 1289 cm3, Wplz = 2 x 2 x 20^2 / 4 + 26 / 4 = 406.5 cm3, g = 83.21 kg/m,
 // IT = (2 x 20 x 2^3 + 26) / 3 = 115.33 cm4, Iw = Iz / 4 x 28^2 = 523091 cm6.

@@ -3,14 +3,18 @@
 #include <QAction>
 #include <QMessageBox>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include <fstream>
 
+#include "frame/Cartelle.h"
 #include "frame/Impostazioni.h"
 #include "frame/ui/Guida.h"
+#include "frame/ui/IndiceGuida.h"
 #include "frame/ui/MessaggiQt.h"
 #include "screens/Ambiente.h"
+#include "screens/StatoUtente.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -48,6 +52,44 @@ TEST_F(GeneraleSchermiTest, StartedByAClientNothingShows) {
     ServerAttivo = true;
     Main();
     EXPECT_EQ(NavigaSchermi::Unico().Trova(QStringLiteral("frmDoppioT")), nullptr);
+}
+
+/// Another folder than the program's, whose state does not reach the user's own.
+class CartellaSceltaTest : public GeneraleSchermiTest {
+protected:
+    void SetUp() override {
+        GeneraleSchermiTest::SetUp();
+        QStandardPaths::setTestModeEnabled(true);
+        scelta = std::filesystem::path(cartella.path().toStdString()) / "lavori di Niccolò";
+    }
+    void TearDown() override {
+        GeneraleSchermiTest::TearDown();
+        CartellaStato({});
+        QStandardPaths::setTestModeEnabled(false);
+    }
+    std::filesystem::path scelta;
+};
+
+TEST_F(CartellaSceltaTest, SettingsAndSectionsAreKeptThereAndHelpIsReadWhereItCameFrom) {
+    ASSERT_TRUE(TrovaCartelle(scelta));
+    CartellaStato({});
+    EXPECT_EQ(PathProgramma, scelta);
+    EXPECT_EQ(CartellaInstallata(), SAGOMI_BIN);
+    Avvia();
+    EXPECT_FALSE(LeggeGuida(QStringLiteral("Sagomi.hlp")).isEmpty());
+    EXPECT_FALSE(std::filesystem::exists(scelta / "Sagomi.hlp"));
+    ChiudiProgramma();
+    EXPECT_TRUE(Ini().starts_with("\"3\",\"7.8\"\r\n")) << Ini();
+    EXPECT_TRUE(std::filesystem::exists(scelta / "SagomiUtente.xls"));
+    EXPECT_TRUE(registratore.testi.empty()) << registratore.testi.front();
+}
+
+TEST_F(CartellaSceltaTest, OneThatCannotBeUsedIsToldAndNothingStarts) {
+    std::ofstream(scelta) << "un file";
+    EXPECT_FALSE(TrovaCartelle(scelta));
+    EXPECT_EQ(registratore.testi,
+              std::vector<std::string>{"la cartella " + scelta.string() +
+                                       " non si può usare: " + scelta.string() + " non è una cartella"});
 }
 
 TEST_F(GeneraleSchermiTest, FirstRunWorksUnderNtcAndWritesACompleteFile) {

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-#include "frame/GeneraleSagomi.h"
+#include "frame/Cartelle.h"
 
 namespace sagomi {
 
@@ -64,7 +64,7 @@ QStringList Nomi(const QString& name) {
 } // namespace
 
 QString LeggeGuida(const QString& file) {
-    const QDir folder(QString::fromStdString(PathProgramma.string()));
+    const QDir folder(QString::fromStdString(CartellaInstallata().string()));
     for (const QString& name : folder.entryList(QDir::Files))
         if (name.compare(file, Qt::CaseInsensitive) == 0) {
             QFile help(folder.filePath(name));

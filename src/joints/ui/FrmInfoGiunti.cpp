@@ -1,6 +1,6 @@
 #include "joints/ui/FrmInfoGiunti.h"
 
-#include "frame/GeneraleSagomi.h"
+#include "frame/Cartelle.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
@@ -28,7 +28,7 @@ FrmInfoGiunti::~FrmInfoGiunti() = default;
 
 void FrmInfoGiunti::MostraFormula(Schermo& da, const std::string& id) {
     std::string rtf;
-    if (!Protetto("Errore", [&] { rtf = LeggeFormula(PathProgramma, id); }))
+    if (!Protetto("Errore", [&] { rtf = LeggeFormula(CartellaInstallata(), id); }))
         return;
     note_ = false;
     ui_->RichTextBox4->setHtml(QString::fromStdString(HtmlDaRtf(rtf)));
