@@ -24,7 +24,7 @@ namespace {
 frmDoppioT& Schermo() {
     if (NavigaSchermi::Unico().Trova(QStringLiteral("frmDoppioT")) == nullptr)
         InizializzaProgramma();
-    return NavigaSchermi::Unico().Prendi<frmDoppioT>();
+    return NavigaSchermi::Unico().Prende<frmDoppioT>();
 }
 
 /// Paints the whole screen, which is more than a changed result asks for.

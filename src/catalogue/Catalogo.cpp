@@ -149,7 +149,7 @@ struct Catalogo::Stato {
 
 void Catalogo::Chiude::operator()(sqlite3* db) const { sqlite3_close(db); }
 
-std::shared_ptr<Catalogo> Catalogo::Apri(const std::filesystem::path& file) {
+std::shared_ptr<Catalogo> Catalogo::Apre(const std::filesystem::path& file) {
     constexpr std::size_t massimiAperti = 4;
     auto& aperti = Aperti();
     const auto gia = std::ranges::find(aperti, file, &Aperto::file);

@@ -29,7 +29,7 @@ class Catalogo {
 public:
     /// The catalogue of a workbook. The last few are held: one is read again only when its file has changed.
     /// Throws ErroreCatalogo.
-    static std::shared_ptr<Catalogo> Apri(const std::filesystem::path& file);
+    static std::shared_ptr<Catalogo> Apre(const std::filesystem::path& file);
 
     /// Opens a workbook. Throws ErroreCatalogo.
     explicit Catalogo(const std::filesystem::path& file);

@@ -27,7 +27,7 @@ private:
         if (traVirgolette_)
             Virgolettato(c);
         else if (c == '"' && campo_.empty())
-            ApriVirgolette();
+            ApreVirgolette();
         else if (c == ',')
             FineCampo();
         else if (c == '\n' || c == '\r')
@@ -36,7 +36,7 @@ private:
             campo_.push_back(c);
     }
 
-    void ApriVirgolette() {
+    void ApreVirgolette() {
         traVirgolette_ = true;
         piena_ = true;
     }

@@ -52,7 +52,7 @@ std::string ConPosti(const std::string& query) {
 
 void Lettore::Refresh() {
     try {
-        const std::shared_ptr<const Catalogo> catalogo = Catalogo::Apri(chiesta_.cartella);
+        const std::shared_ptr<const Catalogo> catalogo = Catalogo::Apre(chiesta_.cartella);
         if (!Riordina(catalogo))
             Legge(catalogo);
     } catch (...) {

@@ -75,7 +75,7 @@ void LettoreStringhe::ProssimaParte() {
         TestiDanneggiati();
 }
 
-std::span<const std::uint8_t> LettoreStringhe::Prendi(std::size_t n) {
+std::span<const std::uint8_t> LettoreStringhe::Prende(std::size_t n) {
     if (Resto().empty())
         ProssimaParte();
     if (Resto().size() < n)
@@ -85,9 +85,9 @@ std::span<const std::uint8_t> LettoreStringhe::Prendi(std::size_t n) {
     return presi;
 }
 
-unsigned LettoreStringhe::U16() { return Numero<std::uint16_t>(Prendi(2).data()); }
+unsigned LettoreStringhe::U16() { return Numero<std::uint16_t>(Prende(2).data()); }
 
-std::uint32_t LettoreStringhe::U32() { return Numero<std::uint32_t>(Prendi(4).data()); }
+std::uint32_t LettoreStringhe::U32() { return Numero<std::uint32_t>(Prende(4).data()); }
 
 void LettoreStringhe::Salta(std::size_t n) {
     while (n > 0) {
@@ -101,7 +101,7 @@ void LettoreStringhe::Salta(std::size_t n) {
 
 void LettoreStringhe::Caratteri(std::size_t n, unsigned opzioni, std::string& utf8) {
     if ((opzioni & 1U) == 0 && n > 0 && n <= Resto().size())
-        return AggiungeStretti(Prendi(n), utf8);
+        return AggiungeStretti(Prende(n), utf8);
     std::u16string testo; // whole, for a character in two halves may go over the border
     while (testo.size() < n) {
         if (Resto().empty()) {
@@ -112,7 +112,7 @@ void LettoreStringhe::Caratteri(std::size_t n, unsigned opzioni, std::string& ut
         const std::size_t qui = std::min(n - testo.size(), Resto().size() / largo);
         if (qui == 0)
             TestiDanneggiati();
-        AggiungeUnita(Prendi(qui * largo), largo, testo);
+        AggiungeUnita(Prende(qui * largo), largo, testo);
     }
     utf8 += Utf8DaUtf16(testo);
 }
@@ -120,7 +120,7 @@ void LettoreStringhe::Caratteri(std::size_t n, unsigned opzioni, std::string& ut
 void LettoreStringhe::CaratteriAnsi(std::size_t n, std::string& utf8) {
     if (n == 0)
         return;
-    const auto byte = Prendi(n);
+    const auto byte = Prende(n);
     utf8 += Utf8DaAnsi({reinterpret_cast<const char*>(byte.data()), byte.size()});
 }
 

@@ -63,7 +63,7 @@ public:
     LettoreStringhe(CursoreBiff& cursore, std::size_t da) : cursore_(cursore), i_(da) {}
 
     /// A number of one, two, four bytes, which stand together in one record.
-    unsigned U8() { return Prendi(1)[0]; }
+    unsigned U8() { return Prende(1)[0]; }
     unsigned U16();
     std::uint32_t U32();
 
@@ -80,7 +80,7 @@ public:
 private:
     [[nodiscard]] std::span<const std::uint8_t> Resto() const;
     void ProssimaParte();
-    std::span<const std::uint8_t> Prendi(std::size_t n);
+    std::span<const std::uint8_t> Prende(std::size_t n);
 
     CursoreBiff& cursore_;
     std::size_t i_;

@@ -13,12 +13,12 @@ namespace sagomi {
 
 namespace {
 
-using Prende = void (*)(Comando&, const std::string&);
+using Azione = void (*)(Comando&, const std::string&);
 using PrendeNumero = void (*)(Comando&, double);
 
 struct OpzioneTesto {
     std::string_view nome;
-    Prende prende;
+    Azione prende;
 };
 
 /// A number of a range, ends included.
@@ -120,7 +120,7 @@ double NumeroDi(const OpzioneNumero& opzione, const std::string& testo) {
 
 /// Takes one option, with its value where it has one.
 /// @return how many arguments it has taken
-std::size_t Prendi(Comando& c, std::span<const std::string> argomenti) {
+std::size_t Prende(Comando& c, std::span<const std::string> argomenti) {
     const std::string& nome = argomenti.front();
     for (const auto& [interruttore, mette] : interruttori)
         if (interruttore == nome) {
@@ -165,7 +165,7 @@ Comando LeggeOpzioni(const std::vector<std::string>& argomenti) {
     if (std::ranges::none_of(argomenti, ENostra))
         return c;
     for (std::span<const std::string> resto(argomenti); !resto.empty();)
-        resto = resto.subspan(Prendi(c, resto));
+        resto = resto.subspan(Prende(c, resto));
     if (c.modo == ModoComando::Finestre && c.formato != FormatoUscita::Json)
         throw ErroreUso("manca che cosa fare: --verifica o --scelta");
     if (c.modo == ModoComando::Finestre)

@@ -160,7 +160,7 @@ std::string FirmaSagomi(const Nodo& nodo) {
     return firma;
 }
 
-void TogliVirgolette(Nodo& nodo) {
+void ToglieVirgolette(Nodo& nodo) {
     for (const Condiviso& s : {nodo.TraveDx.Riferimento(), nodo.TraveSx.Riferimento(), nodo.Colonnainf})
         if (s) {
             SenzaVirgolette(s->Designation);

@@ -35,7 +35,7 @@ void RinnovaResistenze(Nodo& nodo);
 [[nodiscard]] std::string FirmaSagomi(const Nodo& nodo);
 
 /// Data files have no quotes inside a text: two apostrophes take their place in the names of the sections.
-void TogliVirgolette(Nodo& nodo);
+void ToglieVirgolette(Nodo& nodo);
 
 /// NplRd alone, which files do not have.
 void RinnovaNplRd(Nodo& nodo);

@@ -35,8 +35,8 @@ bool ApreFile(const QString& file) {
         return false;
     }
     if (from != nullptr) {
-        NavigaSchermi::Unico().Apri(name, *from);
-        if (auto* document = NavigaSchermi::Unico().Prendi(name).findChild<DocumentoSchermo*>())
+        NavigaSchermi::Unico().Apre(name, *from);
+        if (auto* document = NavigaSchermi::Unico().Prende(name).findChild<DocumentoSchermo*>())
             return document->Apre(file);
     }
     Avvisa("Errore: " + file.toStdString() + " non si apre dalla riga di comando");

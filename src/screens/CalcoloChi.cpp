@@ -49,7 +49,7 @@ void CalcoloChi::CollegaRegole() {
 }
 
 void CalcoloChi::CollegaDati() {
-    Collega(ui_->optChi_0, &QRadioButton::toggled, this, [this](bool on) { Converti(!on); });
+    Collega(ui_->optChi_0, &QRadioButton::toggled, this, [this](bool on) { Converte(!on); });
     for (QLineEdit* box : {txtChi_[0], txtChi_[1]})
         Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
     Collega(ui_->ComboChi, &QComboBox::currentIndexChanged, this, [this] { Ricalcola(); });
@@ -60,7 +60,7 @@ void CalcoloChi::Calcola(double fy) {
     Ricalcola();
 }
 
-void CalcoloChi::ProponiCurva(const std::string& curva) {
+void CalcoloChi::ProponeCurva(const std::string& curva) {
     if (curva == proposta_)
         return;
     proposta_ = curva;
@@ -73,7 +73,7 @@ void CalcoloChi::CorreggeBetaA() {
 }
 
 // The member stays the same one, said in the other slenderness.
-void CalcoloChi::Converti(bool aRelativa) {
+void CalcoloChi::Converte(bool aRelativa) {
     const auto r = CalcolaRiduzione(NumeroIn(txtChi_[0]), !aRelativa, fy_, NumeroIn(txtChi_[1]),
                                     ui_->ComboChi->currentText().toStdString());
     const bool given = !txtChi_[0]->text().trimmed().isEmpty();

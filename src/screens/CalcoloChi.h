@@ -31,13 +31,13 @@ public:
     void Calcola(double fy);
 
     /// Takes over the curve of a section ("a0" to "d"), when it is another than last time.
-    void ProponiCurva(const std::string& curva);
+    void ProponeCurva(const std::string& curva);
 
 private:
     void CollegaDati();
     void CollegaRegole();
     void Ricalcola();
-    void Converti(bool aRelativa);
+    void Converte(bool aRelativa);
     void CorreggeBetaA();
     void MostraSimboli(bool relativa);
 

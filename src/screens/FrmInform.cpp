@@ -17,8 +17,8 @@ FrmInform::FrmInform() : Schermo(QStringLiteral("FrmInform")), ui_(new Ui::FrmIn
 
 FrmInform::~FrmInform() = default;
 
-void FrmInform::Apri(Schermo& chiamante) {
-    NavigaSchermi::Unico().ApriDialogo(*this, chiamante);
+void FrmInform::Apre(Schermo& chiamante) {
+    NavigaSchermi::Unico().ApreDialogo(*this, chiamante);
     ui_->cmdOK->setFocus();
 }
 

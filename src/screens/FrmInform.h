@@ -17,7 +17,7 @@ public:
     FrmInform();
     ~FrmInform() override;
 
-    void Apri(Schermo& chiamante);
+    void Apre(Schermo& chiamante);
 
 private:
     std::unique_ptr<Ui::FrmInform> ui_;

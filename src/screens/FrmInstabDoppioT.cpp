@@ -109,7 +109,7 @@ void FrmInstabDoppioT::CalcolaChi() {
     const SezioneDoppioT* s = Sezione();
     if (s == nullptr)
         return;
-    ui_->FrmChi->ProponiCurva(s->CurvaInstabilita(s->NbzRd < s->NbyRd ? "zz" : "yy"));
+    ui_->FrmChi->ProponeCurva(s->CurvaInstabilita(s->NbzRd < s->NbyRd ? "zz" : "yy"));
     ui_->FrmChi->Calcola(s->fy);
 }
 

@@ -126,18 +126,18 @@ void FrmMsverg::CollegaEventi() {
     CalcolaA({ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd, ui_->Txt_L,
               ui_->Txt_k, ui_->Txt_Kw, ui_->Txt_Zg, ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3});
     Collega(ui_->LblVerifiche, &QPushButton::clicked, this,
-            [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmVerifiche"), *this); });
+            [this] { NavigaSchermi::Unico().Apre(QStringLiteral("FrmVerifiche"), *this); });
     Collega(ui_->CmdH1, &QPushButton::clicked, this, [this] { ApreTavola(QStringLiteral("frmMsvergH1")); });
     Collega(ui_->CmdH2, &QPushButton::clicked, this, [this] { ApreTavola(QStringLiteral("frmMsvergH2")); });
     Collega(ui_->Command1, &QPushButton::clicked, this,
-            [this] { NavigaSchermi::Unico().Apri(QStringLiteral("frmTimoshenko"), *this); });
+            [this] { NavigaSchermi::Unico().Apre(QStringLiteral("frmTimoshenko"), *this); });
 }
 
 void FrmMsverg::ApreTavola(const QString& nome) {
-    NavigaSchermi::Unico().Prendi<TavolaFattori>(nome).alScelta = [this](const FattoriScelti& f) {
+    NavigaSchermi::Unico().Prende<TavolaFattori>(nome).alScelta = [this](const FattoriScelti& f) {
         PrendeFattori(f.k, f.C1, f.C2, f.C3);
     };
-    NavigaSchermi::Unico().Apri(nome, *this);
+    NavigaSchermi::Unico().Apre(nome, *this);
 }
 
 void FrmMsverg::RiempieDati() {

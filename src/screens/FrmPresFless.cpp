@@ -38,7 +38,7 @@ constexpr const char* motivoCampata = "MQ deve essere positivo";
 constexpr const char* motivoLunghezza = "La lunghezza di libera inflessione non può essere negativa";
 
 /// Writes a corrected number back into its box; a box that holds it already keeps its text.
-void Riscrivi(QLineEdit* box, double value) {
+void Riscrive(QLineEdit* box, double value) {
     if (NumeroIn(box) != value)
         box->setText(QString::fromStdString(TestoPiano(value)));
 }
@@ -131,10 +131,10 @@ void FrmPresFless::CollegaEventi() {
     CollegaRegole(1);
     CalcolaA(QList<QLineEdit*>{ui_->fraAzioni->TxtNsd} + Txt_L0_ + TxtM1_ + TxtM2_ + TxtMQ_);
     Collega(ui_->LblVerifiche, &QPushButton::clicked, this,
-            [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmVerifiche"), *this); });
+            [this] { NavigaSchermi::Unico().Apre(QStringLiteral("FrmVerifiche"), *this); });
     for (QPushButton* open : {ui_->LblFlessTors, ui_->LbLFlessTorsHelp})
         Collega(open, &QPushButton::clicked, this,
-                [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmMsverg"), *this); });
+                [this] { NavigaSchermi::Unico().Apre(QStringLiteral("FrmMsverg"), *this); });
 }
 
 void FrmPresFless::CollegaRegole(int asse) {
@@ -299,8 +299,8 @@ void FrmPresFless::inputM1M2(int asse, double& M1, double& M2) {
         return; // the correction waits
     CorreggeM1M2(M1, M2);
     const QScopedValueRollback guard(inCalcolo_, true);
-    Riscrivi(TxtM1_[asse], M1);
-    Riscrivi(TxtM2_[asse], M2);
+    Riscrive(TxtM1_[asse], M1);
+    Riscrive(TxtM2_[asse], M2);
 }
 
 void FrmPresFless::inputMQ(int asse, double& MQ) {
@@ -309,7 +309,7 @@ void FrmPresFless::inputMQ(int asse, double& MQ) {
         return;
     CorreggeMQ(MQ);
     const QScopedValueRollback guard(inCalcolo_, true);
-    Riscrivi(TxtMQ_[asse], MQ);
+    Riscrive(TxtMQ_[asse], MQ);
 }
 
 void FrmPresFless::Leggedati() {

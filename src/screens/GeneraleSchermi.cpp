@@ -91,7 +91,7 @@ void InizializzaProgramma() {
     const auto started = qScopeGuard([] { AvvioInCorso = false; });
     ImpostaGamma();
     CaricaTavolaSchermi();
-    NavigaSchermi::Unico().Passa(NavigaSchermi::Unico().Prendi(QStringLiteral("frmDoppioT")), nullptr);
+    NavigaSchermi::Unico().Passa(NavigaSchermi::Unico().Prende(QStringLiteral("frmDoppioT")), nullptr);
 }
 
 } // namespace sagomi

@@ -118,7 +118,7 @@ void AttivaForm(SchermoSezione& schermo) {
         Guida::ImpostaFile(schermo.FileGuida());
         if (FamigliaDi(schermo.objectName().toStdString()).perGiunto)
             schermo.cmdSceltaSagomoGiunto->setVisible(SceltaSagomoGiunto);
-        NavigaSchermi::Unico().Prendi(QStringLiteral("FrmPltSezione"));
+        NavigaSchermi::Unico().Prende(QStringLiteral("FrmPltSezione"));
         IndiceAcciaio = static_cast<std::int16_t>(std::max(0, schermo.ComboTipoAcciaio->currentIndex()));
         AggiornaCaptionNormativa(schermo);
         schermo.CaricaForm = false;

@@ -37,7 +37,7 @@ bool Diversi(double a, double b) {
 
 SchermoDettaglio::SchermoDettaglio(const QString& nome) : Schermo(nome) {}
 
-void SchermoDettaglio::ApriDa(SchermoSezione& chiamante, Schermo& da) {
+void SchermoDettaglio::ApreDa(SchermoSezione& chiamante, Schermo& da) {
     chiamante_ = &chiamante;
     {
         const QScopedValueRollback guard(inCalcolo_, true);
@@ -45,15 +45,15 @@ void SchermoDettaglio::ApriDa(SchermoSezione& chiamante, Schermo& da) {
         RiempieDati();
     }
     RicordaChiamante();
-    NavigaSchermi::Unico().Apri(*this, da);
+    NavigaSchermi::Unico().Apre(*this, da);
 }
 
-void SchermoDettaglio::Apri(Schermo& da) {
+void SchermoDettaglio::Apre(Schermo& da) {
     const auto* detail = dynamic_cast<SchermoDettaglio*>(&da);
     auto* main = detail != nullptr ? detail->chiamante_ : dynamic_cast<SchermoSezione*>(&da);
     if (main == nullptr)
         throw std::logic_error(da.objectName().toStdString() + " non ha sagomi");
-    ApriDa(*main, da);
+    ApreDa(*main, da);
 }
 
 void SchermoDettaglio::AllAttivazione() {

@@ -28,11 +28,11 @@ public:
     /// Opens the screen: the entries that have a twin on the section are refilled, then it is activated.
     /// @param chiamante  the main screen whose section it is, also when another detail opens it
     /// @param da         the screen that the user comes from, where closing goes back to
-    void ApriDa(SchermoSezione& chiamante, Schermo& da);
+    void ApreDa(SchermoSezione& chiamante, Schermo& da);
 
     /// The same from a main screen, or from another detail for the main screen that this one works for. A
     /// screen of another kind throws std::logic_error.
-    void Apri(Schermo& da);
+    void Apre(Schermo& da);
 
     /// Fills the screen from SezioneCorrente and the caller's controls: mends the entries, each with its
     /// message, computes, and empties what hangs on entries that cannot stand. While the user types it keeps

@@ -53,12 +53,12 @@ public:
         if (S* section = SezioneInUso<S>(); daRaddoppiare_ && this->RigaInMano() && section != nullptr)
             Raddoppia(*section);
         SchermoDi<S>::Risultati();
-        TogliDaAggiornare();
+        ToglieDaAggiornare();
     }
 
     void SvuotaRisultati() override {
         SchermoDi<S>::SvuotaRisultati();
-        TogliDaAggiornare();
+        ToglieDaAggiornare();
     }
 
     // Until Enter nothing shown changes; a length that cannot be empties its own result at once.
@@ -180,7 +180,7 @@ private:
         this->TxtProf[posizione]->setText(QString::fromStdString(FormatoCifre(cifre, Singolo(valore))));
     }
 
-    void TogliDaAggiornare() {
+    void ToglieDaAggiornare() {
         for (QLineEdit* box : std::exchange(daAggiornare_, {}))
             SegnaDaAggiornare(box, false);
     }

@@ -116,13 +116,13 @@ void SchermoSezione::CollegaMenu() {
     if (auto* quit = findChild<QAction*>(QStringLiteral("mnuFileItem_0")))
         Collega(quit, &QAction::triggered, this, [] { ChiudiProgramma(); });
     Collega(findChild<QAction*>(QStringLiteral("mnuHelp_0")), &QAction::triggered, this,
-            [this] { Guida::Apri(FileGuida()); });
+            [this] { Guida::Apre(FileGuida()); });
     NavigaSchermi::Unico().CollegaMenu(*this);
     if (cmdSceltaSagomoGiunto != nullptr) {
         cmdSceltaSagomoGiunto->setProperty(vuoleRiga, true);
         Collega(cmdSceltaSagomoGiunto, &QPushButton::clicked, this, [this] {
             SceltaSagomoGiunto = false;
-            NavigaSchermi::Unico().Apri(QStringLiteral("frmGiunti"), *this);
+            NavigaSchermi::Unico().Apre(QStringLiteral("frmGiunti"), *this);
         });
     }
 }
@@ -248,7 +248,7 @@ double SchermoSezione::Lunghezza(int index) const {
     return std::isfinite(static_cast<float>(length)) ? length : -1;
 }
 
-void SchermoSezione::Apri(Schermo& da) { NavigaSchermi::Unico().Passa(*this, &da); }
+void SchermoSezione::Apre(Schermo& da) { NavigaSchermi::Unico().Passa(*this, &da); }
 
 void SchermoSezione::CollegaDettagli(std::initializer_list<std::pair<const char*, const char*>> dettagli) {
     for (const auto& [button, name] : dettagli) {
@@ -257,7 +257,7 @@ void SchermoSezione::CollegaDettagli(std::initializer_list<std::pair<const char*
             throw std::out_of_range(std::string("nessun pulsante si chiama ") + button);
         found->setProperty(vuoleRiga, true);
         Collega(found, &QPushButton::clicked, this,
-                [this, name = QString::fromLatin1(name)] { ApriDettaglio(name); });
+                [this, name = QString::fromLatin1(name)] { ApreDettaglio(name); });
     }
 }
 
@@ -275,13 +275,13 @@ void SchermoSezione::CollegaSvergolamento() {
                 section.Kw = 1;
                 section.C1 = 1;
             });
-        ApriDettaglio(QStringLiteral("FrmMsverg"));
+        ApreDettaglio(QStringLiteral("FrmMsverg"));
     });
 }
 
-void SchermoSezione::ApriDettaglio(const QString& nome) {
+void SchermoSezione::ApreDettaglio(const QString& nome) {
     if (RigaInMano())
-        NavigaSchermi::Unico().Apri(nome, *this);
+        NavigaSchermi::Unico().Apre(nome, *this);
 }
 
 QPushButton* SchermoSezione::Pulsante(const char* nome) const {

@@ -56,7 +56,7 @@ public:
     QAction* NormativaMain = nullptr;
 
     /// Shows the screen in the place of the one that the user comes from.
-    void Apri(Schermo& da);
+    void Apre(Schermo& da);
 
     /// Builds a new section from the row in hand and the entries; it becomes SezioneCorrente.
     virtual void Leggedati() = 0;
@@ -178,7 +178,7 @@ private:
     void CollegaRegole();
     void RotturaCambiata();
     void CollegaTabella();
-    void ApriDettaglio(const QString& nome);
+    void ApreDettaglio(const QString& nome);
     void SeguonoDettagli();
     void RigaNuova();
     bool RicercaDiRiga(const QKeyEvent& event);

@@ -55,11 +55,11 @@ frmGamma::frmGamma() : Schermo(QStringLiteral("frmGamma")), ui_(new Ui::frmGamma
 
 frmGamma::~frmGamma() = default;
 
-void frmGamma::Apri(Schermo& chiamante) {
+void frmGamma::Apre(Schermo& chiamante) {
     normativaPrima_ = Normativa;
     optNormativa_[Normativa]->setChecked(true);
     Riempie();
-    NavigaSchermi::Unico().ApriDialogo(*this, chiamante);
+    NavigaSchermi::Unico().ApreDialogo(*this, chiamante);
     optNormativa_[Normativa]->setFocus();
 }
 

@@ -24,7 +24,7 @@ public:
     ~frmGamma() override;
 
     /// Shows the dialog in front of a main screen, which recalculates when it closes.
-    void Apri(Schermo& chiamante);
+    void Apre(Schermo& chiamante);
 
 protected:
     /// The window's own close button is "Annulla".

@@ -41,7 +41,7 @@ Profilo QuartoSaldato(const SezioneDoppioT& s, const Piatto& ala) {
 }
 
 /// Goes round counter-clockwise from the lower right corner.
-std::int16_t Percorri(const Profilo& inf, const Profilo& sup, const PostoContorno& posto,
+std::int16_t Percorre(const Profilo& inf, const Profilo& sup, const PostoContorno& posto,
                       std::vector<double>& x, std::vector<double>& y) {
     Percorso percorso(x, y, posto, 2 * (inf.Numero() + sup.Numero()));
     percorso.InBasso(inf);
@@ -72,15 +72,15 @@ void SezioneDoppioT::Coordinate(std::vector<double>& x, std::vector<double>& y, 
         return;
     }
     const Profilo q = QuartoLaminato(*this);
-    n = Percorri(q, q, {h, x0, y0, scala}, x, y);
+    n = Percorre(q, q, {h, x0, y0, scala}, x, y);
 }
 
 void SezioneDoppioT::CoordinateSaldata(std::vector<double>& x, std::vector<double>& y, std::int16_t& n,
                                        double x0, double y0, double scala) const {
     const Profilo sup = QuartoSaldato(*this, {b, tf});
     const PostoContorno posto = {h, x0, y0, scala};
-    n = SaldataAsimm ? Percorri(QuartoSaldato(*this, {bAlaInf, tAlaInf}), sup, posto, x, y)
-                     : Percorri(sup, sup, posto, x, y);
+    n = SaldataAsimm ? Percorre(QuartoSaldato(*this, {bAlaInf, tAlaInf}), sup, posto, x, y)
+                     : Percorre(sup, sup, posto, x, y);
 }
 
 void SezioneDoppioT::AlaEfficace(std::vector<double>& x, std::vector<double>& y, double kS, double t,

@@ -36,7 +36,7 @@ public:
     }
 
     void Comanda(const char* what) { processo_.write(QByteArray(what) + '\n'); }
-    void Uccidi() {
+    void Uccide() {
         processo_.kill();
         processo_.waitForFinished();
     }
@@ -164,16 +164,16 @@ TEST_F(ServizioSagomiTest, ASecondProcessFollowsTheUser) {
     EXPECT_EQ(ipe["CurvaZ"], "b");
     EXPECT_EQ(client.Sagomo()["Designation"], "IPE 140");
 
-    VaiA(PassaA("mnuTipoSaldatiAsimm", "frmSaldatiAsimm"), "HSD 500x74");
+    VaA(PassaA("mnuTipoSaldatiAsimm", "frmSaldatiAsimm"), "HSD 500x74");
     EXPECT_EQ(client.Sagomo("HSD 500x74")["tAlaInf"].toDouble(), 15);
-    VaiA(PassaA("mnuTipoL", "frmSagomiL"), "L 50x50x5");
+    VaA(PassaA("mnuTipoL", "frmSagomiL"), "L 50x50x5");
     Valori angle = client.Sagomo("L 50x50x5");
     EXPECT_EQ(angle["TipoSezione"], "SezioneSagomoL");
     EXPECT_EQ(angle["tf"], "-1");
     EXPECT_EQ(angle["tw"], "5");
     EXPECT_EQ(angle["bAlaInf"].toDouble(), 250) << "of the section before";
     EXPECT_EQ(angle["Wply"].toDouble(), 1699000) << "of the section before";
-    VaiA(PassaA("mnuTipoU", "frmSagomiU"), "UPN 80");
+    VaA(PassaA("mnuTipoU", "frmSagomiU"), "UPN 80");
     Valori channel = client.Sagomo("UPN 80");
     EXPECT_EQ(channel["TipoSezione"], "SezioneSagomoU");
     EXPECT_EQ(channel["tf"].toDouble(), 8);
@@ -202,7 +202,7 @@ TEST_F(ServizioSagomiTest, PairsComeAsOnePieceWithTheirFlags) {
     Trova<QCheckBox>(&s, "chkDoppiCorto")->setChecked(true);
     Trova<QLineEdit>(&s, "txtDoppi")->setText("8");
     EXPECT_TRUE(client.Intanto().isEmpty()) << "the row has not changed";
-    VaiA(s, "L 50x50x5");
+    VaA(s, "L 50x50x5");
     Valori pair = client.Sagomo();
     EXPECT_EQ(pair["Doppi"], "true");
     EXPECT_EQ(pair["DoppiCorto"], "true");
@@ -214,7 +214,7 @@ TEST_F(ServizioSagomiTest, PairsComeAsOnePieceWithTheirFlags) {
 TEST_F(ServizioSagomiTest, AClientThatDiesLeavesTheProgramAndItsObject) {
     auto dying = std::make_unique<Cliente>(Comando());
     SchermoSezione& first = Crea(*dying);
-    dying->Uccidi();
+    dying->Uccide();
     first.Data1->MoveNext();
     QTest::qWait(100);
     EXPECT_TRUE(first.isVisible());

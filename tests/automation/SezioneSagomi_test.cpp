@@ -105,7 +105,7 @@ TEST_F(SezioneSagomiTest, ADoubleTIsNeverAPair) {
 // flanges to 40 mm: curves b and c.
 TEST_F(SezioneSagomiTest, AWeldedSectionHasItsFilletAndBothFlanges) {
     Crea();
-    VaiA(PassaA("mnuTipoSaldatiAsimm", "frmSaldatiAsimm"), "HSD 500x74");
+    VaA(PassaA("mnuTipoSaldatiAsimm", "frmSaldatiAsimm"), "HSD 500x74");
     EXPECT_EQ(oggetto.Designation, "HSD 500x74");
     EXPECT_TRUE(oggetto.Saldata);
     EXPECT_TRUE(oggetto.SaldataAsimm);
@@ -124,7 +124,7 @@ TEST_F(SezioneSagomiTest, AnAngleHasNoFlangeAndKeepsWhatItDoesNotHave) {
     oggetto.bAlaInf = 77;
     SchermoSezione& s = PassaA("mnuTipoL", "frmSagomiL");
     eventi.clear();
-    VaiA(s, "L 50x50x5");
+    VaA(s, "L 50x50x5");
     EXPECT_EQ(eventi, std::vector<std::string>{"L 50x50x5"});
     EXPECT_EQ(oggetto.TipoSezione, "SezioneSagomoL");
     EXPECT_EQ(oggetto.tf, -1);
@@ -144,7 +144,7 @@ TEST_F(SezioneSagomiTest, APairIsToldBySingleValuesAndFlagsOnceARow) {
     Trova<QCheckBox>(&s, "chkDoppiAla")->setChecked(true);
     Trova<QLineEdit>(&s, "txtDoppi")->setText("10");
     eventi.clear();
-    VaiA(s, "UPN 80");
+    VaA(s, "UPN 80");
     EXPECT_EQ(eventi, std::vector<std::string>{"UPN 80"});
     EXPECT_EQ(oggetto.TipoSezione, "SezioneSagomoU");
     EXPECT_TRUE(oggetto.Doppi);

@@ -25,7 +25,7 @@ class CatalogoTest : public testing::Test {
 protected:
     std::shared_ptr<Catalogo> Con(std::vector<Foglio> fogli) {
         ScriveXls({std::move(fogli)}, file);
-        return Catalogo::Apri(file);
+        return Catalogo::Apre(file);
     }
     static S Errore(const Catalogo& c, const char* query) {
         try {
@@ -119,13 +119,13 @@ TEST_F(CatalogoTest, OnlyReads) {
 
 TEST_F(CatalogoTest, ReadOnceWhileHeldAndAgainWhenTheFileChanges) {
     const auto primo = Con({FoglioDi("IPE", {{S("designation")}, {S("IPE 80")}})});
-    EXPECT_EQ(Catalogo::Apri(file), primo);
+    EXPECT_EQ(Catalogo::Apre(file), primo);
     const auto secondo = Con({FoglioDi("IPE", {{S("designation")}, {S("IPE 80")}, {S("IPE 100")}})});
     EXPECT_NE(secondo, primo);
     EXPECT_EQ(secondo->Esegue("SELECT * FROM [IPE$]").righe.size(), 2U);
     EXPECT_EQ(primo->Esegue("SELECT * FROM [IPE$]").righe.size(), 1U); // who holds the old one keeps it
     std::filesystem::remove(file);
-    EXPECT_THROW(Catalogo::Apri(file), ErroreCatalogo);
+    EXPECT_THROW(Catalogo::Apre(file), ErroreCatalogo);
 }
 
 TEST_F(CatalogoTest, ASheetThatCannotBeReadHindersNoOtherQuery) {
@@ -179,11 +179,11 @@ TEST_F(CatalogoTest, ConditionsAndJoins) {
 TEST_F(CatalogoTest, HeldAlthoughNobodyElseDoesAndOnlyTheLastFew) {
     const std::weak_ptr<Catalogo> primo = Con({FoglioDi("IPE", {{S("designation")}})});
     EXPECT_FALSE(primo.expired());
-    EXPECT_EQ(Catalogo::Apri(file), primo.lock());
+    EXPECT_EQ(Catalogo::Apre(file), primo.lock());
     for (int i = 0; i < 4; ++i) {
         const auto altro = dir.percorso / (std::to_string(i) + ".xls");
         std::filesystem::copy_file(file, altro);
-        Catalogo::Apri(altro);
+        Catalogo::Apre(altro);
     }
     EXPECT_TRUE(primo.expired());
 }
@@ -194,9 +194,9 @@ TEST_F(CatalogoTest, HeldOneIsReadAgainWhenTheFileIsChangedInPlace) {
     const auto ora = std::filesystem::last_write_time(file);
     prove::ScriveByte(file, byte);
     std::filesystem::last_write_time(file, ora); // the same to the last digit: not read again
-    EXPECT_EQ(Catalogo::Apri(file), primo);
+    EXPECT_EQ(Catalogo::Apre(file), primo);
     std::filesystem::last_write_time(file, ora + std::chrono::milliseconds(1));
-    EXPECT_NE(Catalogo::Apri(file), primo);
+    EXPECT_NE(Catalogo::Apre(file), primo);
 }
 
 TEST_F(CatalogoTest, TheLongestTextsComeBack) {
@@ -206,10 +206,10 @@ TEST_F(CatalogoTest, TheLongestTextsComeBack) {
 }
 
 TEST_F(CatalogoTest, MissingOrDamagedWorkbook) {
-    EXPECT_THAT([&] { Catalogo::Apri(file); },
+    EXPECT_THAT([&] { Catalogo::Apre(file); },
                 testing::ThrowsMessage<ErroreCatalogo>(HasSubstr("il file non esiste")));
     prove::ScriveByte(file, "non sono una cartella");
-    EXPECT_THAT([&] { Catalogo::Apri(file); },
+    EXPECT_THAT([&] { Catalogo::Apre(file); },
                 testing::ThrowsMessage<ErroreCatalogo>(HasSubstr("non è una cartella di lavoro .xls")));
 }
 

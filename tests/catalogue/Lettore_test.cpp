@@ -271,7 +271,7 @@ TEST_F(OrdineRigheTest, RowsInHandAreSortedAsSqliteSortsThem) {
         for (const char* colonna : {"a", "B", "n", "b"}) {
             const S query = S(fogli) + " ORDER BY [" + colonna + "] ASC";
             Chiede(query);
-            EXPECT_EQ(Righe(), Catalogo::Apri(file)->Esegue(query).righe) << query;
+            EXPECT_EQ(Righe(), Catalogo::Apre(file)->Esegue(query).righe) << query;
             EXPECT_EQ(lettore.Lettura(), lettura) << "has been read again for " << query;
             EXPECT_EQ(lettore.RigaCorrente(), 0);
         }
@@ -307,7 +307,7 @@ TEST_F(OrdineRigheTest, RowsThatCanBeChangedKeepTheirPlaces) {
     for (const char* colonna : {"a", "b", "n"}) {
         Chiede(S("SELECT * FROM [y$] ORDER BY [") + colonna + "]");
         const EsitoQuery posti =
-            Catalogo::Apri(file)->Esegue(S("SELECT _rowid_ FROM [y$] ORDER BY [") + colonna + "]");
+            Catalogo::Apre(file)->Esegue(S("SELECT _rowid_ FROM [y$] ORDER BY [") + colonna + "]");
         for (int i = 0; i < lettore.Righe(); ++i)
             EXPECT_EQ(double(lettore.RigaDelFoglio(i)) + 1, NumeroDi(posti.righe[std::size_t(i)][0])) << i;
     }

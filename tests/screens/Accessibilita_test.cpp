@@ -54,7 +54,7 @@ std::string Dove(const Schermo& s, const QWidget* w) {
            w->metaObject()->className() + ")";
 }
 
-void Percorri(const Schermo& screen) {
+void Percorre(const Schermo& screen) {
     QHash<QString, QWidget*> names;
     for (QWidget* w : Controlli(screen)) {
         const QString name = Letto(w);
@@ -72,15 +72,15 @@ void Percorri(const Schermo& screen) {
 }
 
 /// Each page of a screen that has pages; the one that was open is open again afterwards.
-void PercorriPagine(const Schermo& screen) {
-    Percorri(screen);
+void PercorrePagine(const Schermo& screen) {
+    Percorre(screen);
     for (auto* tabs : screen.findChildren<QTabWidget*>()) {
         const QSignalBlocker quiet(tabs);
         const int open = tabs->currentIndex();
         for (int i = 0; i < tabs->count(); ++i) {
             tabs->setCurrentIndex(i);
             if (i != open)
-                Percorri(screen);
+                Percorre(screen);
         }
         tabs->setCurrentIndex(open);
     }
@@ -93,17 +93,17 @@ const QHash<QString, QString> apritori = {{"FrmMsverg", "FrmPresFless"},
                                           {"frmTimoshenko", "FrmMsverg"}};
 
 /// @return how many screens there are
-int PercorriTutti(Schermo& main) {
+int PercorreTutti(Schermo& main) {
     auto& n = NavigaSchermi::Unico();
-    PercorriPagine(main);
-    n.Apri("FrmPresFless", main);
-    n.Apri("FrmMsverg", n.Prendi("FrmPresFless"));
+    PercorrePagine(main);
+    n.Apre("FrmPresFless", main);
+    n.Apre("FrmMsverg", n.Prende("FrmPresFless"));
     int screens = 1;
     for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
         if (voce.nome == main.objectName())
             continue;
-        n.Apri(voce.nome, n.Prendi(apritori.value(voce.nome, main.objectName())));
-        PercorriPagine(n.Prendi(voce.nome));
+        n.Apre(voce.nome, n.Prende(apritori.value(voce.nome, main.objectName())));
+        PercorrePagine(n.Prende(voce.nome));
         ++screens;
     }
     return screens;
@@ -111,23 +111,23 @@ int PercorriTutti(Schermo& main) {
 
 TEST_F(AccessibilitaTest, EveryControlOfEveryScreenHasANameOfItsOwnAndItsValue) {
     auto& main = Avvia();
-    EXPECT_EQ(PercorriTutti(main), NavigaSchermi::Unico().Tavola().size());
+    EXPECT_EQ(PercorreTutti(main), NavigaSchermi::Unico().Tavola().size());
 }
 
 TEST_F(AccessibilitaTest, SoItIsWhereASlenderSectionBringsOtherResults) {
     auto& main = Avvia();
-    VaiA(main, "IPE 500");
+    VaA(main, "IPE 500");
     Scrive(&main, "Txt_fy", "355");
     Scrive(&main, "TxtNsd", "900");
     ASSERT_EQ(Sezione().ClasseCompressione, 4);
-    PercorriTutti(main);
+    PercorreTutti(main);
 }
 
 TEST_F(AccessibilitaTest, AFactorToBeTakenHasItsNumberAndCanBePressed) {
     auto& main = Avvia();
-    PercorriTutti(main);
-    auto& table = NavigaSchermi::Unico().Prendi("frmMsvergH1");
-    NavigaSchermi::Unico().Apri(table.objectName(), NavigaSchermi::Unico().Prendi("FrmMsverg"));
+    PercorreTutti(main);
+    auto& table = NavigaSchermi::Unico().Prende("frmMsvergH1");
+    NavigaSchermi::Unico().Apre(table.objectName(), NavigaSchermi::Unico().Prende("FrmMsverg"));
     auto* button = Trova<QPushButton>(&table, "lblC1_1");
     EXPECT_EQ(Letto(button), "C1, riga 2");
     EXPECT_EQ(Letto(button, QAccessible::Value), button->text());

@@ -18,10 +18,10 @@ protected:
     void SetUp() override {
         AmbienteSchermi::SetUp();
         s = &Avvia();
-        VaiA(*s, "IPE 300");
+        VaA(*s, "IPE 300");
     }
     Schermo& Apre(const char* name) {
-        NavigaSchermi::Unico().Apri(QString::fromLatin1(name), *s);
+        NavigaSchermi::Unico().Apre(QString::fromLatin1(name), *s);
         return Aperto(name);
     }
     frmDoppioT* s = nullptr;
@@ -30,7 +30,7 @@ protected:
 TEST_F(AggiornaVisibiliTest, VisibleDetailsFollowTheRowOfTheirCaller) {
     const auto& buckling = Apre("FrmInstabDoppioT");
     const auto& moment = Apre("FrmMcRd");
-    VaiA(*s, "IPE 200");
+    VaA(*s, "IPE 200");
     EXPECT_EQ(Testo(&buckling, "Txt_Prof"), "IPE 200");
     EXPECT_EQ(Testo(&moment, "Txt_Prof"), "IPE 200");
     // 220,6 cm3 · 235 / 1,05
@@ -40,7 +40,7 @@ TEST_F(AggiornaVisibiliTest, VisibleDetailsFollowTheRowOfTheirCaller) {
 TEST_F(AggiornaVisibiliTest, VisibleDetailsTakeTheForceTypedIntoTheirCaller) {
     const auto& check = Apre("FrmVerifiche");
     const auto& member = Apre("FrmPresFless");
-    NavigaSchermi::Unico().Apri(QStringLiteral("FrmMcRd"), *s); // in use now
+    NavigaSchermi::Unico().Apre(QStringLiteral("FrmMcRd"), *s); // in use now
     s->TxtNsd->setText(QStringLiteral("120"));
     EXPECT_EQ(Testo(&check, "TxtNsd"), "120");
     EXPECT_EQ(Testo(&member, "TxtNsd"), "120");
@@ -66,8 +66,8 @@ TEST_F(AggiornaVisibiliTest, ADetailKeepsWhatItHasOfItsOwn) {
     const auto& check = Apre("FrmVerifiche");
     Scrive(&check, "TxtNsd", "75");
     Scrive(&check, "TxtMysd", "20");
-    NavigaSchermi::Unico().Apri(QStringLiteral("FrmMcRd"), *s);
-    VaiA(*s, "IPE 200");
+    NavigaSchermi::Unico().Apre(QStringLiteral("FrmMcRd"), *s);
+    VaA(*s, "IPE 200");
     EXPECT_EQ(Testo(&check, "TxtNsd"), "75");
     EXPECT_EQ(Testo(&check, "TxtMysd"), "20");
     EXPECT_EQ(Sezione().Mysd, 0) << "the section of the main screen hears nothing of it";
@@ -79,7 +79,7 @@ TEST_F(AggiornaVisibiliTest, TheActiveDetailWorksOnTheSectionItself) {
     Apre("FrmMcRd");
     const auto& check = Apre("FrmVerifiche");
     Scrive(&check, "TxtMysd", "20");
-    VaiA(*s, "IPE 200");
+    VaA(*s, "IPE 200");
     EXPECT_EQ(Sezione().Mysd.Stretto(), 20e6F);
 }
 
@@ -87,36 +87,36 @@ TEST_F(AggiornaVisibiliTest, NothingSpeaksWhileOthersComputeAnew) {
     const auto& torsion = Apre("FrmMsverg");
     Scrive(&torsion, "Txt_L", "6");
     Scrive(&torsion, "Txt_C1", "0"); // no critical moment: a message at its own computing
-    NavigaSchermi::Unico().Apri(QStringLiteral("FrmMcRd"), *s);
+    NavigaSchermi::Unico().Apre(QStringLiteral("FrmMcRd"), *s);
     registratore.testi.clear();
-    VaiA(*s, "IPE 200");
+    VaA(*s, "IPE 200");
     EXPECT_TRUE(registratore.testi.empty());
     EXPECT_EQ(Testo(&torsion, "Txt_Prof"), "IPE 200");
 }
 
 TEST_F(AggiornaVisibiliTest, ThePreviewShowsTheRowInHand) {
     Trova<QPushButton>(s, "CmdPlotta")->click();
-    const auto& preview = NavigaSchermi::Unico().Prendi<FrmPltSezione>();
+    const auto& preview = NavigaSchermi::Unico().Prende<FrmPltSezione>();
     EXPECT_EQ(preview.windowTitle(), "Plotta - IPE 300");
-    VaiA(*s, "IPE 200");
+    VaA(*s, "IPE 200");
     EXPECT_EQ(preview.windowTitle(), "Plotta - IPE 200");
 }
 
 TEST_F(AggiornaVisibiliTest, TimoshenkosBeamTakesTheConstantsOfAnotherRow) {
     const auto& torsion = Apre("FrmMsverg");
-    Premi(&torsion, "Command1");
+    Preme(&torsion, "Command1");
     const auto& beam = Aperto("frmTimoshenko");
     Scrive(&beam, "TxtIT", "99");
     s->Txt_L0[0]->setText(QStringLiteral("3"));
     EXPECT_EQ(Testo(&beam, "TxtIT"), "99") << "the same section: what was typed stays";
-    VaiA(*s, "IPE 200");
+    VaA(*s, "IPE 200");
     EXPECT_EQ(Testo(&beam, "Txt_Prof"), "IPE 200");
     EXPECT_EQ(ValoreNumerico(Testo(&beam, "TxtIz")), 142.4);
 }
 
 TEST_F(AggiornaVisibiliTest, ClosingGoesToTheNearestScreenThatIsVisible) {
     auto& member = Apre("FrmPresFless");
-    Premi(&member, "LblFlessTors");
+    Preme(&member, "LblFlessTors");
     auto& torsion = Aperto("FrmMsverg");
     member.close();
     EXPECT_FALSE(member.isVisible());
@@ -140,7 +140,7 @@ TEST_F(AggiornaVisibiliTest, DetailsLeaveAndComeBackWithTheirCaller) {
 TEST_F(AggiornaVisibiliTest, ADetailIsTransientForTheScreenThatOpensIt) {
     auto& member = Apre("FrmPresFless");
     EXPECT_EQ(member.windowHandle()->transientParent(), s->windowHandle());
-    Premi(&member, "LblFlessTors");
+    Preme(&member, "LblFlessTors");
     auto& torsion = Aperto("FrmMsverg");
     EXPECT_EQ(torsion.windowHandle()->transientParent(), member.windowHandle());
     member.close();
@@ -149,7 +149,7 @@ TEST_F(AggiornaVisibiliTest, ADetailIsTransientForTheScreenThatOpensIt) {
 
 TEST_F(AggiornaVisibiliTest, EscClosesTheObservationsOfTheBoltsFirst) {
     auto& bolts = Apre("frmBulloni");
-    Premi(&bolts, "Command1");
+    Preme(&bolts, "Command1");
     auto* notes = Trova<QWidget>(&bolts, "Txt_Osservazioni");
     ASSERT_TRUE(notes->isVisible());
     QTest::keyClick(notes, Qt::Key_Escape);
@@ -162,7 +162,7 @@ TEST_F(AggiornaVisibiliTest, EscClosesTheObservationsOfTheBoltsFirst) {
 TEST_F(AggiornaVisibiliTest, EnterPressesOkOfTheFactors) {
     for (const char* control : {"optNormativa_2", "txtGamma_0", "txtGamma_2", "cmdOK_0", "cmdOK_1"}) {
         auto& dialog = Apre("frmGamma");
-        Premi(&dialog, "optNormativa_2");
+        Preme(&dialog, "optNormativa_2");
         Scrive(&dialog, "txtGamma_0", "1.1");
         QTest::keyClick(Trova<QWidget>(&dialog, control), Qt::Key_Return);
         EXPECT_FALSE(dialog.isVisible()) << control;

@@ -28,7 +28,7 @@ protected:
     static SezioneDoppioT& Sezione() { return *std::get<std::shared_ptr<SezioneDoppioT>>(SezioneCorrente); }
 
     /// Goes to a section of the table by its name.
-    static void VaiA(SchermoSezione& screen, const char* name) {
+    static void VaA(SchermoSezione& screen, const char* name) {
         ASSERT_TRUE(screen.Data1->Recordset().CercaRecord(name)) << name;
     }
 };

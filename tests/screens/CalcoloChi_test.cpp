@@ -57,12 +57,12 @@ TEST_F(CalcoloChiTest, TurnsTheSlendernessIntoTheOtherOne) {
 
 TEST_F(CalcoloChiTest, StartsWithTheCurveOfTheSectionAndKeepsTheChosenOne) {
     auto* curve = Trova<QComboBox>(&calcolo, "ComboChi");
-    calcolo.ProponiCurva("b");
+    calcolo.ProponeCurva("b");
     EXPECT_EQ(curve->currentText(), "b");
     curve->setCurrentText("d");
-    calcolo.ProponiCurva("b");
+    calcolo.ProponeCurva("b");
     EXPECT_EQ(curve->currentText(), "d") << "the same section";
-    calcolo.ProponiCurva("a");
+    calcolo.ProponeCurva("a");
     EXPECT_EQ(curve->currentText(), "a");
 }
 

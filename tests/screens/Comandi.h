@@ -15,7 +15,7 @@ inline double Numero(const QObject* screen, const char* name) {
     return ValoreNumerico(Scritta(screen, name));
 }
 
-inline void Premi(const QObject* screen, const char* name) { Trova<QAbstractButton>(screen, name)->click(); }
+inline void Preme(const QObject* screen, const char* name) { Trova<QAbstractButton>(screen, name)->click(); }
 
 inline std::string Titolo(const QObject* screen, const char* name) {
     return Trova<QGroupBox>(screen, name)->title().toStdString();

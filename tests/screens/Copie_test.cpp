@@ -18,8 +18,8 @@ class CopieTest : public AmbienteSchermi {
 protected:
     Schermo& Momenti() {
         auto& main = Avvia();
-        VaiA(main, "IPE 500");
-        NavigaSchermi::Unico().Apri("FrmMcRd", main);
+        VaA(main, "IPE 500");
+        NavigaSchermi::Unico().Apre("FrmMcRd", main);
         return Aperto("FrmMcRd");
     }
 };

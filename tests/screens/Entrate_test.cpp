@@ -127,19 +127,19 @@ protected:
                                                         {"frmMsvergH2", "FrmMsverg"},
                                                         {"frmTimoshenko", "FrmMsverg"}};
         auto& main = Avvia();
-        VaiA(main, "IPE 200");
+        VaA(main, "IPE 200");
         auto& n = NavigaSchermi::Unico();
         const Italiano italiano;
         registratore.testi.clear();
         int entries = Percorre(main, prova);
-        n.Apri("FrmPresFless", main);
-        n.Apri("FrmMsverg", n.Prendi("FrmPresFless"));
+        n.Apre("FrmPresFless", main);
+        n.Apre("FrmMsverg", n.Prende("FrmPresFless"));
         for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
             if (voce.nome == main.objectName())
                 continue;
-            n.Apri(voce.nome, n.Prendi(openers.value(voce.nome, main.objectName())));
+            n.Apre(voce.nome, n.Prende(openers.value(voce.nome, main.objectName())));
             registratore.testi.clear();
-            entries += Percorre(n.Prendi(voce.nome), prova);
+            entries += Percorre(n.Prende(voce.nome), prova);
         }
         return entries;
     }
@@ -160,8 +160,8 @@ TEST_F(EntrateTest, EveryResultBoxOfEveryScreenShowsItsHead) {
     int results = 0;
     for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
         if (voce.nome != main.objectName())
-            n.Apri(voce.nome, main);
-        for (auto* box : n.Prendi(voce.nome).findChildren<Casella*>()) {
+            n.Apre(voce.nome, main);
+        for (auto* box : n.Prende(voce.nome).findChildren<Casella*>()) {
             if (!box->Risultato() || Entrata::Di(box) != nullptr)
                 continue;
             const QString longest = QStringLiteral(" 123,456,789,012,345,678,901,234,567,890");

@@ -22,7 +22,7 @@ protected:
         PostiFinestre().clear();
     }
     Schermo& Apre(const char* name) {
-        NavigaSchermi::Unico().Apri(QString::fromLatin1(name), *s);
+        NavigaSchermi::Unico().Apre(QString::fromLatin1(name), *s);
         return Aperto(name);
     }
     frmDoppioT* s = nullptr;

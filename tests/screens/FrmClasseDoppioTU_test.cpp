@@ -14,7 +14,7 @@ class FrmClasseDoppioTUTest : public AmbienteSchermi {
 protected:
     FrmClasseDoppioTU& Apre(const char* section) {
         s = &Avvia();
-        VaiA(*s, section);
+        VaA(*s, section);
         Trova<QPushButton>(s, "LblClasse")->click();
         return dynamic_cast<FrmClasseDoppioTU&>(
             *NavigaSchermi::Unico().Trova(QStringLiteral("FrmClasseDoppioTU")));

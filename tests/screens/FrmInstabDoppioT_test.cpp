@@ -18,7 +18,7 @@ class FrmInstabDoppioTTest : public AmbienteSchermi {
 protected:
     FrmInstabDoppioT& Apre(const char* section, const char* L0y = "", const char* L0z = "") {
         s = &Avvia();
-        VaiA(*s, section);
+        VaA(*s, section);
         Scrive(s, "Txt_L0_0", L0y);
         Scrive(s, "Txt_L0_1", L0z);
         Trova<QPushButton>(s, "LblNbRd")->click();
@@ -81,11 +81,11 @@ TEST_F(FrmInstabDoppioTTest, PublishedColumnHe300B) {
     s = &Avvia();
     s->ChkTipo[1]->setChecked(true);
     Trova<QPushButton>(s, "AggiornaTabella")->click();
-    VaiA(*s, "HEB 300");
+    VaA(*s, "HEB 300");
     Scrive(s, "Txt_L0_0", "8");
     Scrive(s, "Txt_L0_1", "5.6");
-    auto& f = NavigaSchermi::Unico().Prendi<FrmInstabDoppioT>();
-    f.ApriDa(*s, *s);
+    auto& f = NavigaSchermi::Unico().Prende<FrmInstabDoppioT>();
+    f.ApreDa(*s, *s);
     EXPECT_NEAR(ValoreNumerico(Scritta(&f, "Lbl_Ncr_0")), 8151.2, 8151.2 * 1e-3);
     EXPECT_NEAR(ValoreNumerico(Scritta(&f, "Lbl_Ncr_1")), 5657.4, 5657.4 * 1e-3);
     EXPECT_NEAR(ValoreNumerico(Scritta(&f, "Lbl_LamdaS_0")), 0.655, 1e-3);

@@ -16,7 +16,7 @@ class FrmMcRdTest : public AmbienteSchermi {
 protected:
     FrmMcRd& Apre(const char* section = "IPE 300") {
         s = &Avvia();
-        VaiA(*s, section);
+        VaA(*s, section);
         return Riapre();
     }
     FrmMcRd& Riapre() {
@@ -96,7 +96,7 @@ TEST_F(FrmMcRdTest, NumbersBelowOneStandInPowersOfTen) {
 
 TEST_F(FrmMcRdTest, OpeningTakesTheForceFromTheSectionAndKeepsTheShearLength) {
     s = &Avvia();
-    VaiA(*s, "IPE 300");
+    VaA(*s, "IPE 300");
     Scrive(s, "TxtNsd", "200");
     auto& f = Riapre();
     EXPECT_EQ(Testo(&f, "TxtNsd"), "200");

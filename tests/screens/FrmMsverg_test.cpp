@@ -18,24 +18,24 @@ class FrmMsvergTest : public AmbienteSchermi {
 protected:
     FrmMsverg& Apre() {
         main_ = &Avvia();
-        VaiA(*main_, "IPE 300");
-        Premi(main_, "Command2");
+        VaA(*main_, "IPE 300");
+        Preme(main_, "Command2");
         registratore.testi.clear();
         return dynamic_cast<FrmMsverg&>(Aperto("FrmMsverg"));
     }
     /// Through the check of axial force and bending, which sets moments and factors.
     FrmMsverg& ApreDaPresFless() {
         main_ = &Avvia();
-        VaiA(*main_, "IPE 300");
+        VaA(*main_, "IPE 300");
         Scrive(main_, "Txt_L0_0", "5");
         Scrive(main_, "Txt_L0_1", "2.5");
         Scrive(main_, "TxtNsd", "120");
-        Premi(main_, "Command1");
+        Preme(main_, "Command1");
         auto& f = Aperto("FrmPresFless");
         Scrive(&f, "TxtM1_0", "60");
         Scrive(&f, "TxtM2_0", "-20");
         Scrive(&f, "TxtM1_1", "4");
-        Premi(&f, "LblFlessTors");
+        Preme(&f, "LblFlessTors");
         registratore.testi.clear();
         auto& m = dynamic_cast<FrmMsverg&>(Aperto("FrmMsverg"));
         Scrive(&m, "Txt_L", "5");
@@ -95,9 +95,9 @@ TEST_F(FrmMsvergTest, NoLengthGivenIsNoVerdict) {
 
 TEST_F(FrmMsvergTest, LengthStartsAsTheOneAboutZOfTheCaller) {
     main_ = &Avvia();
-    VaiA(*main_, "IPE 300");
+    VaA(*main_, "IPE 300");
     Scrive(main_, "Txt_L0_1", "2.5");
-    Premi(main_, "Command2");
+    Preme(main_, "Command2");
     EXPECT_EQ(Testo(&Aperto("FrmMsverg"), "Txt_L"), Locale("2.5"));
 }
 
@@ -210,9 +210,9 @@ TEST_F(FrmMsvergTest, ARowOfTheLinearTableIsCopied) {
     auto& m = Apre();
     Scrive(&m, "Txt_L", "5");
     Scrive(&m, "Txt_C2", "0.459");
-    Premi(&m, "CmdH1");
+    Preme(&m, "CmdH1");
     auto& table = Aperto("frmMsvergH1");
-    Premi(&table, "lblC1_4"); // psi +3/4, k 0.7
+    Preme(&table, "lblC1_4"); // psi +3/4, k 0.7
     EXPECT_FALSE(table.isVisible());
     EXPECT_EQ(Testo(&m, "Txt_k"), Locale("0.7"));
     EXPECT_EQ(Testo(&m, "Txt_C1"), Locale("1.27"));
@@ -228,9 +228,9 @@ TEST_F(FrmMsvergTest, ARowOfTheLoadTableIsCopied) {
     Scrive(&m, "Txt_L", "5");
     Scrive(&m, "Txt_Zg", "150");
     Scrive(&m, "TxtMysd", "60");
-    Premi(&m, "CmdH2");
+    Preme(&m, "CmdH2");
     auto& table = Aperto("frmMsvergH2");
-    Premi(&table, "lblC1_0");
+    Preme(&table, "lblC1_0");
     EXPECT_FALSE(table.isVisible());
     EXPECT_EQ(Testo(&m, "Txt_C1"), Locale("1.132"));
     EXPECT_EQ(Testo(&m, "Txt_C2"), Locale("0.459"));
@@ -318,7 +318,7 @@ TEST_F(FrmMsvergTest, LengthIsKeptWhereTheSectionHasNone) {
     Scrive(&m, "Txt_Zg", "150");
     QTest::keyClick(&m, Qt::Key_Escape);
     EXPECT_EQ(Sezione().LLT, 0);
-    Premi(main_, "Command2");
+    Preme(main_, "Command2");
     EXPECT_EQ(Testo(&m, "Txt_L"), "5");
     EXPECT_EQ(Testo(&m, "Txt_Zg"), "0");
     EXPECT_EQ(Sezione().LLT.Stretto(), 5000.F);
@@ -328,13 +328,13 @@ TEST_F(FrmMsvergTest, OpensTimoshenkoAndTheSectionCheck) {
     auto& m = Apre();
     Scrive(&m, "Txt_L", "5");
     Scrive(&m, "TxtMysd", "60");
-    Premi(&m, "Command1");
+    Preme(&m, "Command1");
     auto& t = Aperto("frmTimoshenko");
     EXPECT_EQ(Testo(&t, "Txt_L"), "5");
     EXPECT_EQ(Testo(&t, "TxtIz"), Locale("603.8"));
     QTest::keyClick(&t, Qt::Key_Escape);
     EXPECT_FALSE(t.isVisible());
-    Premi(&m, "LblVerifiche");
+    Preme(&m, "LblVerifiche");
     auto& v = Aperto("FrmVerifiche");
     EXPECT_EQ(Testo(&v, "TxtMysd"), "60");
     QTest::keyClick(&v, Qt::Key_Escape);

@@ -23,11 +23,11 @@ class FrmPresFlessTest : public AmbienteSchermi {
 protected:
     FrmPresFless& Apre(const char* section = "IPE 300") {
         main_ = &Avvia();
-        VaiA(*main_, section);
+        VaA(*main_, section);
         Scrive(main_, "Txt_L0_0", "5");
         Scrive(main_, "Txt_L0_1", "2.5");
         Scrive(main_, "TxtNsd", "120");
-        Premi(main_, "Command1");
+        Preme(main_, "Command1");
         registratore.testi.clear();
         return dynamic_cast<FrmPresFless&>(Aperto("FrmPresFless"));
     }
@@ -102,7 +102,7 @@ TEST_F(FrmPresFlessTest, SpanLoadAgainstTheEndMoments) {
     Scrive(&f, "TxtM1_0", "60");
     Scrive(&f, "TxtM2_0", "-20");
     Scrive(&f, "TxtM1_1", "4");
-    Premi(&f, "Picture1_4");
+    Preme(&f, "Picture1_4");
     EXPECT_EQ(f.TipoDiagramma, 1);
     EXPECT_EQ(f.IndicePict, 4);
     EXPECT_TRUE(Trova<QRadioButton>(&f, "OptMomento_1")->isChecked());
@@ -112,22 +112,22 @@ TEST_F(FrmPresFlessTest, SpanLoadAgainstTheEndMoments) {
     EXPECT_EQ(Scritta(&f, "Lbl_C1"), Locale("1.0"));
     EXPECT_EQ(Scritta(&f, "Lbl_Mu_0"), Locale("-0.212"));
     EXPECT_EQ(Scritta(&f, "Lbl_Risult"), Locale("0.751"));
-    Premi(&f, "Picture1_6"); // with them: 20 + 85.5 at the middle, above the end
+    Preme(&f, "Picture1_6"); // with them: 20 + 85.5 at the middle, above the end
     EXPECT_EQ(Scritta(&f, "Lbl_MSd_0"), Locale("105.5"));
     EXPECT_NEAR(Numero(&f, "Lbl_BetaM_0"), 2.0333333 + 85.5 / 105.5 * (1.4 - 2.0333333), 5e-4);
-    Premi(&f, "Picture1_5");
+    Preme(&f, "Picture1_5");
     EXPECT_NEAR(Numero(&f, "Lbl_BetaM_0"), 2.0333333 + 85.5 / 105.5 * (1.3 - 2.0333333), 5e-4);
 }
 
 TEST_F(FrmPresFlessTest, AnOptionPicksTheFirstPictureOfItsGroup) {
     auto& f = Apre();
     EXPECT_FALSE(Trova<QLineEdit>(&f, "TxtMQ_0")->isVisible());
-    Premi(&f, "OptMomento_1");
+    Preme(&f, "OptMomento_1");
     EXPECT_EQ(f.IndicePict, 3);
     EXPECT_TRUE(Trova<PulsanteDiagramma>(&f, "Picture1_3")->isChecked());
     EXPECT_TRUE(Trova<QLineEdit>(&f, "TxtMQ_0")->isVisible());
     EXPECT_TRUE(Trova<QLineEdit>(&f, "TxtMQ_1")->isVisible());
-    Premi(&f, "OptMomento_0");
+    Preme(&f, "OptMomento_0");
     EXPECT_EQ(f.IndicePict, 1);
     EXPECT_EQ(f.TipoDiagramma, 0);
     EXPECT_TRUE(Trova<PulsanteDiagramma>(&f, "Picture1_1")->isChecked());
@@ -218,7 +218,7 @@ TEST_F(FrmPresFlessTest, ACorrectionWaitsForEnterLeavingOrAStep) {
     const char* message = "M1 deve essere positivo.\nIl segno viene automaticamente cambiato";
     const std::function<void()> ends[] = {
         [&] { QTest::keyClick(M1, Qt::Key_Return); }, [&] { QTest::keyClick(M1, Qt::Key_Tab); },
-        [&] { Trova<UpDown>(&f, "UpDown1")->stepUp(); }, [&] { Premi(&f, "OptMomento_1"); }};
+        [&] { Trova<UpDown>(&f, "UpDown1")->stepUp(); }, [&] { Preme(&f, "OptMomento_1"); }};
     for (const auto& end : ends) {
         SCOPED_TRACE(&end - ends);
         registratore.testi.clear();
@@ -270,7 +270,7 @@ TEST_F(FrmPresFlessTest, AStrengthThatIsNoneIsPutBackOnLeaving) {
 
 TEST_F(FrmPresFlessTest, NegativeSpanMomentChangesItsSign) {
     auto& f = Apre();
-    Premi(&f, "OptMomento_1");
+    Preme(&f, "OptMomento_1");
     Scrive(&f, "TxtMQ_1", "-2.5");
     EXPECT_EQ(registratore.testi, Testi{"MQ deve essere positivo.\nIl segno viene automaticamente cambiato"});
     EXPECT_EQ(Testo(&f, "TxtMQ_1"), Locale("2.5"));
@@ -346,11 +346,11 @@ TEST_F(FrmPresFlessTest, ClassFourHasItsOwnLine) {
 TEST_F(FrmPresFlessTest, AxialForceTimesTheShiftGoesIntoBothEnds) {
     main_ = &Avvia();
     main_->ChkTipo[11]->setChecked(true);
-    Premi(main_, "AggiornaTabella");
-    VaiA(*main_, "HEAA 300");
+    Preme(main_, "AggiornaTabella");
+    VaA(*main_, "HEAA 300");
     Scrive(main_, "Txt_fy", "420");
     Scrive(main_, "TxtNsd", "500");
-    Premi(main_, "Command1");
+    Preme(main_, "Command1");
     const auto& f = Aperto("FrmPresFless");
     registratore.testi.clear();
     const double e = Sezione().eNy;
@@ -381,7 +381,7 @@ TEST_F(FrmPresFlessTest, EqualValuesLeaveTheCallersTexts) {
     QTest::keyClick(&f, Qt::Key_Escape);
     Scrive(main_, "TxtNsd", "0120.00");
     main_->Txt_L0[0]->clear();
-    Premi(main_, "Command1");
+    Preme(main_, "Command1");
     EXPECT_EQ(Testo(main_, "TxtNsd"), Locale("0120.00"));
     EXPECT_EQ(Testo(&f, "TxtNsd"), "120");
     EXPECT_EQ(Testo(main_, "Txt_L0_0"), "");
@@ -395,7 +395,7 @@ TEST_F(FrmPresFlessTest, MomentsAreKeptFromOneOpeningToTheNext) {
     EXPECT_FALSE(f.isVisible());
     EXPECT_EQ(Sezione().Mysd, 0) << "the caller has made a new section";
     Scrive(main_, "TxtNsd", "80");
-    Premi(main_, "Command1");
+    Preme(main_, "Command1");
     EXPECT_EQ(Testo(&f, "TxtM1_0"), "60");
     EXPECT_EQ(Testo(&f, "TxtNsd"), "80");
     EXPECT_EQ(Sezione().Mysd.Stretto(), 60e6F);
@@ -439,7 +439,7 @@ TEST_F(FrmPresFlessTest, OpensTheOtherChecksAndComesBack) {
     auto& f = Apre();
     Scrive(&f, "TxtM1_0", "60");
     Scrive(&f, "TxtM2_0", "-20");
-    Premi(&f, "LblVerifiche");
+    Preme(&f, "LblVerifiche");
     auto& verifiche = Aperto("FrmVerifiche");
     EXPECT_EQ(Testo(&verifiche, "TxtMysd"), "60");
     Scrive(&verifiche, "TxtNsd", "500");
@@ -450,7 +450,7 @@ TEST_F(FrmPresFlessTest, OpensTheOtherChecksAndComesBack) {
     EXPECT_EQ(Testo(&f, "TxtNsd"), "500") << "the force of the other check";
     Scrive(&f, "TxtNsd", "120");
     for (const char* opener : {"LblFlessTors", "LbLFlessTorsHelp"}) {
-        Premi(&f, opener);
+        Preme(&f, opener);
         auto& m = Aperto("FrmMsverg");
         EXPECT_EQ(Testo(&m, "TxtMysd"), "60");
         EXPECT_NEAR(ValoreNumerico(Testo(&m, "Txt_C1")), 2.40444, 1e-5);
@@ -463,14 +463,14 @@ TEST_F(FrmPresFlessTest, OpensTheOtherChecksAndComesBack) {
 TEST_F(FrmPresFlessTest, EnterGoesThroughTheEntries) {
     auto& f = Apre();
     f.activateWindow();
-    Premi(&f, "OptMomento_1");
+    Preme(&f, "OptMomento_1");
     Trova<QLineEdit>(&f, "Txt_fy")->setFocus();
     for (const char* next : {"TxtNsd", "Txt_L0_0", "Txt_L0_1", "TxtM1_0", "TxtM2_0", "TxtMQ_0", "TxtM1_1",
                              "TxtM2_1", "TxtMQ_1"}) {
         QTest::keyClick(f.focusWidget(), Qt::Key_Return);
         EXPECT_EQ(f.focusWidget()->objectName(), next);
     }
-    Premi(&f, "OptMomento_0"); // no span moments: they are passed over
+    Preme(&f, "OptMomento_0"); // no span moments: they are passed over
     Trova<QLineEdit>(&f, "TxtM2_0")->setFocus();
     QTest::keyClick(f.focusWidget(), Qt::Key_Return);
     EXPECT_EQ(f.focusWidget()->objectName(), "TxtM1_1");

@@ -16,12 +16,12 @@ protected:
     /// The screen on IPE 300 of the first screen.
     FrmVerifiche& Apre() {
         s = &Avvia();
-        VaiA(*s, "IPE 300");
+        VaA(*s, "IPE 300");
         return Riapre();
     }
     FrmVerifiche& Riapre() {
-        auto& f = NavigaSchermi::Unico().Prendi<FrmVerifiche>();
-        f.ApriDa(*s, *s);
+        auto& f = NavigaSchermi::Unico().Prende<FrmVerifiche>();
+        f.ApreDa(*s, *s);
         return f;
     }
     static void Azioni(FrmVerifiche& f, const char* N, const char* My, const char* Mz) {
@@ -58,7 +58,7 @@ TEST_F(FrmVerificheTest, HasItsTexts) {
 
 TEST_F(FrmVerificheTest, OpeningFillsTheEntriesFromTheSectionAndCopiesTheCaller) {
     s = &Avvia();
-    VaiA(*s, "IPE 300");
+    VaA(*s, "IPE 300");
     Scrive(s, "TxtNsd", "123.4");
     Sezione().Mysd = 85.5e6;
     Sezione().Mzsd = -2.25e6;
@@ -185,7 +185,7 @@ TEST_F(FrmVerificheTest, ExactlyOnePassesALittleMoreDoesNot) {
     s = &Avvia();
     Normativa = normativaEC3;
     ImpostaGamma();
-    VaiA(*s, "IPE 200");
+    VaA(*s, "IPE 200");
     auto& f = Riapre();
     Azioni(f, "0", "51.841", "0");
     EXPECT_EQ(Scritta(&f, "Lbl_Risult3_0"), Locale("1.0"));

@@ -287,7 +287,7 @@ struct SchermoRotto : frmDoppioT {
 
 TEST_F(GeneraleSchermiTest, FailureOfAnActivationNamesTheScreen) {
     Avvia();
-    auto& broken = NavigaSchermi::Unico().Prendi<SchermoRotto>();
+    auto& broken = NavigaSchermi::Unico().Prende<SchermoRotto>();
     registratore.testi.clear();
     AttivaForm(broken);
     EXPECT_EQ(registratore.testi, std::vector<std::string>{"Errore in AttivaForm frmDoppioT n° 0 - campo 9"});

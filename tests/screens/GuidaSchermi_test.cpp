@@ -37,7 +37,7 @@ TEST_F(GuidaSchermiTest, EveryControlOfEveryScreenHasItsTopic) {
     auto& n = NavigaSchermi::Unico();
     int controls = 0;
     for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
-        const Schermo& screen = n.Prendi(voce.nome);
+        const Schermo& screen = n.Prende(voce.nome);
         const QString html = LeggeGuida(screen.FileGuida());
         ASSERT_FALSE(html.isEmpty());
         EXPECT_FALSE(AncoraDi(html, voce.nome).isEmpty()) << voce.nome.toStdString();

@@ -47,7 +47,7 @@ protected:
     /// A screen of welded sections, with the user's sheet in force.
     template <typename T> T& Apre(const char* voce) {
         Trova<QAction>(&Avvia(), voce)->trigger();
-        auto& s = NavigaSchermi::Unico().Prendi<T>();
+        auto& s = NavigaSchermi::Unico().Prende<T>();
         s.ChkTipoUtente->click();
         return s;
     }
@@ -83,7 +83,7 @@ TEST_F(SagomiUtenteTest, BothScreensHaveTheirControls) {
         EXPECT_EQ(s.cmdUtenteEdita[i]->text(), ends[i]);
     }
     EXPECT_EQ(s.TxtProfUtente.size(), 6);
-    auto& other = NavigaSchermi::Unico().Prendi<frmSaldatiAsimm>();
+    auto& other = NavigaSchermi::Unico().Prende<frmSaldatiAsimm>();
     EXPECT_EQ(other.TxtProfUtente.size(), 8);
     EXPECT_TRUE(other.ChkTipoUtente->toolTip().contains("Foglio DoppioT Asimmetrico"));
 }
@@ -165,7 +165,7 @@ TEST_F(SagomiUtenteTest, OneFamilyIsSortedAlsoWhenItIsNotTicked) {
     s.ChkTipo[0]->setChecked(false);
     s.OptionOrdina[2]->click();
     EXPECT_EQ(s.Data1->RecordSource(), "SELECT * FROM [HSD$] ORDER BY [g (Kg/m)]");
-    Premi(&s, "AggiornaTabella");
+    Preme(&s, "AggiornaTabella");
     EXPECT_EQ(registratore.testi.back(), "ERRORE !! Non è stato selezionato nessun tipo di sagomo");
 }
 
@@ -282,7 +282,7 @@ TEST_F(SagomiUtenteTest, RowsWithDimensionsOnlyAreCompletedOnOpening) {
     EXPECT_EQ(Campo(1, 1, 9), Valore()) << "the other screen's sheet";
     EXPECT_EQ(Testo(&s, "TxtProf_7"), Locale(" 106"));
     Scrive(simmetrico, {{S("S2"), {}, 400.0, 200.0, 10.0, 20.0, 0.0}});
-    Premi(&s, "AggiornaTabella");
+    Preme(&s, "AggiornaTabella");
     EXPECT_NEAR(NumeroDi(Campo(0, 2, 7)), 116, 1e-4) << "also when the table is read anew";
     EXPECT_EQ(s.Data1->Recordset().Righe(), 2);
     EXPECT_TRUE(registratore.testi.empty());
@@ -299,7 +299,7 @@ TEST_F(SagomiUtenteTest, AMissingWorkbookIsOneBoxAndTheTableStays) {
     EXPECT_FALSE(s.frUtenteComandi->isVisible());
     EXPECT_EQ(s.Data1->Recordset().Righe(), 49);
     EXPECT_EQ(s.Data1->RecordSource(), s.SQLstring);
-    Premi(&s, "AggiornaTabella");
+    Preme(&s, "AggiornaTabella");
     EXPECT_EQ(registratore.testi.size(), 1U);
 }
 
@@ -326,7 +326,7 @@ TEST_F(SagomiUtenteTest, AWorkbookChangedByOthersIsToldAndNotWrittenOver) {
     EXPECT_EQ(s.Data1->Recordset().Righe(), 1) << "the answer was no";
     EXPECT_EQ(Campo(0, 2, 0), Valore(S("altrui")));
     EXPECT_EQ(Righe(0), 2U);
-    Premi(&s, "AggiornaTabella");
+    Preme(&s, "AggiornaTabella");
     EXPECT_EQ(s.Data1->Recordset().Righe(), 2);
     s.cmdUtenteEdita[0]->click();
     EXPECT_EQ(Righe(0), 3U);
@@ -402,7 +402,7 @@ TEST_F(SagomiUtenteTest, TheLowerFibreIsToldWhereItBearsLess) {
     EXPECT_EQ(Testo(&s, "TxtMcRd_0"), Locale(" 1,489"));
     EXPECT_EQ(Scritta(&s, "LblFibraInferiore"), Locale("fibra inferiore: 1,096 kNm"));
     EXPECT_EQ(Scritta(&s, "LblAliDiverse"), "Vpl,z delle due ali:" + Locale(" 1,163 kN"));
-    Premi(&s, "LblMcRd");
+    Preme(&s, "LblMcRd");
     EXPECT_EQ(Scritta(&Aperto("FrmMcRd"), "LblFibraInferiore"), Locale("fibra inferiore: 1,096 kNm"));
     s.ChkTipoUtente->click();
     EXPECT_TRUE(Trova<QLabel>(&s, "LblFibraInferiore")->isHidden())

@@ -14,14 +14,14 @@ class ScambiTest : public AmbienteSchermi {
 protected:
     frmDoppioT& Principale(const char* section = "IPE 300") {
         auto& main = Avvia();
-        VaiA(main, section);
+        VaA(main, section);
         Scrive(&main, "TxtNsd", "250");
         Scrive(&main, "Txt_L0_0", "5");
         Scrive(&main, "Txt_L0_1", "2.5");
         return main;
     }
     static FrmPresFless& ConMomenti(frmDoppioT& main, const char* M1, const char* M2) {
-        NavigaSchermi::Unico().Apri("FrmPresFless", main);
+        NavigaSchermi::Unico().Apre("FrmPresFless", main);
         auto& f = dynamic_cast<FrmPresFless&>(Aperto("FrmPresFless"));
         Scrive(&f, "TxtM1_0", M1);
         Scrive(&f, "TxtM2_0", M2);
@@ -33,7 +33,7 @@ TEST_F(ScambiTest, NTravelsFromEveryDetailToItsCallerAndBack) {
     auto& main = Principale();
     int force = 300;
     for (const char* name : {"FrmVerifiche", "FrmMsverg", "FrmInstabDoppioT", "FrmPresFless"}) {
-        NavigaSchermi::Unico().Apri(name, main);
+        NavigaSchermi::Unico().Apre(name, main);
         auto& f = Aperto(name);
         EXPECT_EQ(Testo(&f, "TxtNsd"), Testo(&main, "TxtNsd")) << name;
         Scrive(&f, "TxtNsd", std::to_string(++force).c_str());
@@ -48,7 +48,7 @@ TEST_F(ScambiTest, NTravelsFromEveryDetailToItsCallerAndBack) {
 // i 124.6 and 33.5 mm: 4000 / 124.6 = 32.10, 3000 / 33.5 = 89.55.
 TEST_F(ScambiTest, LengthsAreTypedWhereTheDerivationStarts) {
     auto& main = Principale();
-    Premi(&main, "LblNbRd");
+    Preme(&main, "LblNbRd");
     auto& f = Aperto("FrmInstabDoppioT");
     EXPECT_EQ(Testo(&f, "Txt_L0_0"), "5");
     EXPECT_EQ(Scritta(&f, "Lbl_i_0"), Locale("124.6"));
@@ -66,7 +66,7 @@ TEST_F(ScambiTest, LengthsAreTypedWhereTheDerivationStarts) {
 
 TEST_F(ScambiTest, AMomentTypedInADetailComesBackIntoTheDiagramThatKeepsItsShape) {
     auto& f = ConMomenti(Principale(), "60", "-20");
-    Premi(&f, "LblFlessTors");
+    Preme(&f, "LblFlessTors");
     auto& ms = Aperto("FrmMsverg");
     EXPECT_EQ(Testo(&ms, "TxtMysd"), "60");
     Scrive(&ms, "TxtMysd", "90");
@@ -80,7 +80,7 @@ TEST_F(ScambiTest, AMomentTypedInADetailComesBackIntoTheDiagramThatKeepsItsShape
 
 TEST_F(ScambiTest, AMomentComesIntoADiagramThatHadNone) {
     auto& f = ConMomenti(Principale(), "60", "0");
-    Premi(&f, "LblVerifiche");
+    Preme(&f, "LblVerifiche");
     auto& check = Aperto("FrmVerifiche");
     Scrive(&check, "TxtMzsd", "8");
     f.AllAttivazione();
@@ -94,7 +94,7 @@ TEST_F(ScambiTest, AMomentComesIntoADiagramThatHadNone) {
 TEST_F(ScambiTest, C1OfAnotherDetailHoldsUntilTheDiagramChanges) {
     auto& f = ConMomenti(Principale(), "60", "-20");
     EXPECT_EQ(Scritta(&f, "Lbl_C1"), Locale("2.404"));
-    Premi(&f, "LblFlessTors");
+    Preme(&f, "LblFlessTors");
     auto& ms = Aperto("FrmMsverg");
     Scrive(&ms, "Txt_C1", "1.5");
     f.AllAttivazione();
@@ -109,7 +109,7 @@ TEST_F(ScambiTest, C1OfAnotherDetailHoldsUntilTheDiagramChanges) {
 
 TEST_F(ScambiTest, BetaMComeFromTheDiagramAndZeroMeansNotGiven) {
     auto& f = ConMomenti(Principale(), "60", "60");
-    Premi(&f, "LblFlessTors");
+    Preme(&f, "LblFlessTors");
     auto& ms = Aperto("FrmMsverg");
     EXPECT_EQ(Scritta(&ms, "Lbl_BetaMLT"), Locale("1.1")); // 1.8 - 0.7
     EXPECT_EQ(Scritta(&ms, "Lbl_BetaMz"), Locale("1.1"));
@@ -123,7 +123,7 @@ TEST_F(ScambiTest, ThePictureFollowsTheSignOfM2) {
     Scrive(&f, "TxtM2_0", "20");
     EXPECT_EQ(f.IndicePict, 1);
     EXPECT_TRUE(bool(Trova<ImmagineDisegno>(&f, "ImgMomenti")->Mostrato().PlottaInOggetto));
-    Premi(&f, "Picture1_4");
+    Preme(&f, "Picture1_4");
     Scrive(&f, "TxtM2_0", "-20");
     EXPECT_EQ(f.IndicePict, 4) << "a span load keeps its shape";
 }
@@ -131,7 +131,7 @@ TEST_F(ScambiTest, ThePictureFollowsTheSignOfM2) {
 // IPE 300, S235, class 1: 628400 · 235 / 1.05 = 140.6 kNm.
 TEST_F(ScambiTest, TheMomentSaysItsFactor) {
     auto& main = Principale();
-    Premi(&main, "LblMcRd");
+    Preme(&main, "LblMcRd");
     auto& f = Aperto("FrmMcRd");
     EXPECT_EQ(Scritta(&f, "Lbl_GammaM_0"), Locale("1.05"));
     EXPECT_EQ(Scritta(&f, "LblFormulaMcRd_0"), "W fy / γM0");
@@ -142,7 +142,7 @@ TEST_F(ScambiTest, TheMomentSaysItsFactor) {
 // rho = (0.9036 - 0.22) / 0.8165 = 0.8372: of 426 mm 69.3 are lost, of 11600 mm2 707.
 TEST_F(ScambiTest, AClassFourSectionSaysWhatItLoses) {
     auto& main = Principale("IPE 500");
-    Premi(&main, "LblClasse");
+    Preme(&main, "LblClasse");
     auto& f = Aperto("FrmClasseDoppioTU");
     EXPECT_TRUE(Trova<QWidget>(&f, "fraEfficace")->isHidden());
     Scrive(&main, "Txt_fy", "355");

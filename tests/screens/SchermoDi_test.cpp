@@ -30,7 +30,7 @@ class SchermoDiTest : public AmbienteSchermi {};
 TEST_F(SchermoDiTest, ScreenSaysHowARowIsReadAndWhatIsShown) {
     Avvia();
     auto& n = NavigaSchermi::Unico();
-    auto& s = n.Prendi<Sorella>();
+    auto& s = n.Prende<Sorella>();
     Trova<QLineEdit>(&s, "Txt_L0_1")->setText("3");
     Trova<QLineEdit>(&s, "TxtNsd")->setText("7");
     n.Passa(s, nullptr);
@@ -47,7 +47,7 @@ TEST_F(SchermoDiTest, ScreenSaysHowARowIsReadAndWhatIsShown) {
 
 TEST_F(SchermoDiTest, NamesThatTheFormDoesNotHaveAreErrors) {
     Avvia();
-    auto& s = NavigaSchermi::Unico().Prendi<Sorella>();
+    auto& s = NavigaSchermi::Unico().Prende<Sorella>();
     const auto nothing = [](const SezioneDoppioT&) { return std::string(); };
     EXPECT_THROW(s.CollegaRisultati({{"TxtNessuno", nothing}}), std::out_of_range);
     EXPECT_THROW(s.CollegaDettagli({{"CmdNessuno", "FrmMcRd"}}), std::out_of_range);

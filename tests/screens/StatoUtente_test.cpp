@@ -95,7 +95,7 @@ TEST_F(StatoUtenteTest, ColumnsDrawnWiderStaySo) {
 
 TEST_F(StatoUtenteTest, PlacesOfTheWindowsAndTheFolderComeBack) {
     auto& s = Avvia();
-    NavigaSchermi::Unico().Apri(QStringLiteral("FrmMcRd"), s);
+    NavigaSchermi::Unico().Apre(QStringLiteral("FrmMcRd"), s);
     Aperto("FrmMcRd").move(23, 31);
     s.move(12, 14);
     PathLavoro = utente.path().toStdString();
@@ -104,7 +104,7 @@ TEST_F(StatoUtenteTest, PlacesOfTheWindowsAndTheFolderComeBack) {
     auto& again = Avvia();
     EXPECT_EQ(PathLavoro, utente.path().toStdString());
     EXPECT_EQ(again.pos(), QPoint(12, 14));
-    NavigaSchermi::Unico().Apri(QStringLiteral("FrmMcRd"), again);
+    NavigaSchermi::Unico().Apre(QStringLiteral("FrmMcRd"), again);
     EXPECT_EQ(Aperto("FrmMcRd").pos(), QPoint(23, 31));
 }
 

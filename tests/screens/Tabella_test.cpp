@@ -83,7 +83,7 @@ TEST_F(TabellaTest, TicksThatAreNotInTheTableShowOnTheButton) {
 
 TEST_F(TabellaTest, TheSectionInHandStaysWhileItIsListed) {
     auto& s = Avvia();
-    VaiA(s, "IPE 300");
+    VaA(s, "IPE 300");
     s.ChkTipo[0]->click();
     QTest::keyClick(&s, Qt::Key_F5);
     EXPECT_EQ(s.Data1->Recordset().Righe(), 42);

@@ -29,7 +29,7 @@ std::string Dove(const Schermo& s, const QObject* o) {
 }
 
 /// Every command that is seen has a key of its own, which its tool-tip tells.
-void Percorri(const Schermo& screen) {
+void Percorre(const Schermo& screen) {
     QHash<QString, const QObject*> keys;
     static const QRegularExpression told(QStringLiteral("(F\\d+|Alt\\+.|Ctrl\\+\\w+)\\)?"));
     const auto take = [&](const QObject* command, const QString& tip) {
@@ -60,17 +60,17 @@ const QHash<QString, QString> apritori = {{"FrmMsverg", "FrmPresFless"},
 TEST_F(TastiSchermiTest, EveryCommandOfEveryScreenHasAKeyAndTellsIt) {
     auto& main = Avvia();
     auto& n = NavigaSchermi::Unico();
-    VaiA(main, "IPE 500");
+    VaA(main, "IPE 500");
     Scrive(&main, "Txt_fy", "355");
     Scrive(&main, "TxtNsd", "900"); // class 4: the effective outlines can be asked for
-    Percorri(main);
-    n.Apri("FrmPresFless", main);
-    n.Apri("FrmMsverg", n.Prendi("FrmPresFless"));
+    Percorre(main);
+    n.Apre("FrmPresFless", main);
+    n.Apre("FrmMsverg", n.Prende("FrmPresFless"));
     for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
         if (voce.nome == main.objectName())
             continue;
-        n.Apri(voce.nome, n.Prendi(apritori.value(voce.nome, main.objectName())));
-        Percorri(n.Prendi(voce.nome));
+        n.Apre(voce.nome, n.Prende(apritori.value(voce.nome, main.objectName())));
+        Percorre(n.Prende(voce.nome));
     }
 }
 
@@ -83,7 +83,7 @@ TEST_F(TastiSchermiTest, AFunctionKeyOpensWhatItsButtonOpens) {
 
 TEST_F(TastiSchermiTest, CtrlPPrintsTheSectionOfAMainScreenAndOfADetail) {
     auto& main = Avvia();
-    VaiA(main, "IPE 300");
+    VaA(main, "IPE 300");
     int asked = 0;
     QString last;
     ImpostaSceltaStampante([&](QPrinter& printer, QWidget*) {
@@ -96,7 +96,7 @@ TEST_F(TastiSchermiTest, CtrlPPrintsTheSectionOfAMainScreenAndOfADetail) {
     QTest::keyClick(&main, Qt::Key_P, Qt::ControlModifier);
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(last, "IPE 300");
-    Premi(&main, "LblNbRd");
+    Preme(&main, "LblNbRd");
     auto& detail = Aperto("FrmInstabDoppioT");
     QTest::keyClick(Trova<QLineEdit>(&detail, "txtChi_0"), Qt::Key_P, Qt::ControlModifier);
     EXPECT_EQ(asked, 2);
@@ -105,19 +105,19 @@ TEST_F(TastiSchermiTest, CtrlPPrintsTheSectionOfAMainScreenAndOfADetail) {
 
 TEST_F(TastiSchermiTest, CtrlShiftPShowsThePreviewOfTheSectionOrOfThePicture) {
     auto& main = Avvia();
-    VaiA(main, "IPE 300");
+    VaA(main, "IPE 300");
     QTest::keyClick(&main, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Aperto("FrmPltSezione").windowTitle(), "Plotta - IPE 300");
-    NavigaSchermi::Unico().Apri("FrmMsverg", main);
+    NavigaSchermi::Unico().Apre("FrmMsverg", main);
     auto& f = Aperto("FrmMsverg");
-    Premi(&f, "Command1");
+    Preme(&f, "Command1");
     QTest::keyClick(&Aperto("frmTimoshenko"), Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Aperto("FrmPltSezione").windowTitle(), "Plotta - Carico critico");
 }
 
 TEST_F(TastiSchermiTest, TabEntersThePicturesAtTheChosenOneAndArrowsGoOn) {
     auto& main = Avvia();
-    NavigaSchermi::Unico().Apri("FrmPresFless", main);
+    NavigaSchermi::Unico().Apre("FrmPresFless", main);
     auto& f = Aperto("FrmPresFless");
     const auto entered = [&f] {
         QStringList names;

@@ -16,7 +16,7 @@ class TavolaSchermiTest : public AmbienteSchermi {};
 TEST_F(TavolaSchermiTest, EveryScreenIsMadeUnderTheNameOfItsRow) {
     Avvia();
     for (const VoceSchermo& voce : NavigaSchermi::Unico().Tavola())
-        EXPECT_EQ(NavigaSchermi::Unico().Prendi(voce.nome).objectName(), voce.nome);
+        EXPECT_EQ(NavigaSchermi::Unico().Prende(voce.nome).objectName(), voce.nome);
 }
 
 TEST_F(TavolaSchermiTest, MenuEntriesAreEnabledExactlyWhereTheTableHasTheirScreen) {
@@ -40,8 +40,8 @@ TEST_F(TavolaSchermiTest, MenuEntryOpensItsScreen) {
 }
 
 TEST_F(TavolaSchermiTest, DetailOpensForTheMainScreenOfItsOpener) {
-    Premi(&Avvia(), "Command1");
-    Premi(&Aperto("FrmPresFless"), "LblVerifiche");
+    Preme(&Avvia(), "Command1");
+    Preme(&Aperto("FrmPresFless"), "LblVerifiche");
     EXPECT_EQ(Testo(&Aperto("FrmVerifiche"), "Txt_Prof"), "IPE 80");
     EXPECT_EQ(Aperto("FrmVerifiche").origine, &Aperto("FrmPresFless"));
 }
@@ -49,7 +49,7 @@ TEST_F(TavolaSchermiTest, DetailOpensForTheMainScreenOfItsOpener) {
 TEST_F(TavolaSchermiTest, DetailWithoutAMainScreenIsAnError) {
     Avvia();
     auto& n = NavigaSchermi::Unico();
-    EXPECT_THROW(n.Apri("FrmMcRd", n.Prendi("FrmInform")), std::logic_error);
+    EXPECT_THROW(n.Apre("FrmMcRd", n.Prende("FrmInform")), std::logic_error);
 }
 
 /// A screen that nobody has heard of.
@@ -70,10 +70,10 @@ struct FrmConMenu : Schermo {
 
 TEST_F(TavolaSchermiTest, OneMoreScreenIsOneRowAndOneClass) {
     auto& n = NavigaSchermi::Unico();
-    EXPECT_FALSE(n.Prendi<FrmConMenu>().voce->isEnabled());
+    EXPECT_FALSE(n.Prende<FrmConMenu>().voce->isEnabled());
     n.ScaricaTutti();
     n.Aggiunge(RigaDi<FrmNuovo>("FrmNuovo", "mnuNuovo"));
-    auto& window = n.Prendi<FrmConMenu>();
+    auto& window = n.Prende<FrmConMenu>();
     n.Passa(window, nullptr);
     EXPECT_TRUE(window.voce->isEnabled());
     window.voce->trigger();

@@ -15,7 +15,7 @@ class VerdettiTest : public AmbienteSchermi {
 protected:
     frmDoppioT& Ipe500() {
         auto& s = Avvia();
-        VaiA(s, "IPE 500");
+        VaA(s, "IPE 500");
         return s;
     }
     static void Acciaio(frmDoppioT& s, int index) {
@@ -24,12 +24,12 @@ protected:
     }
     /// Npl,Rd as the check of the section shows it [kN].
     static double Npl(frmDoppioT& s) {
-        NavigaSchermi::Unico().Apri("FrmVerifiche", s);
+        NavigaSchermi::Unico().Apre("FrmVerifiche", s);
         return Numero(&Aperto("FrmVerifiche"), "LblNrd4");
     }
     /// A detail of the row in hand.
     static Schermo& Dettaglio(frmDoppioT& s, const char* name) {
-        NavigaSchermi::Unico().Apri(QString::fromLatin1(name), s);
+        NavigaSchermi::Unico().Apre(QString::fromLatin1(name), s);
         return Aperto(name);
     }
 };
@@ -52,7 +52,7 @@ TEST_F(VerdettiTest, ClassFourHasNoMemoryByAnyRoad) {
     Acciaio(s, 2);
     EXPECT_NEAR(Npl(s), 3853, 0.5) << "by way of another steel";
     s.Data1->MoveNext();
-    VaiA(s, "IPE 500");
+    VaA(s, "IPE 500");
     EXPECT_NEAR(Npl(s), 3853, 0.5) << "from another row, at first sight";
     Acciaio(s, 0);
     Scrive(&s, "Txt_fy", "355");
@@ -138,7 +138,7 @@ TEST_F(VerdettiTest, LinesShowUnitsAndWhatGoverns) {
 // small.
 TEST_F(VerdettiTest, SignsThatCancelDoNotPass) {
     auto& s = Ipe500();
-    Premi(&s, "Command2"); // plain ends, uniform moment
+    Preme(&s, "Command2"); // plain ends, uniform moment
     auto& f = Aperto("FrmMsverg");
     Scrive(&f, "Txt_L", "0.5");
     Scrive(&f, "TxtMysd", "350"); // of 2194 · 235 / 1.05 = 491 kNm
@@ -185,7 +185,7 @@ private:
 
 TEST_F(VerdettiTest, NoOldResultStandsBesideAMessage) {
     auto& s = Ipe500();
-    Premi(&s, "Command2"); // plain ends, uniform moment
+    Preme(&s, "Command2"); // plain ends, uniform moment
     auto& f = Aperto("FrmMsverg");
     Scrive(&f, "Txt_L", "5");
     Scrive(&f, "TxtMysd", "60");
@@ -269,7 +269,7 @@ TEST_F(VerdettiTest, WhatTheCallerWouldHaveSaidWhileTypingComesAtItsEnd) {
 
 TEST_F(VerdettiTest, NoteStandsForFlangesThatDifferUnderALoadAwayFromTheCentroid) {
     auto& s = Ipe500();
-    Premi(&s, "Command2"); // plain ends, uniform moment
+    Preme(&s, "Command2"); // plain ends, uniform moment
     auto& f = Aperto("FrmMsverg");
     Scrive(&f, "Txt_L", "6");
     Scrive(&f, "Txt_C2", "0.459");

@@ -113,7 +113,7 @@ TEST_F(FrmDoppioTTest, StartsOnTheFirstIpeWithItsResults) {
 // L0y 5 m: lamda 0.6447, curve a, chi 0.8722; L0z 2.5 m: lamda 1.1886, curve b, chi 0.4844.
 TEST_F(FrmDoppioTTest, ComputesTheSectionInHandFromTheEntries) {
     auto& s = Avvia();
-    VaiA(s, "IPE 200");
+    VaA(s, "IPE 200");
     EXPECT_EQ(Testo(&s, "TxtProf_9"), Locale(" 1,943"));
     EXPECT_EQ(Testo(&s, "TxtProf_8"), Locale(" 28.48"));
     EXPECT_EQ(Testo(&s, "TxtClasseCompressione"), "1");
@@ -135,8 +135,8 @@ TEST_F(FrmDoppioTTest, AxialForceDecidesTheClassInCompressionAndBending) {
     auto& s = Avvia();
     Trova<QComboBox>(&s, "ComboTipoAcciaio")->setCurrentIndex(2);
     emit Trova<QComboBox>(&s, "ComboTipoAcciaio")->activated(2);
-    VaiA(s,
-         "IPE 300"); // d/tw = 248.6/7.1 = 35.0; epsilon 0.8136: 43.04, class 4 in compression, 1 in bending
+    VaA(s,
+        "IPE 300"); // d/tw = 248.6/7.1 = 35.0; epsilon 0.8136: 43.04, class 4 in compression, 1 in bending
     EXPECT_EQ(Testo(&s, "TxtClassePressFless"), Testo(&s, "TxtClasseFlessioneY"));
     EXPECT_EQ(Testo(&s, "TxtClassePressFless"), "1");
     Trova<QLineEdit>(&s, "TxtNsd")->setText("1000");
@@ -164,7 +164,7 @@ TEST_F(FrmDoppioTTest, SteelListWritesBothStrengthsAndRestoresAnOvertypedOne) {
 
 TEST_F(FrmDoppioTTest, NewStrengthAloneCanChangeTheClass) {
     auto& s = Avvia();
-    VaiA(s, "IPE 300"); // web 35.0: class 2 in compression with epsilon 1 (33 < s <= 38)
+    VaA(s, "IPE 300"); // web 35.0: class 2 in compression with epsilon 1 (33 < s <= 38)
     EXPECT_EQ(Testo(&s, "TxtClasseCompressione"), "2");
     Trova<QLineEdit>(&s, "Txt_fy")->setText("300"); // epsilon 0.885: 39.6, class 3
     EXPECT_EQ(Testo(&s, "TxtClasseCompressione"), "3");
@@ -312,7 +312,7 @@ TEST_F(FrmDoppioTTest, AllFamiliesShowEveryRow) {
 
 TEST_F(FrmDoppioTTest, NothingTickedLeavesTheTable) {
     auto& s = Avvia();
-    VaiA(s, "IPE 200");
+    VaA(s, "IPE 200");
     registratore.testi.clear();
     s.ChkTipo[3]->setChecked(false);
     Trova<QPushButton>(&s, "AggiornaTabella")->click();
@@ -326,7 +326,7 @@ TEST_F(FrmDoppioTTest, SlenderWebShowsAButtonWithTheReason) {
     auto& s = Avvia();
     auto* warning = Trova<QPushButton>(&s, "lblVplRd");
     EXPECT_TRUE(warning->isHidden());
-    VaiA(s, "IPE 600"); // d/tw = 514/12 = 42.8; beyond 69 epsilon for fy above 610
+    VaA(s, "IPE 600"); // d/tw = 514/12 = 42.8; beyond 69 epsilon for fy above 610
     Trova<QLineEdit>(&s, "Txt_fy")->setText("620");
     EXPECT_FALSE(warning->isHidden());
     warning->click();
@@ -338,7 +338,7 @@ TEST_F(FrmDoppioTTest, SlenderWebShowsAButtonWithTheReason) {
 
 TEST_F(FrmDoppioTTest, EntriesSurviveAnActivationAndTheSectionIsNew) {
     auto& s = Avvia();
-    VaiA(s, "IPE 200");
+    VaA(s, "IPE 200");
     Trova<QLineEdit>(&s, "Txt_L0_0")->setText("5");
     Sezione().Mysd = 1e6;
     AttivaForm(s);
@@ -387,7 +387,7 @@ TEST_F(FrmDoppioTTest, PictureFollowsTheRowOnAnyScale) {
     auto& s = Avvia();
     auto* picture = Trova<QWidget>(&s, "Picture1");
     const QImage narrow = picture->grab().toImage();
-    VaiA(s, "IPE 600");
+    VaA(s, "IPE 600");
     EXPECT_NE(picture->grab().toImage(), narrow);
 }
 

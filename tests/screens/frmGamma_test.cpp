@@ -38,7 +38,7 @@ TEST_F(FrmGammaTest, ShowsTheFactorsInForce) {
 
 TEST_F(FrmGammaTest, OptionActsAtOnceAndTheCallerRecalculatesOnClosing) {
     auto& s = Avvia();
-    VaiA(s, "IPE 200");
+    VaA(s, "IPE 200");
     auto& d = ApreDialogo(s);
     Trova<QRadioButton>(&d, "optNormativa_1")->click();
     EXPECT_EQ(Normativa, normativaEC3);

@@ -16,9 +16,9 @@ namespace {
 class FrmMsvergH1Test : public AmbienteSchermi {
 protected:
     Schermo& Apre() {
-        Premi(&Avvia(), "Command2");
+        Preme(&Avvia(), "Command2");
         m_ = &Aperto("FrmMsverg");
-        Premi(m_, "CmdH1");
+        Preme(m_, "CmdH1");
         return Aperto("frmMsvergH1");
     }
     Schermo* m_ = nullptr;
@@ -52,7 +52,7 @@ TEST_F(FrmMsvergH1Test, ShowsThePublishedRows) {
 TEST_F(FrmMsvergH1Test, EveryRowHandsItsFactorsOver) {
     auto& h = Apre();
     for (int i = 0; i < 27; ++i) {
-        Premi(m_, "CmdH1");
+        Preme(m_, "CmdH1");
         ASSERT_TRUE(h.isVisible());
         h.Vettore<QPushButton>("lblC1")[i]->click();
         EXPECT_FALSE(h.isVisible());

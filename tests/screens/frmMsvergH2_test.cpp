@@ -12,9 +12,9 @@ namespace {
 class FrmMsvergH2Test : public AmbienteSchermi {
 protected:
     Schermo& Apre() {
-        Premi(&Avvia(), "Command2");
+        Preme(&Avvia(), "Command2");
         m_ = &Aperto("FrmMsverg");
-        Premi(m_, "CmdH2");
+        Preme(m_, "CmdH2");
         return Aperto("frmMsvergH2");
     }
     Schermo* m_ = nullptr;
@@ -46,7 +46,7 @@ TEST_F(FrmMsvergH2Test, ShowsThePublishedRows) {
 TEST_F(FrmMsvergH2Test, EveryRowHandsItsFactorsOver) {
     auto& h = Apre();
     for (int i = 0; i < 10; ++i) {
-        Premi(m_, "CmdH2");
+        Preme(m_, "CmdH2");
         h.Vettore<QPushButton>("lblC1")[i]->click();
         EXPECT_FALSE(h.isVisible());
         EXPECT_NEAR(ValoreNumerico(Testo(m_, "Txt_C1")),

@@ -21,7 +21,7 @@ protected:
     /// Opens a screen from the first one.
     template <typename T> T& Apre(const char* voce) {
         Trova<QAction>(&Avvia(), voce)->trigger();
-        return NavigaSchermi::Unico().Prendi<T>();
+        return NavigaSchermi::Unico().Prende<T>();
     }
     frmSagomiU& Canali() { return Apre<frmSagomiU>("mnuTipoU"); }
     frmSagomiL& Angolari() { return Apre<frmSagomiL>("mnuTipoL"); }
@@ -41,7 +41,7 @@ protected:
     static void SullaFamiglia(SchermoSezione& screen, int which) {
         for (int i = 0; i < screen.ChkTipo.size(); ++i)
             screen.ChkTipo[i]->setChecked(i == which);
-        Premi(&screen, "AggiornaTabella");
+        Preme(&screen, "AggiornaTabella");
     }
 };
 
@@ -82,7 +82,7 @@ TEST_F(FrmSagomiTest, AnglesStandWithTheirOwnFamiliesAndColumns) {
 // 2 x 75 x 11.5 + (8.5 + 11.5) x 11.5 = 1725 mm2; flanges 1725 mm2, too.
 TEST_F(FrmSagomiTest, ComputesTheChannelInHand) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
+    VaA(s, "UPN 200");
     EXPECT_EQ(Testo(&s, "TxtClasseCompressione"), "1");
     EXPECT_EQ(Testo(&s, "TxtClasseFlessione"), "1");
     EXPECT_EQ(Testo(&s, "TxtClasseFlessioneZ"), "1");
@@ -95,7 +95,7 @@ TEST_F(FrmSagomiTest, ComputesTheChannelInHand) {
 
 TEST_F(FrmSagomiTest, BoxesOfTheShearHoldFlangesThenWeb) {
     auto& s = Canali();
-    VaiA(s, "UPN 300");
+    VaA(s, "UPN 300");
     EXPECT_EQ(Testo(&s, "TxtVplRd_0"), FormatoCifre(4, U().VplyRd / 1000));
     EXPECT_EQ(Testo(&s, "TxtVplRd_1"), FormatoCifre(4, U().VplzRd / 1000));
     EXPECT_TRUE(Trova<QLineEdit>(&s, "TxtVplRd_0")->toolTip().contains("impegna le ali"));
@@ -104,7 +104,7 @@ TEST_F(FrmSagomiTest, BoxesOfTheShearHoldFlangesThenWeb) {
 
 TEST_F(FrmSagomiTest, LengthsWaitForEnter) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
+    VaA(s, "UPN 200");
     const std::string prima = Testo(&s, "TxtNbRd_0");
     Scrive(&s, "Txt_L0_0", "5");
     EXPECT_EQ(double(U().L0y), 5000);
@@ -124,7 +124,7 @@ TEST_F(FrmSagomiTest, LengthsWaitForEnter) {
 
 TEST_F(FrmSagomiTest, ALengthBelowZeroEmptiesItsResultAtOnce) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
+    VaA(s, "UPN 200");
     Scrive(&s, "Txt_L0_0", "5");
     Invio(s, "Txt_L0_0");
     const std::string dopo = Testo(&s, "TxtNbRd_0");
@@ -143,7 +143,7 @@ TEST_F(FrmSagomiTest, ALengthBelowZeroEmptiesItsResultAtOnce) {
 
 TEST_F(FrmSagomiTest, AnglesHaveAThirdLength) {
     auto& s = Angolari();
-    VaiA(s, "L 100x100x10");
+    VaA(s, "L 100x100x10");
     Scrive(&s, "Txt_L0_2", "2");
     EXPECT_EQ(double(L().L0v), 2000);
     EXPECT_EQ(Segno(s, "TxtNbRd_2"), Casella::DaAggiornare);
@@ -157,7 +157,7 @@ TEST_F(FrmSagomiTest, AnglesHaveAThirdLength) {
 // UPN 200: A 32.2, Iy 1910, iz 2.14; e 20.1 mm from the outline.
 TEST_F(FrmSagomiTest, APairOfChannelsIsShownAndComputed) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
+    VaA(s, "UPN 200");
     const double e = U().SezioneGenericaCorrente->xG;
     const double VplzRd = U().VplzRd;
     Spunta(s, "chkDoppi");
@@ -186,7 +186,7 @@ TEST_F(FrmSagomiTest, APairOfChannelsIsShownAndComputed) {
 
 TEST_F(FrmSagomiTest, UntickedTheRowIsBack) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
+    VaA(s, "UPN 200");
     QStringList prima;
     for (const QLineEdit* box : s.TxtProf)
         prima << box->text();
@@ -203,9 +203,9 @@ TEST_F(FrmSagomiTest, UntickedTheRowIsBack) {
 
 TEST_F(FrmSagomiTest, TickedItStaysThroughRowsAndActivation) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
+    VaA(s, "UPN 200");
     Spunta(s, "chkDoppi");
-    VaiA(s, "UPN 240");
+    VaA(s, "UPN 240");
     EXPECT_EQ(U().Designation, "2 UPN 240");
     EXPECT_EQ(double(U().Area), 8460);
     EXPECT_EQ(Testo(&s, "TxtProf_8"), Locale(" 84.6"));
@@ -222,7 +222,7 @@ TEST_F(FrmSagomiTest, TickedItStaysThroughRowsAndActivation) {
 // Who is told of a row is told of one piece and of what is asked for; the results are the pair's.
 TEST_F(FrmSagomiTest, ARowIsReadAsOnePieceAndComputedAsThePair) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
+    VaA(s, "UPN 200");
     Spunta(s, "chkDoppi");
     Spunta(s, "chkDoppiAla");
     Scrive(&s, "txtDoppi", "12");
@@ -241,7 +241,7 @@ TEST_F(FrmSagomiTest, ARowIsReadAsOnePieceAndComputedAsThePair) {
 TEST_F(FrmSagomiTest, APairOfAnglesSwapsItsAxesForTheShortSide) {
     auto& s = Angolari();
     SullaFamiglia(s, 1);
-    VaiA(s, "L 150x100x10");
+    VaA(s, "L 150x100x10");
     const double Jy = L().Jy;
     const double Jz = L().Jz;
     const double iy = L().iY;
@@ -280,9 +280,9 @@ TEST_F(FrmSagomiTest, ANegativeGapEmptiesTheResults) {
 TEST_F(FrmSagomiTest, NotesOfPairsAndOfSlenderWebs) {
     auto& s = Canali();
     Spunta(s, "chkDoppi");
-    Premi(&s, "lblMsgDoppi");
+    Preme(&s, "lblMsgDoppi");
     EXPECT_TRUE(Trova<QPushButton>(&s, "lblVplRd")->isHidden());
-    Premi(&s, "lblVplRd");
+    Preme(&s, "lblVplRd");
     EXPECT_EQ(
         registratore.testi,
         (std::vector<std::string>{
@@ -305,8 +305,8 @@ TEST_F(FrmSagomiTest, BoxesOfThePairHaveTheirRowsWithoutAMessage) {
 
 TEST_F(FrmSagomiTest, ClassesOfAChannel) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
-    Premi(&s, "LblClasse");
+    VaA(s, "UPN 200");
+    Preme(&s, "LblClasse");
     const Schermo& d = Aperto("FrmClasseDoppioTU");
     EXPECT_EQ(Scritta(&d, "Lbl_tw"), Locale("8.5"));
     EXPECT_EQ(Scritta(&d, "Lbl_c"), Locale("55.00"));
@@ -319,9 +319,9 @@ TEST_F(FrmSagomiTest, ClassesOfAChannel) {
 // class 4. A quarter of the plastic force is 91.5 x 900 / 1.05 / 40 = 1961 kN.
 TEST_F(FrmSagomiTest, TheClassUnderAxialForceFollowsEachKey) {
     auto& s = Canali();
-    VaiA(s, "UPN 400");
+    VaA(s, "UPN 400");
     Scrive(&s, "Txt_fy", "900");
-    Premi(&s, "LblClasse");
+    Preme(&s, "LblClasse");
     const Schermo& d = Aperto("FrmClasseDoppioTU");
     EXPECT_EQ(Scritta(&d, "Lbl_ClasseC"), "1");
     FuocoSu(s.TxtNsd);
@@ -333,8 +333,8 @@ TEST_F(FrmSagomiTest, TheClassUnderAxialForceFollowsEachKey) {
 
 TEST_F(FrmSagomiTest, MomentsOfAChannel) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
-    Premi(&s, "LblMcRd");
+    VaA(s, "UPN 200");
+    Preme(&s, "LblMcRd");
     const Schermo& d = Aperto("FrmMcRd");
     EXPECT_EQ(Scritta(&d, "Lbl_Classe_0"), "1");
     EXPECT_EQ(Scritta(&d, "Lbl_McRd_0"), Locale(" 51.03"));
@@ -342,8 +342,8 @@ TEST_F(FrmSagomiTest, MomentsOfAChannel) {
 
 TEST_F(FrmSagomiTest, ClassOfAnAngleAndItsEffectiveOutline) {
     auto& s = Angolari();
-    VaiA(s, "L 100x100x10");
-    Premi(&s, "LblClasse");
+    VaA(s, "L 100x100x10");
+    Preme(&s, "LblClasse");
     const Schermo& d = Aperto("FrmClasseSagomiL");
     EXPECT_EQ(d.windowTitle(), "Classificazione - EC3 #5.5.2  NTC2018 #4.2.3.1");
     EXPECT_EQ(Scritta(&d, "Lbl_ClasseC"), "2");
@@ -362,7 +362,7 @@ TEST_F(FrmSagomiTest, ClassOfAnAngleAndItsEffectiveOutline) {
     EXPECT_TRUE(plot->toolTip().startsWith("Area efficace per compressione semplice"));
     Scrive(&s, "Txt_fy", "460");
     AttivaForm(s);
-    Premi(&s, "LblClasse");
+    Preme(&s, "LblClasse");
     EXPECT_FALSE(plot->isHidden());
     EXPECT_EQ(Scritta(&d, "Lbl_Classe"), "4");
     EXPECT_EQ(Scritta(&d, "Lbl_Limite1Ala"), limiteInfinito);
@@ -375,8 +375,8 @@ TEST_F(FrmSagomiTest, ClassOfAnAngleAndItsEffectiveOutline) {
 // bit.
 TEST_F(FrmSagomiTest, WhatAnAngleOfClassFourLosesStandsBesideItsOutline) {
     auto& s = Angolari();
-    VaiA(s, "L 150x150x10");
-    Premi(&s, "LblClasse");
+    VaA(s, "L 150x150x10");
+    Preme(&s, "LblClasse");
     const Schermo& d = Aperto("FrmClasseSagomiL");
     EXPECT_NEAR(Numero(&d, "Lbl_Aeff"), 2662.2, 2.5);
     EXPECT_NEAR(Numero(&d, "Lbl_PersaH"), 14.636, 6e-3);
@@ -387,7 +387,7 @@ TEST_F(FrmSagomiTest, WhatAnAngleOfClassFourLosesStandsBesideItsOutline) {
     EXPECT_NEAR(Numero(&d, "Lbl_Aeff"), 2 * 2662.2, 5);
     EXPECT_EQ(Numero(&d, "Lbl_eNz"), 0) << "back to back the shifts across cancel";
     EXPECT_NEAR(Numero(&d, "Lbl_eNy"), 3.293, 0.012);
-    VaiA(s, "L 100x100x10");
+    VaA(s, "L 100x100x10");
     EXPECT_TRUE(Trova<QWidget>(&d, "fraEfficace")->isHidden());
     EXPECT_EQ(Scritta(&d, "Lbl_Aeff"), "");
 }
@@ -395,8 +395,8 @@ TEST_F(FrmSagomiTest, WhatAnAngleOfClassFourLosesStandsBesideItsOutline) {
 // UPN 200: L0z 3 m gives 140.19, 2 m 93.46; N 100 kN.
 TEST_F(FrmSagomiTest, LengthsAndForceOfTheBucklingDetailTravelBothWays) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
-    Premi(&s, "LblNbRd");
+    VaA(s, "UPN 200");
+    Preme(&s, "LblNbRd");
     Schermo& d = Aperto("FrmInstabSagomiU");
     Scrive(&d, "Txt_L0_1", "3");
     EXPECT_EQ(Scritta(&d, "Lbl_Lamda_1"), Locale("140.19"));
@@ -418,8 +418,8 @@ TEST_F(FrmSagomiTest, LengthsAndForceOfTheBucklingDetailTravelBothWays) {
 
 TEST_F(FrmSagomiTest, TheLengthAboutTheMinorAxisTravelsToo) {
     auto& s = Angolari();
-    VaiA(s, "L 100x100x10");
-    Premi(&s, "LblNbRd");
+    VaA(s, "L 100x100x10");
+    Preme(&s, "LblNbRd");
     Schermo& d = Aperto("FrmInstabSagomiL");
     EXPECT_EQ(d.findChild<QLineEdit*>("TxtNsd"), nullptr) << "as its caller";
     Scrive(&d, "Txt_L0_2", "2");
@@ -431,8 +431,8 @@ TEST_F(FrmSagomiTest, TheLengthAboutTheMinorAxisTravelsToo) {
 TEST_F(FrmSagomiTest, TheMeanLegIsNamedWhereItGoverns) {
     auto& s = Angolari();
     SullaFamiglia(s, 1);
-    VaiA(s, "L 150x100x10");
-    Premi(&s, "LblClasse");
+    VaA(s, "L 150x100x10");
+    Preme(&s, "LblClasse");
     const Schermo& d = Aperto("FrmClasseSagomiL");
     EXPECT_EQ(Scritta(&d, "LblSnellAla"), "(b+h)/2/t/eps");
     EXPECT_EQ(Scritta(&d, "Lbl_SnellAla"), Locale("12.5")) << "(150 + 100) / 2 / 10";
@@ -441,10 +441,10 @@ TEST_F(FrmSagomiTest, TheMeanLegIsNamedWhereItGoverns) {
 // UPN 200: lamda1 93.9; 3 m about z-z: 3000 / 21.4 = 140.19.
 TEST_F(FrmSagomiTest, BucklingOfAChannelGoesByCurveC) {
     auto& s = Canali();
-    VaiA(s, "UPN 200");
+    VaA(s, "UPN 200");
     Scrive(&s, "Txt_L0_1", "3");
     Invio(s, "Txt_L0_1");
-    Premi(&s, "LblNbRd");
+    Preme(&s, "LblNbRd");
     const Schermo& d = Aperto("FrmInstabSagomiU");
     EXPECT_EQ(d.windowTitle(), "Resistenza all'instabilità - EC3 #6.3.1");
     EXPECT_EQ(Scritta(&d, "Lbl_Lamda_1"), Locale("140.19"));
@@ -462,10 +462,10 @@ TEST_F(FrmSagomiTest, BucklingOfAChannelGoesByCurveC) {
 
 TEST_F(FrmSagomiTest, BucklingOfAnAngleHasAThirdColumn) {
     auto& s = Angolari();
-    VaiA(s, "L 100x100x10");
+    VaA(s, "L 100x100x10");
     Scrive(&s, "Txt_L0_2", "2");
     Invio(s, "Txt_L0_2");
-    Premi(&s, "LblNbRd");
+    Preme(&s, "LblNbRd");
     const Schermo& d = Aperto("FrmInstabSagomiL");
     for (const char* name : {"Lbl_Curva_0", "Lbl_Curva_1", "Lbl_Curva_2"})
         EXPECT_EQ(Scritta(&d, name), "b");
@@ -477,7 +477,7 @@ TEST_F(FrmSagomiTest, BucklingOfAnAngleHasAThirdColumn) {
 TEST_F(FrmSagomiTest, DrawsThePairFromItsButton) {
     auto& s = Canali();
     Spunta(s, "chkDoppi");
-    Premi(&s, "CmdPlotta");
+    Preme(&s, "CmdPlotta");
     EXPECT_TRUE(Aperto("FrmPltSezione").isVisible());
 }
 

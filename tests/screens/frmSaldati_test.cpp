@@ -18,7 +18,7 @@ protected:
     /// Opens a screen of welded sections from the first screen.
     template <typename T> T& Apre(const char* voce) {
         Trova<QAction>(&Avvia(), voce)->trigger();
-        return NavigaSchermi::Unico().Prendi<T>();
+        return NavigaSchermi::Unico().Prende<T>();
     }
     frmSaldati& Simmetrici() { return Apre<frmSaldati>("mnuTipoSaldati"); }
     frmSaldatiAsimm& Asimmetrici() { return Apre<frmSaldatiAsimm>("mnuTipoSaldatiAsimm"); }
@@ -77,7 +77,7 @@ TEST_F(FrmSaldatiTest, DifferentFlangesHaveTheirOwnColumns) {
 // 6000/125.4, curve b, chi 0.8799; L0z 3 m: 3000/35.49, curve c, chi 0.5997; Av = 270 x 8 and 2 x 150 x 15.
 TEST_F(FrmSaldatiTest, ComputesTheSectionInHandAsWelded) {
     auto& s = Simmetrici();
-    VaiA(s, "ISE 300x53");
+    VaA(s, "ISE 300x53");
     EXPECT_TRUE(Sezione().Saldata);
     EXPECT_FALSE(Sezione().SaldataAsimm);
     EXPECT_EQ(Sezione().r.Stretto(), 5.F);
@@ -102,7 +102,7 @@ TEST_F(FrmSaldatiTest, ComputesTheSectionInHandAsWelded) {
 // Aeff = 9400 - 465 x 8 x 0.2329 = 8533.7 mm2; class 1 in bending.
 TEST_F(FrmSaldatiTest, ComputesDifferentFlanges) {
     auto& s = Asimmetrici();
-    VaiA(s, "HSD 500x74");
+    VaA(s, "HSD 500x74");
     const SezioneDoppioT& t = Sezione();
     EXPECT_TRUE(t.Saldata && t.SaldataAsimm);
     EXPECT_EQ(double(t.b), 180);
@@ -122,13 +122,13 @@ TEST_F(FrmSaldatiTest, ComputesDifferentFlanges) {
 
 TEST_F(FrmSaldatiTest, DetailsOpenOnTheSectionInHand) {
     auto& s = Asimmetrici();
-    VaiA(s, "HSD 500x74");
-    Premi(&s, "LblClasse");
+    VaA(s, "HSD 500x74");
+    Preme(&s, "LblClasse");
     EXPECT_EQ(Scritta(&Aperto("FrmClasseDoppioTU"), "Lbl_cInf"), Locale("116.00"));
     EXPECT_EQ(Scritta(&Aperto("FrmClasseDoppioTU"), "Lbl_ClasseAlaInfC"), "1");
     for (const auto& [button, screen] :
          {std::pair{"LblNbRd", "FrmInstabDoppioT"}, {"LblMcRd", "FrmMcRd"}, {"Command1", "FrmPresFless"}}) {
-        Premi(&s, button);
+        Preme(&s, button);
         EXPECT_EQ(Testo(&Aperto(screen), "Txt_Prof"), "HSD 500x74");
         Aperto(screen).close();
     }
@@ -138,14 +138,14 @@ TEST_F(FrmSaldatiTest, CommandsStartFromAFreshSection) {
     auto& s = Simmetrici();
     Sezione().Mysd = 7;
     Sezione().k = 0.5;
-    Premi(&s, "Command2");
+    Preme(&s, "Command2");
     EXPECT_TRUE(Aperto("FrmMsverg").isVisible());
     EXPECT_EQ(double(Sezione().Mysd), 0);
     EXPECT_EQ(double(Sezione().k), 1);
     EXPECT_EQ(double(Sezione().Kw), 1);
     EXPECT_EQ(double(Sezione().C1), 1);
     Sezione().NbyRd = 0;
-    Premi(&s, "Command1");
+    Preme(&s, "Command1");
     EXPECT_GT(Sezione().NbyRd, 0);
 }
 
@@ -155,7 +155,7 @@ TEST_F(FrmSaldatiTest, OnlyEqualFlangesArePickedForAJoint) {
     AttivaForm(s);
     EXPECT_FALSE(s.cmdSceltaSagomoGiunto->isHidden());
     Trova<QAction>(&s, "mnuTipoSaldatiAsimm")->trigger();
-    EXPECT_TRUE(NavigaSchermi::Unico().Prendi<frmSaldatiAsimm>().cmdSceltaSagomoGiunto->isHidden());
+    EXPECT_TRUE(NavigaSchermi::Unico().Prende<frmSaldatiAsimm>().cmdSceltaSagomoGiunto->isHidden());
 }
 
 // The row of a welded section with equal flanges, once among those and once among those with different ones.
@@ -175,10 +175,10 @@ TEST_F(FrmSaldatiTest, EqualFlangesGiveTheSameOnBothScreens) {
     ScriveXls(workbook, PathProgramma / "Sagomi.xls");
     const std::string name = std::get<std::string>((*ise)[0].valore);
     auto& one = Simmetrici();
-    VaiA(one, name.c_str());
+    VaA(one, name.c_str());
     Trova<QAction>(&one, "mnuTipoSaldatiAsimm")->trigger();
-    auto& other = NavigaSchermi::Unico().Prendi<frmSaldatiAsimm>();
-    VaiA(other, name.c_str());
+    auto& other = NavigaSchermi::Unico().Prende<frmSaldatiAsimm>();
+    VaA(other, name.c_str());
     for (const char* box :
          {"TxtClasseCompressione", "TxtClasseFlessioneY", "TxtClasseFlessioneZ", "TxtClassePressFless",
           "TxtNbRd_0", "TxtNbRd_1", "TxtMcRd_0", "TxtMcRd_1", "TxtVplRd_0", "TxtVplRd_1"}) {

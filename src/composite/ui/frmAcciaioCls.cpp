@@ -173,7 +173,7 @@ void frmAcciaioCls::CollegaComandi() {
     button("cmdCalcola", [this] { Calcola(); });
     button("cmdConnessioni", [this] {
         AssicuraRisultati();
-        NavigaSchermi::Unico().Apri(QStringLiteral("frmConnettori"), *this);
+        NavigaSchermi::Unico().Apre(QStringLiteral("frmConnettori"), *this);
     });
     button("CmdPlotta",
            [this] { FrmPltSezione::Mostra(*this, objectName(), [this] { return DisegnoVivo(trave_); }); });
@@ -244,7 +244,7 @@ bool frmAcciaioCls::Invio(QLineEdit* casella) {
 
 // ---- opening, closing
 
-void frmAcciaioCls::Apri(Schermo& da) {
+void frmAcciaioCls::Apre(Schermo& da) {
     if (&da != this) {
         origine = &da;
         chiamante_ = dynamic_cast<SchermoSezione*>(&da);

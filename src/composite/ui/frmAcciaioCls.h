@@ -33,7 +33,7 @@ public:
     frmAcciaioCls();
 
     /// Shows the screen in the place of the one that opens it.
-    void Apri(Schermo& da);
+    void Apre(Schermo& da);
     void AllAttivazione() override;
 
     /// Moves all fields: "L" from the screen into the beam and the globals fck, fsk and n, any other mode

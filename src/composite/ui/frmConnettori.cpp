@@ -122,12 +122,12 @@ void frmConnettori::RegolaPositivo(QLineEdit* casella) {
                       }});
 }
 
-void frmConnettori::Apri(Schermo& da) {
+void frmConnettori::Apre(Schermo& da) {
     trave_ = dynamic_cast<TraveInUso*>(&da);
     if (trave_ == nullptr)
-        trave_ = &NavigaSchermi::Unico().Prendi<TraveInUso>(QStringLiteral("frmAcciaioCls"));
+        trave_ = &NavigaSchermi::Unico().Prende<TraveInUso>(QStringLiteral("frmAcciaioCls"));
     progettata_ = progettata_ && isVisible();
-    NavigaSchermi::Unico().Apri(*this, da);
+    NavigaSchermi::Unico().Apre(*this, da);
     FuocoSu(txtInput_[0]);
 }
 
@@ -323,7 +323,7 @@ void frmConnettori::SvuotaUscite() {
 
 void frmConnettori::SuggerimentoPerNervatura(int n) {
     nervatureDoppie_ = n;
-    NavigaSchermi::Unico().Apri(QStringLiteral("frmSuggerimento"), *this);
+    NavigaSchermi::Unico().Apre(QStringLiteral("frmSuggerimento"), *this);
 }
 
 /// The beam with the studs that the entries ask for, designed in silence on a copy.

@@ -22,7 +22,7 @@ public:
     frmConnettori();
 
     /// Opens the screen in front of the one that asks for it, for its beam, or for the beam of the program.
-    void Apri(Schermo& da);
+    void Apre(Schermo& da);
     void AllAttivazione() override {
         if (!progettata_)
             Aggiorna();

@@ -44,13 +44,13 @@ frmSuggerimento::frmSuggerimento() : Schermo(QStringLiteral("frmSuggerimento")) 
     DimensionaIniziale({});
 }
 
-void frmSuggerimento::Apri(Schermo& da) {
+void frmSuggerimento::Apre(Schermo& da) {
     const auto* advice = dynamic_cast<ConsiglioPioli*>(&da);
     const int n = advice == nullptr ? 1 : advice->NervatureDoppie();
     Mostra(findChild<QLabel*>(QStringLiteral("lblSuggerimento")), TestoSuggerimento(n));
     findChild<QLineEdit*>(QStringLiteral("TxtNerv"))->setText(QString::number(n));
     findChild<QLabel*>(QStringLiteral("lblNerv"))->setText(n == 1 ? tr("nervatura") : tr("nervature"));
-    NavigaSchermi::Unico().ApriDialogo(*this, da);
+    NavigaSchermi::Unico().ApreDialogo(*this, da);
     findChild<QPushButton*>(QStringLiteral("cmdOK"))->setFocus();
 }
 

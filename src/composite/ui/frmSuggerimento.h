@@ -11,7 +11,7 @@ public:
     frmSuggerimento();
 
     /// Shows the advice of the screen that opens it, or that for one rib.
-    void Apri(Schermo& da);
+    void Apre(Schermo& da);
 };
 
 } // namespace sagomi

@@ -132,10 +132,10 @@ void frmTimoshenko::Carica() {
     ui_->Lbl_Mcr->clear(); // it was another section's
 }
 
-void frmTimoshenko::Apri(Schermo& da) {
+void frmTimoshenko::Apre(Schermo& da) {
     Carica();
     Disegna();
-    NavigaSchermi::Unico().Apri(*this, da);
+    NavigaSchermi::Unico().Apre(*this, da);
 }
 
 void frmTimoshenko::AllAttivazione() {

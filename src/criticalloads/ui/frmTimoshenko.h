@@ -27,7 +27,7 @@ public:
 
     /// Takes over the constants of the current section and shows the screen in front of the one that opens
     /// it.
-    void Apri(Schermo& da);
+    void Apre(Schermo& da);
 
     /// The length of the current section; the focus goes to it.
     void AllAttivazione() override;

@@ -41,7 +41,7 @@ void AreaDisegno::Adatta() {
     emit vistaCambiata(vista_.zoom);
 }
 
-void AreaDisegno::Ingrandisci(double fattore, const QPointF& intorno) {
+void AreaDisegno::Ingrandisce(double fattore, const QPointF& intorno) {
     const double zoom = std::clamp(vista_.zoom * fattore, zoomMinimo, zoomMassimo);
     const QPointF middle(width() / 2.0, height() / 2.0);
     const QPointF fromMiddle = intorno - middle;
@@ -72,7 +72,7 @@ void AreaDisegno::wheelEvent(QWheelEvent* event) {
     EventoProtetto([this, event] {
         const double notches = event->angleDelta().y() / scatto;
         if (notches != 0)
-            Ingrandisci(std::pow(passoZoom, notches), event->position());
+            Ingrandisce(std::pow(passoZoom, notches), event->position());
         event->accept();
     });
 }
@@ -117,10 +117,10 @@ void AreaDisegno::keyPressEvent(QKeyEvent* event) {
 void AreaDisegno::Tasto(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Plus:
-        Ingrandisci(passoZoom);
+        Ingrandisce(passoZoom);
         break;
     case Qt::Key_Minus:
-        Ingrandisci(1 / passoZoom);
+        Ingrandisce(1 / passoZoom);
         break;
     case Qt::Key_Home:
         Adatta();

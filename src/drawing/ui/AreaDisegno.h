@@ -23,8 +23,8 @@ public:
 
     void Adatta();
     /// Magnifies so that the point under `intorno` [pixels] stays where it is.
-    void Ingrandisci(double fattore, const QPointF& intorno);
-    void Ingrandisci(double fattore) { Ingrandisci(fattore, rect().center()); }
+    void Ingrandisce(double fattore, const QPointF& intorno);
+    void Ingrandisce(double fattore) { Ingrandisce(fattore, rect().center()); }
 
     [[nodiscard]] const VistaSchermo& Vista() const { return vista_; }
 

@@ -34,9 +34,9 @@ void FrmPltSezione::Compone() {
     Collega(ui_->mnuAnteprima, &QAction::triggered, this, [this] { AnteprimaDiStampa(); });
     Collega(ui_->mnuVistaItem_0, &QAction::triggered, this, [this] { ui_->Picture1->Adatta(); });
     Collega(ui_->mnuVistaItem_1, &QAction::triggered, this,
-            [this] { ui_->Picture1->Ingrandisci(passoVista); });
+            [this] { ui_->Picture1->Ingrandisce(passoVista); });
     Collega(ui_->mnuVistaItem_2, &QAction::triggered, this,
-            [this] { ui_->Picture1->Ingrandisci(1 / passoVista); });
+            [this] { ui_->Picture1->Ingrandisce(1 / passoVista); });
     Collega(ui_->Picture1, &AreaDisegno::vistaCambiata, this, [this](double zoom) {
         ui_->LblZoom->setText(QString::number(qRound(zoom * 100)) + QStringLiteral(" %"));
     });
@@ -45,13 +45,13 @@ void FrmPltSezione::Compone() {
 FrmPltSezione::~FrmPltSezione() = default;
 
 void FrmPltSezione::Mostra(Schermo& da, const QString& nomeChiamante, SorgenteDisegno sorgente) {
-    auto& preview = NavigaSchermi::Unico().Prendi<FrmPltSezione>();
+    auto& preview = NavigaSchermi::Unico().Prende<FrmPltSezione>();
     preview.Compone();
     preview.nomeChiamante_ = nomeChiamante;
     preview.sorgente_ = std::move(sorgente);
     preview.ui_->LblEsito->clear();
     preview.ui_->Picture1->Adatta();
-    NavigaSchermi::Unico().Apri(preview, da);
+    NavigaSchermi::Unico().Apre(preview, da);
 }
 
 void FrmPltSezione::AllAttivazione() {

@@ -225,7 +225,7 @@ bool frmBulloni::Invio(QLineEdit* casella) {
     return true;
 }
 
-void frmBulloni::Apri(Schermo& chiamante) {
+void frmBulloni::Apre(Schermo& chiamante) {
     origine = &chiamante;
     NavigaSchermi::Unico().Passa(*this, &chiamante);
     ui_->ComboClassiBulloni->setFocus();
@@ -428,7 +428,7 @@ void frmBulloni::ApreChiudeOsservazioni() {
     }
     conSuggerimento_ = SuggerimentoBulloni;
     SuggerimentoBulloni = false;
-    ui_->fraOsservazioni->Apri(true);
+    ui_->fraOsservazioni->Apre(true);
     FaPosto();
     MostraOsservazioni();
 }
@@ -450,7 +450,7 @@ void frmBulloni::FaPosto() {
 }
 
 void frmBulloni::ChiudeOsservazioni() {
-    ui_->fraOsservazioni->Apri(false);
+    ui_->fraOsservazioni->Apre(false);
     if (const int before = std::exchange(altezzaPrima_, 0); before > 0 && !isMaximized())
         resize(width(), before);
 }

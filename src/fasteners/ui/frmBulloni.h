@@ -26,7 +26,7 @@ public:
     ~frmBulloni() override;
 
     /// Shows the screen in the place of the one that opens it, where closing goes back to.
-    void Apri(Schermo& chiamante);
+    void Apre(Schermo& chiamante);
 
     void AllAttivazione() override;
 

@@ -40,7 +40,7 @@ frmSaldature::frmSaldature() : Schermo(QStringLiteral("frmSaldature")), ui_(new 
 
 frmSaldature::~frmSaldature() = default;
 
-void frmSaldature::Apri(Schermo& chiamante) {
+void frmSaldature::Apre(Schermo& chiamante) {
     origine = &chiamante;
     NavigaSchermi::Unico().Passa(*this, &chiamante);
     ui_->UpDown2->setFocus();

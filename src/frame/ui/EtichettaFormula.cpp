@@ -62,7 +62,7 @@ int Larghezza(const QList<Tratto>& parts, const QFont& font) {
 
 /// @param x         left end [px]
 /// @param baseline  of the text [px]
-void Dipingi(QPainter& painter, const QList<Tratto>& parts, int x, int baseline) {
+void Dipinge(QPainter& painter, const QList<Tratto>& parts, int x, int baseline) {
     const QFont font = painter.font();
     const QFontMetrics big(font);
     for (const Tratto& t : parts) {
@@ -109,7 +109,7 @@ void EtichettaFormula::paintEvent(QPaintEvent* /*event*/) {
         const auto parts = Tratti(Markup());
         const QSize content(Larghezza(parts, font()), fontMetrics().height());
         const QRect place = QStyle::alignedRect(layoutDirection(), alignment(), content, contentsRect());
-        Dipingi(painter, parts, place.left(), place.top() + fontMetrics().ascent());
+        Dipinge(painter, parts, place.left(), place.top() + fontMetrics().ascent());
     });
 }
 

@@ -39,7 +39,7 @@ const QWidget* InMano(QObject* object) {
 }
 
 /// Help for a control; the viewer's own stands in the general file.
-void ApriPer(const QWidget* w) {
+void AprePer(const QWidget* w) {
     const bool viewer = w != nullptr && qobject_cast<const FinestraGuida*>(w->window()) != nullptr;
     const QString file = viewer || fileInForce.isEmpty() ? Generale() : fileInForce;
     if (const QString text = Letta(file); !text.isEmpty())
@@ -57,7 +57,7 @@ void Guida::ImpostaFile(const QString& file) { fileInForce = file; }
 
 QString Guida::File() { return fileInForce; }
 
-void Guida::Apri(const QString& file, const QString& argomento) {
+void Guida::Apre(const QString& file, const QString& argomento) {
     if (const QString text = Letta(file); !text.isEmpty())
         Finestra().Mostra(file, AncoraDi(text, argomento));
 }
@@ -68,7 +68,7 @@ bool Guida::eventFilter(QObject* object, QEvent* event) {
     if (QApplication::activeModalWidget() != nullptr &&
         qobject_cast<QMainWindow*>(QApplication::activeModalWidget()) == nullptr)
         return true; // a message box would keep the help from being used
-    EventoProtetto([object] { ApriPer(InMano(object)); });
+    EventoProtetto([object] { AprePer(InMano(object)); });
     return true;
 }
 

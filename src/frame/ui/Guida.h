@@ -14,7 +14,7 @@ public:
 
     /// Opens a help file at a topic; an unknown topic shows the top. A missing file gives one box with its
     /// name.
-    static void Apri(const QString& file, const QString& argomento = {});
+    static void Apre(const QString& file, const QString& argomento = {});
 
     /// The help file in force, set by each screen that becomes active.
     static void ImpostaFile(const QString& file);

@@ -81,14 +81,14 @@ Schermo& NavigaSchermi::Crea(const std::function<Schermo*()>& crea) {
     return *s;
 }
 
-Schermo& NavigaSchermi::Prendi(const QString& nome) {
+Schermo& NavigaSchermi::Prende(const QString& nome) {
     Schermo* made = Trova(nome);
     return made != nullptr ? *made : Crea(Voce(nome).crea);
 }
 
-void NavigaSchermi::Apri(const QString& nome, Schermo& da) {
+void NavigaSchermi::Apre(const QString& nome, Schermo& da) {
     const auto apri = Voce(nome).apri;
-    apri(Prendi(nome), da);
+    apri(Prende(nome), da);
 }
 
 void NavigaSchermi::CollegaMenu(Schermo& da) {
@@ -97,7 +97,7 @@ void NavigaSchermi::CollegaMenu(Schermo& da) {
         if (entry == nullptr)
             continue; // a window without that entry goes without
         entry->setEnabled(true);
-        Collega(entry, &QAction::triggered, &da, [this, nome = voce.nome, &da] { Apri(nome, da); });
+        Collega(entry, &QAction::triggered, &da, [this, nome = voce.nome, &da] { Apre(nome, da); });
     }
 }
 
@@ -177,7 +177,7 @@ void NavigaSchermi::Passa(Schermo& a, Schermo* da) {
     }
 }
 
-void NavigaSchermi::Apri(Schermo& a, Schermo& da) {
+void NavigaSchermi::Apre(Schermo& a, Schermo& da) {
     const QScopedValueRollback guard(inNavigazione_, true);
     da.ConcludeEntrate();
     Segue(a, da);
@@ -191,10 +191,10 @@ void NavigaSchermi::Apri(Schermo& a, Schermo& da) {
     Attiva(a);
 }
 
-void NavigaSchermi::ApriDialogo(Schermo& a, Schermo& da) {
+void NavigaSchermi::ApreDialogo(Schermo& a, Schermo& da) {
     a.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     a.setWindowModality(Qt::WindowModal);
-    Apri(a, da);
+    Apre(a, da);
 }
 
 void NavigaSchermi::Lascia(Schermo& s) {

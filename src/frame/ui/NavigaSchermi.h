@@ -23,7 +23,7 @@ public:
     static NavigaSchermi& Unico();
 
     /// The screen of class T, created at its first use.
-    template <typename T> T& Prendi() {
+    template <typename T> T& Prende() {
         for (Schermo* s : schermi_)
             if (auto* found = dynamic_cast<T*>(s))
                 return *found;
@@ -40,13 +40,13 @@ public:
 
     /// The screen of that name, created from the table at its first use. A name that is not in the table
     /// throws std::out_of_range.
-    Schermo& Prendi(const QString& nome);
+    Schermo& Prende(const QString& nome);
 
     /// The same as the kind T that its opener works with; another kind throws std::bad_cast.
-    template <typename T> T& Prendi(const QString& nome) { return dynamic_cast<T&>(Prendi(nome)); }
+    template <typename T> T& Prende(const QString& nome) { return dynamic_cast<T&>(Prende(nome)); }
 
     /// Opens the screen of that name as its row of the table says; without a row std::out_of_range.
-    void Apri(const QString& nome, Schermo& da);
+    void Apre(const QString& nome, Schermo& da);
 
     /// Enables the menu entries of a window whose screens stand in the table; each opens its own.
     void CollegaMenu(Schermo& da);
@@ -56,10 +56,10 @@ public:
     void Passa(Schermo& a, Schermo* da);
 
     /// Shows a screen in front of the one that opens it, which stays visible; closing it goes back there.
-    void Apri(Schermo& a, Schermo& da);
+    void Apre(Schermo& a, Schermo& da);
 
     /// The same for a dialog: it keeps its opener from being used until it closes.
-    void ApriDialogo(Schermo& a, Schermo& da);
+    void ApreDialogo(Schermo& a, Schermo& da);
 
     /// Hides a screen and shows and activates the nearest one of those that it was opened from that is still
     /// visible; its own opener where none is.

@@ -58,7 +58,7 @@ void PannelloConsiglio::Mostra(const QString& testo) {
     if (testo == testo_->text())
         return;
     testo_->setText(testo);
-    Apri(true);
+    Apre(true);
 }
 
 void PannelloConsiglio::Ospita(QWidget* corpo) {
@@ -68,7 +68,7 @@ void PannelloConsiglio::Ospita(QWidget* corpo) {
     Appare(false);
 }
 
-void PannelloConsiglio::Apri(bool aperto) {
+void PannelloConsiglio::Apre(bool aperto) {
     Appare(aperto && (corpo_ != testo_ || !testo_->text().isEmpty()));
 }
 

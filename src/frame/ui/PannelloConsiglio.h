@@ -26,7 +26,7 @@ public:
     /// Holds a text of its own kind, a long one that scrolls say, in the place of the plain one.
     void Ospita(QWidget* corpo);
     /// Shows the advice again, also where it has been closed, or takes it away.
-    void Apri(bool aperto);
+    void Apre(bool aperto);
 
 signals:
     void chiuso(); ///< by its mark

@@ -34,7 +34,7 @@ QVariant TestoGuida::loadResource(int type, const QUrl& name) {
 void TestoGuida::wheelEvent(QWheelEvent* event) {
     EventoProtetto([this, event] {
         if (event->modifiers().testFlag(Qt::ControlModifier)) {
-            Ingrandisci(event->angleDelta().y());
+            Ingrandisce(event->angleDelta().y());
             event->accept();
         } else {
             QTextBrowser::wheelEvent(event);
@@ -43,7 +43,7 @@ void TestoGuida::wheelEvent(QWheelEvent* event) {
 }
 
 /// @param giro  of the wheel, eighths of a degree: 120 in a notch, which is a point of the font
-void TestoGuida::Ingrandisci(int giro) {
+void TestoGuida::Ingrandisce(int giro) {
     constexpr double scatto = 120;
     constexpr double minimo = 6; // points
     constexpr double massimo = 40;

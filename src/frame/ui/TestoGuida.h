@@ -29,7 +29,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void Ingrandisci(int giro);
+    void Ingrandisce(int giro);
 };
 
 } // namespace sagomi

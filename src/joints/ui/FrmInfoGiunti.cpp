@@ -43,7 +43,7 @@ void FrmInfoGiunti::MostraIrrigidimenti(Schermo& da) {
 
 void FrmInfoGiunti::Apre(Schermo& da, bool conFigura) {
     ui_->Figura->setVisible(conFigura);
-    NavigaSchermi::Unico().Apri(*this, da);
+    NavigaSchermi::Unico().Apre(*this, da);
     ui_->RichTextBox4->setFocus();
 }
 

@@ -86,7 +86,7 @@ void FrmRisultatiIntermedi::RigaScelta() {
 
 void FrmRisultatiIntermedi::Inserisce() {
     const QString number = modello_->Indice(Riga());
-    Servizi()->InserisciSelezione(Riga() + 1);
+    Servizi()->InserisceSelezione(Riga() + 1);
     Aggiorna();
     const QString done = QStringLiteral("Configurazione N° %1 inserita nel giunto").arg(number);
     ui_->statusbar->showMessage(done);

@@ -18,7 +18,7 @@ public:
     /// Opens the drawing of a row of the last search's improvements, counted from 1, on a copy of the joint.
     virtual void PlottaSelezione(int riga) = 0;
     /// Puts such a row into the joint, and computes resistance and stiffness with it.
-    virtual void InserisciSelezione(int riga) = 0;
+    virtual void InserisceSelezione(int riga) = 0;
 
     /// The improvements to be listed: those of the last search, or of the running one as far as it is.
     [[nodiscard]] virtual const TabellaSelezione& Selezioni() const;

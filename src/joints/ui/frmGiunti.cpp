@@ -99,10 +99,10 @@ void frmGiunti::CollegaComandi() {
     Collega(ui_->CmdAzzera, &QPushButton::clicked, this, [this] { Azzera(); });
     Collega(ui_->CmdPlotta, &QPushButton::clicked, this, [this] { Plotta(); });
     Collega(ui_->CmdRisultati, &QPushButton::clicked, this,
-            [this] { NavigaSchermi::Unico().Apri(QStringLiteral("FrmRisultatiIntermedi"), *this); });
+            [this] { NavigaSchermi::Unico().Apre(QStringLiteral("FrmRisultatiIntermedi"), *this); });
     Collega(findChild<QPushButton*>(QStringLiteral("CmdInfo")), &QPushButton::clicked, this, [this] {
         NavigaSchermi::Unico()
-            .Prendi<SchermoInfoGiunti>(QStringLiteral("FrmInfoGiunti"))
+            .Prende<SchermoInfoGiunti>(QStringLiteral("FrmInfoGiunti"))
             .MostraIrrigidimenti(*this);
     });
     Collega(findChild<QPushButton*>(QStringLiteral("CmdInterrompi")), &QPushButton::clicked, this,
@@ -111,13 +111,13 @@ void frmGiunti::CollegaComandi() {
          {std::pair{"CmdTraveDx", RuoloSagomo::TraveDx}, std::pair{"CmdTraveSx", RuoloSagomo::TraveSx},
           std::pair{"CmdColonnaInf", RuoloSagomo::Colonna}})
         Collega(findChild<QPushButton*>(QString::fromLatin1(name)), &QPushButton::clicked, this,
-                [this, role = role] { ScegliSagomo(role); });
+                [this, role = role] { SceglieSagomo(role); });
     for (int i = 0; i < numConsigliGiunto; ++i)
         if (auto* question = findChild<QPushButton*>(QStringLiteral("lblInfo_%1").arg(i)))
             Collega(question, &QPushButton::clicked, this, [this, i] { MostraConsiglio(i); });
     Collega(ui_->SSTab1, &QTabWidget::currentChanged, this, [this](int tab) { SchedaScelta(tab); });
     Collega(vista_, &VistaGiunto::ComponenteScelto, this,
-            [this](ComponenteGiunto component) { VaiAlComponente(component); });
+            [this](ComponenteGiunto component) { VaAlComponente(component); });
     for (QLabel* label : findChildren<QLabel*>())
         if (label->buddy() != nullptr && !IdFormula(label->buddy()->objectName()).empty()) {
             label->installEventFilter(this);
@@ -128,7 +128,7 @@ void frmGiunti::CollegaComandi() {
     NavigaSchermi::Unico().CollegaMenu(*this);
 }
 
-void frmGiunti::Apri(Schermo& chiamante) {
+void frmGiunti::Apre(Schermo& chiamante) {
     if (&chiamante != this)
         origine = &chiamante;
     NavigaSchermi::Unico().Passa(*this, &chiamante);
@@ -168,10 +168,10 @@ void frmGiunti::SchedaScelta(int indice) {
 
 // --------------------------------------------------------------------------------- picking of sections
 
-void frmGiunti::ScegliSagomo(RuoloSagomo ruolo) {
+void frmGiunti::SceglieSagomo(RuoloSagomo ruolo) {
     inAttesa_ = ruolo;
     SceltaSagomoGiunto = true;
-    NavigaSchermi::Unico().Apri(QStringLiteral("frmDoppioT"), *this);
+    NavigaSchermi::Unico().Apre(QStringLiteral("frmDoppioT"), *this);
 }
 
 /// What was picked on one of the two screens of double-T sections; from another one it stays to be picked.

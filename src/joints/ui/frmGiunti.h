@@ -50,7 +50,7 @@ public:
     std::string Suggerimento;        ///< how the limit asked for last grows; empty where nothing helps
 
     /// Shows the screen in the place of the one that opens it, where closing goes back to.
-    void Apri(Schermo& chiamante);
+    void Apre(Schermo& chiamante);
     /// Takes the section that was asked for, and what has changed outside.
     void AllAttivazione() override;
     [[nodiscard]] QString FileGuida() const override { return QStringLiteral("GiuntoFlangiato.hlp"); }
@@ -97,7 +97,7 @@ public:
     [[nodiscard]] const TabellaSelezione& Selezioni() const override;
     [[nodiscard]] bool InRicerca() const override { return inRicerca_; }
     void PlottaSelezione(int riga) override;
-    void InserisciSelezione(int riga) override;
+    void InserisceSelezione(int riga) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -144,7 +144,7 @@ private:
     void SchedaScelta(int indice);
 
     // Picking of sections
-    void ScegliSagomo(RuoloSagomo ruolo);
+    void SceglieSagomo(RuoloSagomo ruolo);
     void PrendeSagomo();
     void AbbandonaScelta();
     void RinnovaSeCambiato();
@@ -167,7 +167,7 @@ private:
     void MostraDisegno(const Giunto* giunto = nullptr);
     void MostraDisegno(const Giunto* giunto, const EvidenzaGiunto& segni);
     void Plotta();
-    void VaiAlComponente(ComponenteGiunto componente);
+    void VaAlComponente(ComponenteGiunto componente);
     void FuocoPassato(const QWidget* controllo);
 
     // Files

@@ -42,7 +42,7 @@ constexpr QColor rosso(210, 0, 0);
 class TuttoSpento {
 public:
     TuttoSpento(QWidget& window, QWidget* room) : stanza_(room) {
-        Spegne(window);
+        SpegneIntorno(window);
         for (QAction* action : window.findChildren<QAction*>())
             if (action->isEnabled()) {
                 action->setEnabled(false);
@@ -50,7 +50,7 @@ public:
             }
         for (QWidget* other : QApplication::topLevelWidgets())
             if (other != &window && other->isVisible() && other->isEnabled())
-                Spegni(*other);
+                Spegne(*other);
     }
     ~TuttoSpento() {
         for (const auto& widget : spenti_)
@@ -64,19 +64,19 @@ public:
     TuttoSpento& operator=(const TuttoSpento&) = delete;
 
 private:
-    void Spegni(QWidget& widget) {
+    void Spegne(QWidget& widget) {
         widget.setEnabled(false);
         spenti_ << &widget;
     }
     /// What holds the room stays, its other parts do not.
-    void Spegne(QWidget& holder) {
+    void SpegneIntorno(QWidget& holder) {
         for (auto* widget : holder.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
             if (widget == stanza_ || widget->isWindow())
                 continue;
             if (widget->isAncestorOf(stanza_))
-                Spegne(*widget);
+                SpegneIntorno(*widget);
             else if (widget->isEnabled())
-                Spegni(*widget);
+                Spegne(*widget);
         }
     }
 

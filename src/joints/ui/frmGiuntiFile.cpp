@@ -131,7 +131,7 @@ void frmGiunti::CollegaFile() {
     for (int i = 0; i < numVociFile; ++i)
         Collega(findChild<QAction*>(QStringLiteral("mnufileitem_%1").arg(i)), &QAction::triggered, this,
                 [this, i] { SceltaFileMenu(i); });
-    Collega(ui_->mnuHelp_0, &QAction::triggered, this, [this] { Guida::Apri(FileGuida()); });
+    Collega(ui_->mnuHelp_0, &QAction::triggered, this, [this] { Guida::Apre(FileGuida()); });
 }
 
 void frmGiunti::SceltaFileMenu(int indice) {
@@ -187,7 +187,7 @@ void frmGiunti::FileLeggeScrive(std::string_view modo, std::int16_t nFile) {
         return;
     }
     NodoCorrente.PreparaSalvataggio();
-    TogliVirgolette(NodoCorrente);
+    ToglieVirgolette(NodoCorrente);
     std::string description = Casella("TxtDescrizione")->text().toStdString();
     fileRiuscito_ = FileInOut(modo, nFile, {&description}) && NodoCorrente.Input_Output(modo, nFile);
 }
@@ -273,7 +273,7 @@ void frmGiunti::PlottaSelezione(int riga) {
 }
 
 /// The results are those of the row from now on.
-void frmGiunti::InserisciSelezione(int riga) {
+void frmGiunti::InserisceSelezione(int riga) {
     try {
         NodoCorrente.EsegueSelezione(riga);
     } catch (...) {
@@ -291,12 +291,12 @@ std::string frmGiunti::IdFormula(const QString& casella) const {
 
 void frmGiunti::FormulaGiunto_Leggi(const std::string& id) {
     NavigaSchermi::Unico()
-        .Prendi<SchermoInfoGiunti>(QStringLiteral("FrmInfoGiunti"))
+        .Prende<SchermoInfoGiunti>(QStringLiteral("FrmInfoGiunti"))
         .MostraFormula(*this, id);
 }
 
 /// The value of a component that was chosen in the drawing.
-void frmGiunti::VaiAlComponente(ComponenteGiunto componente) {
+void frmGiunti::VaAlComponente(ComponenteGiunto componente) {
     for (const Legame& l : legami) {
         if (l.componente != componente)
             continue;

@@ -76,7 +76,7 @@ protected:
     /// The screen of a row, showing it, with steel, lengths and force.
     SchermoSezione& Mostra(const SagomoInGara& sagomo) {
         auto& s = dynamic_cast<SchermoSezione&>(
-            NavigaSchermi::Unico().Prendi(QString::fromStdString(sagomo.schermo)));
+            NavigaSchermi::Unico().Prende(QString::fromStdString(sagomo.schermo)));
         if (!s.isVisible()) {
             Schermo* from = NavigaSchermi::Unico().Attivo();
             NavigaSchermi::Unico().Passa(s, from);
@@ -84,7 +84,7 @@ protected:
         for (QCheckBox* box : s.ChkTipo)
             box->setChecked(box->text().toStdString() == sagomo.famiglia);
         CambioFamiglia(s);
-        VaiA(s, sagomo.Designazione().c_str());
+        VaA(s, sagomo.Designazione().c_str());
         const Forze& f = GetParam();
         s.ComboTipoAcciaio->setCurrentIndex(f.acciaio);
         emit s.ComboTipoAcciaio->activated(f.acciaio);
@@ -109,7 +109,7 @@ protected:
 
     void VerificaSezione(SchermoSezione& s, const RigaScelta& riga, const std::string& what) {
         const Richiesta r = RichiestaDi(GetParam());
-        NavigaSchermi::Unico().Apri("FrmVerifiche", s);
+        NavigaSchermi::Unico().Apre("FrmVerifiche", s);
         auto& f = Aperto("FrmVerifiche");
         const auto testo = [](const MomentiMembratura& m, const Richiesta& x) {
             return TestoPiano(Nmm_a_kNm(EffettiDelDiagramma(m, x.tipoDiagramma, x.pict).M));
@@ -123,7 +123,7 @@ protected:
 
     void Membratura(SchermoSezione& s, const RigaScelta& riga, const std::string& what) {
         const Forze& x = GetParam();
-        NavigaSchermi::Unico().Apri("FrmPresFless", s);
+        NavigaSchermi::Unico().Apre("FrmPresFless", s);
         auto& f = dynamic_cast<FrmPresFless&>(Aperto("FrmPresFless"));
         f.SelezionaPict(x.pict);
         for (const char* empty : {"TxtM2_0", "TxtM2_1"})
@@ -138,7 +138,7 @@ protected:
 
     void Svergolamento(SchermoSezione& s, const RigaScelta& riga, const std::string& what) {
         const Forze& x = GetParam();
-        NavigaSchermi::Unico().Apri("FrmMsverg", s);
+        NavigaSchermi::Unico().Apre("FrmMsverg", s);
         auto& f = Aperto("FrmMsverg");
         const std::pair<const char*, const char*> entries[] = {{"Txt_k", x.k},   {"Txt_Kw", x.Kw},
                                                                {"Txt_C2", x.C2}, {"Txt_C3", x.C3},

@@ -29,7 +29,7 @@ protected:
         partenza = &Avvia();
         Normativa = normativaEC3;
         ImpostaGamma();
-        VaiA(*partenza, sagomo);
+        VaA(*partenza, sagomo);
         Trova<QAction>(partenza, "mnuAcciaioCls")->trigger();
         f = dynamic_cast<frmAcciaioCls*>(&Aperto("frmAcciaioCls"));
         registratore.testi.clear();

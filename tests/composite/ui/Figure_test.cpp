@@ -47,30 +47,30 @@ TEST_F(FigureTravi, OfTheScreensAtWork) {
     Figura(*f, "nuova");
     Piena();
     Figura(*f, "piena");
-    Premi(f, "cmdCalcola");
+    Preme(f, "cmdCalcola");
     Figura(*f, "piena_M+");
     Sceglie("OpTipoVerifica", 1);
-    Premi(f, "cmdCalcola");
+    Preme(f, "cmdCalcola");
     Figura(*f, "piena_M-");
     Grecata(1);
     Sceglie("OpTipoVerifica", 0);
-    Premi(f, "cmdConnessioni");
+    Preme(f, "cmdConnessioni");
     Schermo& c = Aperto("frmConnettori");
     Figura(c, "nuova");
     Trova<QLineEdit>(&c, "txtInput_3")->setText(QString::fromStdString(Locale("7.6")));
     Figura(c, "digitando");
-    Premi(&c, "CmdProgetta");
+    Preme(&c, "CmdProgetta");
     Figura(c, "trasversale");
     if (Schermo* advice = NavigaSchermi::Unico().Trova(QStringLiteral("frmSuggerimento")))
         Figura(*advice, "trasversale");
     Grecata(2);
     Sceglie("OpTipoVerifica", 2);
     Scrive({{"Txt_M", "-200"}});
-    Premi(f, "cmdCalcola");
+    Preme(f, "cmdCalcola");
     Figura(*f, "parallela_n");
     Figura(c, "parallela_n");
     Scrive({{"txtDati_4", "300"}});
-    Premi(f, "cmdCalcola");
+    Preme(f, "cmdCalcola");
     Figura(*f, "nota");
 }
 

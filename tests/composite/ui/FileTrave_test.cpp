@@ -128,7 +128,7 @@ TEST_F(FileTraveTest, AnotherSteelForABeamOfAFileIsAChange) {
     Salva();
     f->Calcola();
     Menu("mnuFileItem_3");
-    VaiA(*partenza, "IPE 400");
+    VaA(*partenza, "IPE 400");
     Trova<QAction>(partenza, "mnuAcciaioCls")->trigger();
     EXPECT_EQ(Legge("Txt_Prof_0"), "IPE 400");
     EXPECT_EQ(Legge("Txt_Jid"), "") << "the results were those of the other steel";
@@ -139,7 +139,7 @@ TEST_F(FileTraveTest, AnotherSteelForABeamOfAFileIsAChange) {
 TEST_F(FileTraveTest, ClosingTheBeamTakesTheStudsAlong) {
     Apre();
     Piena();
-    Premi(f, "cmdConnessioni");
+    Preme(f, "cmdConnessioni");
     Schermo& studs = Aperto("frmConnettori");
     const Registratore yes(true);
     f->close();

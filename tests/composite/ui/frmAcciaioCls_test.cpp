@@ -103,7 +103,7 @@ TEST_F(FrmAcciaioClsTest, HoggingPlasticMoment) {
     Apre();
     Piena();
     Sceglie("OpTipoVerifica", 1);
-    Premi(f, "cmdCalcola");
+    Preme(f, "cmdCalcola");
     const double z = Fs / (2 * 7.1 * 235);
     Circa(Valore("Txt_MplRd"), -(628.4 * 235 / 1000 - 7.1 * z * z * 235 / 1e6 + Fs * (quota - 150) / 1e6));
     Circa(Valore("Txt_NeutroPlastico"), 420 - 150 - z);
@@ -450,7 +450,7 @@ TEST_F(FrmAcciaioClsTest, AnotherRowBehindIsTakenAndTheSameOneKeepsWhatWasTyped)
     EXPECT_EQ(Valore("txtHsd_4"), 310);
     EXPECT_EQ(Valore("txtDati_1"), 120);
     Menu("mnuFileItem_3");
-    VaiA(*partenza, "IPE 400");
+    VaA(*partenza, "IPE 400");
     Trova<QAction>(partenza, "mnuAcciaioCls")->trigger();
     EXPECT_EQ(Legge("Txt_Prof_0"), "IPE 400");
     EXPECT_EQ(Valore("txtDati_1"), 120);
@@ -489,11 +489,11 @@ TEST_F(FrmAcciaioClsTest, PictureFollowsEachKeyInSilence) {
 TEST_F(FrmAcciaioClsTest, CommandsOpenPlotStudsAndDeck) {
     Apre();
     Grecata(1);
-    Premi(f, "CmdPlotta");
+    Preme(f, "CmdPlotta");
     Aperto("FrmPltSezione").close();
-    Premi(f, "cmdLamiera");
+    Preme(f, "cmdLamiera");
     Aperto("FrmPltSezione").close();
-    Premi(f, "cmdConnessioni");
+    Preme(f, "cmdConnessioni");
     EXPECT_TRUE(Aperto("frmConnettori").isVisible());
     EXPECT_NE(Legge("Txt_MplRd"), "") << "the studs need the shear";
 }
@@ -531,8 +531,8 @@ TEST_F(FrmAcciaioClsTest, MenuOfRulesOpensTheFactors) {
     f->Calcola();
     Menu("NormativaMain");
     Schermo& factors = Aperto("frmGamma");
-    Premi(&factors, "optNormativa_0");
-    Premi(&factors, "cmdOK_0");
+    Preme(&factors, "optNormativa_0");
+    Preme(&factors, "cmdOK_0");
     EXPECT_EQ(Trova<QAction>(f, "NormativaMain")->text(), "Normativa: NTC");
     Vuote();
 }

@@ -18,7 +18,7 @@ namespace {
 class FrmConnettoriTest : public AmbienteTravi {
 protected:
     frmConnettori& ApreConnettori() {
-        Premi(f, "cmdConnessioni");
+        Preme(f, "cmdConnessioni");
         c = dynamic_cast<frmConnettori*>(&Aperto("frmConnettori"));
         return *c;
     }
@@ -39,7 +39,7 @@ protected:
         for (const auto& [box, text] : dati)
             Trova<QLineEdit>(c, box)->setText(QString::fromStdString(Locale(text)));
     }
-    void ScegliC(const char* elenco, const char* testo) const {
+    void SceglieC(const char* elenco, const char* testo) const {
         auto* list = Trova<QComboBox>(c, elenco);
         list->setCurrentIndex(list->findText(QString::fromLatin1(testo)));
     }
@@ -48,7 +48,7 @@ protected:
     [[nodiscard]] std::string Dice(const char* nome) const {
         return Trova<QLabel>(c, nome)->text().toStdString();
     }
-    void Progetta() const { Premi(c, "CmdProgetta"); }
+    void Progetta() const { Preme(c, "CmdProgetta"); }
     void VuoteC() const {
         for (const char* name : {"TxtPrd", "txtn", "txtPasso", "TxtNerv"})
             EXPECT_EQ(LeggeC(name), "") << name;
@@ -115,7 +115,7 @@ TEST_F(FrmConnettoriTest, FullConnection) {
     EXPECT_EQ(Dice("lblUnita"), "connettori");
     EXPECT_EQ(Dice("lblK"), "k = 1");
     EXPECT_EQ(Dice("lblHsuD"), "");
-    ScegliC("ComboNr", "2");
+    SceglieC("ComboNr", "2");
     VuoteC();
     Progetta();
     EXPECT_EQ(LeggeC("txtn"), "36");
@@ -127,7 +127,7 @@ TEST_F(FrmConnettoriTest, FullConnection) {
 // q = 17.3 (|Msd| - Ma)/(MplRd - Ma), Ma 147.7, MplRd 306.9 kNm: for 227.3 kNm half of it.
 TEST_F(FrmConnettoriTest, PartialConnection) {
     Pieno();
-    Premi(c, "OptConnect_1");
+    Preme(c, "OptConnect_1");
     ScriveC({{"TxtMsd", "227.3"}});
     Progetta();
     EXPECT_EQ(LeggeC("txtn"), "18"); // 8.65, 9, twice
@@ -142,7 +142,7 @@ TEST_F(FrmConnettoriTest, PartialConnection) {
     Progetta();
     EXPECT_EQ(LeggeC("txtn"), "");
     EXPECT_EQ(Dice("lblHsuD"), "Msd > MplRd");
-    ScegliC("ComboNr", "2");
+    SceglieC("ComboNr", "2");
     ScriveC({{"TxtMsd", "-227.3"}});
     Progetta();
     EXPECT_EQ(LeggeC("txtn"), "18");      // 36 · 0.5
@@ -171,9 +171,9 @@ TEST_F(FrmConnettoriTest, IncompleteDataAreRefused) {
 
 TEST_F(FrmConnettoriTest, LimitsOfTransverseRibsAreBoxes) {
     Trasversali("8");
-    ScegliC("Combo1", "22");
+    SceglieC("Combo1", "22");
     Progetta();
-    ScegliC("Combo1", "19");
+    SceglieC("Combo1", "19");
     Scrive({{"TxtLam_0", "86"}, {"txtDati_1", "160"}});
     Progetta();
     Scrive({{"TxtLam_0", "85.5"}});
@@ -256,7 +256,7 @@ TEST_F(FrmConnettoriTest, PairsAreAdvisedWhereThereAreMoreStudsThanRibs) {
     EXPECT_EQ(Trova<QLabel>(&advice, "lblSuggerimento")->text().toStdString(),
               "Dove si ha taglio massimo disporre\n2 connettori nelle prime 2 nervature");
     EXPECT_EQ(advice.windowTitle(), "Suggerimento");
-    Premi(&advice, "cmdOK");
+    Preme(&advice, "cmdOK");
     EXPECT_FALSE(advice.isVisible());
     c->AllAttivazione();
     EXPECT_EQ(LeggeC("txtn"), "40") << "the design stays until something changes";
@@ -310,7 +310,7 @@ TEST_F(FrmConnettoriTest, QuestionMarkShowsBothResistances) {
     Pieno();
     EXPECT_FALSE(Trova<QWidget>(c, "lblDomandaPrd")->isEnabled());
     Progetta();
-    Premi(c, "lblDomandaPrd");
+    Preme(c, "lblDomandaPrd");
     ASSERT_EQ(registratore.testi.size(), 1U);
     EXPECT_NE(registratore.testi[0].find(Locale("PRd1 = 0.8 fu A/gammaV = 81.66 kN")), std::string::npos)
         << registratore.testi[0];
@@ -331,11 +331,11 @@ TEST_F(FrmConnettoriTest, PictureFollowsTheEntries) {
 
 TEST_F(FrmConnettoriTest, StudsGoIntoTheFile) {
     Pieno();
-    ScegliC("Combo1", "16");
+    SceglieC("Combo1", "16");
     ScriveC({{"txtInput_0", "80"}});
     RispondeFile(InCartella("pioli"));
     Menu("mnuFileItem_2");
-    ScegliC("Combo1", "25");
+    SceglieC("Combo1", "25");
     ScriveC({{"txtInput_0", "110"}, {"txtInput_3", "3"}});
     const Registratore yes(true);
     RispondeFile(InCartella("pioli.sco"));

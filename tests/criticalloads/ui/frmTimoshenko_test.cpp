@@ -19,11 +19,11 @@ class FrmTimoshenkoTest : public AmbienteSchermi {
 protected:
     frmTimoshenko& Apre(double L = 4000) {
         opener_ = &Avvia();
-        VaiA(*opener_, "IPE 200");
+        VaA(*opener_, "IPE 200");
         registratore.testi.clear();
         Sezione().LLT = L;
-        auto& t = NavigaSchermi::Unico().Prendi<frmTimoshenko>();
-        t.Apri(*opener_);
+        auto& t = NavigaSchermi::Unico().Prende<frmTimoshenko>();
+        t.Apre(*opener_);
         return t;
     }
     static std::string Mcr(const frmTimoshenko& t) { return Scritta(&t, "Lbl_Mcr"); }
@@ -89,17 +89,17 @@ TEST_F(FrmTimoshenkoTest, LengthComesFromTheSectionAtEachActivation) {
 
 TEST_F(FrmTimoshenkoTest, SimplySupportedBeam) {
     auto& t = Apre();
-    Premi(&t, "Command1");
+    Preme(&t, "Command1");
     EXPECT_EQ(Mcr(t), Locale(" 38.22"));
-    Premi(&t, "optQuotaCarico_1");
+    Preme(&t, "optQuotaCarico_1");
     EXPECT_EQ(Mcr(t), Locale(" 50.16"));
-    Premi(&t, "optQuotaCarico_2");
+    Preme(&t, "optQuotaCarico_2");
     EXPECT_EQ(Mcr(t), Locale(" 64.86"));
-    Premi(&t, "optTipoCarico_1");
+    Preme(&t, "optTipoCarico_1");
     EXPECT_EQ(Mcr(t), Locale(" 51.74"));
-    Premi(&t, "optQuotaCarico_1");
+    Preme(&t, "optQuotaCarico_1");
     EXPECT_EQ(Mcr(t), Locale(" 41.74"));
-    Premi(&t, "optQuotaCarico_0");
+    Preme(&t, "optQuotaCarico_0");
     EXPECT_EQ(Mcr(t), Locale(" 33.47"));
     EXPECT_EQ(t.L.Stretto(), 4000.F);
     EXPECT_EQ(t.Iz.Stretto(), 1424000.F);
@@ -112,10 +112,10 @@ TEST_F(FrmTimoshenkoTest, ANegativeConstantGivesNoMoment) {
     for (const char* box : {"TxtIz", "TxtIT", "TxtIw"}) {
         const QString was = Trova<QLineEdit>(&t, box)->text();
         Scrive(&t, box, "-5");
-        Premi(&t, "Command1");
+        Preme(&t, "Command1");
         EXPECT_EQ(Mcr(t), "") << box;
         Trova<QLineEdit>(&t, box)->setText(was);
-        Premi(&t, "Command1");
+        Preme(&t, "Command1");
         EXPECT_EQ(Mcr(t), Locale(" 38.22")) << box;
     }
     EXPECT_TRUE(registratore.testi.empty());
@@ -123,24 +123,24 @@ TEST_F(FrmTimoshenkoTest, ANegativeConstantGivesNoMoment) {
 
 TEST_F(FrmTimoshenkoTest, WithoutWarping) {
     auto& t = Apre();
-    Premi(&t, "chkNoIw");
+    Preme(&t, "chkNoIw");
     EXPECT_TRUE(t.NoIw);
     EXPECT_EQ(Mcr(t), Locale(" 29.70"));
-    Premi(&t, "optQuotaCarico_2");
+    Preme(&t, "optQuotaCarico_2");
     EXPECT_EQ(Mcr(t), Locale(" 57.24"));
-    Premi(&t, "optTipoCarico_1");
+    Preme(&t, "optTipoCarico_1");
     EXPECT_EQ(Mcr(t), Locale(" 39.01"));
-    Premi(&t, "optQuotaCarico_1");
+    Preme(&t, "optQuotaCarico_1");
     EXPECT_EQ(Mcr(t), Locale(" 36.31"));
-    Premi(&t, "optQuotaCarico_0");
+    Preme(&t, "optQuotaCarico_0");
     EXPECT_EQ(Mcr(t), Locale(" 33.87"));
 }
 
 TEST_F(FrmTimoshenkoTest, CantileverWithWarpingHasOneLoadOnly) {
     auto& t = Apre();
-    Premi(&t, "optTipoCarico_1");
-    Premi(&t, "optQuotaCarico_2");
-    Premi(&t, "Option1_1");
+    Preme(&t, "optTipoCarico_1");
+    Preme(&t, "optQuotaCarico_2");
+    Preme(&t, "Option1_1");
     EXPECT_TRUE(Opzione(t, "optTipoCarico_0").isChecked());
     EXPECT_FALSE(Opzione(t, "optTipoCarico_1").isEnabled());
     EXPECT_FALSE(Opzione(t, "optQuotaCarico_0").isEnabled());
@@ -151,31 +151,31 @@ TEST_F(FrmTimoshenkoTest, CantileverWithWarpingHasOneLoadOnly) {
 
 TEST_F(FrmTimoshenkoTest, CantileverWithoutWarpingHasFourLoads) {
     auto& t = Apre();
-    Premi(&t, "Option1_1");
-    Premi(&t, "chkNoIw");
+    Preme(&t, "Option1_1");
+    Preme(&t, "chkNoIw");
     EXPECT_TRUE(Opzione(t, "optTipoCarico_1").isEnabled());
     EXPECT_TRUE(Opzione(t, "optQuotaCarico_0").isEnabled());
     EXPECT_TRUE(Opzione(t, "optQuotaCarico_2").isEnabled());
     EXPECT_EQ(Mcr(t), Locale(" 41.19"));
-    Premi(&t, "optQuotaCarico_0");
+    Preme(&t, "optQuotaCarico_0");
     EXPECT_EQ(Mcr(t), Locale(" 33.69"));
-    Premi(&t, "optTipoCarico_1");
+    Preme(&t, "optTipoCarico_1");
     EXPECT_TRUE(Opzione(t, "optQuotaCarico_1").isChecked());
     EXPECT_FALSE(Opzione(t, "optQuotaCarico_0").isEnabled());
     EXPECT_FALSE(Opzione(t, "optQuotaCarico_2").isEnabled());
     EXPECT_TRUE(Opzione(t, "optTipoCarico_1").isEnabled());
     EXPECT_EQ(Mcr(t), Locale(" 65.95"));
-    Premi(&t, "optTipoCarico_0");
+    Preme(&t, "optTipoCarico_0");
     EXPECT_TRUE(Opzione(t, "optQuotaCarico_2").isEnabled());
     EXPECT_TRUE(registratore.testi.empty());
 }
 
 TEST_F(FrmTimoshenkoTest, UntickingLeavesTheOptionsAsTheyAre) {
     auto& t = Apre();
-    Premi(&t, "Option1_1");
-    Premi(&t, "chkNoIw");
-    Premi(&t, "optTipoCarico_1");
-    Premi(&t, "chkNoIw");
+    Preme(&t, "Option1_1");
+    Preme(&t, "chkNoIw");
+    Preme(&t, "optTipoCarico_1");
+    Preme(&t, "chkNoIw");
     EXPECT_FALSE(t.NoIw);
     EXPECT_TRUE(Opzione(t, "optTipoCarico_1").isChecked());
     EXPECT_TRUE(Opzione(t, "optTipoCarico_1").isEnabled());
@@ -184,8 +184,8 @@ TEST_F(FrmTimoshenkoTest, UntickingLeavesTheOptionsAsTheyAre) {
 
 TEST_F(FrmTimoshenkoTest, ComingBackToTheSimplySupportedBeamEnablesEverything) {
     auto& t = Apre();
-    Premi(&t, "Option1_1");
-    Premi(&t, "Option1_0");
+    Preme(&t, "Option1_1");
+    Preme(&t, "Option1_0");
     for (const char* name : {"optTipoCarico_1", "optQuotaCarico_0", "optQuotaCarico_2"})
         EXPECT_TRUE(Opzione(t, name).isEnabled()) << name;
     EXPECT_EQ(Mcr(t), Locale(" 50.16"));
@@ -193,12 +193,12 @@ TEST_F(FrmTimoshenkoTest, ComingBackToTheSimplySupportedBeamEnablesEverything) {
 
 TEST_F(FrmTimoshenkoTest, ALengthThatIsNoneIsRefusedAndHasNoResult) {
     auto& t = Apre();
-    Premi(&t, "Command1");
+    Preme(&t, "Command1");
     for (const char* none : {"", "0", "-1", "abc"}) {
         registratore.testi.clear();
         registratore.messaggi.clear();
         Scrive(&t, "Txt_L", none);
-        Premi(&t, "Command1");
+        Preme(&t, "Command1");
         EXPECT_EQ(registratore.testi, Testi{"L deve essere > 0"}) << none;
         EXPECT_EQ(registratore.messaggi[0].icona, Icona::Stop);
         EXPECT_EQ(Mcr(t), "");
@@ -207,7 +207,7 @@ TEST_F(FrmTimoshenkoTest, ALengthThatIsNoneIsRefusedAndHasNoResult) {
 
 TEST_F(FrmTimoshenkoTest, AChangedEntryClearsTheResult) {
     auto& t = Apre();
-    Premi(&t, "Command1");
+    Preme(&t, "Command1");
     EXPECT_EQ(Mcr(t), Locale(" 38.22"));
     auto* length = Trova<QLineEdit>(&t, "Txt_L");
     QTest::keyClicks(length, "-5");
@@ -240,7 +240,7 @@ TEST_F(FrmTimoshenkoTest, EnterInAnEntryCalculates) {
 TEST_F(FrmTimoshenkoTest, ALongSlenderBeamLeavesTheTableWithAMessage) {
     auto& t = Apre();
     Scrive(&t, "Txt_L", "14"); // ratio 33.0668 · 3.5^2 = 405.07
-    Premi(&t, "Command1");
+    Preme(&t, "Command1");
     EXPECT_EQ(registratore.testi, Testi{"Rapporto L^2C/C1 > 400"});
     // 15.8 · 2566.22 / 12.25 · 14000 / 4
     EXPECT_EQ(Mcr(t), Locale(" 11.58"));
@@ -248,23 +248,23 @@ TEST_F(FrmTimoshenkoTest, ALongSlenderBeamLeavesTheTableWithAMessage) {
 
 TEST_F(FrmTimoshenkoTest, WithoutAnyTorsionalStiffnessThereIsNoResult) {
     auto& t = Apre();
-    Premi(&t, "Command1");
+    Preme(&t, "Command1");
     Scrive(&t, "TxtIw", "0");
-    Premi(&t, "Command1");
+    Preme(&t, "Command1");
     EXPECT_EQ(registratore.testi, Testi{"Rapporto L^2C/C1 > 400"}) << "above 400 times nothing";
     EXPECT_EQ(Mcr(t), Locale(" 40.55")); // 15.8 · 2566.22 · 4000 / 4
     Scrive(&t, "TxtIT", "0");
-    Premi(&t, "Command1");
+    Preme(&t, "Command1");
     EXPECT_EQ(Mcr(t), "");
 }
 
 TEST_F(FrmTimoshenkoTest, AnotherSectionBringsItsOwnConstants) {
     auto& t = Apre();
-    Premi(&t, "Command1");
+    Preme(&t, "Command1");
     QTest::keyClick(&t, Qt::Key_Escape);
     EXPECT_FALSE(t.isVisible());
-    VaiA(*opener_, "IPE 300");
-    t.Apri(*opener_);
+    VaA(*opener_, "IPE 300");
+    t.Apre(*opener_);
     EXPECT_EQ(Testo(&t, "TxtIz"), Locale("603.8"));
     EXPECT_EQ(Testo(&t, "Txt_Prof"), "IPE 300");
     EXPECT_EQ(Mcr(t), "") << "the result was another section's";
@@ -275,7 +275,7 @@ TEST_F(FrmTimoshenkoTest, PictureFollowsTheOptions) {
     auto* picture = Trova<QWidget>(&t, "Picture1");
     QList<QImage> seen{picture->grab().toImage()};
     for (const char* name : {"optQuotaCarico_2", "optTipoCarico_1", "Option1_1"}) {
-        Premi(&t, name);
+        Preme(&t, name);
         const QImage now = picture->grab().toImage();
         EXPECT_FALSE(seen.contains(now)) << name;
         seen << now;

@@ -84,7 +84,7 @@ TEST_F(FrmPltSezioneTest, HasItsControlsWithTheirCaptions) {
 
 TEST_F(FrmPltSezioneTest, ShowsTheSectionInHand) {
     auto& s = Avvia();
-    VaiA(s, "IPE 300");
+    VaA(s, "IPE 300");
     FrmPltSezione& p = Plotta(s);
     EXPECT_TRUE(p.isVisible());
     EXPECT_TRUE(s.isVisible());
@@ -102,7 +102,7 @@ TEST_F(FrmPltSezioneTest, AnotherRowShowsAtOnce) {
     auto& s = Avvia();
     FrmPltSezione& p = Plotta(s);
     EXPECT_EQ(p.windowTitle(), "Plotta - IPE 80");
-    VaiA(s, "IPE 600");
+    VaA(s, "IPE 600");
     EXPECT_EQ(p.windowTitle(), "Plotta - IPE 600");
     const QImage picture = Area(p).grab().toImage();
     Trova<QPushButton>(&p, "CmdPlotta")->click();
@@ -199,7 +199,7 @@ TEST_F(FrmPltSezioneTest, ZoomIsShownAndStartsAnewAtEachShowing) {
 
 TEST_F(FrmPltSezioneTest, MenuSendsTheDrawingToAFile) {
     auto& s = Avvia();
-    VaiA(s, "IPE 200");
+    VaA(s, "IPE 200");
     FrmPltSezione& p = Plotta(s);
     const QString file = cartella.filePath(QStringLiteral("IPE 200.dxf"));
     QString proposed;
@@ -225,7 +225,7 @@ TEST_F(FrmPltSezioneTest, MenuSendsTheDrawingToAFile) {
 
 TEST_F(FrmPltSezioneTest, MenuPrints) {
     auto& s = Avvia();
-    VaiA(s, "IPE 200");
+    VaA(s, "IPE 200");
     FrmPltSezione& p = Plotta(s);
     const QString pdf = cartella.filePath(QStringLiteral("foglio.pdf"));
     ImpostaSceltaStampante([&](QPrinter& printer, QWidget*) {

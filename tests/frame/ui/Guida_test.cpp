@@ -63,7 +63,7 @@ TEST_F(GuidaTest, F1OpensTheHelpOfTheProgram) {
 }
 
 TEST_F(GuidaTest, FileIsFoundWhateverTheCaseOfItsLetters) {
-    Guida::Apri(QStringLiteral("SAGOMI.HLP"));
+    Guida::Apre(QStringLiteral("SAGOMI.HLP"));
     EXPECT_NE(Finestra(), nullptr);
     EXPECT_TRUE(registratore.testi.empty());
 }
@@ -80,7 +80,7 @@ TEST_F(GuidaTest, MessageBoxGetsNoHelpBehindIt) {
 // Notches without number, up and down: the font stays between 6 and 40 points, and what a notch did another
 // one undoes.
 TEST_F(GuidaTest, ZoomHasItsBounds) {
-    Guida::Apri(QStringLiteral("Sagomi.hlp"));
+    Guida::Apre(QStringLiteral("Sagomi.hlp"));
     QTextBrowser* window = Testo();
     ASSERT_NE(window, nullptr);
     const auto notches = [window](int n) {
@@ -100,7 +100,7 @@ TEST_F(GuidaTest, ZoomHasItsBounds) {
 }
 
 TEST_F(GuidaTest, MissingFileIsToldByName) {
-    Guida::Apri(QStringLiteral("Manca.hlp"));
+    Guida::Apre(QStringLiteral("Manca.hlp"));
     ASSERT_EQ(registratore.testi.size(), 1U);
     EXPECT_NE(registratore.testi[0].find("Manca.hlp"), std::string::npos);
     EXPECT_EQ(Finestra(), nullptr);
@@ -149,7 +149,7 @@ TEST_F(GuidaTest, PlaceOfAControlIsTheNearestOneAroundIt) {
 }
 
 TEST_F(GuidaTest, SearchFindsTheTopicsThatHoldAllWords) {
-    Guida::Apri(QStringLiteral("Sagomi.hlp"));
+    Guida::Apre(QStringLiteral("Sagomi.hlp"));
     ASSERT_TRUE(QTest::qWaitForWindowActive(Finestra()));
     const int all = Lista("lstArgomenti")->count();
     auto* search = Trova<QLineEdit>(Finestra(), "txtCerca");
@@ -168,9 +168,9 @@ TEST_F(GuidaTest, SearchFindsTheTopicsThatHoldAllWords) {
 }
 
 TEST_F(GuidaTest, BackAndForwardFollowTheWayThroughTheTopics) {
-    Guida::Apri(QStringLiteral("Sagomi.hlp"), QStringLiteral("frmBulloni"));
+    Guida::Apre(QStringLiteral("Sagomi.hlp"), QStringLiteral("frmBulloni"));
     const std::string first = Posto();
-    Guida::Apri(QStringLiteral("GiuntoFlangiato.hlp"), QStringLiteral("frmGiunti.Optfila"));
+    Guida::Apre(QStringLiteral("GiuntoFlangiato.hlp"), QStringLiteral("frmGiunti.Optfila"));
     EXPECT_EQ(Posto(), "GiuntoFlangiato.hlp#Optfila");
     ASSERT_TRUE(QTest::qWaitForWindowActive(Finestra()));
     QTest::keyClick(Testo(), Qt::Key_Left, Qt::AltModifier);
@@ -181,7 +181,7 @@ TEST_F(GuidaTest, BackAndForwardFollowTheWayThroughTheTopics) {
 }
 
 TEST_F(GuidaTest, FindBoxGoesFromWordToWordAndEscClosesItFirst) {
-    Guida::Apri(QStringLiteral("Sagomi.hlp"));
+    Guida::Apre(QStringLiteral("Sagomi.hlp"));
     ASSERT_TRUE(QTest::qWaitForWindowActive(Finestra()));
     QTest::keyClick(Testo(), Qt::Key_F, Qt::ControlModifier);
     auto* find = Trova<QLineEdit>(Finestra(), "txtTrova");
@@ -205,7 +205,7 @@ TEST_F(GuidaTest, FindBoxGoesFromWordToWordAndEscClosesItFirst) {
 
 TEST_F(GuidaTest, F1InTheGuideExplainsTheGuide) {
     Guida::ImpostaFile(QStringLiteral("GiuntoFlangiato.hlp"));
-    Guida::Apri(QStringLiteral("GiuntoFlangiato.hlp"));
+    Guida::Apre(QStringLiteral("GiuntoFlangiato.hlp"));
     QTest::keyClick(Testo(), Qt::Key_F1);
     EXPECT_EQ(Posto(), "Sagomi.hlp#FinestraGuida");
 }

@@ -32,24 +32,24 @@ class NavigaSchermiTest : public AmbienteFinestre {};
 
 TEST_F(NavigaSchermiTest, PassingShowsActivatesOnceThenHidesTheOrigin) {
     auto& n = NavigaSchermi::Unico();
-    auto& a = n.Prendi<Primo>();
+    auto& a = n.Prende<Primo>();
     n.Passa(a, nullptr);
-    auto& b = n.Prendi<Secondo>();
+    auto& b = n.Prende<Secondo>();
     n.Passa(b, &a);
     QCoreApplication::processEvents();
     EXPECT_EQ(a.attivazioni, 1);
     EXPECT_EQ(b.attivazioni, 1);
     EXPECT_TRUE(b.visibileIlPrimo) << "the origin is hidden after the activation";
     EXPECT_FALSE(a.isVisible());
-    EXPECT_EQ(&n.Prendi<Secondo>(), &b) << "a screen is created once";
+    EXPECT_EQ(&n.Prende<Secondo>(), &b) << "a screen is created once";
 }
 
 TEST_F(NavigaSchermiTest, ClosingADetailGoesBackAndActivatesItsOpener) {
     auto& n = NavigaSchermi::Unico();
-    auto& a = n.Prendi<Primo>();
+    auto& a = n.Prende<Primo>();
     n.Passa(a, nullptr);
-    auto& b = n.Prendi<Secondo>();
-    n.Apri(b, a);
+    auto& b = n.Prende<Secondo>();
+    n.Apre(b, a);
     EXPECT_TRUE(a.isVisible()) << "the opener stays behind";
     QTest::keyClick(&b, Qt::Key_Escape);
     QCoreApplication::processEvents();
@@ -60,10 +60,10 @@ TEST_F(NavigaSchermiTest, ClosingADetailGoesBackAndActivatesItsOpener) {
 
 TEST_F(NavigaSchermiTest, ScreenBroughtToTheFrontByTheUserIsActivatedOnce) {
     auto& n = NavigaSchermi::Unico();
-    auto& a = n.Prendi<Primo>();
+    auto& a = n.Prende<Primo>();
     n.Passa(a, nullptr);
-    auto& b = n.Prendi<Secondo>();
-    n.Apri(b, a);
+    auto& b = n.Prende<Secondo>();
+    n.Apre(b, a);
     QCoreApplication::processEvents();
     ASSERT_EQ(a.attivazioni, 1);
     emit qApp->focusWindowChanged(a.windowHandle());
@@ -79,7 +79,7 @@ TEST_F(NavigaSchermiTest, ScreenBroughtToTheFrontByTheUserIsActivatedOnce) {
 
 TEST_F(NavigaSchermiTest, MinimisingAndHidingActivateNothing) {
     auto& n = NavigaSchermi::Unico();
-    auto& a = n.Prendi<Primo>();
+    auto& a = n.Prende<Primo>();
     n.Passa(a, nullptr);
     a.showMinimized();
     QCoreApplication::processEvents();
@@ -91,16 +91,16 @@ TEST_F(NavigaSchermiTest, MinimisingAndHidingActivateNothing) {
 TEST_F(NavigaSchermiTest, ScreenOpensByItsNameOnceCreated) {
     auto& n = NavigaSchermi::Unico();
     n.Aggiunge(RigaDi<Secondo>("Secondo"));
-    auto& a = n.Prendi<Primo>();
+    auto& a = n.Prende<Primo>();
     n.Passa(a, nullptr);
-    n.Apri("Secondo", a);
+    n.Apre("Secondo", a);
     auto* b = n.Trova("Secondo");
     ASSERT_NE(b, nullptr);
     EXPECT_EQ(b->origine, &a) << "a screen without an opener of its own stays in front";
-    EXPECT_EQ(&n.Prendi<Secondo>("secondo"), b);
-    EXPECT_THROW(n.Prendi<Terzo>("Secondo"), std::bad_cast);
+    EXPECT_EQ(&n.Prende<Secondo>("secondo"), b);
+    EXPECT_THROW(n.Prende<Terzo>("Secondo"), std::bad_cast);
     n.Toglie("Secondo");
-    EXPECT_THROW(n.Apri("Terzo", a), std::out_of_range);
+    EXPECT_THROW(n.Apre("Terzo", a), std::out_of_range);
 }
 
 TEST_F(NavigaSchermiTest, RowOfTheSameNameReplacesTheOlderOne) {
@@ -116,7 +116,7 @@ TEST_F(NavigaSchermiTest, RowOfTheSameNameReplacesTheOlderOne) {
 
 TEST_F(NavigaSchermiTest, MessageBoxDoesNotReactivateTheScreenBehind) {
     auto& n = NavigaSchermi::Unico();
-    auto& a = n.Prendi<Primo>();
+    auto& a = n.Prende<Primo>();
     n.Passa(a, nullptr);
     const auto recorder = CollegaMessaggi({});
     CollegaMessaggiQt();

@@ -34,7 +34,7 @@ TEST(PannelloConsiglioTest, OnceClosedItWaitsForSomethingElse) {
     panel.Mostra("due");
     EXPECT_TRUE(panel.isVisible());
     Trova<QToolButton>(&panel, "CmdChiudiLblNota")->click();
-    panel.Apri(true);
+    panel.Apre(true);
     EXPECT_TRUE(panel.isVisible()) << "asked for again";
 }
 

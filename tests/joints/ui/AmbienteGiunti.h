@@ -20,7 +20,7 @@ protected:
     frmGiunti& Apre() {
         partenza = &Avvia();
         partenza->ChkTipo[1]->setChecked(true); // HEB besides IPE
-        Premi(partenza, "AggiornaTabella");
+        Preme(partenza, "AggiornaTabella");
         Trova<QAction>(partenza, "MnuGiunto")->trigger();
         g = &dynamic_cast<frmGiunti&>(Aperto("frmGiunti"));
         return *g;
@@ -28,9 +28,9 @@ protected:
 
     /// Picks a section for a role by the button of the screen of double-T sections.
     void Prende(const char* bottone, const char* sagomo) {
-        Premi(g, bottone);
-        VaiA(*partenza, sagomo);
-        Premi(partenza, "cmdSceltaSagomoGiunto");
+        Preme(g, bottone);
+        VaA(*partenza, sagomo);
+        Preme(partenza, "cmdSceltaSagomoGiunto");
     }
 
     void Nodo(int indice) const {

@@ -18,8 +18,8 @@ protected:
         Avvia();
         auto& navigator = NavigaSchermi::Unico();
         navigator.Aggiunge({QStringLiteral("GiuntoFinto"), [] { return new GiuntoFinto; }, {}, {}});
-        giunto = &navigator.Prendi<GiuntoFinto>(QStringLiteral("GiuntoFinto"));
-        info = &navigator.Prendi<FrmInfoGiunti>(QStringLiteral("FrmInfoGiunti"));
+        giunto = &navigator.Prende<GiuntoFinto>(QStringLiteral("GiuntoFinto"));
+        info = &navigator.Prende<FrmInfoGiunti>(QStringLiteral("FrmInfoGiunti"));
     }
     void TearDown() override {
         NavigaSchermi::Unico().Toglie(QStringLiteral("GiuntoFinto"));

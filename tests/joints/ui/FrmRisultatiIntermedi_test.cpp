@@ -18,14 +18,14 @@ protected:
         Avvia();
         auto& navigator = NavigaSchermi::Unico();
         navigator.Aggiunge({QStringLiteral("GiuntoFinto"), [] { return new GiuntoFinto; }, {}, {}});
-        giunto = &navigator.Prendi<GiuntoFinto>(QStringLiteral("GiuntoFinto"));
+        giunto = &navigator.Prende<GiuntoFinto>(QStringLiteral("GiuntoFinto"));
     }
     void TearDown() override {
         NavigaSchermi::Unico().Toglie(QStringLiteral("GiuntoFinto"));
         AmbienteSchermi::TearDown();
     }
     Schermo& Apre() {
-        NavigaSchermi::Unico().Apri(QStringLiteral("FrmRisultatiIntermedi"), *giunto);
+        NavigaSchermi::Unico().Apre(QStringLiteral("FrmRisultatiIntermedi"), *giunto);
         return Aperto("FrmRisultatiIntermedi");
     }
     static QTableView& Griglia(const Schermo& s) { return *Trova<QTableView>(&s, "Griglia"); }
@@ -73,8 +73,8 @@ TEST_F(FrmRisultatiIntermediTest, LaRigaSceltaSiPlottaESiInserisce) {
     const Schermo& s = Apre();
     Griglia(s).selectRow(0);
     EXPECT_EQ(s.windowTitle(), "Risultati intermedi - Configurazione N° 1");
-    Premi(&s, "CmdPlottaSelezione");
-    Premi(&s, "CmdInsericiSelezione");
+    Preme(&s, "CmdPlottaSelezione");
+    Preme(&s, "CmdInsericiSelezione");
     EXPECT_EQ(giunto->plottate, std::vector<int>{1});
     EXPECT_EQ(giunto->inserite, std::vector<int>{1});
     EXPECT_EQ(s.windowTitle(), "Risultati intermedi - Configurazione N° 1");

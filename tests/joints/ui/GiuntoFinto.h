@@ -22,7 +22,7 @@ public:
     }
     [[nodiscard]] const Nodo& NodoInMano() const override { return nodo; }
     void PlottaSelezione(int riga) override { plottate.push_back(riga); }
-    void InserisciSelezione(int riga) override { inserite.push_back(riga); }
+    void InserisceSelezione(int riga) override { inserite.push_back(riga); }
     [[nodiscard]] const TabellaSelezione& Selezioni() const override { return tabella; }
     [[nodiscard]] bool InRicerca() const override { return inRicerca; }
 

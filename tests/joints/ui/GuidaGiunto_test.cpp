@@ -48,7 +48,7 @@ TEST_F(GuidaGiuntoTest, EveryControlAndEveryResultOfAJointHasItsTopic) {
     auto& main = Avvia();
     for (const char* name : {"frmGiunti", "FrmRisultatiIntermedi", "FrmInfoGiunti"}) {
         EXPECT_TRUE(topics.contains(QLatin1String(name))) << name;
-        NavigaSchermi::Unico().Apri(QLatin1String(name), main);
+        NavigaSchermi::Unico().Apre(QLatin1String(name), main);
         const Schermo& screen = Aperto(name);
         Esamina<QAbstractButton>(screen);
         Esamina<QLineEdit>(screen);

@@ -60,7 +60,7 @@ TEST_F(CalcoloGiuntiTest, CheckFillsTheBoxesAndTellsWhatGoverns) {
     Scrive("TxtL_Dx", "6");
     Scrive("TxtM_Dx", "20");
     Verifica1Fila();
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     ASSERT_TRUE(Joint().Acquisito);
     EXPECT_EQ(Legge("txtF5"), FormatoCifre(4, Joint().FtRd_Anima_c));
     EXPECT_EQ(Legge("TxtMjRd"), FormatoCifre(4, Joint().MplRdGIUNTO));
@@ -80,14 +80,14 @@ TEST_F(CalcoloGiuntiTest, MomentBeyondTheJointIsRedAndSoIsTheShear) {
     Scrive("TxtL_Dx", "6");
     Scrive("TxtM_Dx", "500");
     Verifica1Fila();
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_EQ(Scritta(g, "ShapeResistenza"), "NO");
     EXPECT_EQ(Scritta(g, "LblNotaSj"), "Mj,Sd > Mj,Rd");
     Scrive("TxtM_Dx", "1");
     EXPECT_EQ(Scritta(g, "ShapeResistenza"), "") << "a change empties the results";
     EXPECT_EQ(Legge("TxtMjRd"), "");
     Scrive("TxtT_T", "5000");
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_EQ(Scritta(g, "ShapeResistenza"), "solo M");
     EXPECT_EQ(Scritta(g, "LblTaglio"), "V > Vj,Rd");
 }
@@ -96,7 +96,7 @@ TEST_F(CalcoloGiuntiTest, SpanThatIsNotGivenIsAskedForAndTheCalculationGoesOn) {
     NodoT();
     Scrive("TxtM_Dx", "20");
     Verifica1Fila();
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_THAT(
         Detto(),
         testing::Contains("Inserire la luce della trave per classificare il giunto in base alla rigidezza"));
@@ -109,7 +109,7 @@ TEST_F(CalcoloGiuntiTest, DesignFindsAJointAndShowsIt) {
     Tutorial();
     Scheda(1);
     EXPECT_THAT(Scritta(g, "LblObiettivo"), StartsWith("Mb,Rd = "));
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     ASSERT_TRUE(Joint().Acquisito);
     EXPECT_EQ(Legge("Textbf"), TestoPiano(Joint().bf));
     EXPECT_EQ(Legge("Texttf"), TestoPiano(Joint().tf));
@@ -118,9 +118,9 @@ TEST_F(CalcoloGiuntiTest, DesignFindsAJointAndShowsIt) {
     EXPECT_TRUE(Trova<QPushButton>(g, "CmdAzzera")->isEnabled());
     EXPECT_TRUE(Trova<QWidget>(g, "FrameTipoanalisi")->isVisibleTo(g));
     EXPECT_FALSE(Trova<QWidget>(g, "FrameAttesa")->isVisibleTo(g));
-    Premi(g, "CmdRisultati");
+    Preme(g, "CmdRisultati");
     EXPECT_EQ(Aperto("FrmRisultatiIntermedi").origine, g);
-    Premi(g, "CmdAzzera");
+    Preme(g, "CmdAzzera");
     EXPECT_EQ(Legge("Textbf"), "");
     EXPECT_EQ(Joint().bf, 0);
     EXPECT_FALSE(Joint().Acquisito);
@@ -151,10 +151,10 @@ TEST_F(CalcoloGiuntiTest, OnlyTheStopReactsWhileASearchRuns) {
         }
         EXPECT_THAT(Scritta(g, "LblAttesa"), AllOf(HasSubstr("Progetto in corso"), HasSubstr("provati")));
         if (seen == 3)
-            Premi(g, "CmdInterrompi");
+            Preme(g, "CmdInterrompi");
         return true;
     });
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_EQ(seen, 3) << "stops after the current candidate";
     EXPECT_TRUE(Joint().Acquisito) << "the best is applied";
     EXPECT_TRUE(Trova<QPushButton>(g, "cmdCalcola")->isEnabled());
@@ -164,12 +164,12 @@ TEST_F(CalcoloGiuntiTest, OnlyTheStopReactsWhileASearchRuns) {
 
 TEST_F(CalcoloGiuntiTest, RowOfAnImprovementGoesBackIntoTheJoint) {
     Tutorial();
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     const auto& table = Joint().RisultatiIntermedi_Estrai();
     ASSERT_GT(table.n(), 1);
     const double bf = table.Numero(1, 5);
     const auto M = std::get<std::string>(table[1][2]);
-    g->InserisciSelezione(1);
+    g->InserisceSelezione(1);
     EXPECT_EQ(Joint().bf, bf);
     EXPECT_EQ(Formato("0.00", Joint().MplRdGIUNTO), M);
     EXPECT_TRUE(Joint().Acquisito);
@@ -184,7 +184,7 @@ TEST_F(CalcoloGiuntiTest, StiffenersThatTheOtherJointHasNotAreAskedAbout) {
     Prende("CmdTraveSx", "IPE 270");
     Scrive("TxtL_Dx", "6");
     Verifica1Fila();
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     ASSERT_TRUE(g->NodoCorrente.Giunti[1]->Acquisito);
     Detto();
     Trova<QComboBox>(g, "CboGiunto")->setCurrentIndex(1);
@@ -204,13 +204,13 @@ TEST_F(CalcoloGiuntiTest, StiffenersThatTheOtherJointHasNotAreAskedAbout) {
 TEST_F(CalcoloGiuntiTest, AdviceOfEveryTopic) {
     Apre();
     for (int i = 0; i <= 20; ++i) {
-        Premi(g, ("lblInfo_" + std::to_string(i)).c_str());
+        Preme(g, ("lblInfo_" + std::to_string(i)).c_str());
         EXPECT_THAT(Detto(), ElementsAre(StartsWith("Per "))) << i;
     }
-    Premi(g, "lblInfo_3");
+    Preme(g, "lblInfo_3");
     EXPECT_THAT(Detto(), ElementsAre(HasSubstr("oppure la classe 10.9")));
     Sceglie("Optres_1");
-    Premi(g, "lblInfo_3");
+    Preme(g, "lblInfo_3");
     EXPECT_THAT(Detto(), ElementsAre(testing::Not(HasSubstr("10.9"))));
 }
 
@@ -218,7 +218,7 @@ TEST_F(CalcoloGiuntiTest, TutorialFromTheDesignToTheReport) {
     Tutorial();
     Trova<QLineEdit>(g, "TxtDescrizione")->setText("Nodo \"T\"");
     EXPECT_EQ(Legge("TxtDescrizione"), "Nodo ''T''");
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     Detto();
     const std::string M = Legge("TxtMjRd");
     const double k = Joint().k4;
@@ -251,7 +251,7 @@ TEST_F(CalcoloGiuntiTest, TutorialFromTheDesignToTheReport) {
     EXPECT_TRUE(report.contains("   NOME FILE: altro.Gfl\r\n")) << report.toStdString();
     EXPECT_TRUE(report.contains("GIUNTO : destro"));
     EXPECT_TRUE(report.contains("     Trave : IPE 270"));
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_THAT(Scritta(g, "LblStato"), testing::Not(HasSubstr("dal file")));
 }
 

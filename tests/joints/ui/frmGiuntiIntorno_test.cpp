@@ -41,7 +41,7 @@ protected:
         Scrive("Texttf_1", "25");
         Scrive("TextL", "100");
         Scrive("Textu_1", "20");
-        Premi(g, "cmdCalcola");
+        Preme(g, "cmdCalcola");
         ASSERT_GT(Joint().RisultatiIntermedi_Estrai().n(), 1);
     }
     void DoppioClic(const char* casella) const {
@@ -64,18 +64,18 @@ TEST_F(IntornoGiuntiTest, RowFromTheListGivesItsMomentAlsoAfterACheck) {
     Progettato();
     const auto M = std::get<std::string>(Joint().RisultatiIntermedi_Estrai()[1][2]);
     Sceglie("OptCriterio_1");
-    Premi(g, "cmdCalcola");
-    Premi(g, "CmdRisultati");
+    Preme(g, "cmdCalcola");
+    Preme(g, "CmdRisultati");
     const Schermo& list = Aperto("FrmRisultatiIntermedi");
     Trova<QTableView>(&list, "Griglia")->selectRow(0);
-    Premi(&list, "CmdInsericiSelezione");
+    Preme(&list, "CmdInsericiSelezione");
     EXPECT_EQ(Formato("0.00", Joint().MplRdGIUNTO), M);
     EXPECT_EQ(Legge("TxtMjRd"), FormatoCifre(4, Joint().MplRdGIUNTO));
 }
 
 TEST_F(IntornoGiuntiTest, OtherDataForgetTheImprovements) {
     Progettato();
-    Premi(g, "CmdRisultati");
+    Preme(g, "CmdRisultati");
     const Schermo& list = Aperto("FrmRisultatiIntermedi");
     EXPECT_GT(Trova<QTableView>(&list, "Griglia")->model()->rowCount(), 1);
     Scrive("TxtM_Col", "10");
@@ -115,7 +115,7 @@ TEST_F(IntornoGiuntiTest, WhatGovernsHasTheColourOfItsGroup) {
     const auto* row = Trova<QLineEdit>(g, "txtFmin0");
     EXPECT_TRUE(row->font().bold());
     EXPECT_NE(row->palette().color(QPalette::Text), QApplication::palette().color(QPalette::Text));
-    Premi(g, "CmdAzzera");
+    Preme(g, "CmdAzzera");
     EXPECT_FALSE(row->font().bold());
     EXPECT_EQ(row->palette().color(QPalette::Text), QApplication::palette().color(QPalette::Text));
 }
@@ -158,7 +158,7 @@ TEST_F(IntornoGiuntiTest, EveryFormulaIsThere) {
 TEST_F(IntornoGiuntiTest, InfoTellsOfTheStiffeners) {
     NodoT();
     Sceglie("Optirr_2");
-    Premi(g, "CmdInfo");
+    Preme(g, "CmdInfo");
     EXPECT_THAT(Formula(), HasSubstr("in zona compressa"));
     EXPECT_THAT(Formula(), Not(HasSubstr("superiore")));
 }
@@ -172,7 +172,7 @@ TEST_F(IntornoGiuntiTest, EachJointOfAFileIsMarkedUntilItIsComputed) {
     for (const int i : {0, 1}) {
         joints->setCurrentIndex(i);
         Verifica1Fila();
-        Premi(g, "cmdCalcola");
+        Preme(g, "cmdCalcola");
     }
     const QString file = Percorso("nodo.Gfl");
     ImpostaSceltaFile(
@@ -180,7 +180,7 @@ TEST_F(IntornoGiuntiTest, EachJointOfAFileIsMarkedUntilItIsComputed) {
     Menu(2);
     Menu(1);
     EXPECT_THAT(Scritta(g, "LblStato"), HasSubstr("dal file"));
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_THAT(Scritta(g, "LblStato"), Not(HasSubstr("dal file")));
     joints->setCurrentIndex(1);
     EXPECT_THAT(Scritta(g, "LblStato"), HasSubstr("dal file"));
@@ -191,7 +191,7 @@ TEST_F(IntornoGiuntiTest, PaperAndFileHaveTheSameLines) {
         GTEST_SKIP() << "poppler-utils is not installed";
     NodoT();
     Verifica2File();
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     const QString file = Percorso("relazione.txt");
     const QString pdf = Percorso("relazione.pdf");
     ImpostaSceltaFile(

@@ -250,7 +250,7 @@ TEST_F(LimitiGiuntiTest, CheckWantsItsParametersOneAfterTheOther) {
         {"Inserire un valore diverso da zero per ex.", &Giunto::ex},
         {"Inserire un valore diverso da zero per u.", &Giunto::u}};
     for (const auto& [text, field] : steps) {
-        Premi(g, "cmdCalcola");
+        Preme(g, "cmdCalcola");
         EXPECT_THAT(Detto(), ElementsAre(text));
         EXPECT_FALSE(Joint().Acquisito);
         Joint().*field = 40;
@@ -259,13 +259,13 @@ TEST_F(LimitiGiuntiTest, CheckWantsItsParametersOneAfterTheOther) {
 
 TEST_F(LimitiGiuntiTest, DesignWantsItsLimitsOneAfterTheOther) {
     NodoT();
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_THAT(Detto(), ElementsAre("Inserire un valore diverso da zero per tf max."));
     Scrive("Texttf_1", "20");
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_THAT(Detto(), ElementsAre("Inserire un valore diverso da zero per h'max."));
     Scrive("TextL", "80");
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_THAT(Detto(), ElementsAre("Inserire un valore diverso da zero per u max."));
 }
 
@@ -276,7 +276,7 @@ TEST_F(LimitiGiuntiTest, OneRowWantsItsDistanceToo) {
     Scrive("Textbf", "150");
     Scrive("Textef", "35");
     Detto();
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     EXPECT_THAT(Detto(), ElementsAre("Inserire un valore diverso da zero per d2."));
 }
 
@@ -287,7 +287,7 @@ TEST_F(LimitiGiuntiTest, CalculationHoldsTheLimitsOnceMoreInTheirOrder) {
     Joint().ef = 5;
     Joint().d2 = 5;
     Joint().u = 1;
-    Premi(g, "cmdCalcola");
+    Preme(g, "cmdCalcola");
     const auto said = Detto();
     ASSERT_GE(said.size(), 4U);
     EXPECT_THAT(said[0], testing::StartsWith(" bf è inferiore"));
@@ -300,11 +300,11 @@ TEST_F(LimitiGiuntiTest, CalculationHoldsTheLimitsOnceMoreInTheirOrder) {
 
 TEST_F(LimitiGiuntiTest, ColumnOfClass4IsRefused) {
     Apre();
-    Premi(g, "CmdColonnaInf");
-    VaiA(*partenza, "IPE 500");
+    Preme(g, "CmdColonnaInf");
+    VaA(*partenza, "IPE 500");
     prove::Scrive(partenza, "Txt_fy", "355");
     ASSERT_EQ(Sezione().ClasseCompressione, 4);
-    Premi(partenza, "cmdSceltaSagomoGiunto");
+    Preme(partenza, "cmdSceltaSagomoGiunto");
     EXPECT_THAT(Detto(),
                 ElementsAre("Il sagomo scelto come colonna è di classe 4, non rispettando le ipotesi di "
                             "calcolo dell'Appendice J.\r\n                                           "

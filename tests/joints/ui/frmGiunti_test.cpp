@@ -92,12 +92,12 @@ TEST_F(FrmGiuntiTest, DesignOrCheckNamesTheCommand) {
 
 TEST_F(FrmGiuntiTest, SectionIsPickedAndTheScreenComesBack) {
     Apre();
-    Premi(g, "CmdTraveDx");
+    Preme(g, "CmdTraveDx");
     EXPECT_TRUE(partenza->isVisible());
     EXPECT_FALSE(g->isVisible());
     EXPECT_FALSE(partenza->cmdSceltaSagomoGiunto->isHidden());
-    VaiA(*partenza, "IPE 270");
-    Premi(partenza, "cmdSceltaSagomoGiunto");
+    VaA(*partenza, "IPE 270");
+    Preme(partenza, "cmdSceltaSagomoGiunto");
     EXPECT_TRUE(g->isVisible());
     EXPECT_FALSE(SceltaSagomoGiunto);
     EXPECT_EQ(Scritta(g, "LblTraveDx"), "IPE 270");
@@ -108,8 +108,8 @@ TEST_F(FrmGiuntiTest, SectionIsPickedAndTheScreenComesBack) {
 
 TEST_F(FrmGiuntiTest, MenuCompletesThePickToo) {
     Apre();
-    Premi(g, "CmdColonnaInf");
-    VaiA(*partenza, "HEB 200");
+    Preme(g, "CmdColonnaInf");
+    VaA(*partenza, "HEB 200");
     Trova<QAction>(partenza, "MnuGiunto")->trigger();
     EXPECT_EQ(Scritta(g, "LblColonnaInf"), "HEB 200");
     EXPECT_FALSE(SceltaSagomoGiunto);
@@ -118,11 +118,11 @@ TEST_F(FrmGiuntiTest, MenuCompletesThePickToo) {
 TEST_F(FrmGiuntiTest, NewNodeAndOneBeamGiveUpThePick) {
     Apre();
     Nodo(0);
-    Premi(g, "CmdTraveSx");
+    Preme(g, "CmdTraveSx");
     EXPECT_TRUE(SceltaSagomoGiunto);
     Nodo(2);
     EXPECT_FALSE(SceltaSagomoGiunto);
-    Premi(g, "CmdTraveDx");
+    Preme(g, "CmdTraveDx");
     EXPECT_TRUE(SceltaSagomoGiunto);
     g->NodoCorrente.ConnessioneCorrente->tf = 1;
     const Registratore yes(true);
@@ -154,14 +154,14 @@ TEST_F(FrmGiuntiTest, NegativeParameterIsMarked) {
 
 TEST_F(FrmGiuntiTest, WeldedSectionIsTakenFromItsScreen) {
     Apre();
-    Premi(g, "CmdColonnaInf");
+    Preme(g, "CmdColonnaInf");
     Trova<QAction>(partenza, "mnuTipoSaldati")->trigger();
     auto& welded = dynamic_cast<frmSaldati&>(Aperto("frmSaldati"));
     EXPECT_FALSE(welded.cmdSceltaSagomoGiunto->isHidden());
     welded.ChkTipo[0]->setChecked(true); // HSE
-    Premi(&welded, "AggiornaTabella");
-    VaiA(welded, "HSE 300x148");
-    Premi(&welded, "cmdSceltaSagomoGiunto");
+    Preme(&welded, "AggiornaTabella");
+    VaA(welded, "HSE 300x148");
+    Preme(&welded, "cmdSceltaSagomoGiunto");
     ASSERT_TRUE(g->isVisible());
     ASSERT_NE(g->NodoCorrente.Colonnainf, nullptr);
     EXPECT_TRUE(g->NodoCorrente.Colonnainf->Saldata);
@@ -170,14 +170,14 @@ TEST_F(FrmGiuntiTest, WeldedSectionIsTakenFromItsScreen) {
 
 TEST_F(FrmGiuntiTest, SectionOfAnotherFamilyIsNotTaken) {
     Apre();
-    Premi(g, "CmdTraveDx");
+    Preme(g, "CmdTraveDx");
     Trova<QAction>(partenza, "mnuTipoU")->trigger();
     Trova<QAction>(&Aperto("frmSagomiU"), "MnuGiunto")->trigger();
     EXPECT_EQ(Scritta(g, "LblTraveDx"), "NON ASSEGNATO");
     Trova<QAction>(g, "mnufileitem_5")->trigger(); // still to be picked
     Trova<QAction>(&Aperto("frmSagomiU"), "mnuTipoT")->trigger();
-    VaiA(*partenza, "IPE 240");
-    Premi(partenza, "cmdSceltaSagomoGiunto");
+    VaA(*partenza, "IPE 240");
+    Preme(partenza, "cmdSceltaSagomoGiunto");
     EXPECT_EQ(Scritta(g, "LblTraveDx"), "IPE 240");
 }
 

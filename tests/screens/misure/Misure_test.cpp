@@ -168,7 +168,7 @@ TEST_P(MisureTest, NothingIsCutMaximised) {
 
 TEST_P(MisureTest, EveryScreenShowsItsTexts) {
     auto& s = Avvia();
-    VaiA(s, "IPE 300");
+    VaA(s, "IPE 300");
     for (const bool maximised : {false, true}) {
         const std::string state = maximised ? "from maximised" : "from normal";
         if (maximised)
@@ -178,9 +178,9 @@ TEST_P(MisureTest, EveryScreenShowsItsTexts) {
             if (voce.nome == s.objectName())
                 continue;
             if (voce.nome == u"FrmPltSezione")
-                Premi(&s, "CmdPlotta");
+                Preme(&s, "CmdPlotta");
             else
-                NavigaSchermi::Unico().Apri(voce.nome, s);
+                NavigaSchermi::Unico().Apre(voce.nome, s);
             auto* screen = NavigaSchermi::Unico().Trova(voce.nome);
             ASSERT_NE(screen, nullptr) << voce.nome.toStdString();
             Guarda(*screen, state);
@@ -197,12 +197,12 @@ TEST_P(MisureTest, EveryScreenShowsItsTexts) {
 
 TEST_P(MisureTest, DetailsCoverNeitherEachOtherNorTheDesktopsEdge) {
     auto& s = Avvia();
-    VaiA(s, "IPE 300");
+    VaA(s, "IPE 300");
     s.showMaximized();
     Posa();
-    NavigaSchermi::Unico().Apri(QStringLiteral("FrmInstabDoppioT"), s);
+    NavigaSchermi::Unico().Apre(QStringLiteral("FrmInstabDoppioT"), s);
     Guarda(Aperto("FrmInstabDoppioT"), "first of two");
-    NavigaSchermi::Unico().Apri(QStringLiteral("FrmVerifiche"), s);
+    NavigaSchermi::Unico().Apre(QStringLiteral("FrmVerifiche"), s);
     Guarda(Aperto("FrmVerifiche"), "second of two");
 }
 
