@@ -235,7 +235,7 @@ private:
 } // namespace
 
 Disegno DiagrammaRigidezza(const Giunto& giunto) {
-    Disegno disegno{"Rigidezza del giunto", {}, {440, 280}, {300, 200}};
+    Disegno disegno{"Rigidezza del giunto", {}, {440, 280}, {300, 160}};
     disegno.PlottaInOggetto = [curva = CurvaGiunto(giunto), misura = disegno.misura](Superficie* oggetto,
                                                                                      std::string_view) {
         const Quadro quadro(oggetto, Dispositivo, misura);

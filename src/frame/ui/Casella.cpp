@@ -70,7 +70,9 @@ void Casella::resizeEvent(QResizeEvent* event) {
 QSize Casella::sizeHint() const {
     constexpr int rigaMinima = 14; // the toolkit takes no line for lower [px]
     const int lower = std::max(0, rigaMinima - fontMetrics().height());
-    return {fontMetrics().horizontalAdvance(u'0') * caratteri_ + margine,
+    QFont upright = font(); // a value that becomes bold leaves its column as wide as it was
+    upright.setBold(false);
+    return {QFontMetrics(upright).horizontalAdvance(u'0') * caratteri_ + margine,
             QLineEdit::sizeHint().height() - lower};
 }
 

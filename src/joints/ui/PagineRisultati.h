@@ -18,8 +18,10 @@ class PaginaResistenza : public QWidget {
 public:
     explicit PaginaResistenza(QWidget* parent = nullptr);
 
-    /// Shows the lines of one row of bolts, or of two.
+    /// Shows the lines of one row of bolts, or of two; the room is that of two.
     void MostraFile(int nf);
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 };
 
 /// The tab of the stiffness: coefficients and corrections, secant stiffness, limits, classes.
@@ -28,8 +30,10 @@ class PaginaRigidezza : public QWidget {
 public:
     explicit PaginaRigidezza(QWidget* parent = nullptr);
 
-    /// Shows the line of the outer row, or hides it.
+    /// Shows the line of the outer row, or hides it; its room stays.
     void MostraFile(int nf);
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 };
 
 } // namespace sagomi

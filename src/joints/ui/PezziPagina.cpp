@@ -12,6 +12,38 @@
 
 namespace sagomi {
 
+namespace {
+
+/// As small as its sign.
+class Domanda : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+    [[nodiscard]] QSize sizeHint() const override {
+        const QFontMetrics text = fontMetrics();
+        return {text.horizontalAdvance(u'?') + text.averageCharWidth() + 6, text.height() + 5};
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+class Nota : public QLabel {
+public:
+    explicit Nota(int lines) : righe_(lines) {
+        setTextFormat(Qt::PlainText);
+        setWordWrap(lines > 1);
+        setAlignment(Qt::AlignLeft | (lines > 1 ? Qt::AlignTop : Qt::AlignVCenter));
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    }
+    [[nodiscard]] QSize sizeHint() const override { return {QLabel::sizeHint().width(), Altezza()}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, Altezza()}; }
+    [[nodiscard]] bool hasHeightForWidth() const override { return false; }
+
+private:
+    [[nodiscard]] int Altezza() const { return righe_ * fontMetrics().lineSpacing() + 2; }
+    int righe_;
+};
+
+} // namespace
+
 QGridLayout* CreaStanza(QGroupBox* stanza, const char* nome, const char* titolo) {
     stanza->setObjectName(QString::fromUtf8(nome));
     stanza->setTitle(QString::fromUtf8(titolo));
@@ -61,19 +93,25 @@ QPushButton* CreaBottone(const char* nome, const char* testo, const char* aiuto)
 }
 
 QPushButton* CreaDomanda(int indice, const char* letta) {
-    auto* button = new QPushButton;
+    auto* button = new Domanda;
     button->setProperty(proprietaValore, true);
     button->setText(QStringLiteral("?"));
     button->setObjectName(QStringLiteral("lblInfo_") + QString::number(indice));
     button->setAccessibleName(QStringLiteral("Come migliorare: ") + QString::fromUtf8(letta));
     button->setToolTip(QStringLiteral("Come migliorare il risultato"));
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    button->setStyleSheet(QStringLiteral("padding: 1px 5px;"));
     return button;
 }
 
 QLabel* CreaEsposto(const char* nome, const char* letta, const char* testo) {
     QLabel* label = CreaScritta(testo);
+    label->setObjectName(QString::fromUtf8(nome));
+    label->setAccessibleName(QString::fromUtf8(letta));
+    return label;
+}
+
+QLabel* CreaNota(const char* nome, const char* letta, int righe) {
+    auto* label = new Nota(righe);
     label->setObjectName(QString::fromUtf8(nome));
     label->setAccessibleName(QString::fromUtf8(letta));
     return label;

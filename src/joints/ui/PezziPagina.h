@@ -44,6 +44,10 @@ QPushButton* CreaDomanda(int indice, const char* letta);
 /// A text that the screen writes, read as a result.
 QLabel* CreaEsposto(const char* nome, const char* letta, const char* testo = "");
 
+/// A text that the screen writes into a room of its own: lines that are kept also while it is empty, as wide
+/// as there is room, so that nothing around it moves.
+QLabel* CreaNota(const char* nome, const char* letta, int righe);
+
 /// A row of widgets with the spare room behind.
 QHBoxLayout* InRiga(const QList<QWidget*>& pezzi);
 QHBoxLayout* ScelteInRiga(const QList<QRadioButton*>& scelte);

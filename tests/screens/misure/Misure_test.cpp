@@ -18,7 +18,7 @@
 #include <string>
 
 #include "catalogue/ui/GrigliaCatalogo.h"
-#include "screens/Comandi.h"
+#include "joints/ui/AmbienteGiunti.h"
 
 /// Looks for texts that are cut, on every screen: maximised, at their own size, and beside each other. The
 /// desktop is given by --desktop=WIDTHxHEIGHT in its own pixels, the scale by QT_SCALE_FACTOR; where
@@ -73,16 +73,9 @@ void SegnalaTesti(const Schermo& s, const std::string& state) {
     }
 }
 
-/// A joint is more than the smallest desktops take: where its fonts are as small as can be read, 6 points of
-/// the device, it scrolls.
-bool DelNodo(const Schermo& s) {
-    const double points = s.Rapporto() * QApplication::font().pointSizeF() * s.devicePixelRatioF();
-    return s.objectName().startsWith(u"frmGiunti") && points < 6 + 1e-6;
-}
-
 void SegnalaScorrimenti(const Schermo& s, const std::string& state) {
     const auto* area = qobject_cast<const QScrollArea*>(s.centralWidget());
-    if (area == nullptr || DelNodo(s))
+    if (area == nullptr)
         return;
     EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0)
         << state << ": " << s.objectName().toStdString() << " scrolls sideways in " << s.width();
@@ -112,7 +105,7 @@ void SegnalaFuori(const Schermo& s, const std::string& state) {
         << "x" << s.height();
 }
 
-class MisureTest : public AmbienteSchermi, public testing::WithParamInterface<int> {
+class MisureTest : public AmbienteGiunti, public testing::WithParamInterface<int> {
 protected:
     void SetUp() override {
         prima_ = QApplication::font();
@@ -191,6 +184,28 @@ TEST_P(MisureTest, EveryScreenShowsItsTexts) {
                 NavigaSchermi::Unico().Passa(s, screen);
             } else
                 screen->close();
+        }
+    }
+}
+
+TEST_P(MisureTest, EveryTabOfAJointIsWhole) {
+    NodoT();
+    Scrive("TxtL_Dx", "6");
+    Scrive("TxtM_Dx", "20");
+    Scrive("TxtT_T", "130"); // more than the compressed row alone takes
+    const auto* tabs = Trova<QTabWidget>(g, "SSTab1");
+    const auto* drawing = Trova<QWidget>(g, "VistaGiunto");
+    Guarda(*g, "nothing computed");
+    const int room = drawing->width();
+    for (const int rows : {1, 2, 1}) {
+        rows == 1 ? Sceglie("Optfila_0") : Verifica2File();
+        if (rows == 1)
+            Verifica1Fila();
+        Premi(g, "cmdCalcola");
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            Scheda(tab);
+            Guarda(*g, std::to_string(rows) + " rows, tab " + std::to_string(tab));
+            EXPECT_EQ(drawing->width(), room) << "what is left to the drawing";
         }
     }
 }
