@@ -97,6 +97,12 @@ void Calcola(AcciaioCls& t) {
         t.SigmaCalcola();
 }
 
+/// All that a check shows is a number.
+bool Finiti(const AcciaioCls& t) {
+    const Singolo mostrati[] = {t.MplRd, t.yNeutro, t.SigmaCls, t.SigmaInf, t.SigmaSup, t.SigmaArm, t.Vl};
+    return std::ranges::all_of(mostrati, [](double v) { return std::isfinite(v); });
+}
+
 /// The moment in equilibrium, where it is another.
 std::optional<double> AltroMomento(const AcciaioCls& t) {
     if (!Plastica(t))
@@ -159,7 +165,7 @@ EsitoTrave VerificaTrave(AcciaioCls& t) {
     if (esito.nota.empty()) {
         const AscoltaSolutore solutore;
         Calcola(t);
-        esito.validi = !solutore.fallito && std::isfinite(t.yNeutro) && (Plastica(t) || t.Jid > 0);
+        esito.validi = !solutore.fallito && Finiti(t) && (Plastica(t) || t.Jid > 0);
     }
     if (esito.validi)
         esito.equilibrio = AltroMomento(t);

@@ -1,6 +1,8 @@
 #include "fasteners/VerdettoBullone.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
@@ -25,8 +27,12 @@ std::string Unisce(const std::string& a, const std::string& b) {
 /// The plate counts where it is given; a distance below its least leaves it no resistance.
 bool ConPiastra(const Bullone& b) { return b.t > 0 && b.fu > 0; }
 
-/// A force over a resistance of 0 is beyond it by any measure.
-double Utilizzo(double agente, double resistente) { return agente == 0 ? 0 : agente / resistente; }
+/// A force over a resistance of 0 is beyond it by any measure; below 0 there is none to hold it against.
+double Utilizzo(double agente, double resistente) {
+    if (!(resistente >= 0))
+        return std::numeric_limits<double>::quiet_NaN();
+    return agente == 0 ? 0 : agente / resistente;
+}
 
 TermineBullone Maggiore(const TerminiTaglioTrazione& t) {
     if (!(t.Somma() > 0))
@@ -40,13 +46,13 @@ std::string VerdettoBullone::Motivo() const { return Unisce(motivoTaglio, motivo
 
 VerdettoBullone Giudica(const Bullone& b) {
     VerdettoBullone v;
-    if (b.FvRd == 0 || b.FtRd == 0)
+    if (!(b.FvRd > 0 && b.FtRd > 0))
         return v;
     const TerminiTaglioTrazione sum = b.TerminiInterazione();
     v.utilizzo = sum.Somma();
     v.governa = Maggiore(sum);
     const auto considera = [&v](double utilizzo, TermineBullone termine) {
-        if (!(utilizzo > v.utilizzo))
+        if (utilizzo <= v.utilizzo || std::isnan(v.utilizzo))
             return;
         v.utilizzo = utilizzo;
         v.governa = termine;

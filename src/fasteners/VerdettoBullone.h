@@ -14,7 +14,7 @@ enum class TermineBullone { Nessuno, Taglio, Trazione, Rifollamento };
 /// counts tension over 1.4 times its resistance, each force alone is held against its own.
 struct VerdettoBullone {
     /// Held against 1: the largest of the sum and the forces over their own resistances. No number where a
-    /// resistance is 0, which has no verdict.
+    /// resistance is not above 0, which has no verdict.
     double utilizzo = std::numeric_limits<double>::quiet_NaN();
     TermineBullone governa = TermineBullone::Nessuno; ///< none where nothing acts
     std::string motivoTaglio;                         ///< why the shear force alone is too much; else empty

@@ -18,6 +18,8 @@ namespace {
 
 constexpr double passo1Fila = 5; ///< of the width of the plate with one row [mm]
 constexpr double margineL = 10;  ///< the extension may grow so far beyond the best before giving up [mm]
+constexpr double misuraMassima =
+    1e4; ///< of a plate: beyond it the steps of the search would have no end [mm]
 constexpr const char* titolo = "Giunto Flangiato";
 
 /// The coefficients of a search, in force while one lives.
@@ -67,6 +69,8 @@ bool RicercaGiunto::Esegue() {
     g_.VplRdPannello_Calcola(g_.Beta);
     g_.parametriSelezione_.Svuota();
     g_.MplRdGIUNTO = 0;
+    if (tfMax_ < 1 || !(g_.c().b <= misuraMassima) || (dueFile_ && !(g_.L_max <= misuraMassima)))
+        return false;
     if (dueFile_)
         Progetto2File();
     else
@@ -83,7 +87,7 @@ void RicercaGiunto::Progetto1Fila() {
     for (double bf = ParteIntera(g_.t().b); bf <= ultima; bf += passo1Fila) {
         g_.bf = bf;
         (void)GiroBulloni();
-        if (fermata_ || Raggiunto())
+        if (Ferma() || Raggiunto())
             return;
     }
 }
@@ -94,7 +98,7 @@ void RicercaGiunto::Progetto2File() {
     for (double bf = ParteIntera(g_.t().b); bf <= ultima; bf += passo_) {
         g_.bf = bf;
         GiroEstensioni();
-        if (fermata_ || Raggiunto())
+        if (Ferma() || Raggiunto())
             return;
     }
 }
@@ -105,13 +109,21 @@ void RicercaGiunto::GiroEstensioni() {
     for (double L = LIniziale_; L <= ultima; L += passo_) {
         g_.L = L;
         const double MBolt = GiroBulloni();
-        if (fermata_ || (MBolt <= ML && L > record_.L + margineL))
+        if (Ferma() || (MBolt <= ML && L > record_.L + margineL))
             return;
         if (MBolt > ML)
             ML = MBolt;
         if (Raggiunto())
             return;
     }
+}
+
+/// A turn in which there was no candidate has not asked whether to go on.
+bool RicercaGiunto::Ferma() {
+    if (!provato_ && !fermata_)
+        fermata_ = !sagomi::Prosegue();
+    provato_ = false;
+    return fermata_;
 }
 
 /// @return greatest moment of the turn
@@ -196,6 +208,7 @@ void RicercaGiunto::PreparaBordo(double ef) {
 }
 
 void RicercaGiunto::Candidato(double tf) {
+    provato_ = true;
     g_.tf = tf;
     g_.lb = g_.c().tf + tf + g_.rond_s + (g_.bul_m + g_.bul_k) / 2;
     if (!compressioneIrrigidita_)

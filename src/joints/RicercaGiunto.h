@@ -38,6 +38,7 @@ private:
     void CompressioneSenzaIrrigidimenti();
     void Migliora();
     [[nodiscard]] bool Prosegue(bool migliora);
+    [[nodiscard]] bool Ferma();
     [[nodiscard]] RigaSelezione Riga() const;
     [[nodiscard]] bool Raggiunto() const { return g_.MplRdGIUNTO > obiettivo_; }
 
@@ -53,6 +54,7 @@ private:
     std::int16_t BulloneIniziale_ = 1;
     double LIniziale_ = 0;
     bool fermata_ = false;
+    bool provato_ = false; ///< a candidate in this turn of the outer loops
 };
 
 } // namespace sagomi

@@ -225,8 +225,8 @@ VerdettoGiunto Giudica(const Giunto& g) {
     const double M = g.Trave->Mysd;
     const double V = std::abs(g.Trave->Vsd());
     v.presente = true;
-    v.resiste = !(std::abs(M) > g.MplRdGIUNTO);
-    if (V > g.Vrd1)
+    v.resiste = std::abs(M) <= g.MplRdGIUNTO; // not of what is no number
+    if (!(V <= g.Vrd1))
         v.taglio = "V > Vj,Rd";
     else if (V > g.Vrd0)
         v.notaTaglio = "V > Vj,Rd della sola fila in zona compressa";

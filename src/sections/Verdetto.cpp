@@ -19,6 +19,8 @@ struct Grandezze {
     double N, My, Mz;
 
     [[nodiscard]] double Somma() const { return N + My + Mz; }
+    /// A resistance below 0, of data that are no section's, would hide another term.
+    [[nodiscard]] bool Valide() const { return N >= 0 && My >= 0 && Mz >= 0; }
 };
 
 double Grandezza(const TermineMomento& t) {
@@ -53,7 +55,7 @@ std::string MotivoGrandezze(double somma) {
 
 Verdetto Oltre(double N, double resistenza, const std::string& simbolo) {
     Verdetto v;
-    v.utilizzo = std::abs(N) / resistenza;
+    v.utilizzo = resistenza > 0 ? std::abs(N) / resistenza : std::numeric_limits<double>::infinity();
     v.governa = TermineVerifica::N;
     v.assialeOltre = true;
     v.motivo = MotivoAssiale(N, resistenza, simbolo);
@@ -79,7 +81,7 @@ Verdetto Giudica(const TerminiInterazione& termini, const ResistenzeAssiali& r) 
     Verdetto v;
     v.somma = termini.Somma();
     v.governa = Maggiore(g);
-    v.utilizzo = g.Somma();
+    v.utilizzo = g.Valide() ? g.Somma() : std::numeric_limits<double>::quiet_NaN();
     if (std::isnan(v.somma) || (v.utilizzo > 1 && !(v.somma > 1)))
         v.motivo = std::isfinite(v.utilizzo) ? MotivoGrandezze(v.utilizzo) : "";
     return v;

@@ -211,4 +211,13 @@ TEST_F(VerificaTraveTest, Classes) {
     EXPECT_EQ(MessaggioClasse(*t.Sezione), "Sezione di classe 4\nSolo verifica elastica");
 }
 
+// A section of 5E37 mm: the axis is a number, the moment is none.
+TEST_F(VerificaTraveTest, AMomentThatIsNoNumberIsNoResult) {
+    AcciaioCls t = Trave(sluPositivo);
+    InUso(235, 5e37, 150, 7, 10);
+    const EsitoTrave esito = VerificaTrave(t);
+    EXPECT_TRUE(!esito.validi || std::isfinite(t.MplRd));
+    EXPECT_FALSE(std::isnan(double(t.MplRd)));
+}
+
 } // namespace

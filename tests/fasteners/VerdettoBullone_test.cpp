@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 
 using namespace sagomi;
 
@@ -72,6 +73,15 @@ TEST(VerdettoBullone, WithoutForceNothingGovernsAndWithoutResistanceNothingIsJud
     Bullone b = Con(10, 0);
     b.FtRd = 0;
     EXPECT_TRUE(std::isnan(Giudica(b).utilizzo));
+}
+
+TEST(VerdettoBullone, ResistancesThatAreNoneGiveNoVerdict) {
+    Bullone b = Con(10, 10, 10);
+    b.FtRd = -80e3;
+    EXPECT_TRUE(std::isnan(Giudica(b).utilizzo));
+    b = Con(10, 10, 10);
+    b.FbRd = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_TRUE(std::isnan(Giudica(b).utilizzo)) << "bearing is not left out";
 }
 
 } // namespace

@@ -44,7 +44,10 @@ inline void Calcola(Nodo& nodo) {
 /// A verdict that a joint holds stands on numbers.
 inline void ControllaVerdetto(const Giunto& g) {
     const VerdettoGiunto v = Giudica(g);
-    Pretende(!v.presente || !v.resiste || (!std::isnan(g.MplRdGIUNTO) && !std::isnan(g.MbSd)));
+    if (!v.presente || !v.resiste)
+        return;
+    Pretende(!std::isnan(g.MplRdGIUNTO) && !std::isnan(double(g.Trave->Mysd)));
+    Pretende(!v.taglio.empty() || (!std::isnan(g.Vrd1) && !std::isnan(double(g.Trave->Vsd()))));
 }
 
 /// All that a screen does with a node: calculation, texts, report, drawings.

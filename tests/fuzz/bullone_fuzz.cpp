@@ -21,6 +21,8 @@ void Verifica(Bullone& b) {
     b.RifollamentoCalcola();
     const VerdettoBullone v = Giudica(b);
     if (v.utilizzo <= 1) {
+        Pretende(v.utilizzo >= 0 || b.FvSd < 0 || b.FtSd < 0);
+        Pretende(!(b.t > 0 && b.fu > 0 && std::isnan(double(b.FbRd))));
         Pretende(!std::isnan(double(b.FvSd)) && !std::isnan(double(b.FtSd)));
         Pretende(!std::isnan(double(b.FvRd)) && !std::isnan(double(b.FtRd)));
     }

@@ -27,12 +27,14 @@ void Riempie(NumeriArbitrari& numeri, std::initializer_list<Singolo*> campi, boo
         *campo = misure ? numeri.Misura() : numeri.Numero();
 }
 
-/// The verdict "holds" is given for numbers only.
+/// The verdict "holds" is given for numbers only. (A negative moment may have no power, but it has a
+/// magnitude.)
 void Controlla(const Verdetto& v, const TerminiInterazione& t) {
     if (!(v.utilizzo <= 1))
         return;
-    Pretende(!std::isnan(t.NSd) && !std::isnan(t.N()) && !std::isnan(t.y.Valore()) &&
-             !std::isnan(t.z.Valore()));
+    Pretende(v.utilizzo >= 0 && !v.assialeOltre && !std::isnan(t.NSd));
+    for (const TermineMomento& m : {t.y, t.z})
+        Pretende(!std::isnan(m.M()) && !std::isnan(m.MRd) && !std::isnan(m.k));
 }
 
 template <typename S> void Disegna(const S& s) {

@@ -365,3 +365,23 @@ TEST_F(Ricerca, EstensioneOltreIlMigliore) {
     ASSERT_TRUE(n.EsegueCalcolo(&o));
     EXPECT_GE(massima, std::min(g().L + 10, 150.0));
 }
+
+// Steps of 5 mm would never get there.
+TEST_F(Ricerca, UnLimiteSmisuratoNonSiCerca) {
+    g().nf = 2;
+    g().L_max = 1e30;
+    EXPECT_FALSE(n.EsegueCalcolo(&o));
+    EXPECT_EQ(o.candidati, 0);
+}
+
+// A plate of 10 mm has no room for a hole: there is no candidate that would ask.
+TEST_F(Ricerca, ChiedeDiProseguireAncheSenzaCandidati) {
+    auto stretta = IPE300();
+    stretta->b = 10;
+    n.TraveDx = stretta;
+    int domande = 0;
+    const Attesa attesa([&] { return ++domande < 3; });
+    EXPECT_FALSE(n.EsegueCalcolo(&o));
+    EXPECT_EQ(o.candidati, 0);
+    EXPECT_EQ(domande, 3);
+}

@@ -107,4 +107,12 @@ TEST(Verdetto, EachCheckHasItsOwnAxialResistance) {
     EXPECT_TRUE(GiudicaInstabilita(s).assialeOltre);
 }
 
+TEST(Verdetto, AResistanceBelowZeroHoldsNothing) {
+    TerminiInterazione t = Termini(300e3, 0.25, 0.25);
+    t.y.MRd = -1;
+    EXPECT_TRUE(std::isnan(Giudica(t, resistenze).utilizzo)) << "the term would hide the others";
+    EXPECT_GT(Giudica(Termini(300e3, 0, 0), {-600e3, "Nb,z,Rd", 1000e3}).utilizzo, 1);
+    EXPECT_GT(Giudica(Termini(-300e3, 0, 0), {600e3, "Nb,z,Rd", -1000e3}).utilizzo, 1);
+}
+
 } // namespace
