@@ -174,6 +174,53 @@ EsitoTrave VerificaTrave(AcciaioCls& t) {
     return esito;
 }
 
+namespace {
+
+VerdettoTrave GiudicaTensioni(const AcciaioCls& t) {
+    struct Parte {
+        const char* nome;
+        double tensione, limite;
+    };
+    const Parte parti[] = {{"calcestruzzo", std::max(-double(t.SigmaCls), 0.0), AcciaioCls::fcd()},
+                           {"armatura", t.As > 0 ? std::abs(double(t.SigmaArm)) : 0, AcciaioCls::fsd()},
+                           {"lembo superiore dell'acciaio", std::abs(double(t.SigmaSup)), t.fyd()},
+                           {"lembo inferiore dell'acciaio", std::abs(double(t.SigmaInf)), t.fyd()}};
+    VerdettoTrave v{.utilizzo = 0, .governa = {}, .motivo = {}};
+    for (const Parte& p : parti)
+        if (p.tensione > 0 && !(p.tensione / p.limite <= v.utilizzo)) {
+            v.utilizzo = p.tensione / p.limite;
+            v.governa = p.nome;
+        }
+    return v;
+}
+
+std::string SenzaVerdetto(const AcciaioCls& t, const EsitoTrave& esito) {
+    if (!esito.validi)
+        return esito.nota.empty() ? "nessun risultato" : esito.nota;
+    if (esito.soloElastica && Plastica(t))
+        return "sezione di classe 3 o 4: solo verifica elastica";
+    if (Positivo(t) ? t.Msd < 0 : t.Msd > 0)
+        return "Msd ha il segno dell'altra verifica";
+    return {};
+}
+
+} // namespace
+
+// EC4 6.2.1.
+VerdettoTrave Giudica(const AcciaioCls& t, const EsitoTrave& esito) {
+    VerdettoTrave v;
+    v.motivo = SenzaVerdetto(t, esito);
+    if (!v.motivo.empty())
+        return v;
+    if (!Plastica(t))
+        return GiudicaTensioni(t);
+    const double proprio = std::abs(double(t.MplRd));
+    const double minore = esito.equilibrio ? std::min(proprio, std::abs(*esito.equilibrio)) : proprio;
+    if (minore > 0)
+        v.utilizzo = std::abs(double(t.Msd)) / minore;
+    return v;
+}
+
 std::string TestoEquilibrio(const EsitoTrave& esito) {
     if (!esito.equilibrio)
         return {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +24,17 @@ struct EsitoTrave {
 /// holds back results that would mislead: after a message of the solver, with ribs that overlap, without a
 /// slab above the deck, with bars outside the slab.
 EsitoTrave VerificaTrave(AcciaioCls& trave);
+
+/// What a check says of the acting moment.
+struct VerdettoTrave {
+    /// Held against 1: |Msd| over the smaller of MplRd and the moment in equilibrium, or the largest stress
+    /// over its limit (fyd of the steel, fsd of the bars, fcd of compressed concrete; EC4 6.2.1.5 (2)). No
+    /// number where there is no verdict.
+    double utilizzo = std::numeric_limits<double>::quiet_NaN();
+    std::string governa; ///< elastic: the part whose stress is the largest
+    std::string motivo;  ///< why there is no verdict
+};
+[[nodiscard]] VerdettoTrave Giudica(const AcciaioCls& trave, const EsitoTrave& esito);
 
 /// Why the data of an accepted beam cannot give results; empty where they can.
 [[nodiscard]] std::string DatiFuorvianti(const AcciaioCls& trave);

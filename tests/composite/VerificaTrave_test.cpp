@@ -220,4 +220,40 @@ TEST_F(VerificaTraveTest, AMomentThatIsNoNumberIsNoResult) {
     EXPECT_FALSE(std::isnan(double(t.MplRd)));
 }
 
+// Fc = 17 x 600 x 120 = 1224 kN, Fa = 5246 x 360 = 1888.56 kN: 332.28 kN of the top flange are compressed,
+// 6.153 mm of it. M = 1224 x 360 + 664.56 x 296.923 - 1888.56 x 150 = 354.68 kNm.
+TEST_F(VerificaTraveTest, APlasticMomentIsHeldAgainstTheResistance) {
+    AcciaioCls t = Trave(sluPositivo);
+    t.Msd = 177.34e6;
+    const EsitoTrave esito = VerificaTrave(t);
+    const VerdettoTrave v = Giudica(t, esito);
+    EXPECT_NEAR(v.utilizzo, 0.5, 1e-3);
+    EXPECT_TRUE(v.motivo.empty());
+    t.Msd = -1e6;
+    EXPECT_TRUE(std::isnan(Giudica(t, esito).utilizzo));
+    EXPECT_EQ(Giudica(t, esito).motivo, "Msd ha il segno dell'altra verifica");
+    EsitoTrave altro = esito;
+    altro.equilibrio = 177.34e6;
+    t.Msd = 177.34e6;
+    EXPECT_NEAR(Giudica(t, altro).utilizzo, 1, 1e-3);
+}
+
+TEST_F(VerificaTraveTest, TheLargestStressOverItsLimitGoverns) {
+    AcciaioCls t = Trave(metodoNPositivo);
+    t.Msd = 100e6;
+    const EsitoTrave esito = VerificaTrave(t);
+    const VerdettoTrave v = Giudica(t, esito);
+    EXPECT_EQ(v.governa, "lembo inferiore dell'acciaio");
+    EXPECT_NEAR(v.utilizzo, t.SigmaInf / 360, 1e-9);
+    EXPECT_LT(-t.SigmaCls / 17, v.utilizzo);
+}
+
+TEST_F(VerificaTraveTest, WithoutResultsThereIsNoVerdict) {
+    AcciaioCls t = Trave(sluPositivo);
+    t.hc = 0;
+    const EsitoTrave esito = VerificaTrave(t);
+    EXPECT_TRUE(std::isnan(Giudica(t, esito).utilizzo));
+    EXPECT_EQ(Giudica(t, esito).motivo, "hc = 0");
+}
+
 } // namespace

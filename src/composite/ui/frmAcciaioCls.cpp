@@ -18,8 +18,8 @@
 
 #include "catalogue/Lettore.h"
 #include "composite/DisegniTraveMista.h"
+#include "composite/DisegnoVivo.h"
 #include "composite/ui/CampiTrave.h"
-#include "composite/ui/DisegnoVivo.h"
 #include "composite/ui/FormaTrave.h"
 #include "drawing/ui/FrmPltSezione.h"
 #include "frame/GeneraleSagomi.h"

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "composite/DisegniTraveMista.h"
-#include "composite/ui/DisegnoVivo.h"
+#include "composite/DisegnoVivo.h"
 #include "drawing/Superficie.h"
 #include "drawing/ui/ImmagineDisegno.h"
 #include "frame/GeneraleSagomi.h"

@@ -1,7 +1,4 @@
-#include "composite/ui/DisegnoVivo.h"
-
-#include <QScopeGuard>
-#include <QScopedValueRollback>
+#include "composite/DisegnoVivo.h"
 
 #include <algorithm>
 #include <memory>
@@ -21,12 +18,38 @@ namespace sagomi {
 
 namespace {
 
+/// While one lives, a section is the one in use.
+class SezioneInForza {
+public:
+    explicit SezioneInForza(RiferimentoSezione sezione) : prima_(std::move(SezioneCorrente)) {
+        SezioneCorrente = std::move(sezione);
+    }
+    ~SezioneInForza() { SezioneCorrente = std::move(prima_); }
+    SezioneInForza(const SezioneInForza&) = delete;
+    SezioneInForza& operator=(const SezioneInForza&) = delete;
+
+private:
+    RiferimentoSezione prima_;
+};
+
+/// While one lives, materials are those in force.
+class MaterialiInForza {
+public:
+    explicit MaterialiInForza(const MaterialiTrave& materiali) { materiali.Imposta(); }
+    ~MaterialiInForza() { prima_.Imposta(); }
+    MaterialiInForza(const MaterialiInForza&) = delete;
+    MaterialiInForza& operator=(const MaterialiInForza&) = delete;
+
+private:
+    MaterialiTrave prima_;
+};
+
 /// A copy with a section of its own, checked in silence; without results where that cannot be.
 std::shared_ptr<AcciaioCls> Provata(const AcciaioCls& trave) {
     const auto copy = std::make_shared<AcciaioCls>(trave);
     copy->Sezione = std::make_shared<SezioneDoppioT>(*trave.Sezione);
     const MessaggiTaciuti quiet;
-    const QScopedValueRollback own(SezioneCorrente, RiferimentoSezione(copy->Sezione));
+    const SezioneInForza own(copy->Sezione);
     if (trave.DatiGrecataAccettabili() && VerificaTrave(*copy).accettati)
         return copy;
     copy->AzzeraRisultati();
@@ -92,9 +115,7 @@ Disegno DisegnoVivo(const AcciaioCls& trave) {
     else
         drawing.PlottaInOggetto = [shown = Provata(trave), materials = MaterialiTrave()](
                                       Superficie* target, std::string_view screen) {
-            const MaterialiTrave inForce;
-            const auto back = qScopeGuard([&inForce] { inForce.Imposta(); });
-            materials.Imposta();
+            const MaterialiInForza inForce(materials);
             shown->PlottaAcciaioCls(target, screen, Dispositivo);
         };
     return drawing;
