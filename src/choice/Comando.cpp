@@ -7,8 +7,10 @@
 #include <ostream>
 
 #include "catalogue/Minuscole.h"
+#include "choice/FileRelazione.h"
 #include "choice/LavoriJson.h"
 #include "choice/Opzioni.h"
+#include "choice/RelazioneVerifica.h"
 #include "choice/ScritturaScelta.h"
 #include "frame/VersioneProgramma.h"
 
@@ -19,6 +21,8 @@ namespace {
 constexpr auto guida = R"(Uso: sagomi [file.sco|file.gfl]          apre le finestre, e il file
      sagomi --verifica "HEA 200" [opzioni]   verifica un sagomo
      sagomi --scelta [opzioni]               verifica tutti i sagomi, i più leggeri per primi
+     sagomi file|"HEA 200" [opzioni] --relazione o.txt --pdf o.pdf --dxf o.dxf
+                                             scrive la relazione di un file o di un sagomo, e il disegno
      sagomi --help, --version
 
 Azioni e lunghezze (numeri col punto decimale):
@@ -42,6 +46,9 @@ Cartella:
 Risposta:
   --json, --csv           per altri programmi
   --json da solo          legge lavori, uno per riga ({"verifica":"HEA 200","N":400}), e risponde a ciascuno
+Relazione, anche con --verifica:
+  --relazione file --pdf file --dxf file   testo, PDF, disegno: uno o più
+  --progetto "testo"      nome del progetto, in testa alla relazione
 Stato di uscita: 0 verificato, 1 non verificato, 2 uso errato.
 )";
 
@@ -78,15 +85,44 @@ bool Cercato(const Comando& c, const SagomoInGara& s) {
            Piegato(s.Designazione()) == Piegato(c.sagomo);
 }
 
+void ScriveRelazione(const Comando& c, DocumentoLetto documento, const std::vector<std::string>& messaggi) {
+    Relazione& r = documento.relazione;
+    r.progetto = c.progetto;
+    r.data = DataRelazione();
+    r.avvisi.insert(r.avvisi.end(), messaggi.begin(), messaggi.end());
+    ScriveUscite(documento, c.uscite);
+}
+
+/// What a name that is no section's may have been meant for.
+[[noreturn]] void NessunSagomo(const Comando& c) {
+    std::error_code nessuno;
+    const bool file = c.modo == ModoComando::Relazione &&
+                      (c.sagomo.find('/') != std::string::npos || std::filesystem::exists(c.sagomo, nessuno));
+    throw ErroreUso(file ? c.sagomo + " non è un file di Sagomi (Gfl, Sco)"
+                         : "nessun sagomo si chiama \"" + c.sagomo + '"');
+}
+
 int VerificaUno(const Comando& c, const Gara& gara, std::ostream& uscita) {
     const auto sagomo =
         std::ranges::find_if(gara.sagomi, [&](const SagomoInGara& s) { return Cercato(c, s); });
     if (sagomo == gara.sagomi.end())
-        throw ErroreUso("nessun sagomo si chiama \"" + c.sagomo + "\"");
+        NessunSagomo(c);
     std::vector<std::string> messaggi = gara.mancanti;
     const SagomoVerificato esito = Verifica(*sagomo, c.richiesta, messaggi);
-    ScriveVerifica(uscita, c, *sagomo, esito, messaggi);
+    if (c.uscite.Qualcuna())
+        ScriveRelazione(c, {RelazioneVerifica(*sagomo, esito, c.richiesta)}, messaggi);
+    if (c.modo == ModoComando::Verifica)
+        ScriveVerifica(uscita, c, *sagomo, esito, messaggi);
     return esito.riga.verificato ? comandoVerificato : comandoNonVerificato;
+}
+
+/// A file that is drawn and not reported has nothing to be verified.
+int RelazioneDiFile(const Comando& c) {
+    DocumentoLetto documento = LeggeDocumento(c.file);
+    const EsitoRelazione esito = documento.relazione.Esito();
+    ScriveRelazione(c, std::move(documento), {});
+    const bool soloDisegno = c.uscite.relazione.empty() && c.uscite.pdf.empty();
+    return soloDisegno || esito == EsitoRelazione::Passa ? comandoVerificato : comandoNonVerificato;
 }
 
 int SceglieFraTutti(const Comando& c, const Gara& gara, std::ostream& uscita) {
@@ -100,7 +136,7 @@ int SceglieFraTutti(const Comando& c, const Gara& gara, std::ostream& uscita) {
 int Risponde(Comando& c, const Gara& gara, std::ostream& uscita) {
     ControllaFamiglie(gara, c.filtri.famiglie);
     MetteInVigore(c);
-    return c.modo == ModoComando::Verifica ? VerificaUno(c, gara, uscita) : SceglieFraTutti(c, gara, uscita);
+    return c.modo == ModoComando::Scelta ? SceglieFraTutti(c, gara, uscita) : VerificaUno(c, gara, uscita);
 }
 
 /// One job; what is wrong with it is its answer, and those after it go on.
@@ -113,6 +149,8 @@ int EsegueLavoro(const LavoriJson& lavori, const std::string& riga, const std::v
         if ((c.modo != ModoComando::Verifica && c.modo != ModoComando::Scelta) ||
             c.formato != FormatoUscita::Json)
             throw ErroreUso("un lavoro chiede \"verifica\" o \"scelta\"");
+        if (c.uscite.Qualcuna())
+            throw ErroreUso("un lavoro risponde sull'uscita e non scrive file");
         return Risponde(c, gara, uscita);
     } catch (const std::exception& e) {
         ScriveErrore(uscita, e.what());
@@ -143,6 +181,10 @@ int Esegue(Comando c, const TrovaCartella& cartella, std::ostream& uscita) {
     if (c.modo == ModoComando::Versione) {
         uscita << "sagomi " << versioneProgramma << '\n';
         return comandoVerificato;
+    }
+    if (!c.file.empty()) {
+        MetteInVigore(c);
+        return RelazioneDiFile(c);
     }
     return Risponde(c, Legge(cartella(), c.filtri.famiglie), uscita);
 }

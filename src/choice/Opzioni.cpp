@@ -44,7 +44,7 @@ std::vector<std::string> Separati(const std::string& testo) {
 
 void Sceglie(Comando& c, ModoComando modo) {
     if (c.modo != ModoComando::Finestre && c.modo != modo)
-        throw ErroreUso("si può chiedere una cosa sola fra --verifica e --scelta");
+        throw ErroreUso("si può chiedere una cosa sola fra --verifica, --scelta e un file");
     c.modo = modo;
 }
 
@@ -52,6 +52,15 @@ void Scrive(Comando& c, FormatoUscita formato) {
     if (c.formato != FormatoUscita::Testo && c.formato != formato)
         throw ErroreUso("si può chiedere uno solo fra --json e --csv");
     c.formato = formato;
+}
+
+/// Names where an answer goes to.
+void Uscita(std::filesystem::path& uscita, const char* opzione, const std::string& nome) {
+    if (nome.empty() || nome.starts_with("--"))
+        throw ErroreUso(std::string(opzione) + " vuole il nome di un file, non \"" + nome + '"');
+    if (!uscita.empty())
+        throw ErroreUso(std::string(opzione) + " sta due volte");
+    uscita = nome;
 }
 
 std::int16_t Forma(double v) {
@@ -66,6 +75,10 @@ constexpr OpzioneTesto testi[] = {
     {"--acciaio",   [](Comando& c, const std::string& t) { c.acciaio = t; }},
     {"--normativa", [](Comando& c, const std::string& t) { c.normativa = t; }},
     {"--famiglie",  [](Comando& c, const std::string& t) { c.filtri.famiglie = Separati(t); }},
+    {"--relazione", [](Comando& c, const std::string& t) { Uscita(c.uscite.relazione, "--relazione", t); }},
+    {"--pdf",       [](Comando& c, const std::string& t) { Uscita(c.uscite.pdf, "--pdf", t); }},
+    {"--dxf",       [](Comando& c, const std::string& t) { Uscita(c.uscite.dxf, "--dxf", t); }},
+    {"--progetto",  [](Comando& c, const std::string& t) { c.progetto = t; }},
 };
 
 constexpr OpzioneNumero numeri[] = {
@@ -118,6 +131,21 @@ double NumeroDi(const OpzioneNumero& opzione, const std::string& testo) {
     return v;
 }
 
+/// Options that a file takes, too; the others tell what a section bears, or which ones take part.
+bool AncheDiFile(std::string_view nome) {
+    constexpr std::string_view anche[] = {"--relazione", "--pdf", "--dxf", "--progetto", "--normativa"};
+    return std::ranges::find(anche, nome) != std::end(anche);
+}
+
+/// A name without dashes: one file or section.
+void PrendeSoggetto(Comando& c, const std::string& nome) {
+    if (nome.empty())
+        throw ErroreUso("un nome vuoto non è né un file né un sagomo");
+    if (!c.file.empty() || !c.sagomo.empty())
+        throw ErroreUso("un solo file o sagomo alla volta: \"" + nome + "\" è di troppo");
+    (EFileDati(nome) ? c.file : c.sagomo) = nome;
+}
+
 /// Takes one option, with its value where it has one.
 /// @return how many arguments it has taken
 std::size_t Prende(Comando& c, std::span<const std::string> argomenti) {
@@ -133,6 +161,8 @@ std::size_t Prende(Comando& c, std::span<const std::string> argomenti) {
         throw ErroreUso("\"" + nome + "\" non è un'opzione");
     if (argomenti.size() < 2)
         throw ErroreUso(nome + " vuole un valore");
+    if (c.soloSagomi.empty() && !AncheDiFile(nome))
+        c.soloSagomi = nome;
     if (testo != std::end(testi))
         testo->prende(c, argomenti[1]);
     else
@@ -158,14 +188,60 @@ std::string NomiAcciai() {
     return nomi;
 }
 
+bool Stesso(const std::filesystem::path& a, const std::filesystem::path& b) {
+    std::error_code nessuno;
+    return !a.empty() && !b.empty() &&
+           std::filesystem::weakly_canonical(a, nessuno) == std::filesystem::weakly_canonical(b, nessuno);
+}
+
+/// No answer writes over another one, nor over the file that is read.
+void ControllaUscite(const Comando& c) {
+    const UsciteComando& u = c.uscite;
+    if (Stesso(u.relazione, u.pdf) || Stesso(u.relazione, u.dxf) || Stesso(u.pdf, u.dxf))
+        throw ErroreUso("--relazione, --pdf e --dxf vogliono file diversi");
+    for (const std::filesystem::path& uscita : {u.relazione, u.pdf, u.dxf})
+        if (Stesso(c.file, uscita))
+            throw ErroreUso("\"" + uscita.string() + "\" è il file da leggere: non si sovrascrive");
+}
+
+/// A name alone is reported; what does not go with it is refused.
+void ControllaSoggetto(Comando& c, const std::vector<std::string>& soggetti) {
+    if (!soggetti.empty() && !c.uscite.Qualcuna())
+        throw ErroreUso("\"" + soggetti.front() + "\" non è un'opzione");
+    for (const std::string& soggetto : soggetti)
+        PrendeSoggetto(c, soggetto);
+    if (!soggetti.empty())
+        Sceglie(c, ModoComando::Relazione);
+    if (c.uscite.Qualcuna() && c.modo == ModoComando::Scelta)
+        throw ErroreUso("--relazione, --pdf e --dxf vogliono un file Gfl o Sco o un sagomo, non --scelta");
+    if (c.uscite.Qualcuna() && c.modo == ModoComando::Finestre)
+        throw ErroreUso("--relazione, --pdf e --dxf vogliono un file Gfl o Sco o un sagomo");
+    if (!c.progetto.empty() && !c.uscite.Qualcuna())
+        throw ErroreUso("--progetto va con --relazione o --pdf");
+    if (c.modo == ModoComando::Relazione && c.formato != FormatoUscita::Testo)
+        throw ErroreUso("--json e --csv vanno con --verifica e --scelta");
+    if (!c.file.empty() && !c.soloSagomi.empty())
+        throw ErroreUso(c.soloSagomi + " vale per un sagomo: un file ha i suoi dati");
+    ControllaUscite(c);
+}
+
 } // namespace
 
 Comando LeggeOpzioni(const std::vector<std::string>& argomenti) {
     Comando c;
     if (std::ranges::none_of(argomenti, ENostra))
         return c;
-    for (std::span<const std::string> resto(argomenti); !resto.empty();)
-        resto = resto.subspan(Prende(c, resto));
+    std::vector<std::string> soggetti;
+    for (std::span<const std::string> resto(argomenti); !resto.empty();) {
+        if (resto.front().starts_with("-")) {
+            resto = resto.subspan(Prende(c, resto));
+            continue;
+        }
+        soggetti.push_back(resto.front());
+        resto = resto.subspan(1);
+    }
+    if (c.modo != ModoComando::Aiuto && c.modo != ModoComando::Versione)
+        ControllaSoggetto(c, soggetti);
     if (c.modo == ModoComando::Finestre && c.formato != FormatoUscita::Json)
         throw ErroreUso("manca che cosa fare: --verifica o --scelta");
     if (c.modo == ModoComando::Finestre)

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "choice/FileRelazione.h"
 #include "choice/Scelta.h"
 
 /// What a command line asks for.
@@ -18,13 +19,17 @@ public:
     using runtime_error::runtime_error;
 };
 
-enum class ModoComando : std::uint8_t { Finestre, Aiuto, Versione, Verifica, Scelta, Lavori };
+enum class ModoComando : std::uint8_t { Finestre, Aiuto, Versione, Verifica, Scelta, Lavori, Relazione };
 enum class FormatoUscita : std::uint8_t { Testo, Json, Csv };
 
 struct Comando {
     ModoComando modo = ModoComando::Finestre;
     FormatoUscita formato = FormatoUscita::Testo;
-    std::string sagomo; ///< name of the section to be checked
+    std::string sagomo; ///< name of the section to be checked, or to be reported
+    std::string file;   ///< joint or composite beam to be reported; empty for a section
+    UsciteComando uscite;
+    std::string progetto;   ///< stands on the report
+    std::string soloSagomi; ///< first option taken that a file has no use for
     std::string acciaio = "S235";
     double fy = 0; ///< another strength than the grade's [N/mm2]; 0 for none
     std::string normativa = "NTC";
@@ -33,8 +38,9 @@ struct Comando {
 };
 
 /// Reads the arguments without the program's name. Numbers have a point, whatever the locale. Without any of
-/// our options the windows are meant, whatever else stands there; --json without a question means jobs.
-/// Throws ErroreUso.
+/// our options the windows are meant, whatever else stands there; --json without a question means jobs. A
+/// name without dashes, a file's or a section's, asks for what --relazione, --pdf and --dxf write. Throws
+/// ErroreUso.
 Comando LeggeOpzioni(const std::vector<std::string>& argomenti);
 
 /// Takes --cartella with its folder out of the arguments; it holds for windows and answers alike.

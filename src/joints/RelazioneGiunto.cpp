@@ -7,19 +7,19 @@ namespace sagomi {
 
 namespace {
 
-constexpr std::string_view mm = " [mm]", kN = " [kN]", kNm = " [kNm]", kNm_rad = " [kNm/rad]";
+constexpr std::string_view mm = "[mm]", kN = "[kN]", kNm = "[kNm]", kNm_rad = "[kNm/rad]";
 
 /// Writes the lines of one joint.
 class Relatore {
 public:
-    Relatore(std::vector<std::string>& righe, const Nodo& nodo, int indice)
+    Relatore(std::vector<VoceRelazione>& righe, const Nodo& nodo, int indice)
         : righe_(righe), nodo_(nodo), testi_(nodo, indice), destro_(indice == 1),
           giunto_(nodo.Giunti[indice].Riferimento().get()) {}
 
     void Scrive();
 
 private:
-    void Riga(std::string_view testo) { righe_.emplace_back(testo); }
+    void Riga(std::string_view testo) { righe_.push_back({std::string(testo), {}, {}}); }
     void Valore(std::string_view testo, std::string_view controllo, std::string_view unita = {});
     void Testo(std::string_view controllo);
 
@@ -37,7 +37,7 @@ private:
 
     [[nodiscard]] bool DueFile() const { return giunto_->nf == 2; }
 
-    std::vector<std::string>& righe_;
+    std::vector<VoceRelazione>& righe_;
     const Nodo& nodo_;
     TestiGiunto testi_;
     bool destro_;
@@ -46,9 +46,8 @@ private:
 
 void Relatore::Valore(std::string_view testo, std::string_view controllo, std::string_view unita) {
     const std::string valore = testi_.Valore(controllo);
-    righe_.push_back(std::string(testo) + valore);
-    if (!valore.empty() && valore != testoInfinito)
-        righe_.back() += unita;
+    const bool numero = !valore.empty() && valore != testoInfinito;
+    righe_.push_back({std::string(testo), valore, std::string(numero ? unita : std::string_view()), true});
 }
 
 /// A text of more than one line, as it stands.
@@ -199,10 +198,21 @@ void Relatore::Rigidezze() {
 
 } // namespace
 
+std::string VoceRelazione::Riga() const {
+    return unita.empty() ? testo + valore : testo + valore + ' ' + unita;
+}
+
+std::vector<VoceRelazione> VociRelazione(const Nodo& nodo, int indice) {
+    std::vector<VoceRelazione> voci;
+    Relatore(voci, nodo, indice).Scrive();
+    return voci;
+}
+
 std::vector<std::string> RigheRelazione(const Nodo& nodo, const TestaRelazione& testa) {
     std::vector<std::string> righe{"   NOME FILE: " + testa.nomeFile, "   DESCRIZIONE: " + testa.descrizione};
     for (int i = 1; i <= nodo.NumeroGiunti; ++i)
-        Relatore(righe, nodo, i).Scrive();
+        for (const VoceRelazione& voce : VociRelazione(nodo, i))
+            righe.push_back(voce.Riga());
     return righe;
 }
 

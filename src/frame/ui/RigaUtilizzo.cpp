@@ -5,23 +5,13 @@
 
 #include <cmath>
 
-#include "frame/Numeri.h"
+#include "frame/Percento.h"
 
 namespace sagomi {
 
 namespace {
 
 constexpr int stacco = 12; ///< between the two texts [px]
-
-QString Percento(double utilizzo) {
-    constexpr double quasiUno = 1.0005; // would show as 100.0
-    constexpr double moltissimo = 100;  // beyond it the figures tell nothing
-    if (utilizzo > 1 && utilizzo < quasiUno)
-        return QStringLiteral("> 100");
-    if (utilizzo > moltissimo)
-        return QStringLiteral("> ") + QString::fromStdString(Formato("#,##0", moltissimo * 100));
-    return QString::fromStdString(Formato("0.0", utilizzo * 100));
-}
 
 QLabel* CreaTesto(const char* nome, const QString& letta) {
     auto* label = new QLabel;
@@ -53,7 +43,9 @@ QSize RigaUtilizzo::minimumSizeHint() const {
 }
 
 void RigaUtilizzo::Mostra(double utilizzo, const QString& governa, const QString& motivo) {
-    QString text = std::isnan(utilizzo) ? QString() : QStringLiteral("Utilizzo %1 %").arg(Percento(utilizzo));
+    QString text = std::isnan(utilizzo)
+                       ? QString()
+                       : QStringLiteral("Utilizzo %1 %").arg(QString::fromStdString(Percento(utilizzo)));
     if (!text.isEmpty() && !governa.isEmpty())
         text += QStringLiteral(" (governa %1)").arg(governa);
     utilizzo_->setText(text);

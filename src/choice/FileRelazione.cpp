@@ -1,0 +1,156 @@
+#include "choice/FileRelazione.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "catalogue/Minuscole.h"
+#include "choice/Opzioni.h"
+#include "composite/AcciaioCls.h"
+#include "composite/VerificaTrave.h"
+#include "drawing/Dxf.h"
+#include "drawing/Grafica.h"
+#include "frame/FileAtomico.h"
+#include "frame/FileDati.h"
+#include "frame/MotivoFile.h"
+#include "frame/RaccoltaMessaggi.h"
+#include "joints/Nodo.h"
+#include "joints/RelazioneGiunto.h"
+#include "joints/SagomiNodo.h"
+#include "report/RelazioneNodo.h"
+#include "report/RelazioneTrave.h"
+#include "report/ScritturaPdf.h"
+#include "report/TestoRelazione.h"
+#include "sections/SezioneCorrente.h"
+
+namespace sagomi {
+
+namespace {
+
+std::string Estensione(const std::filesystem::path& file) { return Minuscole(file.extension().string()); }
+
+/// A file open to be read, for as long as this lives.
+class FileAperto {
+public:
+    explicit FileAperto(const std::filesystem::path& file) : numero_(ApreFile(file, "L")) {
+        if (numero_ == 0)
+            throw ErroreUso(AvvisoNonLetto(file));
+    }
+    ~FileAperto() { ChiudeFile(numero_); }
+    FileAperto(const FileAperto&) = delete;
+    FileAperto& operator=(const FileAperto&) = delete;
+
+    [[nodiscard]] std::int16_t Numero() const { return numero_; }
+
+private:
+    std::int16_t numero_;
+};
+
+/// While one lives, the section in use may be any.
+class SezioneSalva {
+public:
+    SezioneSalva() : prima_(SezioneCorrente) {}
+    ~SezioneSalva() { SezioneCorrente = std::move(prima_); }
+    SezioneSalva(const SezioneSalva&) = delete;
+    SezioneSalva& operator=(const SezioneSalva&) = delete;
+
+private:
+    RiferimentoSezione prima_;
+};
+
+[[noreturn]] void NonLetto(const std::filesystem::path& file, const std::vector<Messaggio>& detti) {
+    std::string motivo = file.string() + " non è un file di Sagomi valido";
+    for (const Messaggio& m : detti)
+        motivo += ": " + m.testo;
+    throw ErroreUso(motivo);
+}
+
+DocumentoLetto LeggeNodo(const std::filesystem::path& file, std::vector<Messaggio>& detti) {
+    const FileAperto aperto(file);
+    auto nodo = std::make_shared<Nodo>();
+    std::string descrizione;
+    if (!FileInOut("L", aperto.Numero(), {&descrizione}) || !nodo->AperturaFile(aperto.Numero()))
+        NonLetto(file, detti);
+    RinnovaNplRd(*nodo);
+    const TestaRelazione testa{file.filename().string(), descrizione};
+    return {RelazioneNodo(*nodo, descrizione), [nodo, testa](std::int16_t nFile) {
+                return StampaRelazione(*nodo, testa,
+                                       [nFile](std::string_view riga) { return ScriveRiga(nFile, riga); });
+            }};
+}
+
+DocumentoLetto LeggeTrave(const std::filesystem::path& file, std::vector<Messaggio>& detti) {
+    const FileAperto aperto(file);
+    const SezioneSalva salva;
+    AcciaioCls trave;
+    if (!trave.FileLeggeScrive("L", aperto.Numero()))
+        NonLetto(file, detti);
+    SezioneCorrente = trave.Sezione;
+    const EsitoTrave esito = VerificaTrave(trave);
+    return {RelazioneTrave(trave, esito)};
+}
+
+/// A text with its own road to the disk.
+void ScriveTesto(const DocumentoLetto& documento, const std::filesystem::path& file) {
+    if (!documento.scriveRighe) {
+        if (!ScriveAtomico(file, TestoRelazione(documento.relazione)))
+            throw std::runtime_error(AvvisoNonScritto(file));
+        return;
+    }
+    const std::int16_t nFile = ApreFile(file, "S");
+    if (nFile == 0)
+        throw std::runtime_error(AvvisoNonScritto(file));
+    if (!documento.scriveRighe(nFile)) {
+        AbbandonaFile(nFile);
+        throw std::runtime_error(AvvisoNonScritto(file));
+    }
+    if (!ChiudeFile(nFile))
+        throw std::runtime_error(AvvisoNonScritto(file));
+}
+
+void ScriveDxf(const Relazione& r, const std::filesystem::path& file) {
+    if (!r.disegno.PlottaInOggetto)
+        throw std::runtime_error("non c'è niente da disegnare di " + r.oggetto);
+    const StatoUscita prima;
+    std::int16_t nFile = 0;
+    if (!DxfApre(file, nFile))
+        throw std::runtime_error(AvvisoNonScritto(file));
+    try {
+        Dispositivo = dispositivoDxf;
+        OggettoGrafico = nullptr;
+        ColorePenna = pennaInchiostro;
+        r.disegno.PlottaInOggetto(nullptr, r.maschera);
+    } catch (...) {
+        DxfAbbandona();
+        throw;
+    }
+    if (!DxfChiude())
+        throw std::runtime_error(AvvisoNonScritto(file));
+}
+
+} // namespace
+
+bool EFileDati(std::string_view nome) {
+    const std::string estensione = Estensione(std::filesystem::path(nome));
+    return estensione == ".gfl" || estensione == ".sco";
+}
+
+DocumentoLetto LeggeDocumento(const std::filesystem::path& file) {
+    RaccoltaMessaggi raccolta;
+    DocumentoLetto documento =
+        Estensione(file) == ".gfl" ? LeggeNodo(file, raccolta.raccolti) : LeggeTrave(file, raccolta.raccolti);
+    for (Messaggio& m : raccolta.raccolti)
+        documento.relazione.avvisi.push_back(std::move(m.testo));
+    raccolta.raccolti.clear();
+    return documento;
+}
+
+void ScriveUscite(const DocumentoLetto& documento, const UsciteComando& uscite) {
+    if (!uscite.relazione.empty())
+        ScriveTesto(documento, uscite.relazione);
+    if (!uscite.pdf.empty())
+        ScrivePdf(documento.relazione, uscite.pdf);
+    if (!uscite.dxf.empty())
+        ScriveDxf(documento.relazione, uscite.dxf);
+}
+
+} // namespace sagomi

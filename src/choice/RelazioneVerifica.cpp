@@ -1,0 +1,79 @@
+#include "choice/RelazioneVerifica.h"
+
+#include <cmath>
+#include <type_traits>
+
+#include "drawing/Grafica.h"
+#include "report/CapitoliSagomo.h"
+#include "report/CapitoliStabilita.h"
+#include "report/Figure.h"
+
+namespace sagomi {
+
+namespace {
+
+/// The section as the check of its resistance has it: with the largest moments of the diagrams, without that
+/// of the shifted centroid.
+SezioneDoppioT PerLaSezione(const SezioneDoppioT& s, const Richiesta& r) {
+    SezioneDoppioT sezione = s;
+    sezione.Mysd = EffettiDelDiagramma(r.y, r.tipoDiagramma, r.pict).M;
+    sezione.Mzsd = EffettiDelDiagramma(r.z, r.tipoDiagramma, r.pict).M;
+    sezione.ClassePressoFlessioneCalcola();
+    return sezione;
+}
+
+void AggiungeCapitoli(Relazione& relazione, const SezioneDoppioT& s, const SagomoVerificato& e,
+                      const Richiesta& r) {
+    const SezioneDoppioT sezione = PerLaSezione(s, r);
+    auto& c = relazione.capitoli;
+    c.push_back(CapitoloDati(s));
+    c.push_back(CapitoloAzioni(sezione));
+    c.push_back(CapitoloMomenti(r.y, r.z, r.tipoDiagramma, r.pict));
+    c.push_back(CapitoloClassi(sezione));
+    c.push_back(CapitoloResistenze(s));
+    c.push_back(CapitoloSezione(sezione));
+    c.push_back(CapitoloInstabilita(s, {e.CurvaY, e.CurvaZ}));
+    c.push_back(CapitoloMembratura(s));
+    if (!std::isnan(e.riga.MbRd))
+        c.push_back(CapitoloSvergolamento(s));
+}
+
+CapitoloRelazione CapitoloForza(const SagomoVerificato& e, const Richiesta& r) {
+    CapitoloRelazione c{.titolo = "Verifica a forza assiale"};
+    c.passi = {
+        Dato("Forza assiale, di compressione se positiva", "N{Sd}", Kilo(r.NSd), "kN"),
+        Dato("Resistenza a forza assiale", "N{pl,Rd}", Kilo(e.riga.NplRd), "kN", "ENV 1993-1-1 5.4.4")};
+    c.verdetto = VerdettoRelazione{.verifica = "Stabilità della membratura",
+                                   .esito = VerdettoRelazione::Da(e.riga.membratura),
+                                   .utilizzo = e.riga.membratura,
+                                   .motivo = e.riga.motivo,
+                                   .norma = "ENV 1993-1-1 5.5.1"};
+    return c;
+}
+
+/// Channels and angles, which are checked under the axial force alone.
+template <typename S>
+void AggiungeCapitoli(Relazione& relazione, const S& s, const SagomoVerificato& e, const Richiesta& r) {
+    relazione.capitoli.push_back(CapitoloDati(s));
+    relazione.capitoli.push_back(CapitoloInstabilita(s, {e.CurvaY, e.CurvaZ}));
+    relazione.capitoli.push_back(CapitoloForza(e, r));
+}
+
+} // namespace
+
+Relazione RelazioneVerifica(const SagomoInGara& sagomo, const SagomoVerificato& esito,
+                            const Richiesta& richiesta) {
+    Relazione r{.titolo = "Verifica di un sagomo", .oggetto = sagomo.Designazione()};
+    r.maschera = sagomo.schermo;
+    std::visit(
+        [&](const auto& s) {
+            AggiungeCapitoli(r, s, esito, richiesta);
+            r.disegno = {s.Designation, [tenuta = s](Superficie* oggetto, std::string_view maschera) {
+                             tenuta.PlottaSezione(oggetto, maschera, Dispositivo);
+                         }};
+        },
+        esito.sezione);
+    return r;
+}
+
+} // namespace sagomi

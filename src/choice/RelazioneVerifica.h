@@ -1,0 +1,13 @@
+#pragma once
+
+#include "choice/Scelta.h"
+#include "report/Relazione.h"
+
+namespace sagomi {
+
+/// The report of a checked row: data, classes, resistances, then each check with its verdict.
+/// @param richiesta  what it was checked for; its code and factors are in force
+Relazione RelazioneVerifica(const SagomoInGara& sagomo, const SagomoVerificato& esito,
+                            const Richiesta& richiesta);
+
+} // namespace sagomi

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "report/Relazione.h"
+
+/// Chapters of a report on a section whose InizializzaSezione has run: data, classes, resistances and the
+/// check of the section. All figures are the section's own.
+namespace sagomi {
+
+class SezioneDoppioT;
+class SezioneSagomoL;
+class SezioneSagomoU;
+struct Verdetto;
+
+/// Steel, code with its partial factors, dimensions, constants.
+CapitoloRelazione CapitoloDati(const SezioneDoppioT& s);
+CapitoloRelazione CapitoloDati(const SezioneSagomoU& s);
+CapitoloRelazione CapitoloDati(const SezioneSagomoL& s);
+
+/// Axial force, moments, buckling lengths, as the section has them.
+CapitoloRelazione CapitoloAzioni(const SezioneDoppioT& s);
+
+/// Slenderness and class of each plate, and of the section under each force.
+CapitoloRelazione CapitoloClassi(const SezioneDoppioT& s);
+
+/// Axial force and moments that the section bears.
+CapitoloRelazione CapitoloResistenze(const SezioneDoppioT& s);
+
+/// Axial force with bending on the section, EC3 6.2.9. ClassePressoFlessioneCalcola has run.
+CapitoloRelazione CapitoloSezione(const SezioneDoppioT& s);
+
+/// A verdict of the model as a report has it.
+VerdettoRelazione VerdettoDi(const Verdetto& v, std::string verifica, std::string norma);
+
+} // namespace sagomi

@@ -1,0 +1,167 @@
+#include "report/RelazioneNodo.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "frame/Messaggi.h"
+#include "joints/DisegnoNodo.h"
+#include "joints/Nodo.h"
+#include "joints/RelazioneGiunto.h"
+#include "joints/TestiGiunto.h"
+#include "joints/UtilizzoGiunto.h"
+#include "report/Figure.h"
+
+namespace sagomi {
+
+namespace {
+
+/// Without blanks and dashes around it.
+std::string Nudo(std::string_view testo, std::string_view tolti = " -") {
+    const std::size_t da = testo.find_first_not_of(tolti);
+    if (da == std::string_view::npos)
+        return {};
+    return std::string(testo.substr(da, testo.find_last_not_of(tolti) - da + 1));
+}
+
+/// A letter or two in front of a number are subscripts: "d0", "Mj.rd".
+std::string ConPedice(std::string_view simbolo) {
+    if (simbolo.starts_with("beta"))
+        return "β";
+    if (simbolo.size() < 2 || simbolo.find(' ') != std::string_view::npos)
+        return std::string(simbolo);
+    return std::string(simbolo.substr(0, 1)) + '{' + std::string(simbolo.substr(1)) + '}';
+}
+
+/// "     Spessore: tf = " as words and symbol.
+PassoRelazione PassoDi(const VoceRelazione& voce) {
+    std::string testo = Nudo(voce.testo, " =");
+    std::string simbolo;
+    const std::size_t spazio = testo.find_last_of(' ');
+    const std::string ultima = spazio == std::string::npos ? testo : testo.substr(spazio + 1);
+    constexpr std::size_t lungoSimbolo = 7;
+    const bool eSimbolo = testo.find(": " + ultima) != std::string::npos || spazio == std::string::npos ||
+                          ultima.find('.') != std::string::npos || ultima == "Sj" || ultima == "Kwc" ||
+                          ultima == "Kfc" || ultima == "beta";
+    if (eSimbolo && ultima.size() <= lungoSimbolo && !ultima.ends_with(".")) {
+        simbolo = ultima;
+        testo = spazio == std::string::npos ? std::string() : Nudo(testo.substr(0, spazio), " :");
+    }
+    return Dato(testo, ConPedice(simbolo), voce.valore, Nudo(voce.unita, "[]"));
+}
+
+/// A line of dashes with words in it begins a chapter.
+bool ETitolo(const VoceRelazione& voce) { return voce.testo.find("---") != std::string::npos; }
+
+void AggiungeVoci(Relazione& r, const Nodo& nodo, int indice, const std::string& lato) {
+    r.capitoli.push_back({.titolo = "Giunto " + lato});
+    const std::vector<VoceRelazione> voci = VociRelazione(nodo, indice);
+    std::string nomeFila;
+    for (auto voce = voci.begin() + 1; voce != voci.end(); ++voce) {
+        if (ETitolo(*voce)) {
+            const std::string titolo = Nudo(voce->testo);
+            r.capitoli.push_back({.titolo = titolo.empty() ? "Resistenze del giunto" : titolo});
+        } else if (voce->conValore) {
+            PassoRelazione passo = PassoDi(*voce);
+            if (const std::size_t fila = passo.descrizione.find("Fila"); fila == 0)
+                passo.descrizione.insert(0, nomeFila); // the second row of the same component
+            else if (fila != std::string::npos)
+                nomeFila = passo.descrizione.substr(0, fila);
+            r.capitoli.back().passi.push_back(std::move(passo));
+        } else if (const std::size_t duepunti = voce->testo.find(" : "); duepunti != std::string::npos) {
+            r.capitoli.back().passi.push_back(
+                Dato(Nudo(voce->testo.substr(0, duepunti)), "", voce->testo.substr(duepunti + 3)));
+        } else if (const std::string nota = Nudo(voce->testo); !nota.empty()) {
+            r.capitoli.back().note.push_back(nota);
+        }
+    }
+}
+
+/// The steps of the check, made anew where the joint has none; empty where they lead elsewhere.
+TracciaGiunto Passi(const Giunto& giunto) {
+    if (!giunto.Traccia.empty() || !giunto.Acquisito)
+        return giunto.Traccia;
+    const MessaggiTaciuti silenzio;
+    try {
+        const auto copia = giunto.CopiaDiLavoro();
+        copia->Mrd_Giunto_Calcola();
+        copia->Limiti();
+        copia->Sj_Giunto_Calcola();
+        constexpr double cifreFile = 1e-6;
+        const double scarto = std::abs(copia->MplRdGIUNTO - giunto.MplRdGIUNTO);
+        return scarto <= cifreFile * std::abs(giunto.MplRdGIUNTO) ? copia->Traccia : TracciaGiunto();
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+/// A chapter of the whole derivation; a component and its name stand where they change.
+void AggiungePassi(Relazione& r, const Giunto& giunto, const std::string& lato) {
+    CapitoloRelazione c{.titolo = "Passi del calcolo, giunto " + lato};
+    std::string_view componente;
+    for (const PassoGiunto& p : Passi(giunto)) {
+        const bool nuovo = std::exchange(componente, p.componente) != p.componente;
+        PassoRelazione passo =
+            Dato(nuovo ? std::string(p.componente) : std::string(), std::string(p.nome),
+                 p.testo.empty() ? Cifre(p.valore) : p.testo, std::string(p.unita), std::string(p.norma));
+        if (passo.unita == "mm2" || passo.unita == "N/mm2")
+            passo.unita.replace(passo.unita.size() - 1, 1, "^{2}");
+        c.passi.push_back(std::move(passo));
+    }
+    if (!c.passi.empty())
+        r.capitoli.push_back(std::move(c));
+}
+
+void AggiungeVerdetti(Relazione& r, const Giunto& giunto, const std::string& lato) {
+    const VerdettoGiunto v = Giudica(giunto);
+    CapitoloRelazione momento{.titolo = "Verifica a momento, giunto " + lato};
+    CapitoloRelazione taglio{.titolo = "Verifica a taglio, giunto " + lato};
+    momento.verdetto = VerdettoRelazione{.verifica = "Momento resistente del giunto",
+                                         .motivo = "non calcolato",
+                                         .norma = "ENV 1993-1-1 annesso J"};
+    if (v.presente) {
+        VerdettoRelazione& m = *momento.verdetto;
+        m.esito = v.resiste ? EsitoRelazione::Passa : EsitoRelazione::NonPassa;
+        m.utilizzo = Utilizzo(giunto, "txtFmin0").value_or(std::numeric_limits<double>::quiet_NaN());
+        m.governa = Nudo(TestoGovernante(giunto)).empty() ? std::string() : giunto.ComponenteDebole;
+        m.motivo = v.notaMomento;
+        taglio.verdetto =
+            VerdettoRelazione{.verifica = "Taglio resistente del giunto",
+                              .esito = v.taglio.empty() ? EsitoRelazione::Passa : EsitoRelazione::NonPassa,
+                              .utilizzo = std::abs(double(giunto.Trave->Vsd())) / giunto.Vrd1,
+                              .motivo = v.taglio.empty() ? v.notaTaglio : v.taglio,
+                              .norma = "ENV 1993-1-1 6.5.5"};
+    }
+    r.capitoli.push_back(std::move(momento));
+    if (taglio.verdetto)
+        r.capitoli.push_back(std::move(taglio));
+}
+
+std::string Nome(const Nodo& nodo) {
+    std::string nome;
+    for (const SezioneDoppioT* s :
+         {nodo.Colonnainf.get(), nodo.TraveDx.Riferimento().get(), nodo.TraveSx.Riferimento().get()})
+        if (s != nullptr && !s->Designation.empty())
+            nome += (nome.empty() ? "" : ", ") + s->Designation;
+    return nome;
+}
+
+} // namespace
+
+Relazione RelazioneNodo(const Nodo& nodo, const std::string& descrizione) {
+    Relazione r{.titolo = "Giunto flangiato trave-colonna",
+                .oggetto = descrizione.empty() ? Nome(nodo) : descrizione};
+    r.maschera = "frmGiunti";
+    r.disegno = nodo.ConnessioneCorrente ? DisegnoNodo(nodo) : Disegno();
+    for (int i = 1; i <= nodo.NumeroGiunti; ++i) {
+        const std::string lato = i == 1 ? "destro" : "sinistro";
+        AggiungeVoci(r, nodo, i, lato);
+        if (const auto& giunto = nodo.Giunti[i].Riferimento()) {
+            AggiungePassi(r, *giunto, lato);
+            AggiungeVerdetti(r, *giunto, lato);
+        }
+    }
+    return r;
+}
+
+} // namespace sagomi
