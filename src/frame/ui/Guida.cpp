@@ -63,7 +63,9 @@ void Guida::Apre(const QString& file, const QString& argomento) {
 }
 
 bool Guida::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1)
+    const auto* key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+    constexpr auto others = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
+    if (key == nullptr || key->key() != Qt::Key_F1 || (key->modifiers() & others) != 0)
         return QObject::eventFilter(object, event);
     if (QApplication::activeModalWidget() != nullptr &&
         qobject_cast<QMainWindow*>(QApplication::activeModalWidget()) == nullptr)

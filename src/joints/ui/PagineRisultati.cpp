@@ -134,7 +134,7 @@ void PosaComponente(QGridLayout& grid, const Componente& c, int line) {
     mark->setFixedWidth(mark->fontMetrics().horizontalAdvance(u'◆') + 2);
     QList<QWidget*> pieces{name, CreaDicitura({.testo = c.simbolo}), box};
     pieces << (*c.ridotta != '\0' ? CreaRidotta(c, shared) : nullptr);
-    pieces << mark << CreaBarra(c) << (c.domanda >= 0 ? CreaDomanda(c.domanda, c.testo) : nullptr);
+    pieces << mark << CreaBarra(c) << (c.domanda >= 0 ? CreaDomanda(c.domanda, c.testo, c.nome) : nullptr);
     name->setProperty(rigaPropria, !shared && c.passo > stessaRiga);
     for (int i = 0; i < pieces.size(); ++i)
         if (pieces[i] != nullptr) {
@@ -203,7 +203,7 @@ QWidget* CreaVerdetto() {
         grid->addWidget(pair.campo, i / 3, 2 * (i % 3) + 1);
         ++i;
     }
-    grid->addWidget(CreaDomanda(14, "momento resistente"), 0, 6);
+    grid->addWidget(CreaDomanda(14, "momento resistente", "TxtMjRd"), 0, 6);
     grid->addWidget(CreaNota("LblTaglio", "Verifica a taglio", 1), 1, 4, 1, 4);
     auto* verdict = CreaEsposto("ShapeResistenza", "Esito della verifica a momento");
     verdict->setAlignment(Qt::AlignCenter);
@@ -243,7 +243,8 @@ void PosaCoefficiente(QGridLayout& grid, const char* array, int index, int colum
     const QByteArray read = what + c.testo;
     const Coppia pair = CreaCoppia(Misura(name.constData(), symbol, read.constData()));
     QList<QWidget*> pieces{pair.etichetta, pair.campo,
-                           question >= 0 ? CreaDomanda(question, read.constData()) : nullptr};
+                           question >= 0 ? CreaDomanda(question, read.constData(), name.constData())
+                                         : nullptr};
     for (int i = 0; i < pieces.size(); ++i)
         if (pieces[i] != nullptr) {
             pieces[i]->setProperty("file", c.file);

@@ -92,13 +92,15 @@ QPushButton* CreaBottone(const char* nome, const char* testo, const char* aiuto)
     return button;
 }
 
-QPushButton* CreaDomanda(int indice, const char* letta) {
+QPushButton* CreaDomanda(int indice, const char* letta, const char* casella) {
     auto* button = new Domanda;
     button->setProperty(proprietaValore, true);
     button->setText(QStringLiteral("?"));
     button->setObjectName(QStringLiteral("lblInfo_") + QString::number(indice));
     button->setAccessibleName(QStringLiteral("Come migliorare: ") + QString::fromUtf8(letta));
-    button->setToolTip(QStringLiteral("Come migliorare il risultato"));
+    button->setProperty(proprietaCasella, QString::fromUtf8(casella));
+    button->setToolTip(QStringLiteral("Come migliorare il risultato (%1 nella sua casella)")
+                           .arg(QKeySequence(tastoDomanda).toString(QKeySequence::NativeText)));
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     return button;
 }

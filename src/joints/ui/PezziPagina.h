@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QGroupBox>
+#include <QKeySequence>
 #include <QList>
 #include <QString>
 
@@ -38,8 +39,12 @@ QLabel* CreaScritta(const char* testo, QWidget* controllo = nullptr);
 /// A command.
 QPushButton* CreaBottone(const char* nome, const char* testo, const char* aiuto);
 
-/// The "?" beside a result, which says how to make it larger; it is no command with a key of its own.
-QPushButton* CreaDomanda(int indice, const char* letta);
+/// The "?" beside a result, which says how to make it larger. All have one key, Shift+F1: it is meant for the
+/// result that has the focus.
+/// @param casella  object name of the result
+QPushButton* CreaDomanda(int indice, const char* letta, const char* casella);
+inline constexpr auto proprietaCasella = "casella"; ///< of a "?": its result
+inline constexpr auto tastoDomanda = Qt::SHIFT | Qt::Key_F1;
 
 /// A text that the screen writes, read as a result.
 QLabel* CreaEsposto(const char* nome, const char* letta, const char* testo = "");

@@ -25,10 +25,17 @@
 #include "frame/ui/Protetto.h"
 #include "joints/ConsigliGiunto.h"
 #include "joints/ui/ComuneGiunti.h"
+#include "joints/ui/PezziPagina.h"
 #include "joints/ui/VistaGiunto.h"
 #include "ui_frmGiunti.h"
 
 namespace sagomi {
+
+namespace {
+
+constexpr auto tastoFormula = Qt::CTRL | Qt::Key_F1;
+
+} // namespace
 
 frmGiunti::frmGiunti() : Schermo(QStringLiteral("frmGiunti")), ui_(new Ui::frmGiunti) {
     const QScopedValueRollback loading(CaricaForm, true);
@@ -121,11 +128,32 @@ void frmGiunti::CollegaComandi() {
     for (QLabel* label : findChildren<QLabel*>())
         if (label->buddy() != nullptr && !IdFormula(label->buddy()->objectName()).empty()) {
             label->installEventFilter(this);
-            label->setToolTip(tr("Doppio clic: la formula"));
+            label->setToolTip(tr("Doppio clic: la formula (%1 nella casella)")
+                                  .arg(QKeySequence(tastoFormula).toString(QKeySequence::NativeText)));
         }
     Collega(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { FuocoPassato(now); });
     CollegaFile();
     NavigaSchermi::Unico().CollegaMenu(*this);
+}
+
+/// The "?" of the result that has the focus; elsewhere that of the moment.
+void frmGiunti::PremeDomanda() {
+    const QWidget* now = focusWidget();
+    QPushButton* question = findChild<QPushButton*>(QStringLiteral("lblInfo_14"));
+    for (auto* button : findChildren<QPushButton*>()) {
+        const QVariant box = button->property(proprietaCasella);
+        if (now != nullptr && box.isValid() && (button == now || box.toString() == now->objectName()))
+            question = button;
+    }
+    question->click();
+}
+
+/// The formula of the result that has the focus.
+void frmGiunti::ApreFormula() {
+    const QWidget* now = focusWidget();
+    const std::string id = now != nullptr ? IdFormula(now->objectName()) : "";
+    if (!id.empty())
+        FormulaGiunto_Leggi(id);
 }
 
 void frmGiunti::Apre(Schermo& chiamante) {
@@ -234,7 +262,11 @@ void frmGiunti::closeEvent(QCloseEvent* event) {
 }
 
 void frmGiunti::keyPressEvent(QKeyEvent* event) {
-    if (inRicerca_)
+    if (!inRicerca_ && event->keyCombination() == tastoDomanda)
+        EventoProtetto([this] { PremeDomanda(); });
+    else if (!inRicerca_ && event->keyCombination() == tastoFormula)
+        EventoProtetto([this] { ApreFormula(); });
+    else if (inRicerca_)
         EventoProtetto(
             [this, event] { InterrompiProgetto = InterrompiProgetto || event->key() == Qt::Key_Escape; });
     else

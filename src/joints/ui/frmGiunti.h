@@ -169,6 +169,8 @@ private:
     void Plotta();
     void VaAlComponente(ComponenteGiunto componente);
     void FuocoPassato(const QWidget* controllo);
+    void PremeDomanda();
+    void ApreFormula();
 
     // Files
     bool Legge(std::int16_t nFile);

@@ -7,6 +7,7 @@
 #include "frame/Attesa.h"
 #include "frame/FileDati.h"
 #include "frame/ui/FileDialogo.h"
+#include "joints/ConsigliGiunto.h"
 #include "joints/ui/AmbienteGiunti.h"
 
 using namespace sagomi;
@@ -212,6 +213,33 @@ TEST_F(CalcoloGiuntiTest, AdviceOfEveryTopic) {
     Sceglie("Optres_1");
     Preme(g, "lblInfo_3");
     EXPECT_THAT(Detto(), ElementsAre(testing::Not(HasSubstr("10.9"))));
+}
+
+TEST_F(CalcoloGiuntiTest, AKeyAsksForTheAdviceOfTheResultInFocus) {
+    NodoT();
+    Scrive("TxtM_Dx", "20");
+    Verifica1Fila();
+    Preme(g, "cmdCalcola");
+    Detto();
+    const auto asks = [this](const char* box) {
+        for (int tab = 4; tab < 6; ++tab)
+            if (Trova<QTabWidget>(g, "SSTab1")->widget(tab)->findChild<QLineEdit*>(box) != nullptr)
+                Scheda(tab);
+        Trova<QLineEdit>(g, box)->setFocus();
+        QTest::keyClick(Trova<QLineEdit>(g, box), Qt::Key_F1, Qt::ShiftModifier);
+        return Detto();
+    };
+    for (const auto& [box, topic] : {std::pair{"txtF1", 0}, std::pair{"txtF7", 8}, std::pair{"txtmu_3", 19}})
+        EXPECT_THAT(asks(box), ElementsAre(ConsiglioGiunto(topic, Joint().Classe))) << box;
+    EXPECT_THAT(asks("TxtSj_0"), ElementsAre(ConsiglioGiunto(14, Joint().Classe))) << "has none of its own";
+    for (int i = 0; i <= 20; ++i)
+        EXPECT_THAT(Trova<QPushButton>(g, ("lblInfo_" + std::to_string(i)).c_str())->toolTip().toStdString(),
+                    HasSubstr("Shift+F1"));
+    CopiaAccanto("FormuleGiunto.rtf");
+    Scheda(4);
+    Trova<QLineEdit>(g, "txtF1")->setFocus();
+    QTest::keyClick(Trova<QLineEdit>(g, "txtF1"), Qt::Key_F1, Qt::ControlModifier);
+    EXPECT_TRUE(Aperto("FrmInfoGiunti").isVisible()) << "the formula";
 }
 
 TEST_F(CalcoloGiuntiTest, TutorialFromTheDesignToTheReport) {
