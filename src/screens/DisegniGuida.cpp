@@ -1,0 +1,271 @@
+#include "screens/DisegniGuida.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "composite/AcciaioCls.h"
+#include "composite/DisegniTraveMista.h"
+#include "composite/ui/DisegnoVivo.h"
+#include "criticalloads/DisegnoTrave.h"
+#include "drawing/Grafica.h"
+#include "fasteners/DisegnoForatura.h"
+#include "frame/Messaggi.h"
+#include "joints/DiagrammaRigidezza.h"
+#include "joints/DisegniScelte.h"
+#include "joints/FiguraGiunto.h"
+#include "joints/Nodo.h"
+#include "joints/NoteIrrigidimenti.h"
+#include "screens/DisegniRegole.h"
+#include "sections/DisegniMomento.h"
+#include "sections/DisegnoSagoma.h"
+#include "sections/SezioneDoppia.h"
+
+namespace sagomi {
+
+namespace {
+
+SezioneDoppioT Sagomo(const char* nome, double h, double b, double tw, double tf, double r) {
+    SezioneDoppioT s;
+    s.Designation = nome;
+    s.TipoAcciaio = "S235 (Fe360)";
+    s.h = h;
+    s.b = b;
+    s.tw = tw;
+    s.tf = tf;
+    s.r1 = r;
+    s.fy = 235;
+    s.fu = 360;
+    return s;
+}
+
+SezioneDoppioT Ipe300() {
+    SezioneDoppioT s = Sagomo("IPE 300", 300, 150, 7.1, 10.7, 15);
+    s.Area = 5381;
+    s.Jy = 8356e4;
+    s.Wely = 557.1e3;
+    s.Wply = 628.4e3;
+    s.iY = 124.6;
+    s.Jz = 603.8e4;
+    s.Welz = 80.5e3;
+    s.Wplz = 125.2e3;
+    s.iZ = 33.5;
+    s.InizializzaSezione(nullptr);
+    return s;
+}
+
+/// A welded girder with a web of class 4 in bending.
+SezioneDoppioT Saldato() {
+    SezioneDoppioT s = Sagomo("1000x300", 1000, 300, 8, 16, 0);
+    s.Saldata = true;
+    s.r = 6;
+    s.fy = 355;
+    s.SezioneEfficaceDaPlottare = 1;
+    s.Area = 17344;
+    s.Jy = 2928e6;
+    s.Wely = 5857e3;
+    s.Wply = 6597e3;
+    s.iY = 411;
+    s.Jz = 72e6;
+    s.Welz = 480e3;
+    s.Wplz = 735e3;
+    s.iZ = 64.5;
+    s.InizializzaSezione(nullptr);
+    return s;
+}
+
+SezioneDoppioT Asimmetrico() {
+    SezioneDoppioT s = Sagomo("400 asimmetrico", 400, 180, 10, 16, 0);
+    s.Saldata = true;
+    s.SaldataAsimm = true;
+    s.bAlaInf = 260;
+    s.tAlaInf = 24;
+    s.r = 6;
+    s.InizializzaSezioneAcciaioCls();
+    return s;
+}
+
+SezioneSagomoU Canale() {
+    SezioneSagomoU s;
+    s.Designation = "UPN 200";
+    s.fy = 235;
+    s.h = 200;
+    s.b = 75;
+    s.tw = 8.5;
+    s.tf = 11.5;
+    s.r1 = 11.5;
+    s.r2 = 6;
+    s.pendenza = 6;
+    s.Area = 3220;
+    s.Jy = 1910e4;
+    s.Jz = 148e4;
+    s.Wely = 191e3;
+    s.Welz = 27e3;
+    s.Wply = 228e3;
+    s.Wplz = 51.8e3;
+    s.iY = 77;
+    s.Iz = 21.4;
+    s.InizializzaSezione(nullptr);
+    return s;
+}
+
+SezioneSagomoL Angolare() {
+    SezioneSagomoL s;
+    s.Designation = "L 100x10";
+    s.fy = 235;
+    s.h = 100;
+    s.b = 100;
+    s.t = 10;
+    s.r1 = 12;
+    s.r2 = 6;
+    s.Area = 1915;
+    s.Jy = 177e4;
+    s.Jz = 177e4;
+    s.iY = 30.4;
+    s.Iz = 30.4;
+    s.iV = 19.5;
+    s.InizializzaSezione(nullptr);
+    return s;
+}
+
+template <typename Sezione> Disegno Coppia(Sezione s) {
+    RendeDoppia(s, SingoloDi(s), 10, false);
+    s.InizializzaSezione(nullptr);
+    return DisegnoSagoma(SagomaDi(s));
+}
+
+template <typename Sezione> Disegno Tavola(const Sezione& sezione, std::string_view maschera) {
+    return {sezione.Designation, [sezione, maschera](Superficie* target, std::string_view) {
+                sezione.PlottaSezione(target, maschera, Dispositivo);
+            }};
+}
+
+/// A beam IPE 270 of 6 m on a column HE 200 B, two rows of M18, stiffened in compression.
+Nodo EsempioNodo() {
+    Nodo node;
+    node.ImpostaNodo();
+    node.Tipovie = nodoT;
+    node.NumeroGiunti = 1;
+    node.CaratterizzaGiunti();
+    const auto beam = std::make_shared<SezioneDoppioT>(Sagomo("IPE 270", 270, 135, 6.6, 10.2, 15));
+    const auto column = std::make_shared<SezioneDoppioT>(Sagomo("HE 200 B", 200, 200, 9, 15, 18));
+    beam->Area = 4595;
+    beam->Jy = 5790e4;
+    beam->Wply = 484e3;
+    column->Area = 7808;
+    column->Jy = 5696e4;
+    column->Wply = 642.5e3;
+    node.PuntatoreTraveDestra(beam);
+    node.PuntatoreColonna(column);
+    node.ConnessioneCorrente = node.Giunti[1].Usa();
+    Giunto& g = *node.ConnessioneCorrente;
+    g.IndiceBullone(6);
+    g.nf = 2;
+    g.Irrigidimenti = "Cp";
+    g.tf = 20;
+    g.bf = 160;
+    g.ef = 30;
+    g.d2 = 35;
+    g.ex = 30;
+    g.L = 65;
+    g.u = 15;
+    g.Af = 7;
+    g.aw = 4;
+    g.sTraveColonna_Calcola();
+    g.Derivati_Calcola();
+    node.CalcolaIrrigidimenti();
+    return node;
+}
+
+AcciaioCls EsempioTrave() {
+    AcciaioCls beam;
+    beam.TipoSoletta = nervatureTrasversali;
+    beam.hc = 120;
+    beam.beff = 1200;
+    beam.ha = 55;
+    beam.bb = 60;
+    beam.bs = 90;
+    beam.iNervature = 200;
+    beam.hPiolo = 100;
+    beam.dPiolo = 19;
+    beam.Luce = 6;
+    beam.Nr = 1;
+    beam.Passo = 400;
+    return beam;
+}
+
+Disegno EsempioTraveMista() {
+    AcciaioCls beam = EsempioTrave();
+    beam.Sezione = std::make_shared<SezioneDoppioT>(Ipe300());
+    beam.c = 30;
+    beam.As = 500;
+    return DisegnoVivo(beam);
+}
+
+/// Uniform load and end moments of one sign, 60 and 20 kNm, as a member carries them [N mm].
+Disegno EsempioMomenti() {
+    constexpr double kNm = 1e6;
+    MomentiMembratura y;
+    MomentiMembratura z;
+    y.M1 = 60 * kNm;
+    y.M2 = 20 * kNm;
+    y.MQ = 45 * kNm;
+    z.M1 = 10 * kNm;
+    z.MQ = 4 * kNm;
+    return DisegnoMomenti(y, z, 5);
+}
+
+using Tabella = std::map<std::string_view, std::function<Disegno()>>;
+
+const Tabella& Disegni() {
+    static const Tabella drawings{{"angolare", [] { return DisegnoSagoma(SagomaDi(Angolare())); }},
+                                  {"angolari", [] { return Coppia(Angolare()); }},
+                                  {"asimmetrico", [] { return DisegnoSagoma(SagomaDi(Asimmetrico())); }},
+                                  {"canale", [] { return DisegnoSagoma(SagomaDi(Canale())); }},
+                                  {"canali", [] { return Coppia(Canale()); }},
+                                  {"connettori", [] { return DisegnoConnettori(EsempioTrave(), 16); }},
+                                  {"cordone", DisegnoCordone},
+                                  {"curve", DisegnoCurve},
+                                  {"dominio", DisegnoDominio},
+                                  {"doppioT", [] { return DisegnoSagoma(SagomaDi(Ipe300())); }},
+                                  {"efficace", [] { return Tavola(Saldato(), "FrmClasseDoppioTU"); }},
+                                  {"fila1", [] { return DisegnoFile(1); }},
+                                  {"fila2", [] { return DisegnoFile(2); }},
+                                  {"foratura",
+                                   [] {
+                                       return DisegnoForatura({16, 18, 40, 60, 30, 60});
+                                   }},
+                                  {"giunto", [] { return FiguraGiunto(EsempioNodo(), nullptr, {}); }},
+                                  {"irrigidimenti", [] { return DisegnoIrrigidimenti({}); }},
+                                  {"lamiera", [] { return DisegnoLamiera(EsempioTrave()); }},
+                                  {"mensola",
+                                   [] {
+                                       return DisegnoTrave({true, false, 0});
+                                   }},
+                                  {"momenti", EsempioMomenti},
+                                  {"prospettoF1", [] { return DisegnoProspetto(1); }},
+                                  {"prospettoF2", [] { return DisegnoProspetto(2); }},
+                                  {"sezione", [] { return Tavola(Ipe300(), "frmDoppioT"); }},
+                                  {"tensioni", DisegnoTensioni},
+                                  {"trave", [] { return DisegnoTrave({}); }},
+                                  {"travemista", EsempioTraveMista}};
+    return drawings;
+}
+
+} // namespace
+
+Disegno DisegnoGuida(std::string_view nome) {
+    const MessaggiTaciuti quiet;
+    const auto found = Disegni().find(nome);
+    return found == Disegni().end() ? Disegno() : found->second();
+}
+
+std::vector<std::string_view> NomiDisegniGuida() {
+    std::vector<std::string_view> names;
+    for (const auto& [name, drawing] : Disegni())
+        names.push_back(name);
+    return names;
+}
+
+} // namespace sagomi

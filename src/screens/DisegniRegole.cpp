@@ -1,0 +1,207 @@
+#include "screens/DisegniRegole.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <numbers>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "drawing/Quadro.h"
+#include "frame/Numeri.h"
+#include "sections/Eurocod3.h"
+
+namespace sagomi {
+
+namespace {
+
+using Punto = PuntoQuadro;
+
+/// Two axes from 0 to a round value with a grid, and curves between them.
+class Assi {
+public:
+    Assi(const Quadro& quadro, double xMax, double yMax) : q_(quadro), xMax_(xMax), yMax_(yMax) {
+        const double riga = quadro.Riga();
+        campo_ = quadro.Tutto().Dentro(quadro.LarghezzaTesto("0000"), 1.6 * riga, riga, 2.4 * riga);
+    }
+
+    void Reticolo(double dx, double dy) const {
+        for (double x = 0; x <= xMax_ * 1.0001; x += dx) {
+            q_.Fine();
+            Quadro::Linea(In(x, 0), In(x, yMax_));
+            q_.Testo(In(x, 0) + Punto{0, 3}, TestoPiano(std::round(x * 100) / 100), Allinea::Centro,
+                     Posa::Alto);
+        }
+        for (double y = 0; y <= yMax_ * 1.0001; y += dy) {
+            q_.Fine();
+            Quadro::Linea(In(0, y), In(xMax_, y));
+            q_.Testo(In(0, y) - Punto{4, 0}, TestoPiano(std::round(y * 100) / 100), Allinea::Destra,
+                     Posa::Mezzo);
+        }
+    }
+
+    void Nomi(std::string_view x, std::string_view y) const {
+        q_.Testo({campo_.Destra(), campo_.Basso() + 2.3 * q_.Riga()}, x, Allinea::Destra, Posa::Basso);
+        q_.Testo({2, 2}, y, Allinea::Sinistra, Posa::Alto);
+    }
+
+    void Curva(const std::function<double(double)>& f, TipoLinea tipo = TipoLinea::Continua) const {
+        constexpr int passi = 120;
+        std::vector<Punto> punti;
+        for (int i = 0; i <= passi; ++i)
+            punti.push_back(In(xMax_ * i / passi, f(xMax_ * i / passi)));
+        PennaPlt(pennaInchiostro);
+        LineaStilePlt(spessoreContorno, tipo, Estremi::Piatti);
+        Quadro::Spezzata(punti);
+    }
+
+    /// The name of a curve, on a ground of its own.
+    void Scritta(double x, double y, std::string_view testo) const {
+        const Punto p = In(x, y);
+        const double l = q_.LarghezzaTesto(testo) / 2 + 2;
+        const double h = q_.Riga() / 2;
+        Quadro::Area(
+            std::array<Punto, 4>{{p + Punto{-l, -h}, p + Punto{l, -h}, p + Punto{l, h}, p + Punto{-l, h}}},
+            Fondo::Sfondo);
+        q_.Testo(p, testo, Allinea::Centro, Posa::Mezzo);
+    }
+
+private:
+    [[nodiscard]] Punto In(double x, double y) const {
+        return {campo_.sinistra + x / xMax_ * campo_.larghezza, campo_.Basso() - y / yMax_ * campo_.altezza};
+    }
+
+    const Quadro& q_;
+    CampoQuadro campo_;
+    double xMax_, yMax_;
+};
+
+/// A drawing of a size of its own.
+Disegno Figura(std::string nome, Misura misura, std::function<void(const Quadro&)> traccia) {
+    Disegno disegno{std::move(nome), {}, misura, misura};
+    disegno.PlottaInOggetto = [misura, traccia = std::move(traccia)](Superficie* oggetto, std::string_view) {
+        const Quadro quadro(oggetto, Dispositivo, misura);
+        traccia(quadro);
+    };
+    return disegno;
+}
+
+/// A double-T seen from its end.
+void Profilo(Punto centro, double h, double b, double t) {
+    const double x = centro.x;
+    const double alto = centro.y - h / 2;
+    const double basso = centro.y + h / 2;
+    const std::array<Punto, 12> punti{{{x - b / 2, alto},
+                                       {x + b / 2, alto},
+                                       {x + b / 2, alto + t},
+                                       {x + t / 2, alto + t},
+                                       {x + t / 2, basso - t},
+                                       {x + b / 2, basso - t},
+                                       {x + b / 2, basso},
+                                       {x - b / 2, basso},
+                                       {x - b / 2, basso - t},
+                                       {x - t / 2, basso - t},
+                                       {x - t / 2, alto + t},
+                                       {x - b / 2, alto + t}}};
+    Quadro::Area(punti, Fondo::Tenue);
+    Quadro::Spezzata(punti, true);
+}
+
+/// Stresses beside a line: outlines right of it for compression, left for tension.
+void Tensioni(const Quadro& q, std::span<const Punto> punti, Punto alto, Punto basso, std::string_view nome) {
+    Quadro::Area(punti, Fondo::Tenue);
+    q.Contorno();
+    Quadro::Spezzata(punti, true);
+    Quadro::Linea(alto, basso);
+    q.Testo(basso + Punto{0, 6}, nome, Allinea::Centro, Posa::Alto);
+}
+
+void TracciaTensioni(const Quadro& q) {
+    constexpr double h = 120;
+    constexpr double s = 34; ///< of a stress of fy
+    const double y = 20 + h / 2;
+    q.Contorno();
+    Profilo({50, y}, h, 60, 9);
+    q.Fine(TipoLinea::TrattoPunto);
+    Quadro::Linea({8, y}, {470, y});
+    const double su = y - h / 2;
+    const double giu = y + h / 2;
+    const auto asse = [&](double x, std::span<const Punto> punti, std::string_view nome) {
+        Tensioni(q, punti, {x, su}, {x, giu}, nome);
+        q.Testo({x + s + 3, su}, "fy", Allinea::Sinistra, Posa::Mezzo);
+    };
+    double x = 160;
+    asse(x,
+         std::array<Punto, 8>{
+             {{x, su}, {x + s, su}, {x + s, y}, {x, y}, {x - s, y}, {x - s, giu}, {x, giu}, {x, y}}},
+         "classi 1, 2: Wpl");
+    x = 280;
+    asse(x, std::array<Punto, 4>{{{x, su}, {x + s, su}, {x - s, giu}, {x, giu}}}, "classe 3: Wel");
+    x = 400;
+    const double perso = y - h * 0.22; // what the buckled part of the web does not carry
+    const double neutro = y + h * 0.06;
+    const auto a = [&](double yy) { return x + s * (neutro - yy) / (neutro - su); };
+    asse(x, std::array<Punto, 4>{{{x, su}, {x + s, su}, {a(su + 18), su + 18}, {x, su + 18}}},
+         "classe 4: Weff");
+    const std::array<Punto, 4> resto{{{x, perso}, {a(perso), perso}, {a(giu), giu}, {x, giu}}};
+    Quadro::Area(resto, Fondo::Tenue);
+    q.Contorno();
+    Quadro::Spezzata(resto, true);
+}
+
+void TracciaCurve(const Quadro& q) {
+    const Assi assi(q, 3, 1.1);
+    assi.Reticolo(0.5, 0.2);
+    for (const std::string_view curva : {"a0", "a", "b", "c", "d"})
+        assi.Curva([curva](double l) { return Chi(AlfaCurva(curva), l); });
+    assi.Curva([](double l) { return l > 0 ? std::min(1 / (l * l), 1.1) : 1.1; }, TipoLinea::Tratteggiata);
+    // Each name on its curve, away from its neighbours'.
+    const std::array<std::pair<std::string_view, double>, 5> nomi{
+        {{"a0", 0.72}, {"a", 0.85}, {"b", 0.82}, {"c", 0.79}, {"d", 0.76}}};
+    for (const auto& [curva, l] : nomi)
+        assi.Scritta(l, Chi(AlfaCurva(curva), l), curva);
+    assi.Scritta(1.45, 0.66, "Eulero");
+    assi.Nomi("snellezza relativa", "chi");
+}
+
+void TracciaDominio(const Quadro& q) {
+    constexpr double a = 0.4; // share of the web
+    const Assi assi(q, 1, 1.1);
+    assi.Reticolo(0.2, 0.2);
+    assi.Curva([](double n) { return std::min(1.0, (1 - n) / (1 - 0.5 * a)); });
+    assi.Curva([](double n) { return n <= a ? 1.0 : 1 - std::pow((n - a) / (1 - a), 2); },
+               TipoLinea::Tratteggiata);
+    assi.Scritta(0.55, (1 - 0.55) / 0.8, "MNy/Mpl,y");
+    assi.Scritta(0.72, 1 - std::pow((0.72 - a) / 0.6, 2), "MNz/Mpl,z");
+    assi.Nomi("n = NSd/Npl,Rd", "m");
+}
+
+void TracciaCordone(const Quadro& q) {
+    constexpr double lato = 80;
+    const Punto spigolo{70, 120};
+    q.Contorno();
+    const std::array<Punto, 4> orizzontale{{{12, 120}, {210, 120}, {210, 146}, {12, 146}}};
+    const std::array<Punto, 4> verticale{{{44, 20}, {70, 20}, {70, 120}, {44, 120}}};
+    const std::array<Punto, 3> cordone{{spigolo, spigolo - Punto{0, lato}, spigolo + Punto{lato, 0}}};
+    for (const std::span<const Punto> pezzo :
+         {std::span<const Punto>(orizzontale), std::span<const Punto>(verticale)})
+        Quadro::Spezzata(pezzo, true);
+    Quadro::Area(cordone, Fondo::Tenue);
+    q.Contorno();
+    Quadro::Spezzata(cordone, true);
+    const double gola = lato / std::numbers::sqrt2;
+    const Punto fuori = Punto{1, -1} * (gola / std::numbers::sqrt2);
+    q.Quota(spigolo, spigolo + fuori);
+    q.Testo(spigolo + fuori + Punto{4, -4}, "a", Allinea::Sinistra, Posa::Basso);
+}
+
+} // namespace
+
+Disegno DisegnoCurve() { return Figura("Curve di instabilità", {460, 300}, TracciaCurve); }
+Disegno DisegnoTensioni() { return Figura("Tensioni", {480, 165}, TracciaTensioni); }
+Disegno DisegnoDominio() { return Figura("Momenti ridotti", {400, 260}, TracciaDominio); }
+Disegno DisegnoCordone() { return Figura("Cordone d'angolo", {220, 160}, TracciaCordone); }
+
+} // namespace sagomi
