@@ -5,7 +5,6 @@
 
 #include "frame/FileDati.h"
 #include "frame/GeneraleSagomi.h"
-#include "frame/Ripristino.h"
 
 namespace sagomi {
 
@@ -28,9 +27,6 @@ fs::path CartellaUtente(const char* variabile, const char* nellaCasa) {
     return scelta.is_absolute() ? scelta : Variabile("HOME") / nellaCasa;
 }
 
-fs::path installata; // NOLINT: named once, at the start
-const bool ripristinata = AggiungeRipristino([] { installata.clear(); });
-
 } // namespace
 
 fs::path CartellaFile(const fs::path& programma) {
@@ -44,8 +40,6 @@ fs::path CartellaDatiUtente() { return CartellaUtente("XDG_DATA_HOME", ".local/s
 
 fs::path CartellaConfigurazioneUtente() { return CartellaUtente("XDG_CONFIG_HOME", ".config"); }
 
-fs::path CartellaInstallata() { return installata.empty() ? PathProgramma : installata; }
-
-void ImpostaCartellaInstallata(const fs::path& cartella) { installata = cartella; }
+fs::path CartellaInstallata() { return PathInstallazione.empty() ? PathProgramma : PathInstallazione; }
 
 } // namespace sagomi

@@ -14,9 +14,8 @@ std::filesystem::path CartellaFile(const std::filesystem::path& programma);
 std::filesystem::path CartellaDatiUtente();
 std::filesystem::path CartellaConfigurazioneUtente();
 
-/// The folder of what came with the program and is only read, help and formulas: PathProgramma where
-/// ImpostaCartellaInstallata has named no other.
+/// The folder of what came with the program and is only read, help and formulas: PathInstallazione, or
+/// PathProgramma where that is empty.
 std::filesystem::path CartellaInstallata();
-void ImpostaCartellaInstallata(const std::filesystem::path& cartella);
 
 } // namespace sagomi

@@ -45,20 +45,20 @@ struct Impostazioni {
 
 /// The one block of global settings: a value. A test or a long job takes a copy and puts it back.
 struct Generale : Impostazioni {
-    std::filesystem::path PathProgramma;    ///< folder of the program and of its files
-    std::filesystem::path PathImpostazioni; ///< folder of the settings file; empty: PathProgramma
-    std::filesystem::path PathLavoro;       ///< folder of the file last opened or saved
-    Singolo GammaM0 = fattoriNTC.GammaM0;   ///< divides section resistances [-]
-    Singolo GammaM1 = fattoriNTC.GammaM1;   ///< divides buckling and class 4 bending resistances [-]
-    Singolo GammaM2 = fattoriNTC.GammaM2;   ///< divides resistances of connections [-]
-    std::string Versione;                   ///< of the settings file that was read
-    std::string ScreenAttivo;               ///< name of the screen last activated
-    bool SuggerimentoBulloni = true;        ///< once in a run, advice on a bolt says how its box closes
-    bool SceltaSagomoGiunto = false;        ///< a section screen was reached from the joint screen, to pick
-    bool ServerAttivo = false;              ///< driven by an automation client
-    RiferimentoOsservatore OggettoServer;   ///< that client
-    bool ChiusuraInCorso = false;           ///< closing has begun
-    bool AvvioInCorso = false;              ///< the start routine is showing the first screen
+    std::filesystem::path PathProgramma;     ///< folder of settings and workbooks
+    std::filesystem::path PathInstallazione; ///< folder of help and formulas; empty: PathProgramma
+    std::filesystem::path PathLavoro;        ///< folder of the file last opened or saved
+    Singolo GammaM0 = fattoriNTC.GammaM0;    ///< divides section resistances [-]
+    Singolo GammaM1 = fattoriNTC.GammaM1;    ///< divides buckling and class 4 bending resistances [-]
+    Singolo GammaM2 = fattoriNTC.GammaM2;    ///< divides resistances of connections [-]
+    std::string Versione;                    ///< of the settings file that was read
+    std::string ScreenAttivo;                ///< name of the screen last activated
+    bool SuggerimentoBulloni = true;         ///< once in a run, advice on a bolt says how its box closes
+    bool SceltaSagomoGiunto = false;         ///< a section screen was reached from the joint screen, to pick
+    bool ServerAttivo = false;               ///< driven by an automation client
+    RiferimentoOsservatore OggettoServer;    ///< that client
+    bool ChiusuraInCorso = false;            ///< closing has begun
+    bool AvvioInCorso = false;               ///< the start routine is showing the first screen
 
     std::vector<std::string> ImpostazioniCorrette; ///< names that the last reading put back to their default
     std::optional<Impostazioni>

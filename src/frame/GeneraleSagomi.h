@@ -11,7 +11,7 @@ namespace sagomi {
 inline Generale generale;
 
 inline constexpr auto& PathProgramma = generale.PathProgramma;
-inline constexpr auto& PathImpostazioni = generale.PathImpostazioni;
+inline constexpr auto& PathInstallazione = generale.PathInstallazione;
 inline constexpr auto& PathLavoro = generale.PathLavoro;
 inline constexpr auto& NumAcciai = generale.NumAcciai;
 inline constexpr auto& NomeAcciaio = generale.NomeAcciaio;

@@ -156,21 +156,10 @@ void RiparaImpostazioni() {
 
 constexpr std::string_view nomeFile = "Sagomi.ini";
 
-std::filesystem::path PercorsoFile(std::string_view modo) {
-    std::error_code errore;
-    if (PathImpostazioni.empty())
-        return PercorsoSenzaMaiuscole(PathProgramma, nomeFile);
-    std::filesystem::path proprio = PercorsoSenzaMaiuscole(PathImpostazioni, nomeFile);
-    if (modo == "S") {
-        std::filesystem::create_directories(PathImpostazioni, errore);
-        return proprio;
-    }
-    return std::filesystem::exists(proprio, errore) ? proprio
-                                                    : PercorsoSenzaMaiuscole(PathProgramma, nomeFile);
-}
+std::filesystem::path PercorsoFile() { return PercorsoSenzaMaiuscole(PathProgramma, nomeFile); }
 
 bool MuoveFile(std::string_view modo) {
-    const std::int16_t nFile = ApreFile(PercorsoFile(modo), modo);
+    const std::int16_t nFile = ApreFile(PercorsoFile(), modo);
     if (nFile == 0)
         return false;
     if (Records(modo, nFile).Muove())
@@ -206,7 +195,7 @@ bool Scrive() {
 
 /// The box names the file and the reason in its title.
 void AvvisaIncompleta() {
-    const std::filesystem::path file = PercorsoFile("S");
+    const std::filesystem::path file = PercorsoFile();
     Avvisa("Scrittura incompleta del file", file.filename().string() + ": " + MotivoNonScritto(file));
 }
 

@@ -17,8 +17,7 @@ inline constexpr Limiti limitiGamma{0.5, 5};       ///< partial factors [-]
 inline constexpr Limiti limitiResistenza{1, 5000}; ///< fy, fu, fck, fsk [N/mm2]
 inline constexpr Limiti limitiRapporto{1, 100};    ///< modular ratio, bolt classes [-]
 
-/// Reads ("L") or writes ("S") the settings file "Sagomi.ini" of PathImpostazioni, or of PathProgramma where
-/// that is empty or has none to read.
+/// Reads ("L") or writes ("S") the settings file "Sagomi.ini" of PathProgramma.
 /// A file that is missing, or that cannot be read to its end, lays down every default without a message and
 /// gives false. What was read and cannot be (outside its limits, no number, an index outside its list) goes
 /// back to its default; the names of the values are then in ImpostazioniCorrette. Grades and bolt classes

@@ -47,7 +47,7 @@ bool TrovaCartelle(const std::optional<std::filesystem::path>& scelta) {
         const CartellaLavoro cartelle =
             ApreCartellaLavoro(QCoreApplication::applicationDirPath().toStdString(), scelta);
         PathProgramma = cartelle.lavoro;
-        ImpostaCartellaInstallata(cartelle.installazione);
+        PathInstallazione = cartelle.installazione;
         if (!ServerAttivo)
             CartellaStato(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
         if (!cartelle.avviso.empty())

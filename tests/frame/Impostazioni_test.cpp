@@ -325,19 +325,6 @@ TEST_F(ImpostazioniTest, AChangeThatCannotBeWrittenIsToldOnceInARun) {
     EXPECT_EQ(r.testi, std::vector<std::string>{"Scrittura incompleta del file"});
 }
 
-TEST_F(ImpostazioniTest, AnInstalledProgramKeepsThemInTheUsersFolder) {
-    ScriveByte(percorso, File("1/2", cemento, "1\r\n1,1,1\r\n"));
-    PathImpostazioni = cartella.percorso / "utente" / "sagomi";
-    ASSERT_TRUE(IniLeggeScrive("L")) << "those beside the program, before there are others";
-    EXPECT_EQ(IndiceAcciaio, 1);
-    IndiceAcciaio = 2;
-    ASSERT_TRUE(ScriveImpostazioniCambiate());
-    EXPECT_EQ(LeggeByte(percorso), File("1/2", cemento, "1\r\n1,1,1\r\n"));
-    IndiceAcciaio = 0;
-    ASSERT_TRUE(IniLeggeScrive("L"));
-    EXPECT_EQ(IndiceAcciaio, 2);
-}
-
 TEST_F(ImpostazioniTest, ZerosAreRepaired) {
     ASSERT_TRUE(Legge(File("0/0", "0\r\n-1\r\n0\r\n", "2\r\n0,1.2,0\r\n")));
     EXPECT_EQ(fck, 25);
