@@ -37,8 +37,8 @@ protected:
 
 TEST_F(ComandoSchermiTest, ADrawingOfASectionIsThatOfItsScreen) {
     Avvia();
-    auto& s = dynamic_cast<SchermoSezione&>(NavigaSchermi::Unico().Prendi("frmDoppioT"));
-    VaiA(s, "IPE 300");
+    auto& s = dynamic_cast<SchermoSezione&>(NavigaSchermi::Unico().Prende("frmDoppioT"));
+    VaA(s, "IPE 300");
     {
         const StatoUscita before;
         std::int16_t number = 0;
