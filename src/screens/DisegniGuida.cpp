@@ -7,7 +7,7 @@
 
 #include "composite/AcciaioCls.h"
 #include "composite/DisegniTraveMista.h"
-#include "composite/ui/DisegnoVivo.h"
+#include "composite/DisegnoVivo.h"
 #include "criticalloads/DisegnoTrave.h"
 #include "drawing/Grafica.h"
 #include "fasteners/DisegnoForatura.h"
@@ -244,6 +244,7 @@ const Tabella& Disegni() {
                                        return DisegnoTrave({true, false, 0});
                                    }},
                                   {"momenti", EsempioMomenti},
+                                  {"portale", DisegnoPortale},
                                   {"prospettoF1", [] { return DisegnoProspetto(1); }},
                                   {"prospettoF2", [] { return DisegnoProspetto(2); }},
                                   {"sezione", [] { return Tavola(Ipe300(), "frmDoppioT"); }},

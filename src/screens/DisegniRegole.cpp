@@ -197,8 +197,69 @@ void TracciaCordone(const Quadro& q) {
     q.Testo(spigolo + fuori + Punto{4, -4}, "a", Allinea::Sinistra, Posa::Basso);
 }
 
+/// Both halves of the picture: a frame between its feet.
+struct Telaio {
+    double sinistra, destra, alto, basso;
+
+    void Traccia(const Quadro& q) const {
+        q.Contorno();
+        Quadro::Spezzata(
+            std::array<Punto, 4>{{{sinistra, basso}, {sinistra, alto}, {destra, alto}, {destra, basso}}});
+        for (const double x : {sinistra, destra}) {
+            Quadro::Cerchio({x, basso + 4}, 4);
+            Quadro::Linea({x - 12, basso + 8}, {x + 12, basso + 8});
+        }
+    }
+};
+
+void TracciaPortale(const Quadro& q) {
+    const Telaio carico{50, 230, 60, 180};
+    carico.Traccia(q);
+    q.Fine();
+    Quadro::Linea({carico.sinistra, 28}, {carico.destra, 28});
+    for (int i = 0; i <= 10; ++i) {
+        const Punto giu{carico.sinistra + 18.0 * i, carico.alto - 3};
+        Quadro::Linea({giu.x, 28}, giu);
+        Quadro::Punta(giu, {0, 1}, 6, 2);
+    }
+    q.Testo({140, 24}, "p", Allinea::Centro, Posa::Basso);
+    q.Quota({carico.sinistra, 208}, {carico.destra, 208});
+    q.Testo({140, 212}, "L", Allinea::Centro, Posa::Alto);
+    q.Quota({20, carico.basso}, {20, carico.alto});
+    q.Testo({16, 120}, "h", Allinea::Destra, Posa::Mezzo);
+
+    const Telaio momenti{330, 510, 60, 180};
+    constexpr double nodo = 21; // of 67.5 kNm, the diagram on the side of the tension
+    constexpr double isolata = 71;
+    std::vector<Punto> trave;
+    for (int i = 0; i <= 40; ++i) {
+        const double s = i / 40.0;
+        trave.push_back({momenti.sinistra + s * (momenti.destra - momenti.sinistra),
+                         momenti.alto - nodo + isolata * 4 * s * (1 - s)});
+    }
+    const auto colonna = [&](double x, double fuori) {
+        const std::array<Punto, 3> lato{{{x, momenti.basso}, {x + fuori, momenti.alto}, {x, momenti.alto}}};
+        Quadro::Area(lato, Fondo::Tenue);
+        q.Fine();
+        Quadro::Spezzata(lato);
+    };
+    colonna(momenti.sinistra, -nodo);
+    colonna(momenti.destra, nodo);
+    std::vector<Punto> area = trave;
+    area.push_back({momenti.destra, momenti.alto});
+    area.insert(area.begin(), {momenti.sinistra, momenti.alto});
+    Quadro::Area(area, Fondo::Tenue);
+    q.Fine();
+    Quadro::Spezzata(area);
+    momenti.Traccia(q);
+    q.Testo({momenti.sinistra, momenti.alto - nodo - 3}, "M", Allinea::Centro, Posa::Basso);
+    q.Testo({momenti.destra, momenti.alto - nodo - 3}, "M", Allinea::Centro, Posa::Basso);
+    q.Testo({420, momenti.alto - nodo + isolata + 3}, "MQ - M", Allinea::Centro, Posa::Alto);
+}
+
 } // namespace
 
+Disegno DisegnoPortale() { return Figura("Portale", {540, 236}, TracciaPortale); }
 Disegno DisegnoCurve() { return Figura("Curve di instabilità", {460, 300}, TracciaCurve); }
 Disegno DisegnoTensioni() { return Figura("Tensioni", {480, 165}, TracciaTensioni); }
 Disegno DisegnoDominio() { return Figura("Momenti ridotti", {400, 260}, TracciaDominio); }

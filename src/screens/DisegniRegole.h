@@ -19,4 +19,7 @@ Disegno DisegnoDominio();
 /// Leg and throat of a fillet weld.
 Disegno DisegnoCordone();
 
+/// A portal hinged at its feet under a uniform load, and its moment diagram.
+Disegno DisegnoPortale();
+
 } // namespace sagomi
