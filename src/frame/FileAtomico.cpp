@@ -2,16 +2,14 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cerrno>
 #include <cstddef>
-#include <cstdio>
-#include <cstdlib>
 #include <ctime>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
+
+#include "frame/Disco.h"
 
 namespace sagomi {
 
@@ -80,28 +78,6 @@ mode_t Diritti(const fs::path& meta) {
     return 0666U & ~maschera;
 }
 
-bool ScriveTutto(int fd, std::string_view byte) {
-    while (!byte.empty()) {
-        const ssize_t scritti = write(fd, byte.data(), byte.size());
-        if (scritti < 0 && errno == EINTR)
-            continue;
-        if (scritti <= 0)
-            return false;
-        byte.remove_prefix(static_cast<std::size_t>(scritti));
-    }
-    return true;
-}
-
-/// The name of a file lies in its folder: the folder goes to the disk too. Some systems refuse; the file is
-/// whole all the same.
-void SvuotaCartella(const fs::path& cartella) {
-    const int fd = open(cartella.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0)
-        return;
-    fsync(fd);
-    close(fd);
-}
-
 } // namespace
 
 FileAtomico::~FileAtomico() { Abbandona(); }
@@ -127,7 +103,7 @@ bool FileAtomico::Apre(const fs::path& percorso) {
         return false;
     ToglieAbbandonati(meta_);
     temporaneo_ = (meta_.parent_path() / (InizioTemporaneo(meta_).append(segnaposto))).string();
-    fd_ = mkostemp(temporaneo_.data(), O_CLOEXEC);
+    fd_ = DiscoInUso().CreaTemporaneo(temporaneo_);
     if (fd_ < 0)
         temporaneo_.clear();
     return fd_ >= 0;
@@ -136,25 +112,26 @@ bool FileAtomico::Apre(const fs::path& percorso) {
 bool FileAtomico::Conferma(std::string_view byte, const std::function<bool()>& ancora) {
     if (fd_ < 0)
         return false;
-    static_cast<void>(fchmod(fd_, Diritti(meta_))); // a disk without rights refuses; the text is what matters
-    bool riuscito = ScriveTutto(fd_, byte) && fsync(fd_) == 0;
-    riuscito = close(std::exchange(fd_, -1)) == 0 && riuscito;
+    Disco& disco = DiscoInUso();
+    disco.Permette(fd_, Diritti(meta_));
+    bool riuscito = disco.Scrive(fd_, byte) && disco.Svuota(fd_);
+    riuscito = disco.Chiude(std::exchange(fd_, -1)) && riuscito;
     riuscito = riuscito && (!ancora || ancora());
-    riuscito = riuscito && std::rename(temporaneo_.c_str(), meta_.c_str()) == 0;
+    riuscito = riuscito && disco.Rinomina(temporaneo_, meta_);
     if (!riuscito) {
         Abbandona();
         return false;
     }
     temporaneo_.clear();
-    SvuotaCartella(meta_.parent_path());
+    disco.SvuotaCartella(meta_.parent_path());
     return true;
 }
 
 void FileAtomico::Abbandona() {
     if (fd_ >= 0)
-        close(std::exchange(fd_, -1));
+        DiscoInUso().Chiude(std::exchange(fd_, -1));
     if (!temporaneo_.empty())
-        unlink(std::exchange(temporaneo_, {}).c_str());
+        DiscoInUso().Toglie(std::exchange(temporaneo_, {}));
 }
 
 bool ScriveAtomico(const fs::path& percorso, std::string_view byte, const std::function<bool()>& ancora) {

@@ -6,13 +6,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "DiscoVolatile.h"
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "DiscoVolatile.h"
 #include "Fogli.h"
 #include "catalogue/CartellaXls.h"
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/LettoreXls.h"
+#include "catalogue/SagomoUtente.h"
 #include "frame/Ambiente.h"
 
 using namespace sagomi;
@@ -267,6 +270,18 @@ TEST(ComponeBiff, ListOfSheetsPointsAtThem) {
             ++voci;
         }
     EXPECT_EQ(voci, 3);
+}
+
+// Flushed before it takes the old one's place, the folder flushed behind it.
+TEST(ScrittoreXls, SavesStepByStep) {
+    prove::DiscoVolatile disco;
+    ScriveXls(CartellaUtenteVuota(), "/cartella/che/manca/x.xls");
+    std::vector<prove::DiscoVolatile::Passo> passi;
+    for (const auto& voce : disco.Diario())
+        if (voce.passo != prove::DiscoVolatile::Passo::Scrive)
+            passi.push_back(voce.passo);
+    using enum prove::DiscoVolatile::Passo;
+    EXPECT_EQ(passi, (std::vector{Crea, Svuota, Chiude, Rinomina, SvuotaCartella}));
 }
 
 } // namespace

@@ -1,42 +1,21 @@
 #include "frame/FileAtomico.h"
 
 #include <chrono>
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "Ambiente.h"
+#include "Guasti.h"
 
 using namespace sagomi;
+using prove::DiscoPieno;
 using prove::LeggeByte;
 using prove::ScriveByte;
 
 namespace fs = std::filesystem;
 
 namespace {
-
-/// A disk with room for a few bytes more.
-class DiscoPieno {
-public:
-    explicit DiscoPieno(rlim_t byte) {
-        getrlimit(RLIMIT_FSIZE, &prima_);
-        segnale_ = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit ora{byte, prima_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &ora);
-    }
-    ~DiscoPieno() {
-        setrlimit(RLIMIT_FSIZE, &prima_);
-        std::signal(SIGXFSZ, segnale_);
-    }
-    DiscoPieno(const DiscoPieno&) = delete;
-    DiscoPieno& operator=(const DiscoPieno&) = delete;
-
-private:
-    rlimit prima_{};
-    void (*segnale_)(int);
-};
 
 class FileAtomicoTest : public testing::Test {
 protected:

@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QClipboard>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -9,9 +10,12 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QRegularExpression>
+#include <QScopeGuard>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 #include "drawing/Cad.h"
@@ -76,18 +80,12 @@ private:
     StatoUscita before_;
 };
 
-/// Draws the pages of a printer that has been chosen.
-bool StampaTutte(QPrinter& printer, const PaginaStampata& draw) {
-    const bool onFile = !printer.outputFileName().isEmpty();
-    const bool missing = !onFile && printer.outputFormat() == QPrinter::NativeFormat &&
-                         (!printer.isValid() || QPrinterInfo::availablePrinterNames().isEmpty());
-    if (missing) {
-        AvvisaStampante();
-        return false;
-    }
+/// Draws the pages of a printer that is there, or of its file.
+/// @param nonIniziato  says what is wrong where it cannot begin
+bool Disegna(QPrinter& printer, const PaginaStampata& draw, const std::function<void()>& nonIniziato) {
     LavoroDiStampa job(printer);
     if (!job.Iniziato()) {
-        onFile ? AvvisaNonScrivibile(printer.outputFileName()) : AvvisaStampante();
+        nonIniziato();
         return false;
     }
     const int copies = printer.supportsMultipleCopies() ? 1 : std::max(1, printer.copyCount());
@@ -97,6 +95,45 @@ bool StampaTutte(QPrinter& printer, const PaginaStampata& draw) {
             return draw(page, number);
         });
     });
+}
+
+/// What stands in a document that is whole, else nothing: the toolkit does not tell a disk that was full.
+std::string PdfIntero(const QString& file) {
+    QFile document(file);
+    const QByteArray bytes = document.open(QIODevice::ReadOnly) ? document.readAll() : QByteArray();
+    return bytes.trimmed().endsWith("%%EOF") ? bytes.toStdString() : std::string();
+}
+
+/// Draws the pages of a document, which takes the place of its file when it is whole.
+bool StampaPdf(QPrinter& printer, const PaginaStampata& draw) {
+    const QString file = printer.outputFileName();
+    const auto notWritable = [&file] { AvvisaNonScrivibile(file); };
+    const QTemporaryDir aside;
+    const QString document = aside.filePath(QStringLiteral("documento.pdf"));
+    printer.setOutputFileName(document);
+    const auto back = qScopeGuard([&] { printer.setOutputFileName(file); });
+    if (!Disegna(printer, draw, notWritable))
+        return false;
+    const std::string bytes = PdfIntero(document);
+    const bool written = !bytes.empty() && ScriveAtomico(file.toStdString(), bytes);
+    if (!written)
+        notWritable();
+    return written;
+}
+
+/// Draws the pages of a printer that has been chosen.
+bool StampaTutte(QPrinter& printer, const PaginaStampata& draw) {
+    const bool onFile = !printer.outputFileName().isEmpty();
+    if (onFile && printer.outputFormat() == QPrinter::PdfFormat)
+        return StampaPdf(printer, draw);
+    const bool missing = !onFile && printer.outputFormat() == QPrinter::NativeFormat &&
+                         (!printer.isValid() || QPrinterInfo::availablePrinterNames().isEmpty());
+    if (missing) {
+        AvvisaStampante();
+        return false;
+    }
+    return Disegna(printer, draw,
+                   [&] { onFile ? AvvisaNonScrivibile(printer.outputFileName()) : AvvisaStampante(); });
 }
 
 PaginaStampata PaginaDi(const Disegno& drawing, const QString& maschera) {

@@ -5,10 +5,12 @@
 
 #include <stdexcept>
 
+#include "Guasti.h"
 #include "drawing/CadFinto.h"
 #include "drawing/Dxf.h"
 #include "drawing/Grafica.h"
 #include "drawing/ui/Immagini.h"
+#include "frame/Ambiente.h"
 #include "frame/ui/AmbienteFinestre.h"
 #include "frame/ui/FileDialogo.h"
 
@@ -263,6 +265,53 @@ TEST_F(ScegliDispositivoTest, APngFileHoldsThePicture) {
 }
 
 // CAD ---------------------------------------------------------------------------------------------------
+
+/// The kinds of files that a drawing goes to.
+struct Uscite {
+    int scelta;
+    const char* estensione;
+};
+constexpr Uscite uscite[] = {
+    {sceltaDxf, "dxf"}, {sceltaSvg, "svg"}, {sceltaPdf, "pdf"}, {sceltaPng, "png"}, {sceltaStampante, "pdf"}};
+
+TEST_F(ScegliDispositivoTest, OnAFullDiskTheOldFileStaysAndIsTold) {
+    for (const Uscite& u : uscite) {
+        const std::filesystem::path file = PathProgramma / ("disegno." + std::string(u.estensione));
+        ScriveByte(file, "vecchio");
+        RispondeFile(QString::fromStdString(file.string()));
+        RispondeStampante(QString::fromStdString(file.string()));
+        registratore.testi.clear();
+        {
+            const DiscoPieno full(10);
+            EXPECT_FALSE(ScegliDispositivo(u.scelta, QString::fromLatin1(u.estensione), disegno,
+                                           QStringLiteral("x"), nullptr));
+        }
+        EXPECT_EQ(LeggeByte(file), "vecchio") << u.estensione;
+        ASSERT_EQ(registratore.testi.size(), 1U) << u.estensione;
+        EXPECT_NE(registratore.testi[0], "");
+        EXPECT_TRUE(ScegliDispositivo(u.scelta, QString::fromLatin1(u.estensione), disegno,
+                                      QStringLiteral("x"), nullptr))
+            << "the disk has room again";
+        EXPECT_NE(LeggeByte(file), "vecchio");
+    }
+}
+
+TEST_F(ScegliDispositivoTest, AFolderOrAPipeInAFilesPlaceIsTold) {
+    for (const Uscite& u : uscite)
+        for (const AlPosto what : {AlPosto::Cartella, AlPosto::Pipa}) {
+            const std::filesystem::path file = PathProgramma / "al posto.pdf";
+            Mette(what, file);
+            RispondeFile(QString::fromStdString(file.string()));
+            RispondeStampante(QString::fromStdString(file.string()));
+            registratore.testi.clear();
+            EXPECT_FALSE(ScegliDispositivo(u.scelta, QString::fromLatin1(u.estensione), disegno,
+                                           QStringLiteral("x"), nullptr));
+            ASSERT_EQ(registratore.testi.size(), 1U) << u.estensione;
+            EXPECT_NE(registratore.testi[0].find(MotivoAtteso(what)), std::string::npos)
+                << registratore.testi[0];
+            std::filesystem::remove(file);
+        }
+}
 
 TEST_F(ScegliDispositivoTest, WithoutACadProgramTheTwoLinesAreShown) {
     EXPECT_FALSE(Sceglie(sceltaCad));

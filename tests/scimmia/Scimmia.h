@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <random>
+
+class QAbstractButton;
+class QMenu;
+class QWidget;
+
+namespace sagomi::prove {
+
+class Sorveglianza;
+
+/// Plays with the windows of the program: clicks, keys, texts, the wheel, menus, sizes, boxes. What it does
+/// follows from its seed. Each event is one turn of the loop in force, so it goes on inside boxes, menus and
+/// long work.
+class Scimmia : public QObject {
+public:
+    Scimmia(Sorveglianza& sorveglianza, int eventi, unsigned seme);
+
+    void Comincia();
+    /// All its events are done.
+    [[nodiscard]] bool Finito() const { return fatti_ >= eventi_; }
+
+    /// A file for a dialog: sound, broken, none, or in the place of one something else.
+    QString File(bool daLeggere, const QString& cartella);
+    /// Whether a print dialog is accepted.
+    bool Si(int suCento) { return Caso(100) < suCento; }
+
+private:
+    void Passo();
+    void Agisce();
+    void Chiude();
+    void SulMenu(QMenu& menu);
+    void SulDialogo(QWidget& dialogo);
+    void SulloSchermo();
+    void MuoveFinestre(QWidget& finestra);
+    void Clicca(QWidget& w);
+    void Scrive(QWidget& w);
+    void Preme(QWidget& w);
+    void Gira(QWidget& w);
+    void MenuContestuale(QWidget& w);
+    void VoceDiMenu(QWidget& finestra);
+
+    int Caso(int n) { return static_cast<int>(generatore_() % static_cast<unsigned>(n)); }
+    template <typename L> const auto& Uno(const L& lista) {
+        return lista[Caso(static_cast<int>(lista.size()))];
+    }
+    QWidget* Finestra();
+    QWidget* Controllo(QWidget& finestra);
+    void Racconta(const QString& evento, const QWidget* w = nullptr);
+
+    Sorveglianza& sorveglianza_;
+    std::mt19937 generatore_;
+    int eventi_;
+    int fatti_ = 0;
+    int inFondo_ = 0; ///< turns since the end of the events
+};
+
+} // namespace sagomi::prove
