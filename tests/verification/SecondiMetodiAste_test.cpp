@@ -21,24 +21,6 @@ class SecondiMetodiAste : public Ambiente {};
 
 constexpr double pi = std::numbers::pi;
 
-TraveElementi ElementiDi(const SezioneDoppioT& s, double L) {
-    TraveElementi t;
-    t.L = L;
-    t.EIz = E_acciaio * s.Jz;
-    t.EIw = E_acciaio * s.Jw;
-    t.GIt = G_acciaio * s.JT;
-    return t;
-}
-
-double McrDi(SezioneDoppioT s, double L, double C1, double c2 = 0, double za = 0) {
-    s.k = s.Kw = 1;
-    s.LLT = L;
-    s.C1 = C1;
-    s.c2 = c2;
-    s.za = za;
-    return s.McrFunz();
-}
-
 TEST_F(SecondiMetodiAste, MomentoCriticoAgliElementiFiniti) {
     const auto s = Laminata("IPE 400", 235, 400, 180, 8.6, 13.5, 21);
     const double L = 6000;

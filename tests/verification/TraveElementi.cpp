@@ -4,6 +4,9 @@
 #include <cmath>
 #include <vector>
 
+#include "sections/Eurocod3.h"
+#include "sections/SezioneDoppioT.h"
+
 namespace sagomi::verifica {
 
 namespace {
@@ -100,6 +103,24 @@ double TraveElementi::Critico() const {
         (Stabile(s, libere, m) ? basso : alto) = m;
     }
     return basso;
+}
+
+TraveElementi ElementiDi(const SezioneDoppioT& s, double L) {
+    TraveElementi t;
+    t.L = L;
+    t.EIz = E_acciaio * s.Jz;
+    t.EIw = E_acciaio * s.Jw;
+    t.GIt = G_acciaio * s.JT;
+    return t;
+}
+
+double McrDi(SezioneDoppioT s, double L, double C1, double c2, double za) {
+    s.k = s.Kw = 1;
+    s.LLT = L;
+    s.C1 = C1;
+    s.c2 = c2;
+    s.za = za;
+    return s.McrFunz();
 }
 
 PiattiAperti::PiattiAperti(double h, double b, double tw, double tf, double bInf, double tInf) {

@@ -2,6 +2,10 @@
 
 #include <functional>
 
+namespace sagomi {
+class SezioneDoppioT;
+}
+
 namespace sagomi::verifica {
 
 /// A beam that buckles sideways, by finite elements: cubic shapes of lateral deflection and twist, energy of
@@ -20,6 +24,12 @@ struct TraveElementi {
     /// Factor of the load at which the beam buckles.
     [[nodiscard]] double Critico() const;
 };
+
+/// Stiffnesses of a section with equal flanges.
+TraveElementi ElementiDi(const SezioneDoppioT& s, double L);
+
+/// The program's critical moment between fork supports [N mm].
+double McrDi(SezioneDoppioT s, double L, double C1, double c2 = 0, double za = 0);
 
 /// Thin-walled values of a double-T of three plates, from the middle lines: heights from the centroid,
 /// upwards.
