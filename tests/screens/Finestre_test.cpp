@@ -37,6 +37,20 @@ TEST_F(FinestreTest, ADetailComesBackWhereItWasLeft) {
     EXPECT_EQ(detail.pos(), QPoint(11, 31));
 }
 
+TEST_F(FinestreTest, SoDoesAScreenThatTakesThePlaceOfItsCaller) {
+    for (const char* name : {"frmBulloni", "frmSaldature", "frmGiunti", "frmAcciaioCls"}) {
+        s->move(7, 9);
+        auto& screen = Apre(name);
+        screen.move(11, 31);
+        screen.close();
+        EXPECT_EQ(s->pos(), QPoint(7, 9)) << name;
+        screen.move(0, 0);
+        Apre(name);
+        EXPECT_EQ(screen.pos(), QPoint(11, 31)) << name;
+        NavigaSchermi::Unico().Lascia(screen);
+    }
+}
+
 TEST_F(FinestreTest, TheSectionAndItsValuesMayBeCovered) {
     for (const QGroupBox* room : s->findChildren<QGroupBox*>())
         EXPECT_EQ(room->property("copribile").toBool(),

@@ -50,6 +50,29 @@ TEST_F(StatoUtenteTest, TheNextStartFindsTheFilesLastUsedAgain) {
     EXPECT_EQ(FileRecenti().value(QStringLiteral("frmAcciaioCls")), files);
 }
 
+TEST_F(StatoUtenteTest, TheNextStartOpensEveryScreenWhereItWas) {
+    const QList<const char*> names{"frmBulloni", "frmSaldature", "frmGiunti", "frmAcciaioCls"};
+    auto& n = NavigaSchermi::Unico();
+    auto& first = Avvia();
+    int step = 1;
+    for (const char* name : names) {
+        n.Apre(QString(name), first);
+        n.Prende(QString(name)).move(step, 20 + step);
+        n.Lascia(n.Prende(QString(name)));
+        ++step;
+    }
+    Finisce();
+    auto& s = Avvia();
+    LeggeStatoComune();
+    step = 1;
+    for (const char* name : names) {
+        n.Apre(QString(name), s);
+        EXPECT_EQ(n.Prende(QString(name)).pos(), QPoint(step, 20 + step)) << name;
+        n.Lascia(n.Prende(QString(name)));
+        ++step;
+    }
+}
+
 TEST_F(StatoUtenteTest, TheNextStartFindsFamiliesOrderRowAndEntriesAgain) {
     auto& s = Avvia();
     s.ChkTipo[0]->click();

@@ -11,6 +11,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/LetturaNumero.h"
 #include "frame/Numeri.h"
+#include "frame/ui/Collocazione.h"
 #include "frame/ui/Twips.h"
 
 namespace sagomi {
@@ -53,7 +54,8 @@ void MostraAcciaioCorrente(QLineEdit* tipo, QLineEdit* fu) {
 }
 
 void DisponeInAlto(QWidget* finestra) {
-    finestra->move(sinistraTwips / twipsAPixel, altoTwips / twipsAPixel);
+    if (!PostiFinestre().contains(finestra->objectName()))
+        finestra->move(sinistraTwips / twipsAPixel, altoTwips / twipsAPixel);
 }
 
 } // namespace sagomi

@@ -23,7 +23,7 @@ void PassoAcciaioCorrente(bool su);
 /// Shows name and ultimate strength of the steel in use.
 void MostraAcciaioCorrente(QLineEdit* tipo, QLineEdit* fu);
 
-/// Places a window where the screens of connections open.
+/// Places a window where the screens of connections open for the first time.
 void DisponeInAlto(QWidget* finestra);
 
 } // namespace sagomi

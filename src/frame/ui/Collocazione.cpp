@@ -1,11 +1,13 @@
 #include "frame/ui/Collocazione.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QScreen>
 
 #include <algorithm>
 #include <array>
+#include <tuple>
 
 #include "frame/ui/EtichettaRisultato.h"
 
@@ -38,7 +40,7 @@ std::array<QPoint, 4> PostiAccanto(QSize size, const QRect& caller) {
 QList<QPoint> PostiSopra(QSize size, const Stanze& s) {
     QList<int> x;
     QList<int> y;
-    for (const QRect& room : s.protette + QList<QRect>{s.copribile, s.chiamante, s.disponibile}) {
+    for (const QRect& room : s.protette + s.aperte + QList<QRect>{s.copribile, s.chiamante, s.disponibile}) {
         x << room.left() << room.right() + 1 - size.width() << room.left() - size.width() << room.right() + 1;
         y << room.top() << room.bottom() + 1 - size.height() << room.top() - size.height()
           << room.bottom() + 1;
@@ -56,8 +58,21 @@ bool HaDati(const QGroupBox& room) {
     return room.findChild<QLineEdit*>() != nullptr || room.findChild<EtichettaRisultato*>() != nullptr;
 }
 
-Stanze StanzeDi(const QWidget& caller) {
-    Stanze s{.disponibile = caller.screen()->availableGeometry(), .chiamante = caller.frameGeometry()};
+/// The windows in sight but two, without menus and tool-tips.
+QList<QRect> AltreFinestre(const QWidget& window, const QWidget& caller) {
+    QList<QRect> others;
+    for (const QWidget* w : QApplication::topLevelWidgets()) {
+        const bool stands = w->windowType() == Qt::Window || w->windowType() == Qt::Dialog;
+        if (stands && w != &window && w != &caller && w->isVisible() && !w->isMinimized())
+            others << w->frameGeometry();
+    }
+    return others;
+}
+
+Stanze StanzeDi(const QWidget& window, const QWidget& caller) {
+    Stanze s{.disponibile = caller.screen()->availableGeometry(),
+             .chiamante = caller.frameGeometry(),
+             .aperte = AltreFinestre(window, caller)};
     for (const QGroupBox* room : caller.findChildren<QGroupBox*>()) {
         if (!room->isVisible())
             continue;
@@ -74,12 +89,14 @@ Stanze StanzeDi(const QWidget& caller) {
 QPoint PostoLibero(QSize misura, const Stanze& stanze) {
     for (const QPoint& beside : PostiAccanto(misura, stanze.chiamante)) {
         const QRect window(Dentro(beside, misura, stanze.disponibile), misura);
-        if (stanze.disponibile.contains(window) && !window.intersects(stanze.chiamante))
+        if (stanze.disponibile.contains(window) && !window.intersects(stanze.chiamante) &&
+            Coperto(window, stanze.aperte) == 0)
             return window.topLeft();
     }
     const auto cost = [&](QPoint p) {
         const QRect window(p, misura);
-        return std::pair(Coperto(window, stanze.protette), -Area(window & stanze.copribile));
+        return std::tuple(Coperto(window, stanze.protette), Coperto(window, stanze.aperte),
+                          -Area(window & stanze.copribile));
     };
     const QList<QPoint> places = PostiSopra(misura, stanze);
     return *std::min_element(places.begin(), places.end(),
@@ -87,12 +104,21 @@ QPoint PostoLibero(QSize misura, const Stanze& stanze) {
 }
 
 void Colloca(QWidget& finestra, const QWidget& chiamante) {
-    const Stanze rooms = StanzeDi(chiamante);
+    const Stanze rooms = StanzeDi(finestra, chiamante);
     const QSize frame = chiamante.frameGeometry().size() - chiamante.size(); // the one of the other is alike
     const QSize size = finestra.size() + frame;
     const auto kept = PostiFinestre().constFind(finestra.objectName());
     finestra.move(kept == PostiFinestre().constEnd() ? PostoLibero(size, rooms)
                                                      : Dentro(*kept, size, rooms.disponibile));
+}
+
+void RiprendePosto(QWidget& finestra) {
+    const auto kept = PostiFinestre().constFind(finestra.objectName());
+    if (kept == PostiFinestre().constEnd() || finestra.isVisible() || finestra.isMaximized())
+        return;
+    const QScreen* there = QGuiApplication::screenAt(*kept);
+    finestra.move(Dentro(*kept, finestra.frameGeometry().size(),
+                         (there != nullptr ? there : finestra.screen())->availableGeometry()));
 }
 
 void RicordaPosto(const QWidget& finestra) {

@@ -16,11 +16,12 @@ struct Stanze {
     QRect chiamante;            ///< the window that opens, with its frame
     QList<QRect> protette = {}; ///< its entries and results
     QRect copribile = {};       ///< what a window may well stand over, empty where nothing is
+    QList<QRect> aperte = {};   ///< other windows of the program
 };
 
-/// Where a window opens: beside its caller, at the right if there is room, else left, below, above; where
-/// there is none, inside the desktop, over as little of the protected rooms as can be, and over the one that
-/// may be covered before anything else.
+/// Where a window opens: beside its caller, at the right if there is room that no other window takes, else
+/// left, below, above; where there is none, inside the desktop, over as little of the protected rooms as can
+/// be, then of other windows, and over the one that may be covered before anything else.
 /// @param misura  size of the window with its frame
 /// @return the upper left corner of its frame
 QPoint PostoLibero(QSize misura, const Stanze& stanze);
@@ -29,6 +30,9 @@ QPoint PostoLibero(QSize misura, const Stanze& stanze);
 /// caller. Group boxes of the caller that have the property "copribile" may be covered, those with entries or
 /// results may not.
 void Colloca(QWidget& finestra, const QWidget& chiamante);
+
+/// Moves a hidden window to where it was left; one that was not shown before stays.
+void RiprendePosto(QWidget& finestra);
 
 /// Keeps the place of a visible window for its next showing.
 void RicordaPosto(const QWidget& finestra);

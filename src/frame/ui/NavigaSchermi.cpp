@@ -167,12 +167,14 @@ void NavigaSchermi::Passa(Schermo& a, Schermo* da) {
     if (da != nullptr) {
         da->ConcludeEntrate();
         a.Adatta(a.Rapporto());
+        RiprendePosto(a);
     }
     ApertaPerUltima(a);
     Mostra(a);
     Attiva(a);
     if (da != nullptr && da != &a) {
         Sospende(*da);
+        RicordaPosto(*da);
         da->hide();
     }
 }
@@ -214,9 +216,10 @@ void NavigaSchermi::ScaricaTutti() {
     const QScopedValueRollback guard(inNavigazione_, true);
     attivo_ = nullptr;
     sospesi_.clear();
+    for (const Schermo* s : schermi_)
+        RicordaPosto(*s); // before the first of them writes what is kept
     while (!schermi_.isEmpty()) {
         Schermo* last = schermi_.takeLast();
-        RicordaPosto(*last);
         last->hide();
         emit schermoScaricato(last->objectName());
         last->deleteLater(); // it may be the one whose close event we are in

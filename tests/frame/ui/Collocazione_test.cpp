@@ -33,6 +33,30 @@ TEST(CollocazioneTest, ElseStandsOverWhatMayBeCoveredAndOverNoEntryOrResult) {
     EXPECT_TRUE(window.intersects(rooms.copribile));
 }
 
+TEST(CollocazioneTest, TheSecondWindowStandsBesideTheFirstWhereThereIsRoom) {
+    const QRect caller(0, 0, 1366, 740);
+    const QRect first(0, 340, 600, 400);
+    const QRect second(
+        PostoLibero({600, 400}, {.disponibile = desktop, .chiamante = caller, .aperte = {first}}),
+        QSize(600, 400));
+    EXPECT_FALSE(second.intersects(first));
+    const QRect wide(
+        PostoLibero({900, 400}, {.disponibile = desktop, .chiamante = caller, .aperte = {first}}),
+        QSize(900, 400));
+    // 740 - 400 = 340 lines above the first are free; at the right edge 600 - 466 = 134 columns are shared
+    const QRect shared = wide & first;
+    EXPECT_EQ(shared.width() * shared.height(), 134 * 60);
+}
+
+TEST(CollocazioneTest, APlaceBesideTheCallerThatIsTakenIsNone) {
+    const QRect beside(700, 0, 500, 400);
+    const QRect second(
+        PostoLibero({500, 400},
+                    {.disponibile = {0, 0, 1920, 1080}, .chiamante = {0, 0, 700, 600}, .aperte = {beside}}),
+        QSize(500, 400));
+    EXPECT_FALSE(second.intersects(beside));
+}
+
 TEST(CollocazioneTest, AWindowLargerThanTheDesktopShowsItsUpperLeftCorner) {
     EXPECT_EQ(PostoLibero({1500, 900}, {.disponibile = desktop, .chiamante = desktop}), QPoint(0, 0));
 }

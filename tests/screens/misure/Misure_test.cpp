@@ -18,6 +18,7 @@
 #include <string>
 
 #include "catalogue/ui/GrigliaCatalogo.h"
+#include "frame/ui/Collocazione.h"
 #include "joints/ui/AmbienteGiunti.h"
 
 /// Looks for texts that are cut, on every screen: maximised, at their own size, and beside each other. The
@@ -113,6 +114,7 @@ protected:
         font.setPointSize(GetParam());
         QApplication::setFont(font);
         AmbienteSchermi::SetUp();
+        PostiFinestre().clear();
     }
     void TearDown() override {
         AmbienteSchermi::TearDown();
@@ -201,7 +203,7 @@ TEST_P(MisureTest, EveryTabOfAJointIsWhole) {
         rows == 1 ? Sceglie("Optfila_0") : Verifica2File();
         if (rows == 1)
             Verifica1Fila();
-        Premi(g, "cmdCalcola");
+        Preme(g, "cmdCalcola");
         for (int tab = 0; tab < tabs->count(); ++tab) {
             Scheda(tab);
             Guarda(*g, std::to_string(rows) + " rows, tab " + std::to_string(tab));
@@ -219,6 +221,12 @@ TEST_P(MisureTest, DetailsCoverNeitherEachOtherNorTheDesktopsEdge) {
     Guarda(Aperto("FrmInstabDoppioT"), "first of two");
     NavigaSchermi::Unico().Apre(QStringLiteral("FrmVerifiche"), s);
     Guarda(Aperto("FrmVerifiche"), "second of two");
+    const QRect one = Aperto("FrmInstabDoppioT").frameGeometry();
+    const QRect two = Aperto("FrmVerifiche").frameGeometry();
+    const QRect shared = one & two;
+    if (s.screen()->geometry().width() >= 1366) { // where both have room
+        EXPECT_LT(shared.width() * shared.height(), two.width() * two.height() / 2);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Caratteri, MisureTest, testing::Values(9, 10, 11, 12),
