@@ -167,6 +167,34 @@ TEST_F(RegoleAste, FattoriDiInterazione) {
            Verso::sollecitazione);
 }
 
+TEST_F(RegoleAste, Trazione) {
+    auto s = Laminata("HE 200 B", 235, 200, 200, 9, 15, 18);
+    s.L0y = s.L0z = 4000;
+    s.NSd = -500e3;
+    s.Mysd = 100e6;
+    s.BetaMy = s.BetaMz = 1.1;
+    s.InizializzaSezione();
+    double Py = 0, Pz = 0;
+    const double somma = s.InterazioneMNInstab(Py, Pz);
+    const double teoria = 500e3 / s.NplRd + 100e6 / s.McyRd;
+    Regola("trazione")
+        .Caso("HE 200 B, 4 m, trazione 500 kN, M<sub>y</sub> 100 kNm", "somma", "-", teoria, somma,
+              Verso::sollecitazione)
+        .Caso("lo stesso: verdetto della finestra", "utilizzo", "-", teoria, GiudicaInstabilita(s).utilizzo,
+              Verso::sollecitazione);
+}
+
+TEST_F(RegoleAste, FrecciaDiProgetto) {
+    Regola r("freccia-iniziale");
+    for (const double L : {3000.0, 5000.0, 8000.0}) {
+        auto s = Laminata("HE 200 B", 235, 200, 200, 9, 15, 18);
+        s.L0y = s.L0z = L;
+        s.InizializzaSezione();
+        r.Caso("HE 200 B, " + Virgola(L / 1e3, 1) + " m, asse y (curva b, L/250)", "e<sub>0,d</sub>", "mm",
+               L / 250, FrecciaIniziale(s, "yy"), Verso::sollecitazione);
+    }
+}
+
 TEST_F(RegoleAste, MembraturaDiClasse4) {
     auto s = Saldata(355, 1000, 300, 6, 12);
     s.L0y = s.L0z = 4000;

@@ -106,6 +106,42 @@ TEST_F(RegoleUnioni, DueFileTese) {
               (2 + 4 * (1 - 1 / 1.4)) * una, giunto.g.Vrd1, Verso::resistenza);
 }
 
+TEST_F(RegoleUnioni, TaglioSenzaRifollamento) {
+    GiuntoInglese giunto;
+    Giunto& g = giunto.g;
+    g.tf = 8;
+    g.Derivati_Calcola();
+    g.Vrd_Calcola();
+    Bullone b;
+    b.Classe(8.8);
+    b.d(9);
+    b.CalcolaResistenzaTaglio();
+    b.t = 8;
+    b.fu = 430;
+    b.e1 = 50;
+    b.p1 = b.p2 = 100;
+    b.e2 = 75;
+    b.RifollamentoCalcola();
+    Regola("taglio-senza-rifollamento")
+        .Caso("M24 8.8, flangia da 8 mm, S275, e<sub>1</sub> 50: fila compressa", "V<sub>Rd</sub>", "kN",
+              2 * std::min<double>(b.FbRd, b.FvRd) / 1e3, g.Vrd0, Verso::resistenza);
+}
+
+TEST_F(RegoleUnioni, GolaDelleAli) {
+    Regola r("gola-delle-ali");
+    for (const std::int16_t file : {std::int16_t{1}, std::int16_t{2}}) {
+        GiuntoInglese giunto;
+        Giunto& g = giunto.g;
+        g.Trave->fu = 430;
+        g.Trave->fy = 275;
+        g.nf = file;
+        g.saldature(1);
+        const double piena = 15.6 / 2 * 275 * sqrt2 * 0.85 * 1.25 / 430; // both fillets across the flange
+        r.Caso(std::string("UB 533x210x92, S275, ala da 15,6 mm, ") + (file == 1 ? "una fila" : "due file"),
+               "gola a<sub>f</sub>", "mm", piena, g.Af, Verso::sollecitazione);
+    }
+}
+
 TEST_F(RegoleUnioni, PannelloATaglio) {
     GiuntoInglese giunto;
     Giunto& g = giunto.g;
