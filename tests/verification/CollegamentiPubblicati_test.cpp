@@ -75,6 +75,34 @@ TEST_F(CollegamentiPubblicati, BulloniDiDueAngolari) {
         .Confronta("F<sub>t,Rd</sub>", "kN", "203", t.FtRd / 1e3, 0.005);
 }
 
+TEST_F(CollegamentiPubblicati, BulloniDelleTabelle) {
+    struct Riga {
+        const char* nome;
+        std::int16_t posizione;
+        double classe;
+        const char *FvRd, *FtRd; // null where the table was not read
+    };
+    Esempio e(Capitolo::collegamenti, "Orange", "tabelle dei bulloni",
+              "bulloni M16, M20 e M24: un piano di taglio sul filetto, trazione");
+    for (const Riga& r : {Riga{"M16 4.6", 5, 4.6, "30.1", "45.2"},
+                          {"M20 4.6", 7, 4.6, "47.0", "70.6"},
+                          {"M24 4.6", 9, 4.6, "67.8", "102"},
+                          {"M16 8.8", 5, 8.8, "60.3", nullptr},
+                          {"M20 8.8", 7, 8.8, "94.1", "141"},
+                          {"M24 8.8", 9, 8.8, "136", nullptr},
+                          {"M16 10.9", 5, 10.9, "62.8", nullptr},
+                          {"M20 10.9", 7, 10.9, "98.0", nullptr},
+                          {"M24 10.9", 9, 10.9, "141", nullptr}}) {
+        Bullone b;
+        b.Classe(r.classe);
+        b.d(r.posizione);
+        b.CalcolaResistenzaTaglio();
+        e.Confronta(std::string(r.nome) + ", F<sub>v,Rd</sub>", "kN", r.FvRd, b.FvRd / 1e3, 0.005);
+        if (r.FtRd != nullptr)
+            e.Confronta(std::string(r.nome) + ", F<sub>t,Rd</sub>", "kN", r.FtRd, b.FtRd / 1e3, 0.005);
+    }
+}
+
 TEST_F(CollegamentiPubblicati, Saldatura) {
     class Saldatura cordone;
     cordone.fu = 430;

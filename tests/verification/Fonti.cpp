@@ -46,6 +46,11 @@ const std::vector<Fonte>& Fonti() {
         {"P363", "The Steel Construction Institute, BCSA", "Steel Building Design: Design Data",
          "The Steel Construction Institute, P363", "2009",
          "Righe delle tabelle delle sezioni riportate con la pagina da una raccolta pubblica di prove."},
+        {"Orange", "ArcelorMittal", "The Orange Book: tabelle di progetto secondo Eurocodice 3",
+         "tabelle dei bulloni non precaricati e precaricati", "s. d.",
+         "Righe trascritte dalle tabelle nelle prove del programma, in precedenza; la pagina e l'edizione "
+         "non "
+         "sono indicate."},
         {"P398", "The Steel Construction Institute, BCSA",
          "Joints in Steel Construction: Moment-Resisting Joints to Eurocode 3",
          "The Steel Construction Institute, P398", "2013",
