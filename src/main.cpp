@@ -13,6 +13,7 @@
 #include "choice/Comando.h"
 #include "choice/Opzioni.h"
 #include "frame/ui/Protetto.h"
+#include "report/ui/PdfRelazione.h"
 #include "screens/ApreFile.h"
 #include "screens/GeneraleSchermi.h"
 
@@ -28,6 +29,7 @@ std::filesystem::path CartellaComando(const Scelta& chosen) {
 
 /// What is answered without windows.
 std::optional<int> Comando(const std::vector<std::string>& arguments, const Scelta& chosen) {
+    sagomi::ImpostaPdfRelazione();
     const auto status = sagomi::EsegueComando(
         arguments, [&chosen] { return CartellaComando(chosen); }, std::cin, std::cout, std::cerr);
     if (!status || std::cout.flush())

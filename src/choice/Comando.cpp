@@ -12,6 +12,8 @@
 #include "choice/Opzioni.h"
 #include "choice/RelazioneVerifica.h"
 #include "choice/ScritturaScelta.h"
+#include "frame/Cartelle.h"
+#include "frame/GeneraleSagomi.h"
 #include "frame/VersioneProgramma.h"
 
 namespace sagomi {
@@ -173,6 +175,17 @@ int EsegueLavori(const std::vector<std::string>& comuni, const TrovaCartella& ca
     return peggiore;
 }
 
+/// Formulas lie beside the workbooks of a program that is not installed; a report does without.
+void TrovaFormule(const TrovaCartella& cartella) {
+    try {
+        const std::filesystem::path dove = cartella();
+        if (CartellaInstallata().empty())
+            PathInstallazione = dove;
+    } catch (const std::exception&) {
+        return;
+    }
+}
+
 int Esegue(Comando c, const TrovaCartella& cartella, std::ostream& uscita) {
     if (c.modo == ModoComando::Aiuto) {
         uscita << guida;
@@ -184,6 +197,7 @@ int Esegue(Comando c, const TrovaCartella& cartella, std::ostream& uscita) {
     }
     if (!c.file.empty()) {
         MetteInVigore(c);
+        TrovaFormule(cartella);
         return RelazioneDiFile(c);
     }
     return Risponde(c, Legge(cartella(), c.filtri.famiglie), uscita);

@@ -19,9 +19,10 @@ namespace sagomi {
 struct PassoRelazione {
     std::string descrizione{}; ///< in words
     std::string simbolo{};
-    std::string formula{}; ///< empty for an entry
-    std::string numeri{};  ///< the formula with its numbers put in; may be empty
-    std::string valore{};  ///< empty where there is none
+    /// Empty for an entry; lines that tell their own left sides begin with a line feed.
+    std::string formula{};
+    std::string numeri{}; ///< the formula with its numbers put in; may be empty
+    std::string valore{}; ///< empty where there is none
     std::string unita{};
     std::string norma{}; ///< clause
 };

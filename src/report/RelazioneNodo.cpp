@@ -1,16 +1,20 @@
 #include "report/RelazioneNodo.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
+#include "frame/Cartelle.h"
+#include "frame/FileDati.h"
+#include "frame/LetturaFile.h"
 #include "frame/Messaggi.h"
 #include "joints/DisegnoNodo.h"
+#include "joints/FormuleGiunto.h"
 #include "joints/Nodo.h"
 #include "joints/RelazioneGiunto.h"
 #include "joints/TestiGiunto.h"
 #include "joints/UtilizzoGiunto.h"
 #include "report/Figure.h"
+#include "report/FormuleRelazione.h"
 
 namespace sagomi {
 
@@ -95,20 +99,125 @@ TracciaGiunto Passi(const Giunto& giunto) {
     }
 }
 
-/// A chapter of the whole derivation; a component and its name stand where they change.
+/// The bytes of the file of formulas; empty where it cannot be read.
+std::string Formule() {
+    constexpr std::size_t massimo = std::size_t{1} << 22U;
+    try {
+        const FileLetto file = LeggeFile(PercorsoSenzaMaiuscole(CartellaInstallata(), fileFormule), massimo);
+        return {file.byte.begin(), file.byte.end()};
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+/// Symbols of steps that have no block of formulas.
+constexpr std::pair<std::string_view, const char*> simboli[] = {{"Bt", "B{t,Rd}"},
+                                                                {"leff", "l{eff}"},
+                                                                {"beff", "b{eff}"},
+                                                                {"Mpl", "M{pl,Rd}"},
+                                                                {"Modo 1", "F{t,1,Rd}"},
+                                                                {"Modo 2", "F{t,2,Rd}"},
+                                                                {"Modo 3", "F{t,3,Rd}"},
+                                                                {"sigma", "σ{c}"},
+                                                                {"fd", "f{d}"},
+                                                                {"Avc", "A{vc}"},
+                                                                {"a1", "a{1}"},
+                                                                {"a2", "a{2}"},
+                                                                {"CordoneAla", "a{max}"},
+                                                                {"mu", "μ"},
+                                                                {"S", "S"},
+                                                                {"SEst", "S{est}"},
+                                                                {"eta1", "η{1}"},
+                                                                {"eta2", "η{2}"},
+                                                                {"eta3", "η{3}"},
+                                                                {"eta4", "η{4}"},
+                                                                {"eta5", "η{5}"},
+                                                                {"eta6", "η{6}"},
+                                                                {"eta5e", "η{5,est}"},
+                                                                {"zInt", "z{int}"},
+                                                                {"zEst", "z{est}"},
+                                                                {"FtotFile", "F{tot}"},
+                                                                {"leffInterna", "l{eff}"},
+                                                                {"Ftrd_FilaSupRid_c", "F{t,Rd,rid}"},
+                                                                {"mu4_Estesa", "μ{4,est}"},
+                                                                {"mu5_Estesa", "μ{5,est}"},
+                                                                {"FtRd_Individuale", "F{t,Rd}"},
+                                                                {"FtRd_Gruppo", "F{t,Rd,gr}"},
+                                                                {"RDebole", "F{Rd,min}"},
+                                                                {"Sj_MjRd_", "S{j,int}"},
+                                                                {"Sj_MjRd_Estesa", "S{j,est}"},
+                                                                {"Sj_Mela_", "S{j,int}"},
+                                                                {"Sj_Mela_Estesa", "S{j,est}"},
+                                                                {"Sj_MjSd_", "S{j,int}"},
+                                                                {"Sj_MjSd_Estesa", "S{j,est}"}};
+
+/// Texts have their place beside a word, not beside the name of a member.
+constexpr std::pair<std::string_view, const char*> testi[] = {
+    {"ComponenteDeboleFilaInf", "governa"},
+    {"ComponenteDeboleFilaSup", "governa"},
+    {"ComponenteDebole", "governa"},
+    {"Nota", "nota"},
+    {"ResistenzaGiunto", "classe"},
+    {"RigidezzaGiunto1", "telaio controventato"},
+    {"RigidezzaGiunto2", "telaio non controventato"}};
+
+template <typename T> std::string NomeIn(const T& tavola, std::string_view nome) {
+    for (const auto& [chiave, testo] : tavola)
+        if (chiave == nome)
+            return testo;
+    return {};
+}
+
+/// Symbol and formula of a step, from the file of formulas where it has them.
+void Spiega(PassoRelazione& passo, std::string_view nome, const std::string& rtf) {
+    passo.simbolo = NomeIn(simboli, nome);
+    if (nome == "Bt")
+        passo.formula = "0,9 f{ub} A{s} / γ{M2}";
+    if (const auto f = FormulaDi(rtf, nome)) {
+        passo.simbolo = f->simbolo.empty() ? passo.simbolo : f->simbolo;
+        const std::string uguale = passo.simbolo + " = ";
+        const bool propria = f->formula.starts_with(uguale);
+        passo.formula = propria              ? f->formula.substr(uguale.size())
+                        : f->formula.empty() ? std::string()
+                                             : '\n' + f->formula;
+    }
+    if (passo.simbolo.empty())
+        passo.simbolo = ConPedice(nome);
+}
+
+PassoRelazione PassoDi(const PassoGiunto& p, const std::string& rtf) {
+    PassoRelazione passo = Dato({}, {}, p.testo.empty() ? Cifre(p.valore) : p.testo, std::string(p.unita));
+    if (p.testo.empty())
+        Spiega(passo, p.nome, rtf);
+    else
+        passo.descrizione = NomeIn(testi, p.nome);
+    if (passo.unita == "mm2" || passo.unita == "N/mm2")
+        passo.unita.replace(passo.unita.size() - 1, 1, "^{2}");
+    return passo;
+}
+
+/// A chapter of the whole derivation; component and clause stand where they change.
 void AggiungePassi(Relazione& r, const Giunto& giunto, const std::string& lato) {
     CapitoloRelazione c{.titolo = "Passi del calcolo, giunto " + lato};
+    const std::string rtf = Formule();
     std::string_view componente;
     for (const PassoGiunto& p : Passi(giunto)) {
-        const bool nuovo = std::exchange(componente, p.componente) != p.componente;
-        PassoRelazione passo =
-            Dato(nuovo ? std::string(p.componente) : std::string(), std::string(p.nome),
-                 p.testo.empty() ? Cifre(p.valore) : p.testo, std::string(p.unita), std::string(p.norma));
-        if (passo.unita == "mm2" || passo.unita == "N/mm2")
-            passo.unita.replace(passo.unita.size() - 1, 1, "^{2}");
+        if (p.nome == "TipoMessaggio" ||
+            (!p.testo.empty() && p.testo.find_first_not_of(" ") == std::string::npos))
+            continue;
+        PassoRelazione passo = PassoDi(p, rtf);
+        if (std::exchange(componente, p.componente) != p.componente) {
+            passo.descrizione =
+                std::string(p.componente) + (passo.descrizione.empty() ? "" : ", ") + passo.descrizione;
+            passo.norma = p.norma;
+        }
         c.passi.push_back(std::move(passo));
     }
-    if (!c.passi.empty())
+    AdattaDecimali(c);
+    if (c.passi.empty() && giunto.Acquisito)
+        c.note.emplace_back(
+            "I risultati vengono dal file: coi coefficienti parziali in vigore il calcolo ne dà altri.");
+    if (!c.passi.empty() || !c.note.empty())
         r.capitoli.push_back(std::move(c));
 }
 

@@ -78,7 +78,7 @@ void Righe::Passo(const PassoRelazione& p) {
     const std::string rientro(2 + colonnaSimbolo, ' ');
     for (const std::string* formula : {&p.formula, &p.numeri})
         if (!formula->empty())
-            Paragrafo(SenzaPedici(*formula), rientro + "= ");
+            Paragrafo(SenzaPedici(*formula), rientro + (formula->starts_with('\n') ? "  " : "= "));
 }
 
 void Righe::Verdetto(const VerdettoRelazione& v) {
@@ -96,6 +96,8 @@ void Righe::Verdetto(const VerdettoRelazione& v) {
 
 /// Breaks lines at blanks; those of the text stay.
 void Righe::Paragrafo(std::string_view testo, std::string_view testa) {
+    if (testo.starts_with('\n'))
+        testo.remove_prefix(1);
     std::string riga(testa);
     const std::string rientro(Colonne(testa), ' ');
     std::string parola;

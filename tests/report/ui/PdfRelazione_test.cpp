@@ -1,0 +1,119 @@
+#include "report/ui/PdfRelazione.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <regex>
+#include <sstream>
+
+#include "Registratore.h"
+#include "choice/Comando.h"
+#include "frame/FileDati.h"
+#include "joints/NodoDaFile.h"
+#include "report/Relazione.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// What a reader of PDF finds, line by line.
+std::string TestoPdf(const fs::path& file) {
+    const std::string comando = std::string(SAGOMI_PDFTOTEXT) + " -layout '" + file.string() + "' -";
+    const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(comando.c_str(), "r"), pclose);
+    std::string testo;
+    std::array<char, 4096> pezzo{};
+    while (const std::size_t n = std::fread(pezzo.data(), 1, pezzo.size(), pipe.get()))
+        testo.append(pezzo.data(), n);
+    return testo;
+}
+
+class PdfRelazioneTest : public testing::Test {
+protected:
+    void SetUp() override {
+        if (std::string(SAGOMI_PDFTOTEXT).find('/') == std::string::npos)
+            GTEST_SKIP() << "no pdftotext";
+        fs::create_directories(cartella);
+        ImpostaPdfRelazione();
+    }
+    void TearDown() override {
+        RipristinaGenerale();
+        fs::remove_all(cartella);
+    }
+
+    /// The text of the PDF that a command writes.
+    std::string Pdf(std::vector<std::string> argomenti) {
+        const fs::path file = cartella / "o.pdf";
+        argomenti.insert(argomenti.end(), {"--pdf", file.string(), "--progetto", "Capannone à Sesto"});
+        std::istringstream ingresso;
+        std::ostringstream uscita, errori;
+        esito = EsegueComando(argomenti, SAGOMI_BIN, ingresso, uscita, errori).value_or(-1);
+        EXPECT_TRUE(errori.str().empty()) << errori.str();
+        if (const char* tieni = std::getenv("SAGOMI_TIENI_PDF")) // to be looked at
+            fs::copy_file(
+                file,
+                fs::path(tieni) /
+                    (std::string(testing::UnitTest::GetInstance()->current_test_info()->name()) + ".pdf"),
+                fs::copy_options::overwrite_existing);
+        return TestoPdf(file);
+    }
+    static void Ha(const std::string& testo, std::initializer_list<const char*> attesi) {
+        for (const char* atteso : attesi)
+            EXPECT_TRUE(std::regex_search(testo, std::regex(atteso))) << atteso << '\n' << testo;
+    }
+
+    fs::path cartella = fs::path(testing::TempDir()) / "PdfRelazioneTest";
+    int esito = -1;
+};
+
+// IPE 300 in S275 after EC3: A 5381 mm2, Wpl 628.4 cm3. Npl = 5381 x 275 = 1479.775 kN, Mc = 172.81 kNm;
+// slenderness 5000/124.6 = 40.13, relative 40.13/(93.9 x 0.9244) = 0.4623.
+TEST_F(PdfRelazioneTest, ASectionHasItsStepsWithFormulaAndClause) {
+    const std::string testo = Pdf({"IPE 300", "--acciaio", "S275", "--normativa", "EC3", "--N", "100", "--My",
+                                   "50", "--L0y", "5", "--L0z", "2.5"});
+    EXPECT_EQ(esito, comandoVerificato);
+    Ha(testo, {"Capannone à Sesto", "IPE 300", "pagina 1 di [2-6]", "pagina 2 di [2-6]", "1479\\.775 +kN",
+               "172\\.81 +kNm", "40\\.13", "0\\.4623", "5\\.5\\.1\\.2", "5381 · 275 / 1",
+               "Stabilità flesso-torsionale", "OK", "utilizzo [0-9.]+ %"});
+}
+
+TEST_F(PdfRelazioneTest, ACheckThatFailsSaysSo) {
+    const std::string testo = Pdf({"IPE 300", "--N", "9000", "--L0y", "5", "--L0z", "2.5"});
+    EXPECT_EQ(esito, comandoNonVerificato);
+    Ha(testo, {"NO", "supera da sola"});
+}
+
+TEST_F(PdfRelazioneTest, ABeamHasItsSlab) {
+    const std::string testo = Pdf({SAGOMI_TEST_DATA "/composite/piena.sco"});
+    Ha(testo, {"Solaio A", "Spessore della soletta", "223\\.8 +N/mm", "Momento resistente"});
+}
+
+TEST_F(PdfRelazioneTest, AJointHasItsDerivation) {
+    static const auto casi = LeggeCasi(SAGOMI_TEST_DATA "/joints/verifiche.txt");
+    const fs::path file = cartella / "nodo.gfl";
+    {
+        const Registratore quiet;
+        NodoDaFile caso(casi.front(), false);
+        caso.nodo.EsegueCalcolo();
+        caso.nodo.PreparaSalvataggio();
+        const std::int16_t nFile = ApreFile(file, "S");
+        std::string descrizione = "Nodo di prova";
+        ASSERT_TRUE(FileInOut("S", nFile, {&descrizione}) && caso.nodo.Input_Output("S", nFile));
+        ChiudeFile(nFile);
+        RipristinaGenerale();
+    }
+    const std::string testo = Pdf({file.string(), "--normativa", "EC3"});
+    Ha(testo, {"Nodo di prova", "HEM 280", "Passi del calcolo, giunto destro", "73\\.25 +mm", "462\\.4 +kN",
+               "Momento resistente del giunto"});
+}
+
+TEST_F(PdfRelazioneTest, AFileThatCannotBeWrittenIsTold) {
+    EXPECT_THROW(ScrivePdfRelazione({.titolo = "x"}, cartella / "manca" / "o.pdf"), std::runtime_error);
+}
+
+} // namespace
