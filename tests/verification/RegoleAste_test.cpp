@@ -90,6 +90,18 @@ TEST_F(RegoleAste, FattoreC1) {
         r.Caso(dati + ", dal diagramma", "C<sub>1</sub>", "-", esatto,
                EffettiDelDiagramma(m, diagrammaEstremita, pictEstremitaConcordi).C1, Verso::resistenza);
     }
+    Grafico::Punti esatti, formula;
+    for (int i = 0; i <= 20; ++i) {
+        const double psi = -1 + 0.1 * i;
+        t.M = [=](double x) { return 1 - (1 - psi) * x / L; };
+        esatti.emplace_back(psi, t.Critico() / costante);
+        const MomentiMembratura m{100e6, psi * 100e6, 0, 0};
+        formula.emplace_back(psi, EffettiDelDiagramma(m, diagrammaEstremita, pictEstremitaConcordi).C1);
+    }
+    Grafico("fattore-c1", "Fattore del momento critico di una IPE 400 di 6 m con momenti di estremità.",
+            "rapporto ψ dei momenti", "C₁")
+        .Serie("Sagomi, dal diagramma", formula)
+        .Serie("elementi finiti", esatti);
     t.M = [=](double x) { return x * (L - x) / 2 / (L * L / 8); };
     r.Caso("IPE 400, 6 m, carico uniforme, dal diagramma", "C<sub>1</sub>", "-", t.Critico() / costante,
            EffettiDelDiagramma({0, 0, 100e6, 0}, diagrammaCampata, pictDistribuitoConcorde).C1,
@@ -119,6 +131,18 @@ TEST_F(RegoleAste, CurveDiSvergolamento) {
         r.Caso("IPE 400" + dati + ", EN 6.3.2.3 curva c", "χ<sub>LT</sub>", "-", ChiLaminati(0.49, l),
                chi(s, l), Verso::resistenza);
     }
+    Grafico::Punti programma, generale, laminati;
+    for (int i = 10; i <= 100; ++i) {
+        const double l = 0.02 * i;
+        programma.emplace_back(l, chi(s, l));
+        generale.emplace_back(l, Chi(AlfaCurva("b"), l));
+        laminati.emplace_back(l, ChiLaminati(0.49, l));
+    }
+    Grafico("curve-di-svergolamento", "Riduzione per svergolamento di un laminato alto (h/b > 2).",
+            "snellezza relativa", "χ LT")
+        .Serie("Sagomi, curva a", programma)
+        .Serie("EN 6.3.2.2, curva b", generale)
+        .Serie("EN 6.3.2.3, curva c", laminati);
     for (const double l : {0.39, 0.8})
         r.Caso("saldata 400 mm, λ̄<sub>LT</sub> = " + Virgola(l + 1e-9, 2) + ", EN 6.3.2.2 curva c",
                "χ<sub>LT</sub>", "-", Chi(AlfaCurva("c"), l), chi(saldata, l), Verso::resistenza);

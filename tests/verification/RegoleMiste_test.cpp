@@ -143,6 +143,16 @@ TEST_F(RegoleMiste, RipristinoParziale) {
         return AcciaioTeso(eta * Nf, t.fyd()) + eta * Nf * (300 + 120 - x / 2);
     };
     Regola r("ripristino-parziale");
+    Grafico::Punti retta, equilibrio;
+    for (int i = 0; i <= 20; ++i) {
+        const double eta = 0.05 * i;
+        retta.emplace_back(eta, (Ma + eta * (t.MplRd - Ma)) / 1e6);
+        equilibrio.emplace_back(eta, curva(eta) / 1e6);
+    }
+    Grafico("ripristino-parziale", std::string("Momento resistente con connessione parziale: ") + mista + ".",
+            "grado di connessione", "kNm")
+        .Serie("Sagomi", retta)
+        .Serie("equilibrio plastico", equilibrio);
     for (const double Msd : {1.1, 1.5}) {
         const double M = std::min(Msd * Ma, 0.98 * t.MplRd);
         const double programma = ContoParziale(1, t.MplRd, M, Ma).value_or(0);

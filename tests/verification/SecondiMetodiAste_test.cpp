@@ -58,6 +58,20 @@ TEST_F(SecondiMetodiAste, MomentoCriticoAgliElementiFiniti) {
     t.zCarico = -200;
     c.Confronta("M<sub>cr</sub>, carico uniforme all'intradosso", "kNm", t.Critico() * picco / 1e6,
                 McrDi(s, L, u.C1, u.C2, -200) / 1e6, 0.02);
+    Grafico::Punti programma, elementi;
+    for (int i = 4; i <= 24; ++i) {
+        const double luce = 500.0 * i;
+        TraveElementi trave = ElementiDi(s, luce);
+        trave.q = 1;
+        trave.M = [=](double x) { return x * (luce - x) / 2; };
+        trave.zCarico = 200;
+        elementi.emplace_back(luce / 1e3, trave.Critico() * luce * luce / 8 / 1e6);
+        programma.emplace_back(luce / 1e3, McrDi(s, luce, u.C1, u.C2, 200) / 1e6);
+    }
+    Grafico("Momento critico di una IPE 400", "IPE 400 con carico uniforme all'estradosso.", "luce [m]",
+            "momento critico [kNm]")
+        .Serie("Sagomi", programma)
+        .Serie("elementi finiti", elementi);
     const RigaF12& f = ProspettoF12()[4];
     t.q = 0;
     t.P = 1;

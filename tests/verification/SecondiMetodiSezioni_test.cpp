@@ -192,6 +192,18 @@ TEST_F(SecondiMetodiSezioni, MomentoPlasticoRidotto) {
                   "equilibrio plastico di 40 000 strisce della sezione intera, con l'asse neutro che dà lo "
                   "sforzo normale.",
                   "IPE 500, S235");
+    Grafico::Punti norma, strisce;
+    for (int i = 0; i <= 20; ++i) {
+        s.NSd = 0.05 * i * s.NplRd;
+        double MNy = 0, MNz = 0, beta = 0;
+        s.MNRd(MNy, MNz, beta);
+        norma.emplace_back(0.05 * i, MNy / s.McyRd);
+        strisce.emplace_back(0.05 * i, MomentoConForza(500, 200, 10.2, 16, 21, 235, s.NSd) / s.McyRd);
+    }
+    Grafico("Momento plastico ridotto dallo sforzo normale", "Dominio plastico di una IPE 500.", "N / Npl",
+            "M / Mpl")
+        .Serie("Sagomi", norma)
+        .Serie("equilibrio di strisce", strisce);
     for (const double n : {0.2, 0.4, 0.6, 0.8}) {
         s.NSd = n * s.NplRd;
         double MNy = 0, MNz = 0, beta = 0;

@@ -37,9 +37,15 @@ struct RegolaScritta {
     std::vector<std::pair<std::string, std::pair<double, int>>> numeri;
 };
 
+struct GraficoScritto {
+    std::string dove, didascalia, x, y;
+    std::vector<std::pair<std::string, Grafico::Punti>> serie;
+};
+
 struct Verbale {
     std::vector<Gruppo> esempi, controprove;
     std::vector<RegolaScritta> regole;
+    std::vector<GraficoScritto> grafici;
 };
 
 Verbale& IlVerbale() {
@@ -119,6 +125,18 @@ std::string Scrive(const RegolaScritta& r) {
         {{"id", Stringa(r.id)}, {"casi", Lista(r.casi, caso)}, {"numeri", Lista(r.numeri, numero)}});
 }
 
+std::string Scrive(const GraficoScritto& g) {
+    const auto punto = [](const auto& p) { return "[" + Numero(p.first) + ", " + Numero(p.second) + "]"; };
+    const auto serie = [&](const auto& s) {
+        return Oggetto({{"nome", Stringa(s.first)}, {"punti", Lista(s.second, punto)}});
+    };
+    return Oggetto({{"dove", Stringa(g.dove)},
+                    {"didascalia", Stringa(g.didascalia)},
+                    {"x", Stringa(g.x)},
+                    {"y", Stringa(g.y)},
+                    {"serie", Lista(g.serie, serie)}});
+}
+
 std::string Scrive(const Fonte& f) {
     return Oggetto({{"sigla", Stringa(f.sigla)},
                     {"autori", Stringa(f.autori)},
@@ -140,7 +158,8 @@ public:
         file << Oggetto({{"fonti", Lista(Fonti(), [](const Fonte& f) { return Scrive(f); })},
                          {"esempi", Lista(v.esempi, [](const Gruppo& g) { return Scrive(g); })},
                          {"controprove", Lista(v.controprove, [](const Gruppo& g) { return Scrive(g); })},
-                         {"regole", Lista(v.regole, [](const RegolaScritta& r) { return Scrive(r); })}})
+                         {"regole", Lista(v.regole, [](const RegolaScritta& r) { return Scrive(r); })},
+                         {"grafici", Lista(v.grafici, [](const GraficoScritto& g) { return Scrive(g); })}})
              << '\n';
         EXPECT_TRUE(file.good()) << path;
     }
@@ -226,6 +245,19 @@ Regola& Regola::Caso(std::string dati, std::string grandezza, std::string unita,
 
 Regola& Regola::Numero(std::string nome, double valore, int decimali) {
     IlVerbale().regole.at(indice_).numeri.push_back({std::move(nome), {valore, decimali}});
+    return *this;
+}
+
+Grafico::Grafico(std::string dove, std::string didascalia, std::string x, std::string y)
+    : indice_(IlVerbale().grafici.size()) {
+    IlVerbale().grafici.push_back({std::move(dove), std::move(didascalia), std::move(x), std::move(y), {}});
+}
+
+Grafico& Grafico::Serie(std::string nome, Punti punti) {
+    GraficoScritto& g = IlVerbale().grafici.at(indice_);
+    for (const auto& [x, y] : punti)
+        EXPECT_TRUE(std::isfinite(x) && std::isfinite(y)) << g.dove << ": " << nome;
+    g.serie.emplace_back(std::move(nome), std::move(punti));
     return *this;
 }
 

@@ -81,6 +81,21 @@ private:
     std::size_t indice_;
 };
 
+/// Curves of the program and of what it is held against, drawn below a rule or a second method.
+class Grafico {
+public:
+    using Punti = std::vector<std::pair<double, double>>;
+
+    /// @param dove        id of the rule, or title of the second method
+    /// @param didascalia  caption
+    /// @param x, y        names of the axes
+    Grafico(std::string dove, std::string didascalia, std::string x, std::string y);
+    Grafico& Serie(std::string nome, Punti punti);
+
+private:
+    std::size_t indice_;
+};
+
 /// Share by which the value departs from the reference; of a reference of 0 the difference itself.
 double Scarto(double riferimento, double valore);
 
