@@ -29,8 +29,9 @@ QString InForza(const QString& text) {
     return result;
 }
 
-/// A text of the screen as it is read: without the marks of keys.
-QString Letto(QString text) { return text.remove(u'&').section(u'\t', 0, 0).simplified(); }
+/// A text of the screen as it is read: without the marks of keys
+/// and of what is not taken over yet.
+QString Letto(QString text) { return text.remove(u'&').remove(u'•').section(u'\t', 0, 0).simplified(); }
 
 bool Uguali(const QString& shown, const QString& text) {
     return Letto(shown) == text || Letto(shown) == InForza(text);
@@ -142,6 +143,7 @@ void EsecutoreTutorial::Sceglie(const PassoTutorial& p) {
     auto* w = Controllo<QWidget>(p);
     if (auto* list = qobject_cast<QComboBox*>(w); list != nullptr && list->findText(p.testo) >= 0) {
         list->setCurrentIndex(list->findText(p.testo));
+        emit list->activated(list->currentIndex()); // as the user's choice does
         return;
     }
     if (auto* option = qobject_cast<QAbstractButton*>(w)) {
@@ -161,7 +163,10 @@ void EsecutoreTutorial::Sceglie(const PassoTutorial& p) {
 }
 
 void EsecutoreTutorial::Legge(const PassoTutorial& p) {
-    if (const auto* w = Controllo<QWidget>(p); w != nullptr && !Uguali(Mostra(*w), p.testo))
+    if (const auto* entry = SchermoDi(p)->findChild<QAction*>(p.controllo)) {
+        if (!Uguali(entry->text(), p.testo))
+            Sbaglia(p, QStringLiteral("it shows ") + entry->text());
+    } else if (const auto* w = Controllo<QWidget>(p); w != nullptr && !Uguali(Mostra(*w), p.testo))
         Sbaglia(p, QStringLiteral("it shows ") + Letto(Mostra(*w)));
 }
 

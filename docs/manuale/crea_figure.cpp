@@ -67,16 +67,16 @@ QString Padre(const QString& name) {
 void FotografaTutte(const QString& folder) {
     auto& n = NavigaSchermi::Unico();
     for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
-        Schermo& first = n.Prendi(QStringLiteral("frmDoppioT"));
+        Schermo& first = n.Prende(QStringLiteral("frmDoppioT"));
         n.Passa(first, nullptr);
-        Schermo& from = n.Prendi(Padre(voce.nome));
+        Schermo& from = n.Prende(Padre(voce.nome));
         if (&from != &first)
-            n.Apri(from.objectName(), first);
+            n.Apre(from.objectName(), first);
         if (n.Trova(voce.nome) != &from)
-            n.Apri(voce.nome, from);
-        Fotografa(folder, voce.nome, n.Prendi(voce.nome));
+            n.Apre(voce.nome, from);
+        Fotografa(folder, voce.nome, n.Prende(voce.nome));
         if (n.Trova(voce.nome) != &first)
-            n.Prendi(voce.nome).hide();
+            n.Prende(voce.nome).hide();
     }
 }
 

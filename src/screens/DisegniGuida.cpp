@@ -152,9 +152,11 @@ Nodo EsempioNodo() {
     const auto column = std::make_shared<SezioneDoppioT>(Sagomo("HE 200 B", 200, 200, 9, 15, 18));
     beam->Area = 4595;
     beam->Jy = 5790e4;
+    beam->Wely = 428.9e3;
     beam->Wply = 484e3;
     column->Area = 7808;
     column->Jy = 5696e4;
+    column->Wely = 569.6e3;
     column->Wply = 642.5e3;
     node.PuntatoreTraveDestra(beam);
     node.PuntatoreColonna(column);
@@ -176,6 +178,18 @@ Nodo EsempioNodo() {
     g.Derivati_Calcola();
     node.CalcolaIrrigidimenti();
     return node;
+}
+
+/// The same joint checked for 40 kNm, with a beam of 6 m.
+Disegno EsempioRigidezza() {
+    Nodo node = EsempioNodo();
+    Giunto& g = *node.ConnessioneCorrente;
+    g.Trave->lunghezza() = 6;
+    g.Trave->Mysd = 40;
+    g.Mrd_Giunto_Calcola();
+    g.Sj_Giunto_Calcola();
+    g.Acquisito = true;
+    return DiagrammaRigidezza(g);
 }
 
 AcciaioCls EsempioTrave() {
@@ -247,7 +261,8 @@ const Tabella& Disegni() {
                                   {"portale", DisegnoPortale},
                                   {"prospettoF1", [] { return DisegnoProspetto(1); }},
                                   {"prospettoF2", [] { return DisegnoProspetto(2); }},
-                                  {"sezione", [] { return Tavola(Ipe300(), "frmDoppioT"); }},
+                                  {"rigidezza", EsempioRigidezza},
+        {"sezione", [] { return Tavola(Ipe300(), "frmDoppioT"); }},
                                   {"tensioni", DisegnoTensioni},
                                   {"trave", [] { return DisegnoTrave({}); }},
                                   {"travemista", EsempioTraveMista}};
