@@ -262,7 +262,7 @@ const Tabella& Disegni() {
                                   {"prospettoF1", [] { return DisegnoProspetto(1); }},
                                   {"prospettoF2", [] { return DisegnoProspetto(2); }},
                                   {"rigidezza", EsempioRigidezza},
-        {"sezione", [] { return Tavola(Ipe300(), "frmDoppioT"); }},
+                                  {"sezione", [] { return Tavola(Ipe300(), "frmDoppioT"); }},
                                   {"tensioni", DisegnoTensioni},
                                   {"trave", [] { return DisegnoTrave({}); }},
                                   {"travemista", EsempioTraveMista}};
