@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTextEdit>
+#include <QThread>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -84,6 +85,14 @@ QList<QAction*> Voci(const QMenu& menu) {
 Scimmia::Scimmia(Sorveglianza& sorveglianza, int eventi, unsigned seme)
     : sorveglianza_(sorveglianza), generatore_(seme), eventi_(eventi) {}
 
+void Scimmia::Vive(const std::function<void()>& avvia) {
+    livello_ = 0;
+    Comincia(); // the start may have boxes, too
+    avvia();
+    livello_ = 1;
+    QApplication::exec();
+}
+
 void Scimmia::Comincia() {
     QTimer::singleShot(0, this, [this] { Passo(); });
 }
@@ -101,6 +110,10 @@ void Scimmia::Racconta(const QString& evento, const QWidget* w) {
 }
 
 void Scimmia::Agisce() {
+    const bool inFront =
+        QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr;
+    if (!inFront && QThread::currentThread()->loopLevel() > livello_)
+        return; // a box has been answered, and is on its way out
     ++fatti_;
     if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
         SulMenu(*menu);
@@ -112,16 +125,16 @@ void Scimmia::Agisce() {
         SulloSchermo();
 }
 
-/// Whatever is open is answered with no, then the program closed.
+/// Whatever is open is answered or closed, then the program.
 void Scimmia::Chiude() {
-    constexpr int pazienza = 500;
+    constexpr int pazienza = 300;
     sorveglianza_.Annota(fatti_, QStringLiteral("closes"));
     if (++inFondo_ == pazienza)
-        sorveglianza_.Trova(QStringLiteral("the program does not close"));
+        sorveglianza_.Abbandona(QStringLiteral("the program does not close"));
     if (QWidget* popup = QApplication::activePopupWidget())
         popup->close();
     else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-        QTest::mouseClick(box->buttons().constLast(), Qt::LeftButton);
+        QTest::mouseClick(Uno(box->buttons()), Qt::LeftButton);
     else if (QWidget* dialog = QApplication::activeModalWidget())
         dialog->close();
     else

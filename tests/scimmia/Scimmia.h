@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <random>
 
 class QAbstractButton;
@@ -21,7 +22,8 @@ class Scimmia : public QObject {
 public:
     Scimmia(Sorveglianza& sorveglianza, int eventi, unsigned seme);
 
-    void Comincia();
+    /// One life of the program: its start, then whatever comes, to its end.
+    void Vive(const std::function<void()>& avvia);
     /// All its events are done.
     [[nodiscard]] bool Finito() const { return fatti_ >= eventi_; }
 
@@ -31,6 +33,7 @@ public:
     bool Si(int suCento) { return Caso(100) < suCento; }
 
 private:
+    void Comincia();
     void Passo();
     void Agisce();
     void Chiude();
@@ -57,6 +60,7 @@ private:
     std::mt19937 generatore_;
     int eventi_;
     int fatti_ = 0;
+    int livello_ = 0; ///< of the loop in force while nothing stands in front of the screens
     int inFondo_ = 0; ///< turns since the end of the events
 };
 

@@ -23,6 +23,8 @@ public:
     void Annota(int numero, const QString& evento);
     /// Something is wrong.
     void Trova(const QString& cosa);
+    /// The same where there is no going on.
+    [[noreturn]] void Abbandona(const QString& cosa);
     [[nodiscard]] int Trovati() const { return trovati_; }
 
     /// Looks at each box as it comes up.

@@ -19,6 +19,7 @@
 #include "drawing/ui/ScegliDispositivo.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/ui/FileDialogo.h"
+#include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "screens/GeneraleSchermi.h"
 
@@ -63,13 +64,12 @@ void Sgombera() {
     }
 }
 
-/// One life of the program, to its end.
-void Vive(prove::Scimmia& monkey) {
-    ChiusuraInCorso = false;
-    monkey.Comincia(); // the start may have boxes, too
-    InizializzaProgramma();
-    QApplication::exec();
-    Sgombera();
+/// Names of the windows that are left.
+QString Rimaste() {
+    QStringList names;
+    for (const QWidget* w : QApplication::topLevelWidgets())
+        names << QString::fromLatin1(w->metaObject()->className()) + u' ' + w->objectName();
+    return names.join(QLatin1String(", "));
 }
 
 } // namespace
@@ -90,12 +90,16 @@ int main(int argc, char** argv) {
     PathProgramma = folder.path().toStdString();
 
     prove::Sorveglianza watch;
+    Guida::Apre(QStringLiteral("Sagomi.hlp"), {}); // its window lives to the end of the run
+    QApplication::closeAllWindows();
     prove::Scimmia monkey(watch, events, seed);
     CollegaDialoghi(monkey, folder.path());
     std::size_t windows = 0, objects = 0;
     int lives = 0;
     while (!monkey.Finito()) {
-        Vive(monkey);
+        ChiusuraInCorso = false;
+        monkey.Vive(InizializzaProgramma);
+        Sgombera();
         const auto left = static_cast<std::size_t>(QApplication::allWidgets().size());
         if (++lives == 1) { // what the first run makes once for all
             windows = left;
@@ -103,7 +107,8 @@ int main(int argc, char** argv) {
         }
         std::printf("life %d: %zu widgets, %zu objects left\n", lives, left, prove::OggettiVivi());
         if (left > windows)
-            watch.Trova(QStringLiteral("%1 widgets more than after the first life").arg(left - windows));
+            watch.Trova(QStringLiteral("%1 widgets more than after the first life: ").arg(left - windows) +
+                        Rimaste());
     }
     (void)objects;
     std::printf("%d events of seed %u in %d lives: %d findings\n", events, seed, lives, watch.Trovati());

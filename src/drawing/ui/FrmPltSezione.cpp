@@ -96,6 +96,11 @@ void FrmPltSezione::AnteprimaDiStampa() {
     printer.setDocName(QString::fromStdString(disegno_.nome));
     QPrintPreviewDialog dialog(&printer, this);
     dialog.setObjectName(QStringLiteral("AnteprimaDiStampa"));
+    if (printer.outputFormat() !=
+        QPrinter::NativeFormat) // without a printer the toolkit has no page to set up
+        for (QAction* a : dialog.findChildren<QAction*>())
+            if (a->text() == QPrintPreviewDialog::tr("Page setup"))
+                a->setVisible(false);
     dialog.resize(QSize(900, 720).boundedTo(screen()->availableGeometry().size() * 0.9));
     Collega(&dialog, &QPrintPreviewDialog::paintRequested, this,
             [this](QPrinter* page) { StampaSu(*page, disegno_, nomeChiamante_); });

@@ -6,4 +6,7 @@ namespace sagomi {
 /// program closes. Nothing else in the program lets events through by itself.
 void CollegaAttesaQt();
 
+/// Whether work that lets events through is under way: what it works with must not go.
+bool InAttesa();
+
 } // namespace sagomi

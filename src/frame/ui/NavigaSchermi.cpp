@@ -88,7 +88,9 @@ Schermo& NavigaSchermi::Prende(const QString& nome) {
 
 void NavigaSchermi::Apre(const QString& nome, Schermo& da) {
     const auto apri = Voce(nome).apri;
-    apri(Prende(nome), da);
+    Schermo& made = Prende(nome); // its load lets events through, the end of the program among them
+    if (!ChiusuraInCorso)
+        apri(made, da);
 }
 
 void NavigaSchermi::CollegaMenu(Schermo& da) {
