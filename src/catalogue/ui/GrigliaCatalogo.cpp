@@ -110,12 +110,17 @@ void GrigliaCatalogo::CollegaIntestazioni(QHeaderView* intestazioni) {
 
 void GrigliaCatalogo::Collega(LettoreDati* lettore) {
     lettore_ = lettore;
-    setModel(lettore->Modello());
+    Collega(static_cast<FonteRighe*>(lettore));
+    connect(lettore, &LettoreDati::rigaCambiata, this, &GrigliaCatalogo::SegueRiga);
+}
+
+void GrigliaCatalogo::Collega(FonteRighe* fonte) {
+    fonte_ = fonte;
+    setModel(fonte->Modello());
     // Headings show nothing of the selection, and would be painted anew with every row.
     selectionModel()->disconnect(horizontalHeader());
     ferma_->Collega();
-    connect(lettore, &LettoreDati::rigaCambiata, this, &GrigliaCatalogo::SegueLettore);
-    connect(lettore->Modello(), &QAbstractItemModel::modelReset, this, &GrigliaCatalogo::SegueLettore);
+    connect(fonte->Modello(), &QAbstractItemModel::modelReset, this, &GrigliaCatalogo::SegueRiga);
 }
 
 void GrigliaCatalogo::FormatoGriglia(int count) {
@@ -160,7 +165,7 @@ int GrigliaCatalogo::Altezza(int rows) const {
 }
 
 void GrigliaCatalogo::AdattaColonne() {
-    const std::vector<QStringList>& texts = lettore_->Modello()->TestiLunghi();
+    const std::vector<QStringList>& texts = fonte_->TestiLunghi();
     larghezzePiene_.clear();
     for (int column = 0; column < model()->columnCount(); ++column)
         larghezzePiene_.push_back(LarghezzaColonna(column, texts[static_cast<std::size_t>(column)]));
@@ -357,7 +362,7 @@ void GrigliaCatalogo::scrollTo(const QModelIndex& index, ScrollHint hint) {
     horizontalScrollBar()->setValue(left);
 }
 
-void GrigliaCatalogo::MostraOrdine(const QString& intestazione) {
+void GrigliaCatalogo::MostraOrdine(const QString& intestazione, Qt::SortOrder verso) {
     int sorted = -1;
     for (int column = 0; column < model()->columnCount(); ++column)
         if (model()
@@ -366,7 +371,7 @@ void GrigliaCatalogo::MostraOrdine(const QString& intestazione) {
                 .compare(intestazione, Qt::CaseInsensitive) == 0)
             sorted = column;
     horizontalHeader()->setSortIndicatorShown(sorted >= 0);
-    horizontalHeader()->setSortIndicator(sorted, Qt::AscendingOrder);
+    horizontalHeader()->setSortIndicator(sorted, verso);
     ferma_->Allinea();
 }
 
@@ -380,22 +385,20 @@ void GrigliaCatalogo::Scala(double larghezza, double altezza) {
     AdattaColonne();
 }
 
-void GrigliaCatalogo::SegueLettore() {
+void GrigliaCatalogo::SegueRiga() {
     const QScopedValueRollback guard(seguendo_, true);
-    const Lettore& rows = lettore_->Recordset();
-    if (!rows.BOF() && !rows.EOF_() && currentIndex().row() != rows.RigaCorrente())
-        setCurrentIndex(model()->index(rows.RigaCorrente(), std::max(0, currentIndex().column())));
+    const QModelIndex row = model()->index(fonte_->RigaInMano(), std::max(0, currentIndex().column()));
+    if (row.isValid() && currentIndex().row() != row.row())
+        setCurrentIndex(row);
 }
 
 void GrigliaCatalogo::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
-    if (!seguendo_ && current.isValid() && current.row() != lettore_->Recordset().RigaCorrente())
-        EventoProtetto([this, &current] { lettore_->MoveTo(current.row()); });
+    if (!seguendo_ && current.isValid() && current.row() != fonte_->RigaInMano())
+        EventoProtetto([this, &current] { fonte_->MoveTo(current.row()); });
 }
 
-int GrigliaCatalogo::CercaIniziale(const QString& testo) const {
-    return lettore_->Modello()->CercaIniziale(testo);
-}
+int GrigliaCatalogo::CercaIniziale(const QString& testo) const { return fonte_->CercaIniziale(testo); }
 
 QModelIndex GrigliaCatalogo::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
     const int rows = model() == nullptr ? 0 : model()->rowCount();
@@ -491,7 +494,7 @@ void GrigliaCatalogo::Copia() {
 
 QString GrigliaCatalogo::RigheSelezionate() const {
     QModelIndexList rows = selectionModel()->selectedRows();
-    const QModelIndex inHand = model()->index(lettore_->Recordset().RigaCorrente(), 0);
+    const QModelIndex inHand = model()->index(fonte_->RigaInMano(), 0);
     if (inHand.isValid() && !rows.contains(inHand))
         rows << inHand;
     if (rows.isEmpty())
@@ -505,7 +508,7 @@ QString GrigliaCatalogo::RigheSelezionate() const {
     for (const QModelIndex& row : rows) {
         fields.clear();
         for (int column = 0; column < model()->columnCount(); ++column)
-            fields << lettore_->Modello()->TestoIntero(row.row(), column);
+            fields << fonte_->TestoIntero(row.row(), column);
         lines << fields.join(u'\t');
     }
     return lines.join(u'\n') + u'\n';

@@ -11,10 +11,10 @@
 
 namespace sagomi {
 
-class LettoreDati;
-
 class ColonnaFerma;
 class EtichettaRicerca;
+class FonteRighe;
+class LettoreDati;
 
 /// Widths of texts [px], each asked of the text engine once a font.
 class LarghezzeMisurate {
@@ -35,10 +35,18 @@ public:
     explicit GrigliaCatalogo(QWidget* parent = nullptr);
 
     void Collega(LettoreDati* lettore);
+    /// Rows of another kind; who has them tells by SegueRiga that another one is in hand.
+    void Collega(FonteRighe* fonte);
 
-    /// Gives the columns their widths and number pictures.
+    /// Gives the columns of a reader their widths and number pictures.
     /// @param count number of fields of the query, less one
     void FormatoGriglia(int count);
+
+    /// Gives the columns their widths.
+    void AdattaColonne();
+
+    /// Goes to the row in hand.
+    void SegueRiga();
 
     /// Scales column widths, row and header heights; the ratios are to the sizes at the first scaling.
     void Scala(double larghezza, double altezza);
@@ -63,7 +71,7 @@ public:
     void Digita(const QString& testo) { keyboardSearch(testo); }
 
     /// Marks the column that the rows are sorted by, given by its heading; an unknown one marks none.
-    void MostraOrdine(const QString& intestazione);
+    void MostraOrdine(const QString& intestazione, Qt::SortOrder verso = Qt::AscendingOrder);
 
     /// The selected rows, that in hand always among them, as tab-separated lines under a line of headings.
     [[nodiscard]] QString RigheSelezionate() const;
@@ -97,10 +105,8 @@ private:
     bool Scorre(int tasto);
     void Cerca(const QString& testo);
     [[nodiscard]] bool InRicerca() const;
-    void SegueLettore();
     void DipingeScelte();
     [[nodiscard]] int Altezza(int rows) const;
-    void AdattaColonne();
     void RipartisceColonne();
     bool ImpostaLarghezze();
     void LasciaRigheIntere();
@@ -110,7 +116,8 @@ private:
     [[nodiscard]] bool Disegnata(std::size_t colonna) const;
     [[nodiscard]] int LarghezzaColonna(int column, const QStringList& texts) const;
 
-    LettoreDati* lettore_ = nullptr;
+    FonteRighe* fonte_ = nullptr;
+    LettoreDati* lettore_ = nullptr; ///< the same, where the rows are those of a reader
     ColonnaFerma* ferma_ = nullptr;
     EtichettaRicerca* ricerca_ = nullptr;
     std::map<QString, int> larghezzeScelte_; ///< by heading, as the user drew them

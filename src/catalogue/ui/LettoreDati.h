@@ -3,13 +3,14 @@
 #include <QObject>
 
 #include "catalogue/Lettore.h"
+#include "catalogue/ui/FonteRighe.h"
 #include "catalogue/ui/ModelloCatalogo.h"
 
 namespace sagomi {
 
 /// The reader of a screen (its Data1): the catalogue reader with the table model that the grid shows, and one
 /// signal a new row.
-class LettoreDati : public QObject {
+class LettoreDati : public QObject, public FonteRighe {
     Q_OBJECT
 public:
     explicit LettoreDati(QObject* parent = nullptr);
@@ -33,12 +34,23 @@ public:
     void MovePrevious() { lettore_.MovePrevious(); }
     void MoveNext() { lettore_.MoveNext(); }
     void MoveLast() { lettore_.MoveLast(); }
-    void MoveTo(int row) { lettore_.MoveTo(row); }
+    void MoveTo(int riga) override { lettore_.MoveTo(riga); }
 
     /// The rows and their fields by position.
     [[nodiscard]] const Lettore& Recordset() const { return lettore_; }
     [[nodiscard]] Lettore& Recordset() { return lettore_; }
-    [[nodiscard]] ModelloCatalogo* Modello() { return &modello_; }
+    [[nodiscard]] ModelloCatalogo* Modello() override { return &modello_; }
+
+    [[nodiscard]] QString TestoIntero(int riga, int colonna) const override {
+        return modello_.TestoIntero(riga, colonna);
+    }
+    [[nodiscard]] const std::vector<QStringList>& TestiLunghi() const override {
+        return modello_.TestiLunghi();
+    }
+    [[nodiscard]] int CercaIniziale(const QString& testo) const override {
+        return modello_.CercaIniziale(testo);
+    }
+    [[nodiscard]] int RigaInMano() const override { return lettore_.RigaCorrente(); }
 
 signals:
     /// A new row is in hand: after a refresh or a move, also when its name equals the last one's.
