@@ -9,7 +9,6 @@ namespace sagomi {
 
 namespace {
 
-constexpr double corpo = 10;       ///< points
 constexpr double margine = 10;     ///< inside of what can be printed [mm]
 constexpr double interlinea = 1.1; ///< in heights of a line
 
@@ -47,7 +46,7 @@ std::vector<std::string> PagineTesto::Spezzate(const Superficie& foglio, double 
 bool PagineTesto::Pagina(Superficie& foglio, int numero) {
     foglio.Scale();
     foglio.FontName = carattereElenchi;
-    foglio.FontSize = corpo;
+    foglio.FontSize = corpo_;
     if (numero == 0) {
         sulFoglio_ = Spezzate(foglio, foglio.ScaleWidth - 2 * margine);
         prossima_ = 0;

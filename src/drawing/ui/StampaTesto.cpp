@@ -5,8 +5,9 @@
 
 namespace sagomi {
 
-bool StampaTesto(const std::vector<std::string>& righe, const QString& nome, QWidget* sopra, QString* esito) {
-    PagineTesto pages(righe);
+bool StampaTesto(const std::vector<std::string>& righe, const QString& nome, QWidget* sopra, QString* esito,
+                 double corpo) {
+    PagineTesto pages(righe, corpo);
     return StampaPagine(
         nome, [&pages](Superficie& page, int number) { return pages.Pagina(page, number); }, sopra, esito);
 }

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "drawing/PagineTesto.h"
+
 class QWidget;
 
 namespace sagomi {
@@ -12,8 +14,9 @@ namespace sagomi {
 /// Prints lines of text (UTF-8) on as many pages as they need: the print dialog, its copies, its PDF file.
 /// @param nome   of the print job
 /// @param esito  when given, receives in a few words where the text went
+/// @param corpo  of the letters [points]
 /// @return false when the user gave up or the printer could not be had, which is told in a message
 bool StampaTesto(const std::vector<std::string>& righe, const QString& nome, QWidget* sopra,
-                 QString* esito = nullptr);
+                 QString* esito = nullptr, double corpo = corpoElenchi);
 
 } // namespace sagomi

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "frame/ui/Colori.h"
+
 namespace sagomi {
 
 namespace {
@@ -18,13 +20,22 @@ constexpr double lontano = 1e7;  ///< beyond it a painter would dash and clip fo
 
 bool Dipingibile(const QPointF& p) { return std::abs(p.x()) < lontano && std::abs(p.y()) < lontano; }
 
+/// A pen of the table as it is seen on a dark ground: so much lighter that it can be told from it.
+QColor SuScuro(QColor pen, const QColor& ground) {
+    constexpr float passo = 0.1F;
+    while (Contrasto(pen, ground) < contrastoLeggibile)
+        pen = Velo(pen, Qt::white, passo);
+    return pen;
+}
+
 QString Utf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 } // namespace
 
-SuperficieQt::SuperficieQt(QPainter& pittore, Carta carta) : pittore_(pittore), carta_(std::move(carta)) {
+SuperficieQt::SuperficieQt(QPainter& pittore, Carta carta)
+    : pittore_(pittore), carta_(std::move(carta)), scuro_(Scuro(carta_.sfondo)) {
     pittore_.setRenderHint(QPainter::Antialiasing);
     pittore_.setRenderHint(QPainter::TextAntialiasing);
     SuperficieQt::Scale();
@@ -88,7 +99,8 @@ QColor SuperficieQt::Colore() const {
     if (ForeColor == pennaRossa && carta_.rosso.isValid())
         return carta_.rosso;
     const ColoreRgb c = ColoreTabella(ForeColor);
-    return {c.rosso, c.verde, c.blu};
+    const QColor pen(c.rosso, c.verde, c.blu);
+    return scuro_ ? SuScuro(pen, carta_.sfondo) : pen;
 }
 
 void SuperficieQt::Penna() {

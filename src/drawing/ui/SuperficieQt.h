@@ -62,6 +62,7 @@ private:
 
     QPainter& pittore_;
     Carta carta_;
+    bool scuro_; ///< what lies behind
 };
 
 } // namespace sagomi
