@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <exception>
+#include <limits>
+#include <utility>
 
 #include "catalogue/Famiglie.h"
 #include "catalogue/Lettore.h"
@@ -38,63 +40,85 @@ void LeggeSezione(const Lettore& riga, SagomoInGara& sagomo) {
     }
 }
 
-/// One sheet of one workbook.
-struct Foglio {
-    std::filesystem::path cartella;
-    std::string_view schermo, nome;
-    bool utente = false;
-};
-
-void LeggeFoglio(const Foglio& foglio, Gara& gara) {
-    Lettore riga;
-    riga.DatabaseName(foglio.cartella);
-    riga.CampiAttesi(static_cast<int>(Intestazioni(foglio.schermo).size()));
-    riga.RecordSource("SELECT * FROM " + NomeFoglioQuery(foglio.nome));
-    for (riga.Refresh(); !riga.EOF_(); riga.MoveNext()) {
-        if (riga.Testo(0).empty())
-            continue; // a row of notes below the table
-        SagomoInGara& sagomo = gara.sagomi.emplace_back();
-        sagomo.schermo = foglio.schermo;
-        sagomo.famiglia = foglio.nome;
-        sagomo.utente = foglio.utente;
-        sagomo.g = riga.Numero(campoPeso);
-        LeggeSezione(riga, sagomo);
-    }
-}
-
-std::vector<Foglio> FogliDi(const std::filesystem::path& cartella) {
-    const auto sagomi = FileAccanto(cartella, "Sagomi.xls");
-    const auto utente = FileAccanto(cartella, "SagomiUtente.xls");
-    std::error_code nessuno;
-    const bool conUtente = std::filesystem::exists(utente, nessuno);
-    std::vector<Foglio> fogli;
-    for (const FamigliaSchermo& f : FamiglieSchermi()) {
-        for (const std::string_view nome : f.fogli)
-            fogli.push_back({sagomi, f.schermo, nome});
-        if (conUtente && !f.foglioUtente.empty())
-            fogli.push_back({utente, f.schermo, f.foglioUtente, true});
-    }
-    return fogli;
-}
-
 } // namespace
 
 const std::string& SagomoInGara::Designazione() const {
     return std::visit([](const auto& s) -> const std::string& { return s.Designation; }, sezione);
 }
 
-Gara LeggeGara(const std::filesystem::path& cartella, const std::vector<std::string>& famiglie) {
-    Gara gara;
-    for (const Foglio& foglio : FogliDi(cartella)) {
-        if (!famiglie.empty() && std::ranges::find(famiglie, foglio.nome) == famiglie.end())
-            continue;
-        try {
-            LeggeFoglio(foglio, gara);
-        } catch (const std::exception& e) {
-            gara.mancanti.emplace_back(e.what());
-        }
+/// One sheet of one workbook.
+struct LetturaGara::Foglio {
+    std::filesystem::path cartella;
+    std::string_view schermo, nome;
+    bool utente = false;
+};
+
+LetturaGara::LetturaGara(const std::filesystem::path& sagomi, const std::filesystem::path& utente,
+                         const std::vector<std::string>& famiglie) {
+    std::error_code nessuno;
+    const bool conUtente = std::filesystem::exists(utente, nessuno);
+    for (const FamigliaSchermo& f : FamiglieSchermi()) {
+        for (const std::string_view nome : f.fogli)
+            fogli_.push_back({sagomi, f.schermo, nome});
+        if (conUtente && !f.foglioUtente.empty())
+            fogli_.push_back({utente, f.schermo, f.foglioUtente, true});
     }
-    return gara;
+    if (!famiglie.empty())
+        std::erase_if(fogli_,
+                      [&](const Foglio& f) { return std::ranges::find(famiglie, f.nome) == famiglie.end(); });
+}
+
+LetturaGara::~LetturaGara() = default;
+
+void LetturaGara::Apre() {
+    const Foglio& foglio = fogli_[foglio_];
+    righe_ = std::make_unique<Lettore>();
+    righe_->DatabaseName(foglio.cartella);
+    righe_->CampiAttesi(static_cast<int>(Intestazioni(foglio.schermo).size()));
+    righe_->RecordSource("SELECT * FROM " + NomeFoglioQuery(foglio.nome));
+    righe_->Refresh();
+}
+
+void LetturaGara::Prende() {
+    if (righe_->Testo(0).empty())
+        return; // a row of notes below the table
+    const Foglio& foglio = fogli_[foglio_];
+    SagomoInGara& sagomo = letti.sagomi.emplace_back();
+    sagomo.schermo = foglio.schermo;
+    sagomo.famiglia = foglio.nome;
+    sagomo.utente = foglio.utente;
+    sagomo.g = righe_->Numero(campoPeso);
+    LeggeSezione(*righe_, sagomo);
+}
+
+bool LetturaGara::Legge(std::size_t righe) {
+    for (std::size_t n = 0; foglio_ < fogli_.size() && n < righe;) {
+        try {
+            if (righe_ == nullptr)
+                Apre();
+            for (; !righe_->EOF_() && n < righe; righe_->MoveNext(), ++n)
+                Prende();
+        } catch (const std::exception& e) {
+            letti.mancanti.emplace_back(e.what());
+            righe_.reset();
+            ++foglio_;
+            continue;
+        }
+        if (!righe_->EOF_())
+            continue; // the piece is full
+        righe_.reset();
+        ++foglio_;
+    }
+    return foglio_ < fogli_.size();
+}
+
+Gara LeggeGara(const std::filesystem::path& cartella, const std::vector<std::string>& famiglie) {
+    constexpr std::size_t tutte = std::numeric_limits<std::size_t>::max();
+    LetturaGara lettura(FileAccanto(cartella, "Sagomi.xls"), FileAccanto(cartella, "SagomiUtente.xls"),
+                        famiglie);
+    while (lettura.Legge(tutte)) {
+    }
+    return std::move(lettura.letti);
 }
 
 } // namespace sagomi
