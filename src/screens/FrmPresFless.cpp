@@ -220,6 +220,8 @@ void FrmPresFless::Calcola() {
     CompletaForm1(1, z.M, z.BetaM, z.C1);
     y.C1 = FattoreInForza(y.C1);
     ApplicaDiagrammi(*s, y, z);
+    if (chiamante_->valoriScelti) // else the ends are free and the load stands at mid-height
+        chiamante_->valoriScelti->MetteFattori(*s);
     scritti_ = {s->Mysd, s->Mzsd};
     Mostra(ui_->Lbl_C1, figura, s->C1);
     s->McrFunz();
@@ -264,9 +266,28 @@ void FrmPresFless::PrendeMomento(int asse) {
 // C1 of the diagram, or the one that another detail has given the section since the diagram was changed.
 double FrmPresFless::FattoreInForza(double C1) {
     const SezioneDoppioT& s = *Sezione();
-    const bool other = StessaSezione() && C1 == C1Proprio_ && s.C1 != Singolo(C1);
+    const auto& scelti = chiamante_->valoriScelti;
+    const bool chosen = !StessaSezione() && scelti && scelti->C1Proprio;
+    const bool other = chosen || (StessaSezione() && C1 == C1Proprio_ && s.C1 != Singolo(C1));
     C1Proprio_ = C1;
     return other ? double(s.C1) : C1;
+}
+
+void FrmPresFless::ImpostaDiagramma(const MomentiMembratura& y, const MomentiMembratura& z,
+                                    std::int16_t pict) {
+    const QScopedValueRollback guard(inCalcolo_, true);
+    IndicePict = pict;
+    TipoDiagramma = TipoDiPict(pict);
+    const MomentiMembratura* axes[] = {&y, &z};
+    const auto write = [](QLineEdit* box, double moment) {
+        box->setText(QString::fromStdString(TestoPiano(Nmm_a_kNm(moment))));
+    };
+    for (int asse = 0; asse < 2; ++asse) {
+        write(TxtM1_[asse], axes[asse]->M1);
+        write(TxtM2_[asse], axes[asse]->M2);
+        write(TxtMQ_[asse], axes[asse]->MQ);
+    }
+    VisualizzaPict(IndicePict);
 }
 
 MomentiMembratura FrmPresFless::Momenti(int asse) {

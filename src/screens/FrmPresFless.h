@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "screens/ConDiagramma.h"
 #include "screens/SchermoDettaglio.h"
 #include "sections/DiagrammaMomenti.h"
 
@@ -23,7 +24,7 @@ class PulsanteDiagramma;
 /// Member under axial force and bending about both axes, ENV 1993-1-1 5.5.4. The moment diagram is chosen
 /// from a picture; its largest moment and its factors go into the section, and the interaction with buckling
 /// is shown term by term.
-class FrmPresFless : public SchermoDettaglio {
+class FrmPresFless : public SchermoDettaglio, public ConDiagramma {
     Q_OBJECT
 public:
     FrmPresFless();
@@ -39,6 +40,8 @@ public:
     void VisualizzaPict(int indice);
     /// Chooses a diagram, 1 to 6, and computes anew.
     void SelezionaPict(int indice);
+
+    void ImpostaDiagramma(const MomentiMembratura& y, const MomentiMembratura& z, std::int16_t pict) override;
 
     /// The span moment of an axis [kNm]; a negative one is corrected, also in its box.
     void inputMQ(int asse, double& MQ);

@@ -53,6 +53,7 @@ void MenuSezione::ImpostaSchermo(const QByteArray& nome) {
     Aggiunge(connections, "mnuCollegamenti_1", "&Saldati", false);
     Aggiunge(connections, "MnuGiunto", "&Giunto Flangiato", false);
     Aggiunge(this, "mnuAcciaioCls", "&AcciaioCls", false);
+    Aggiunge(this, "mnuScelta", "Sc&elta del sagomo", false)->setShortcut(Qt::Key_F4);
     Aggiunge(this, "NormativaMain", "Normativa: NTC", false);
     QMenu* help = AggiungeMenu(this, "mnuHelp", "&?");
     Aggiunge(help, "mnuHelp_0", "&Guida");

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -31,6 +32,9 @@ public:
         auto section = std::make_shared<S>();
         LeggeSezione(Data1->Recordset(), *section);
         LeggeEntrate(*section);
+        if constexpr (std::is_same_v<S, SezioneDoppioT>)
+            if (valoriScelti)
+                valoriScelti->MetteIn(*section);
         SezioneCorrente = std::move(section);
     }
 

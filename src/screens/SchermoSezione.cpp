@@ -264,7 +264,7 @@ void SchermoSezione::CollegaDettagli(std::initializer_list<std::pair<const char*
 void SchermoSezione::CollegaSvergolamento() {
     Pulsante("Command2")->setProperty(vuoleRiga, true);
     Collega(Pulsante("Command2"), &QPushButton::clicked, this, [this] {
-        // Free ends under a uniform moment to begin with.
+        // Free ends under a uniform moment to begin with, unless a choice has given others.
         SullaSezioneInUso(
             [](auto& section) requires requires {
                 section.Kw;
@@ -275,6 +275,8 @@ void SchermoSezione::CollegaSvergolamento() {
                 section.Kw = 1;
                 section.C1 = 1;
             });
+        if (auto* section = SezioneInUso<SezioneDoppioT>(); valoriScelti && section != nullptr)
+            valoriScelti->MetteIn(*section);
         ApreDettaglio(QStringLiteral("FrmMsverg"));
     });
 }
@@ -330,6 +332,7 @@ void SchermoSezione::LegaRiga() {
 void SchermoSezione::Aggiorna() { CambioFamiglia(*this); }
 
 void SchermoSezione::RigaNuova() {
+    valoriScelti.reset();
     if (AggiungeSagomoUtente)
         return;
     ScriveTesto(TxtProf[0], Data1->Recordset().Testo(0));

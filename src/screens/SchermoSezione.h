@@ -7,6 +7,7 @@
 
 #include <initializer_list>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,6 +17,7 @@
 #include "frame/ui/Campi.h"
 #include "frame/ui/RegoleEntrate.h"
 #include "frame/ui/Schermo.h"
+#include "screens/ValoriScelti.h"
 #include "sections/MostraVplRd.h"
 
 class QAction;
@@ -54,6 +56,9 @@ public:
     QPushButton* cmdSceltaSagomoGiunto = nullptr;
     ImmagineDisegno* Picture1 = nullptr;
     QAction* NormativaMain = nullptr;
+
+    /// What a choice has given to the row in hand; another row has none.
+    std::optional<ValoriScelti> valoriScelti;
 
     /// Shows the screen in the place of the one that the user comes from.
     void Apre(Schermo& da);

@@ -1,5 +1,7 @@
 #include "screens/TavolaSchermi.h"
 
+#include "choice/ui/FrmConfronto.h"
+#include "choice/ui/FrmScelta.h"
 #include "composite/ui/frmAcciaioCls.h"
 #include "composite/ui/frmConnettori.h"
 #include "composite/ui/frmSuggerimento.h"
@@ -43,6 +45,8 @@ void CaricaTavolaSchermi() {
                                     RigaDi<frmAcciaioCls>("frmAcciaioCls", "mnuAcciaioCls"),
                                     RigaDi<frmConnettori>("frmConnettori"),
                                     RigaDi<frmSuggerimento>("frmSuggerimento"),
+                                    RigaDi<FrmScelta>("FrmScelta", "mnuScelta"),
+                                    RigaDi<FrmConfronto>("FrmConfronto"),
                                     RigaDi<frmGamma>("frmGamma", "NormativaMain"),
                                     RigaDi<FrmInform>("FrmInform", "mnuHelp_1"),
                                     RigaDi<FrmClasseDoppioTU>("FrmClasseDoppioTU"),

@@ -1,6 +1,8 @@
 #include <QComboBox>
 
+#include <algorithm>
 #include <cmath>
+#include <string_view>
 
 #include "choice/Scelta.h"
 #include "frame/Numeri.h"
@@ -32,7 +34,21 @@ constexpr Forze forze[] = {
     {"campata",        2, normativaNTC, pictDistribuitoConcorde,  "120",  "6",   "3",   "30",  "10",  "45", "3",  "0",  "4",  "6",   "1",   "1", "0.45", "0.52", "100"},
     {"sottile",        2, normativaEC3, pictConcentratoContro,    "900",  "4",   "4",   "80",  "60",  "50", "10", "10", "5",  "4",   "0.5", "1", "0.3",  "0.2",  "-80"},
     {"tesa",           0, normativaEC3, pictEstremitaConcordi,    "-150", "3",   "3",   "25",  "25",  "0",  "4",  "-4", "0",  "3",   "1",   "1", "0",    "0",    "0"},
-    {"troppa",         1, normativaNTC, pictEstremitaConcordi,    "9000", "3",   "3",   "10",  "0",   "0",  "0",  "0",  "0",  "3",   "1",   "1", "0",    "0",    "0"}};
+    {"troppa",         1, normativaNTC, pictEstremitaConcordi,    "9000", "3",   "3",   "10",  "0",   "0",  "0",  "0",  "0",  "3",   "1",   "1", "0",    "0",    "0"},
+    {"soloForza",      0, normativaEC3, pictEstremitaConcordi,    "600",  "6",   "3",   "0",   "0",   "0",  "0",  "0",  "0",  "3",   "1",   "1", "0",    "0",    "0"},
+    {"soloTrazione",   2, normativaNTC, pictEstremitaConcordi,    "-800", "6",   "6",   "0",   "0",   "0",  "0",  "0",  "0",  "6",   "1",   "1", "0",    "0",    "0"},
+    {"soloMz",         1, normativaEC3, pictEstremitaDiscordi,    "0",    "4",   "4",   "0",   "0",   "0",  "15", "-6", "0",  "4",   "1",   "1", "0",    "0",    "0"},
+    {"contro",         0, normativaNTC, pictDistribuitoContro,    "80",   "7",   "3.5", "50",  "-20", "90", "2",  "2",  "1",  "3.5", "1",   "1", "0.45", "0.52", "150"},
+    {"concentrata",    1, normativaNTC, pictConcentratoConcorde,  "60",   "5",   "5",   "20",  "20",  "70", "0",  "0",  "3",  "5",   "1",   "1", "0.55", "0.4",  "-60"},
+    {"incastrata",     2, normativaEC3, pictConcentratoContro,    "300",  "3",   "1.5", "120", "-90", "80", "6",  "-3", "2",  "1.5", "0.5", "0.5", "0.42", "0.3", "0"},
+    {"snella",         0, normativaEC3, pictEstremitaConcordi,    "40",   "12",  "12",  "15",  "10",  "0",  "1",  "0",  "0",  "12",  "1",   "1", "0",    "0",    "0"},
+    {"tozza",          1, normativaEC3, pictEstremitaConcordi,    "1500", "0.5", "0.5", "90",  "40",  "0",  "9",  "4",  "0",  "0.5", "1",   "1", "0",    "0",    "0"},
+    {"alta",           1, normativaAltro, pictEstremitaDiscordi,    "700",  "6",   "2",   "200", "-50", "0",  "12", "8",  "0",  "2",   "1",   "1", "0",    "0",    "0"},
+    {"altissima",      2, normativaAltro, pictDistribuitoConcorde,  "1200", "5",   "2.5", "60",  "30",  "90", "4",  "2",  "2",  "2.5", "0.7", "1", "0.45", "0.5",  "120"},
+    {"tesaInflessa",   2, normativaNTC, pictConcentratoConcorde,  "-400", "5",   "5",   "30",  "-10", "60", "3",  "-1", "2",  "5",   "1",   "1", "0.5",  "0.5",  "80"},
+    {"caricoAppeso",   1, normativaNTC, pictDistribuitoConcorde,  "0",    "8",   "8",   "10",  "0",   "100","0",  "0",  "0",  "8",   "1",   "1", "0.45", "0.53", "-200"},
+    {"minima",         0, normativaEC3, pictEstremitaConcordi,    "1",    "1",   "1",   "0.5", "0",   "0",  "0.1","0",  "0",  "1",   "1",   "1", "0",    "0",    "0"},
+    {"biassiale",      0, normativaAltro, pictDistribuitoContro,    "450",  "4",   "4",   "70",  "50",  "60", "25", "10", "15", "4",   "1",   "1", "0.45", "0.5",  "50"}};
 // clang-format on
 
 double Letto(const char* text) { return ValoreNumerico(Locale(text)); }
@@ -62,7 +78,13 @@ Richiesta RichiestaDi(const Forze& f) {
     return r;
 }
 
-constexpr std::size_t passo = 23; ///< between the rows that are compared
+/// Each set takes every so manyeth row, from its own place on: together they see every row.
+constexpr std::size_t passo = std::size(forze);
+static_assert(passo >= 20);
+
+std::size_t Primo(const Forze& f) {
+    return static_cast<std::size_t>(std::ranges::find(forze, std::string_view(f.nome), &Forze::nome) - forze);
+}
 
 class SceltaSchermiTest : public AmbienteSchermi, public testing::WithParamInterface<Forze> {
 protected:
@@ -93,6 +115,25 @@ protected:
         Scrive(&s, "TxtNsd", f.N);
         s.DatiRisultati();
         return s;
+    }
+
+    template <typename S> static void Resistenze(const S& s, const RigaScelta& row, const std::string& what) {
+        EXPECT_NEAR(s.NbyRd, row.NbyRd, 1e-6 * row.NbyRd) << what;
+        EXPECT_NEAR(s.NbzRd, row.NbzRd, 1e-6 * row.NbzRd) << what;
+        if constexpr (requires { s.NbvRd; }) {
+            EXPECT_NEAR(s.NbvRd, row.NbvRd, 1e-6 * row.NbvRd) << what;
+            EXPECT_EQ(s.ClasseCompressione, row.classe) << what;
+        }
+    }
+
+    /// The rows of this set.
+    template <typename F> static std::vector<SagomoInGara> Alcuni(const F& takes) {
+        std::vector<SagomoInGara> all = LeggeGara(PathProgramma).sagomi;
+        std::erase_if(all, [&takes](const SagomoInGara& s) { return !takes(s); });
+        std::vector<SagomoInGara> some;
+        for (std::size_t i = Primo(GetParam()); i < all.size(); i += passo)
+            some.push_back(all[i]);
+        return some;
     }
 
     static void Confronta(const Schermo& detail, double shown, double mine, const std::string& what) {
@@ -154,11 +195,8 @@ protected:
 };
 
 TEST_P(SceltaSchermiTest, EveryCheckIsThatOfItsScreen) {
-    const Gara gara = LeggeGara(PathProgramma);
-    std::vector<SagomoInGara> some;
-    for (std::size_t i = 0; i < gara.sagomi.size(); i += passo)
-        if (std::holds_alternative<SezioneDoppioT>(gara.sagomi[i].sezione))
-            some.push_back(gara.sagomi[i]);
+    const auto some =
+        Alcuni([](const SagomoInGara& s) { return std::holds_alternative<SezioneDoppioT>(s.sezione); });
     std::vector<std::string> messages;
     const auto rows = Valuta(some, RichiestaDi(GetParam()), {}, messages);
     ASSERT_EQ(rows.size(), some.size());
@@ -169,6 +207,29 @@ TEST_P(SceltaSchermiTest, EveryCheckIsThatOfItsScreen) {
         Svergolamento(s, row, sagomo.Designazione());
         s.DatiRisultati();
         VerificaSezione(s, row, sagomo.Designazione());
+    }
+}
+
+TEST_P(SceltaSchermiTest, ResistancesOfChannelsAndAnglesAreThoseOfTheirScreens) {
+    const auto some =
+        Alcuni([](const SagomoInGara& s) { return !std::holds_alternative<SezioneDoppioT>(s.sezione); });
+    Richiesta r = RichiestaDi(GetParam());
+    r.L0v = m_a_mm(2);
+    for (const bool pair : {false, true}) {
+        r.doppi = pair;
+        r.dDoppi = pair ? 12 : 0;
+        std::vector<std::string> messages;
+        for (const RigaScelta& row : Valuta(some, r, {}, messages)) {
+            const SagomoInGara& sagomo = some[row.indice];
+            SchermoSezione& s = Mostra(sagomo);
+            if (s.Txt_L0.size() > 2)
+                s.Txt_L0[2]->setText(QStringLiteral("2"));
+            Trova<QCheckBox>(&s, "chkDoppi")->setChecked(pair);
+            Scrive(&s, "txtDoppi", "12");
+            s.DatiRisultati();
+            std::visit([&](const auto& section) { Resistenze(*section, row, sagomo.Designazione()); },
+                       SezioneCorrente);
+        }
     }
 }
 
