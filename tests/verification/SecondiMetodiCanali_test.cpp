@@ -1,4 +1,5 @@
 // Channels, pairs and biaxial plastic moments by a second method: strips and sectorial integrals.
+#include <algorithm>
 #include <cmath>
 
 #include "Profili.h"
@@ -116,7 +117,8 @@ TEST_F(SecondiMetodiCanali, MomentoPlasticoDeboleConForza) {
             double F = 0;
             M = 0;
             for (int i = 0; i < n; ++i) {
-                const double x = (i + 0.5) * dx - 100, f = (x > xN ? 235 : -235) * alta(x) * dx;
+                const double x = (i + 0.5) * dx - 100,
+                             f = 235 * std::clamp(2 * (x - xN) / dx, -1.0, 1.0) * alta(x) * dx;
                 F += f;
                 M += f * x;
             }

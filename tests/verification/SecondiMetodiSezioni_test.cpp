@@ -171,13 +171,14 @@ double MomentoConForza(double h, double b, double tw, double tf, double r, doubl
     const double dy = h / n;
     double basso = 0, alto = h;
     double M = 0;
-    for (int giro = 0; giro < 50; ++giro) {
+    for (int giro = 0; giro < 32; ++giro) {
         const double yN = (basso + alto) / 2; // compressed above
         double F = 0;
         M = 0;
         for (int i = 0; i < n; ++i) {
             const double y = (i + 0.5) * dy;
-            const double f = (y > yN ? fy : -fy) * LarghezzaLaminata(h, b, tw, tf, r, y) * dy;
+            const double f =
+                fy * std::clamp(2 * (y - yN) / dy, -1.0, 1.0) * LarghezzaLaminata(h, b, tw, tf, r, y) * dy;
             F += f;
             M += f * (y - h / 2);
         }

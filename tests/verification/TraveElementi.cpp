@@ -14,6 +14,7 @@ namespace {
 constexpr std::size_t elementi = 20;
 constexpr std::size_t gradi = 4; ///< deflection, its slope, twist, its rate
 constexpr std::size_t incognite = gradi * (elementi + 1);
+constexpr std::size_t banda = 2 * gradi; ///< unknowns farther apart have no element in common
 
 using Matrice = std::vector<std::vector<double>>;
 
@@ -78,15 +79,17 @@ std::vector<std::size_t> Libere(bool mensola) {
 bool Stabile(const Sistema& s, const std::vector<std::size_t>& libere, double carico) {
     const std::size_t n = libere.size();
     Matrice l(n, std::vector<double>(n));
-    for (std::size_t i = 0; i < n; ++i)
-        for (std::size_t j = 0; j <= i; ++j) {
+    for (std::size_t i = 0; i < n; ++i) {
+        const std::size_t primo = i < banda ? 0 : i - banda;
+        for (std::size_t j = primo; j <= i; ++j) {
             double x = s.K[libere[i]][libere[j]] - carico * s.G[libere[i]][libere[j]];
-            for (std::size_t k = 0; k < j; ++k)
+            for (std::size_t k = primo; k < j; ++k)
                 x -= l[i][k] * l[j][k];
             if (i == j && !(x > 0))
                 return false;
             l[i][j] = i == j ? std::sqrt(x) : x / l[j][j];
         }
+    }
     return true;
 }
 
