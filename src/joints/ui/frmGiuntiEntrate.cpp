@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "frame/Acciaio.h"
 #include "frame/Numeri.h"
 #include "frame/NumeroPulito.h"
 #include "frame/Unita.h"
@@ -513,7 +514,9 @@ void frmGiunti::ScriveSagomi() {
         QLabel* label = Etichetta(name);
         label->setText(Assegnato(section) ? QString::fromStdString(section->Designation)
                                           : QStringLiteral("NON ASSEGNATO"));
-        label->setToolTip(Assegnato(section) ? QString::fromStdString(section->TipoAcciaio) : QString());
+        label->setToolTip(Assegnato(section)
+                              ? QString::fromStdString(AcciaioMostrato(section->TipoAcciaio, section->fy))
+                              : QString());
     };
     write("LblTraveDx", NodoCorrente.TraveDx.Riferimento());
     write("LblTraveSx", NodoCorrente.TraveSx.Riferimento());

@@ -324,4 +324,14 @@ TEST_F(FrmGiuntiTest, FactorsOfAnotherCodeRenewTheSections) {
     EXPECT_FALSE(g->NodoCorrente.Giunti[1]->Acquisito);
 }
 
+TEST_F(FrmGiuntiTest, AnOvertypedStrengthStandsInTheNameOfTheGrade) {
+    Apre();
+    Nodo(2);
+    Preme(g, "CmdColonnaInf");
+    VaA(*partenza, "HEB 200");
+    prove::Scrive(partenza, "Txt_fy", "460");
+    Preme(partenza, "cmdSceltaSagomoGiunto");
+    EXPECT_EQ(Trova<QLabel>(g, "LblColonnaInf")->toolTip(), "S235 (Fe360), fy 460");
+}
+
 } // namespace
