@@ -9,6 +9,7 @@ pacchetti_programma=(
 )
 pacchetti_schermo=(xvfb xauth imagemagick x11-utils)
 pacchetti_misure=(libbenchmark-dev libgeos-dev libfreexl-dev libx11-dev libxdamage-dev libxtst-dev locales speedcrunch)
+pacchetti_pacchetto=(binutils debootstrap dpkg-dev file lintian util-linux)
 pacchetti_prove=(
   libgtest-dev libgmock-dev libfreexl-dev
   python3 python3-xlrd python3-ezdxf

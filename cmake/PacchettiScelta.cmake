@@ -1,0 +1,10 @@
+# Read by cpack for each kind of package: what goes into it, and where.
+if(CPACK_GENERATOR STREQUAL "TGZ")
+  set(CPACK_COMPONENTS_ALL cartella)
+  set(CPACK_PACKAGING_INSTALL_PREFIX /)
+  set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
+  set(CPACK_PACKAGE_FILE_NAME ${CPACK_ARCHIVE_FILE_NAME})
+else()
+  set(CPACK_COMPONENTS_ALL programma)
+  set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+endif()
