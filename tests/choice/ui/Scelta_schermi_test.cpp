@@ -227,8 +227,10 @@ TEST_P(SceltaSchermiTest, ResistancesOfChannelsAndAnglesAreThoseOfTheirScreens) 
             Trova<QCheckBox>(&s, "chkDoppi")->setChecked(pair);
             Scrive(&s, "txtDoppi", "12");
             s.DatiRisultati();
-            std::visit([&](const auto& section) { Resistenze(*section, row, sagomo.Designazione()); },
-                       SezioneCorrente);
+            if (const auto* channel = SezioneInUso<SezioneSagomoU>())
+                Resistenze(*channel, row, sagomo.Designazione());
+            else
+                Resistenze(*SezioneInUso<SezioneSagomoL>(), row, sagomo.Designazione());
         }
     }
 }
