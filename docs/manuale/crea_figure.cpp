@@ -61,6 +61,8 @@ QString Padre(const QString& name) {
         return QStringLiteral("frmGiunti");
     if (name == u"frmConnettori" || name == u"frmSuggerimento")
         return QStringLiteral("frmAcciaioCls");
+    if (name == u"FrmConfronto")
+        return QStringLiteral("FrmScelta");
     return QStringLiteral("frmDoppioT");
 }
 

@@ -20,6 +20,7 @@ from bs4 import BeautifulSoup, NavigableString
 
 FILES = ["Sagomi.hlp", "GiuntoFlangiato.hlp"]
 HERE = Path(__file__).resolve().parent
+TRUE_SIZE = 250  # mm; what is larger is a sheet with small texts, drawn at the size of the piece
 MARKS = re.compile(r"^data-")
 
 
@@ -42,8 +43,9 @@ class Topic:
 
     def __init__(self, file, heading):
         self.file, self.rank, self.nodes = file, int(heading.name[1]), [heading]
-        first = heading.find("a", attrs={"name": True})
-        self.name = first["name"] if first else "inizio"
+        if heading.find("a", attrs={"name": True}) is None:
+            heading.insert(0, BeautifulSoup('<a name="inizio"></a>', "html.parser").a)
+        self.name = heading.find("a", attrs={"name": True})["name"]
         self.title = plain(heading)
         self.page = f"{Path(file).stem}-{self.name.replace('*', 'tutti').replace('.', '-')}.html".lower()
 
@@ -91,7 +93,9 @@ def drawings(body, pictures):
         image["src"] = f"figure/{name}.svg"
         box = re.search(r'width="([\d.]+)mm" height="([\d.]+)mm"', drawing.read_text("utf-8"))
         width, height = float(box[1]), float(box[2])
-        image["style"] = f"width:{min(0.6, 115 / width, 80 / height) * width:.0f}mm"
+        sheet = max(width, height) > TRUE_SIZE
+        scale = min(115 / width, 80 / height) if sheet else min(0.6, 105 / width, 46 / height)
+        image["style"] = f"width:{scale * width:.0f}mm"
     for block in list(body.find_all("p")):
         images = block.find_all("img", recursive=False)
         if images and not plain(block):
@@ -155,7 +159,6 @@ def places(topics):
     """Which topic has a place."""
     found = {}
     for topic in topics:
-        found[topic.file, "inizio"] = found.get((topic.file, "inizio"), topic)
         for node in topic.nodes:
             for place in node.find_all("a", attrs={"name": True}):
                 found[topic.file, place["name"]] = topic
@@ -186,9 +189,6 @@ def printed(topics, version):
 
     contents, parts = [], []
     for topic in topics:
-        if topic.name == "inizio":
-            top = f'<span id="{place_id(topic.file, "inizio")}"></span>'
-            topic.nodes[0].insert(0, BeautifulSoup(top, "html.parser"))
         entry = f'<li><a href="{link(topic.file, topic.name)}">{html.escape(topic.title)}</a>'
         if topic.rank == 1:
             contents.append((entry, []))
