@@ -10,10 +10,12 @@ pacchetti_programma=(
 pacchetti_schermo=(xvfb xauth imagemagick x11-utils)
 pacchetti_misure=(libbenchmark-dev libgeos-dev libfreexl-dev libx11-dev libxdamage-dev libxtst-dev locales speedcrunch)
 pacchetti_pacchetto=(binutils debootstrap dpkg-dev file lintian util-linux)
+pacchetti_manuale=(weasyprint python3 python3-bs4 fonts-stix)
 pacchetti_prove=(
+  "${pacchetti_manuale[@]}"
   libgtest-dev libgmock-dev libfreexl-dev
   python3 python3-xlrd python3-ezdxf
-  poppler-utils weasyprint python3-bs4 fonts-stix
+  poppler-utils
   dbus-daemon libglib2.0-bin
   desktop-file-utils appstream libxml2-utils shared-mime-info librsvg2-bin
   clang clang-format clang-tidy
