@@ -5,6 +5,9 @@
 #include <QPainterPath>
 #include <QPixmap>
 
+#include <map>
+#include <utility>
+
 namespace sagomi {
 
 namespace {
@@ -48,17 +51,24 @@ public:
         painter->setPen(Qt::NoPen);
         painter->setBrush(fondo);
         painter->drawRoundedRect(QRectF(0, 0, 1, 1), angolo, angolo);
-        painter->fillPath(Profilo(), acciaio);
+        static const QPainterPath profile = Profilo();
+        painter->fillPath(profile, acciaio);
         painter->restore();
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap picture(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(), size), mode, state);
+        QPixmap& picture = dipinte_[std::pair(size.width(), size.height())];
+        if (picture.isNull() && !size.isEmpty()) {
+            picture = QPixmap(size);
+            picture.fill(Qt::transparent);
+            QPainter painter(&picture);
+            paint(&painter, QRect(QPoint(), size), mode, state);
+        }
         return picture;
     }
     [[nodiscard]] QIconEngine* clone() const override { return new Disegnatore(*this); }
+
+private:
+    std::map<std::pair<int, int>, QPixmap> dipinte_; ///< a window asks twice for each size [px]
 };
 
 } // namespace

@@ -1,9 +1,12 @@
 #include "frame/ui/StileMinuto.h"
 
+#include <QPointer>
 #include <QStyleOption>
 #include <QWidget>
 
 #include <algorithm>
+
+#include "frame/ui/IconaRinviata.h"
 
 namespace sagomi {
 
@@ -53,6 +56,16 @@ void StileMinuto::drawPrimitive(PrimitiveElement elemento, const QStyleOption* o
     frame.type = QStyleOption::SO_Default; // what it is a copy of
     frame.rect.adjust(0, -spare, 0, 0);
     StileCornici::drawPrimitive(elemento, &frame, pittore, widget);
+}
+
+// It is the same for all bars: without option and widget, which may be gone by then.
+QIcon StileMinuto::standardIcon(StandardPixmap quale, const QStyleOption* opzioni,
+                                const QWidget* widget) const {
+    if (quale != SP_ToolBarHorizontalExtensionButton)
+        return StileCornici::standardIcon(quale, opzioni, widget);
+    return IconaRinviata([quale, stile = QPointer<QStyle>(baseStyle())] {
+        return stile ? stile->standardIcon(quale) : QIcon();
+    });
 }
 
 } // namespace sagomi

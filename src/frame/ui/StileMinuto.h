@@ -18,6 +18,9 @@ public:
                            const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement elemento, const QStyleOption* opzioni, QPainter* pittore,
                        const QWidget* widget) const override;
+    /// The mark of a menu bar that has no room is read when such a bar is painted.
+    QIcon standardIcon(StandardPixmap quale, const QStyleOption* opzioni,
+                       const QWidget* widget) const override;
 };
 
 } // namespace sagomi
