@@ -73,8 +73,8 @@ FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::Fr
     regole_.Aggiunge({.caselle = {ui_->txtLstar}, .motivo = [this] {
                           return NumeroIn(ui_->txtLstar) < 0 ? tr("L* non può essere negativa") : QString();
                       }});
-    for (QLineEdit* box : {ui_->TxtNsd, ui_->txtLstar})
-        Collega(box, &QLineEdit::textChanged, this, [this] { Duttilita(); });
+    CalcolaA({ui_->TxtNsd});
+    Collega(ui_->txtLstar, &QLineEdit::textChanged, this, [this] { Duttilita(); });
     DimensionaIniziale({});
 }
 

@@ -30,7 +30,7 @@ protected:
     void Calcola() override;
     /// The axial force of the section goes into its entry.
     void RiempieDati() override;
-    void Riporta() override {} // the force of the ductility is its own
+    void Riporta() override { RiportaAlChiamante(); }
 
 private:
     void Duttilita();

@@ -105,9 +105,11 @@ TEST_F(FrmMcRdTest, OpeningTakesTheForceFromTheSectionAndKeepsTheShearLength) {
     Scrive(&f, "TxtNsd", "50");
     f.AllAttivazione();
     EXPECT_EQ(Testo(&f, "TxtNsd"), "50") << "coming back refills nothing";
-    EXPECT_EQ(Sezione().NSd.Stretto(), 200e3F) << "the force of this screen is its own";
+    EXPECT_EQ(Testo(s, "TxtNsd"), "50") << "the member has one axial force";
+    EXPECT_EQ(Sezione().NSd.Stretto(), 50e3F);
+    Scrive(s, "TxtNsd", "75");
     Riapre();
-    EXPECT_EQ(Testo(&f, "TxtNsd"), "200");
+    EXPECT_EQ(Testo(&f, "TxtNsd"), "75");
     EXPECT_EQ(Testo(&f, "txtLstar"), "3000");
 }
 

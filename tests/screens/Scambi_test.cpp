@@ -32,7 +32,7 @@ protected:
 TEST_F(ScambiTest, NTravelsFromEveryDetailToItsCallerAndBack) {
     auto& main = Principale();
     int force = 300;
-    for (const char* name : {"FrmVerifiche", "FrmMsverg", "FrmInstabDoppioT", "FrmPresFless"}) {
+    for (const char* name : {"FrmVerifiche", "FrmMsverg", "FrmInstabDoppioT", "FrmPresFless", "FrmMcRd"}) {
         NavigaSchermi::Unico().Apre(name, main);
         auto& f = Aperto(name);
         EXPECT_EQ(Testo(&f, "TxtNsd"), Testo(&main, "TxtNsd")) << name;
