@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <cmath>
 #include <limits>
 
 #include "frame/ui/GrigliaDerivazione.h"
@@ -98,6 +99,10 @@ QHBoxLayout* CreaComuni() {
         row->addWidget(pair.campo);
     }
     row->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding));
+    auto* governs = new QLabel;
+    governs->setObjectName(QStringLiteral("LblGoverna"));
+    governs->setAccessibleName(QStringLiteral("Asse che governa"));
+    row->addWidget(governs);
     return row;
 }
 
@@ -109,6 +114,8 @@ PannelloInstabilita::PannelloInstabilita(QWidget* parent) : QGroupBox(parent) {
 
 void PannelloInstabilita::ImpostaAssi(const QByteArray& assi) {
     assi_ = assi;
+    resistenze_.assign(static_cast<std::size_t>(assi.count(' ')) + 1,
+                       std::numeric_limits<double>::quiet_NaN());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(9, 6, 9, 9);
     column->setSpacing(6);
@@ -131,6 +138,26 @@ void PannelloInstabilita::MostraAsse(int asse, double i, double N, double NbRd) 
     Mostra(label("Lbl_i_"), "0.0##", i);
     const double nothing = std::numeric_limits<double>::quiet_NaN();
     Mostra(label("Lbl_Utilizzo_"), "0.0##", N > 0 && NbRd > 0 ? N / NbRd : nothing);
+    resistenze_.at(static_cast<std::size_t>(asse)) = NbRd;
+    MostraGoverna(N);
+}
+
+void PannelloInstabilita::MostraGoverna(double N) {
+    const QStringList axes = QString::fromLatin1(assi_).split(u' ');
+    qsizetype least = -1;
+    for (qsizetype i = 0; i < axes.size() && !(N < 0); ++i)
+        if (const auto of = [this](qsizetype k) { return resistenze_.at(static_cast<std::size_t>(k)); };
+            std::isfinite(of(i)) && (least < 0 || of(i) < of(least)))
+            least = i;
+    for (qsizetype i = 0; i < axes.size(); ++i)
+        for (const char* root : {"LblAsse_", "Lbl_NbRd_"}) {
+            auto* label = findChild<QLabel*>(QString::fromLatin1(root) + QString::number(i));
+            QFont font = label->font();
+            font.setBold(i == least);
+            label->setFont(font);
+        }
+    findChild<QLabel*>(QStringLiteral("LblGoverna"))
+        ->setText(least < 0 ? QString() : QStringLiteral("governa ") + axes[least]);
 }
 
 } // namespace sagomi

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QGroupBox>
 
+#include <vector>
+
 namespace sagomi {
 
 /// How the buckling resistances come about, EC3 6.3.1: what both axes share, then the derivation for each
@@ -21,7 +23,8 @@ public:
     /// @param fy  yield strength [N/mm2]
     void MostraAcciaio(double fy);
 
-    /// Shows where the derivation about an axis starts and what it is for.
+    /// Shows where the derivation about an axis starts and what it is for, and marks the axis of the least
+    /// resistance of those shown, its heading and its resistance in bold; in tension there is none.
     /// @param asse  0 for the first axis
     /// @param i     radius of gyration [mm]
     /// @param N     axial force, compression positive [N]
@@ -29,7 +32,10 @@ public:
     void MostraAsse(int asse, double i, double N, double NbRd);
 
 private:
+    void MostraGoverna(double N);
+
     QByteArray assi_;
+    std::vector<double> resistenze_; ///< of the axes [N]
 };
 
 } // namespace sagomi

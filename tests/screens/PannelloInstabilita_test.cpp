@@ -30,4 +30,28 @@ TEST_F(PannelloInstabilitaTest, ShowsWhatFollowsFromTheSteel) {
     EXPECT_EQ(Scritta(&panel, "Lbl_Lamda1"), Locale("76.4"));
 }
 
+TEST_F(PannelloInstabilitaTest, MarksTheAxisThatGoverns) {
+    PannelloInstabilita panel;
+    panel.ImpostaAssi("y-y z-z v-v");
+    const auto bold = [&panel](int axis) {
+        const auto number = std::to_string(axis);
+        const bool head = Trova<QLabel>(&panel, ("LblAsse_" + number).c_str())->font().bold();
+        EXPECT_EQ(Trova<QLabel>(&panel, ("Lbl_NbRd_" + number).c_str())->font().bold(), head) << axis;
+        return head;
+    };
+    panel.MostraAsse(0, 50, 1000, 300e3);
+    EXPECT_EQ(Scritta(&panel, "LblGoverna"), "governa y-y") << "the only one so far";
+    panel.MostraAsse(1, 40, 1000, 200e3);
+    panel.MostraAsse(2, 30, 1000, 250e3);
+    EXPECT_EQ(Scritta(&panel, "LblGoverna"), "governa z-z");
+    EXPECT_TRUE(!bold(0) && bold(1) && !bold(2));
+    panel.MostraAsse(1, 40, 1000, std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(Scritta(&panel, "LblGoverna"), "governa v-v") << "an axis without a number does not";
+    EXPECT_TRUE(!bold(0) && !bold(1) && bold(2));
+    for (int axis = 0; axis < 3; ++axis)
+        panel.MostraAsse(axis, 40, -1000, 200e3);
+    EXPECT_EQ(Scritta(&panel, "LblGoverna"), "") << "nothing buckles in tension";
+    EXPECT_TRUE(!bold(0) && !bold(1) && !bold(2));
+}
+
 } // namespace

@@ -82,7 +82,9 @@ void EtichettaRisultato::DipingeCornice() {
 
 QSize EtichettaRisultato::sizeHint() const {
     const int border = 2 * (margine + frameWidth());
-    const int figures = fontMetrics().horizontalAdvance(u'0') * caratteri_ + border;
+    QFont upright = font(); // a value that becomes bold leaves its column as wide as it was
+    upright.setBold(false);
+    const int figures = QFontMetrics(upright).horizontalAdvance(u'0') * caratteri_ + border;
     const int content = EtichettaSimbolo::sizeHint().width() - std::max(indent(), 0) + Rientro();
     const bool bare = frameShape() == QFrame::NoFrame;
     return {std::max(content, figures), bare ? fontMetrics().height() + border : AltezzaCasella()};
