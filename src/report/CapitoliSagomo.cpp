@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "frame/Acciaio.h"
 #include "frame/GeneraleSagomi.h"
 #include "report/Figure.h"
 #include "sections/Eurocod3.h"
@@ -34,7 +35,7 @@ std::string Nome(TermineVerifica termine) {
 }
 
 template <typename S> void AggiungeAcciaio(Passi& p, const S& s) {
-    p.push_back(Dato("Acciaio", "", s.TipoAcciaio));
+    p.push_back(Dato("Acciaio", "", AcciaioMostrato(s.TipoAcciaio, s.fy)));
     p.push_back(Dato("Tensione di snervamento", "f{y}", Piano(s.fy), "N/mm^{2}"));
     if (s.fu > 0)
         p.push_back(Dato("Tensione di rottura", "f{u}", Piano(s.fu), "N/mm^{2}"));

@@ -11,6 +11,7 @@
 
 #include "frame/ui/EtichettaPedice.h"
 #include "frame/ui/EtichettaRisultato.h"
+#include "frame/ui/Guida.h"
 #include "screens/Comandi.h"
 
 using namespace sagomi;
@@ -41,7 +42,7 @@ bool Comando(const QWidget* w) {
 }
 
 /// What a user of that window meets: entries, commands, results.
-QList<QWidget*> Controlli(const Schermo& screen) {
+QList<QWidget*> Controlli(const QWidget& screen) {
     QList<QWidget*> controls;
     for (QWidget* w : screen.findChildren<QWidget*>())
         if (w->isVisibleTo(&screen) && w->window() == &screen && (Comando(w) || Risultato(w)))
@@ -49,12 +50,12 @@ QList<QWidget*> Controlli(const Schermo& screen) {
     return controls;
 }
 
-std::string Dove(const Schermo& s, const QWidget* w) {
+std::string Dove(const QWidget& s, const QWidget* w) {
     return s.objectName().toStdString() + '.' + w->objectName().toStdString() + " (" +
            w->metaObject()->className() + ")";
 }
 
-void Percorre(const Schermo& screen) {
+void Percorre(const QWidget& screen) {
     QHash<QString, QWidget*> names;
     for (QWidget* w : Controlli(screen)) {
         const QString name = Letto(w);
@@ -72,7 +73,7 @@ void Percorre(const Schermo& screen) {
 }
 
 /// Each page of a screen that has pages; the one that was open is open again afterwards.
-void PercorrePagine(const Schermo& screen) {
+void PercorrePagine(const QWidget& screen) {
     Percorre(screen);
     for (auto* tabs : screen.findChildren<QTabWidget*>()) {
         const QSignalBlocker quiet(tabs);
@@ -121,6 +122,24 @@ TEST_F(AccessibilitaTest, SoItIsWhereASlenderSectionBringsOtherResults) {
     Scrive(&main, "TxtNsd", "900");
     ASSERT_EQ(Sezione().ClasseCompressione, 4);
     PercorreTutti(main);
+}
+
+TEST_F(AccessibilitaTest, SoItIsInTheViewerOfTheHelp) {
+    Avvia();
+    Guida::Apre(QStringLiteral("Sagomi.hlp"));
+    QWidget* viewer = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == u"FinestraGuida")
+            viewer = window;
+    ASSERT_NE(viewer, nullptr);
+    Preme(viewer, "cmdTrova"); // with the line to find words in
+    EXPECT_TRUE(Trova<QLineEdit>(viewer, "txtTrova")->isVisible());
+    PercorrePagine(*viewer);
+    for (const auto* button : viewer->findChildren<QPushButton*>()) {
+        const bool told = !button->toolTip().isEmpty() || !button->shortcut().isEmpty();
+        EXPECT_TRUE(told) << Dove(*viewer, button) << " has no key";
+    }
+    viewer->close();
 }
 
 TEST_F(AccessibilitaTest, AFactorToBeTakenHasItsNumberAndCanBePressed) {

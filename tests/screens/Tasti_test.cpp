@@ -115,6 +115,20 @@ TEST_F(TastiSchermiTest, CtrlShiftPShowsThePreviewOfTheSectionOrOfThePicture) {
     EXPECT_EQ(Aperto("FrmPltSezione").windowTitle(), "Plotta - Carico critico");
 }
 
+TEST_F(TastiSchermiTest, CtrlPPrintsTheTableOfAScreenWithoutDrawings) {
+    auto& main = Avvia();
+    const QString pdf = cartella.filePath("testo.pdf");
+    ImpostaSceltaStampante([&](QPrinter& printer, QWidget*) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(pdf);
+        return true;
+    });
+    NavigaSchermi::Unico().Apre("FrmRisultatiIntermedi", main);
+    QTest::keyClick(&Aperto("FrmRisultatiIntermedi"), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(QFile::exists(pdf));
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
 TEST_F(TastiSchermiTest, TabEntersThePicturesAtTheChosenOneAndArrowsGoOn) {
     auto& main = Avvia();
     NavigaSchermi::Unico().Apre("FrmPresFless", main);
