@@ -17,6 +17,7 @@ pacchetti_prove=(
   python3 python3-xlrd python3-ezdxf
   poppler-utils
   dbus-daemon libglib2.0-bin
+  locales
   desktop-file-utils appstream libxml2-utils shared-mime-info librsvg2-bin
   clang clang-format clang-tidy
 )

@@ -5,6 +5,7 @@
 #include <istream>
 #include <iterator>
 #include <ostream>
+#include <stdexcept>
 
 #include "catalogue/Minuscole.h"
 #include "choice/FileRelazione.h"
@@ -172,6 +173,8 @@ int EsegueLavori(const std::vector<std::string>& comuni, const TrovaCartella& ca
         peggiore = std::max(peggiore, EsegueLavoro(lavori, riga, comuni, gara, uscita));
         uscita.flush();
     }
+    if (ingresso.bad())
+        throw std::runtime_error("i lavori non si possono leggere");
     return peggiore;
 }
 

@@ -9,8 +9,10 @@ namespace sagomi {
 
 namespace {
 
+// A fraction is taken as it stands: SQLite reads it with the separator of the process's locale.
 constexpr auto query = "SELECT j.key, j.type, CASE j.type WHEN 'array' THEN (SELECT group_concat(value) FROM "
-                       "json_each(j.value)) ELSE CAST(j.value AS TEXT) END FROM json_each(?1) j "
+                       "json_each(j.value)) WHEN 'real' THEN ?1 -> j.fullkey ELSE CAST(j.value AS TEXT) END "
+                       "FROM json_each(?1) j "
                        "WHERE json_type(?1) = 'object'";
 
 struct Finisce {

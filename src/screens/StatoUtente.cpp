@@ -1,6 +1,7 @@
 #include "screens/StatoUtente.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <algorithm>
@@ -23,11 +24,14 @@ QString& Cartella() {
     return folder;
 }
 
-/// nullptr where nothing is kept.
+/// nullptr where nothing is kept, or something else stands in the file's place: a pipe would be waited for.
 std::unique_ptr<QSettings> File() {
     if (Cartella().isEmpty())
         return nullptr;
-    return std::make_unique<QSettings>(Cartella() + QStringLiteral("/stato.ini"), QSettings::IniFormat);
+    const QFileInfo file(Cartella() + QStringLiteral("/stato.ini"));
+    if (file.exists() && !file.isFile())
+        return nullptr;
+    return std::make_unique<QSettings>(file.filePath(), QSettings::IniFormat);
 }
 
 QList<QLineEdit*> Entrate(const SchermoSezione& s) {

@@ -17,6 +17,7 @@
 #include "catalogue/ScrittoreXls.h"
 #include "frame/Ambiente.h"
 #include "frame/GeneraleSagomi.h"
+#include "frame/Numeri.h"
 #include "sections/AreaEfficace.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneSagomoL.h"
@@ -73,7 +74,7 @@ TEST(SagomiXls, EveryCellIsThatOfTheTables) {
                 for (std::size_t c = 0; c < intestazioni.size(); ++c) {
                     Valore atteso = S(intestazioni[c]);
                     if (r > 0)
-                        atteso = c == 0 ? Valore(tabella[r][c]) : Valore(std::stod(tabella[r][c]));
+                        atteso = c == 0 ? Valore(tabella[r][c]) : Valore(ValoreNumerico(tabella[r][c]));
                     ASSERT_EQ(foglio.righe[r][c].valore, atteso) << nome << " riga " << r << " colonna " << c;
                 }
             }

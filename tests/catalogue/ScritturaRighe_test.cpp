@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "Fogli.h"
+#include "Guasti.h"
 #include "catalogue/Lettore.h"
 #include "catalogue/LettoreXls.h"
 #include "catalogue/ScrittoreXls.h"
@@ -111,6 +112,29 @@ TEST_F(ScritturaRigheTest, WhatCannotBeWrittenSaysWhy) {
     std::filesystem::remove(dir.percorso / ".~lock.u.xls#");
     std::filesystem::remove(file);
     EXPECT_THAT(causa("'Due parole'$", 1), HasSubstr("u.xls\""));
+}
+
+TEST_F(ScritturaRigheTest, AFullDiskLosesNoRow) {
+    const S before = prove::LeggeByte(file);
+    {
+        const prove::DiscoPieno full(1000);
+        EXPECT_THROW(Scrive({{{}, {S("c"), 3.0}}}), ErroreCatalogo);
+    }
+    EXPECT_EQ(prove::LeggeByte(file), before);
+    EXPECT_EQ(dir.Voci(), 1);
+    Scrive({{{}, {S("c"), 3.0}}});
+    EXPECT_EQ(Secondo().Legge(4, 0), Valore(S("c")));
+}
+
+// What another program, or a hand, has put in the workbook's place since it was read.
+TEST_F(ScritturaRigheTest, AFolderOrAPipeInItsPlaceIsTold) {
+    const ImprontaFile read = ImprontaDi(file);
+    for (const prove::AlPosto what : prove::ogniAlPosto) {
+        std::filesystem::remove(file);
+        prove::Mette(what, file);
+        EXPECT_THROW(ScriveRighe(file, read, "'Due parole'$", {{1, {S("x")}}}), ErroreCatalogo);
+        EXPECT_THROW(ScriveRighe(file, ImprontaDi(file), "'Due parole'$", {{1, {S("x")}}}), ErroreCatalogo);
+    }
 }
 
 /// A reader on the second sheet.

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include "Ambiente.h"
+#include "Guasti.h"
 #include "Registratore.h"
 #include "frame/GeneraleSagomi.h"
 
@@ -384,6 +385,19 @@ TEST_F(ImpostazioniTest, ASaveThatStopsLeavesTheOldFile) {
     EXPECT_FALSE(IniLeggeScrive("S"));
     EXPECT_EQ(LeggeByte(percorso), "vecchio");
     EXPECT_EQ(cartella.Voci(), 1);
+}
+
+TEST_F(ImpostazioniTest, AFullDiskLeavesTheOldFileAndIsTold) {
+    ASSERT_TRUE(IniLeggeScrive("S"));
+    const std::string before = LeggeByte(percorso);
+    const prove::Registratore boxes;
+    fck = 33;
+    {
+        const prove::DiscoPieno full(20);
+        EXPECT_FALSE(IniLeggeScrive("S"));
+    }
+    EXPECT_EQ(LeggeByte(percorso), before);
+    EXPECT_EQ(boxes.testi.size(), 1U);
 }
 
 TEST_F(ImpostazioniTest, AnotherModeDoesNothing) {

@@ -1,5 +1,6 @@
 #include "frame/Numeri.h"
 
+#include <cctype>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -314,7 +315,7 @@ std::string FormatoLento(double valore, int nDec) {
     std::string lungo(100, '0');
     const int esponente = std::atoi(std::strchr(scientifico, 'e') + 1);
     for (int i = unita - esponente, j = 0; scientifico[j] != 'e'; ++j)
-        if (scientifico[j] != '.')
+        if (std::isdigit(static_cast<unsigned char>(scientifico[j])) != 0) // not the separator of the locale
             lungo.at(static_cast<std::size_t>(i++)) = scientifico[j];
     int resto = 5;
     for (int i = unita + nDec + 1; i >= 0 && resto > 0; --i) {

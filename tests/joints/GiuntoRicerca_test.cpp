@@ -9,6 +9,7 @@
 #include "Registratore.h"
 #include "frame/Attesa.h"
 #include "frame/GeneraleSagomi.h"
+#include "frame/Numeri.h"
 #include "joints/Nodo.h"
 #include "joints/OsservatoreProgetto.h"
 #include "joints/Sezioni.h"
@@ -132,7 +133,7 @@ TEST_F(Ricerca, UnaRigaTornaNelGiunto) {
         EXPECT_EQ(g().L, g().ex + g().dX);
         EXPECT_EQ(g().u, tabella.Numero(riga, 10));
         g().Mrd_Giunto_Calcola();
-        EXPECT_NEAR(g().MplRdGIUNTO, std::stod(std::get<std::string>(tabella[riga][2])), 0.005001);
+        EXPECT_NEAR(g().MplRdGIUNTO, ValoreNumerico(std::get<std::string>(tabella[riga][2])), 0.005001);
     }
     EXPECT_THROW(g().DatiSelezione_Completa(tabella, tabella.n() + 1), std::out_of_range);
 }
