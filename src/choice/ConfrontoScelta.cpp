@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <string_view>
 
 #include "choice/TabellaScelta.h"
 #include "drawing/Quadro.h"
@@ -27,7 +28,8 @@ std::string Differenza(const ColonnaScelta& colonna, const RigaScelta& prima, co
     if (parte)
         return ConSegno("0", (a - da) * 100) + " %";
     std::string testo = ConSegno(colonna.figura, a - da);
-    if (da != 0)
+    constexpr std::string_view intero = "0"; // a class has no per cent
+    if (da != 0 && colonna.figura != intero)
         testo += " (" + ConSegno("0", (a - da) / da * 100) + " %)";
     return testo;
 }

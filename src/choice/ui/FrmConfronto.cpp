@@ -101,6 +101,7 @@ void FrmConfronto::RiempieTabella() {
                 tabella_->setItem(row, column++, Voce(line.differenze[i], Qt::AlignRight));
         }
     }
+    tabella_->horizontalHeader()->setFont(tabella_->font()); // it is made anew with its columns
     tabella_->verticalHeader()->setDefaultSectionSize(tabella_->fontMetrics().height() + 5);
     tabella_->resizeColumnsToContents();
 }

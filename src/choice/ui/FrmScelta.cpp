@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <iterator>
 #include <tuple>
 #include <utility>
 
@@ -394,7 +395,9 @@ std::vector<std::uint32_t> FrmScelta::InVista() const {
 // The rows in sight have their values, in the order of before; the others follow.
 void FrmScelta::MostraParziale() {
     avanzamento_->setValue(static_cast<int>(scelta_.Avanzamento() * avanzamento_->maximum()));
-    if (modello_->rowCount() == 0)
+    // While the catalogue is being read the table grows, by doubling: to sort is dear.
+    const bool grows = lettura_ && std::ssize(scelta_.Sagomi()) >= 2 * modello_->rowCount();
+    if (grows || modello_->rowCount() == 0)
         MostraRighe();
     else
         tabella_->viewport()->update();

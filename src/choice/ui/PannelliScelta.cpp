@@ -18,9 +18,9 @@ namespace sagomi {
 
 namespace {
 
-constexpr QMargins margini(9, 4, 9, 7);
+constexpr QMargins margini(7, 4, 7, 7);
 constexpr int fraRighe = 4;
-constexpr int fraColonne = 6;
+constexpr int fraColonne = 5;
 constexpr int righeMembratura = 4;
 
 constexpr const char* aiutiDiagramma[] = {
@@ -36,7 +36,7 @@ QString Testo(std::string_view text) {
 Casella* Crea(QGridLayout& grid, int riga, int colonna, const char* nome, const char* aiuto,
               const char* letta) {
     auto* box =
-        qobject_cast<Casella*>(CreaCampo({.nome = nome, .caratteri = 7, .aiuto = aiuto, .letta = letta}));
+        qobject_cast<Casella*>(CreaCampo({.nome = nome, .caratteri = 6, .aiuto = aiuto, .letta = letta}));
     grid.addWidget(box, riga, colonna);
     return box;
 }
@@ -50,8 +50,7 @@ void Intesta(QGridLayout& grid, int riga, int colonna, const Dicitura& scritta, 
 
 /// The user's own families by a name that says what they are.
 QString NomeUtente(const FamigliaSchermo& famiglia) {
-    return famiglia.schermo == "frmSaldati" ? QStringLiteral("utente simm.")
-                                            : QStringLiteral("utente asimm.");
+    return famiglia.schermo == "frmSaldati" ? QStringLiteral("utente sim.") : QStringLiteral("utente asim.");
 }
 
 } // namespace
@@ -60,7 +59,7 @@ PannelloForze::PannelloForze(QWidget* parent) : QGroupBox(tr("Azioni"), parent) 
     setObjectName(QStringLiteral("fraForze"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(margini);
-    row->setSpacing(12);
+    row->setSpacing(9);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(fraColonne);
     grid->setVerticalSpacing(fraRighe);
@@ -135,7 +134,7 @@ PannelloFamiglieScelta::PannelloFamiglieScelta(QWidget* parent) : QGroupBox(tr("
     setObjectName(QStringLiteral("fraFamiglie"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(margini);
-    grid->setHorizontalSpacing(10);
+    grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(1);
     for (const FamigliaSchermo& family : FamiglieSchermi())
         for (const std::string_view sheet : family.fogli)
@@ -205,22 +204,22 @@ QGroupBox* CreaMembratura(QWidget* parent) {
     room->InColonne(
         {{{"LblL0_0", "L{0y} [m]"},
           "Txt_L0_0",
-          6,
+          5,
           "Lunghezza di libera inflessione intorno a y-y, EC3 6.3.1",
           "L0 y-y [m]"},
          {{"LblL0_1", "L{0z} [m]"},
           "Txt_L0_1",
-          6,
+          5,
           "Lunghezza di libera inflessione intorno a z-z, EC3 6.3.1",
           "L0 z-z [m]"},
          {{"LblL0_2", "L{0v} [m]"},
           "Txt_L0_2",
-          6,
+          5,
           "Lunghezza di libera inflessione degli angolari intorno a v-v, EC3 6.3.1",
           "L0 v-v [m]"},
          {{"LblTxt_L", "L [m]"},
           "Txt_L",
-          6,
+          5,
           "Lunghezza fra i vincoli allo svergolamento; vuota: quella intorno a z-z",
           "L svergolamento [m]"},
          {{"LblTxt_k", "k"},
@@ -250,12 +249,12 @@ QGroupBox* CreaLimiti(QWidget* parent) {
     room->setObjectName(QStringLiteral("fraLimiti"));
     room->setTitle(QObject::tr("Limiti"));
     room->InColonne(
-        {{{"LblHMax", "h ≤ [mm]"}, "TxtHMax", 6, "Altezza massima; vuota: nessun limite", "h massima [mm]"},
-         {{"LblBMax", "b ≤ [mm]"}, "TxtBMax", 6, "Larghezza massima; vuota: nessun limite", "b massima [mm]"},
-         {{"LblGMin", "g ≥ [kg/m]"}, "TxtGMin", 6, "Massa minima; vuota: nessun limite", "g minima [kg/m]"},
+        {{{"LblHMax", "h ≤ [mm]"}, "TxtHMax", 4, "Altezza massima; vuota: nessun limite", "h massima [mm]"},
+         {{"LblBMax", "b ≤ [mm]"}, "TxtBMax", 4, "Larghezza massima; vuota: nessun limite", "b massima [mm]"},
+         {{"LblGMin", "g ≥ [kg/m]"}, "TxtGMin", 4, "Massa minima; vuota: nessun limite", "g minima [kg/m]"},
          {{"LblGMax", "g ≤ [kg/m]"},
           "TxtGMax",
-          6,
+          4,
           "Massa massima; vuota: nessun limite",
           "g massima [kg/m]"}},
         righeMembratura, fraColonne);

@@ -4,6 +4,7 @@
 
 #include "choice/ui/FrmScelta.h"
 #include "choice/ui/ModelloScelta.h"
+#include "choice/ui/VistaGrafico.h"
 #include "screens/Comandi.h"
 
 using namespace sagomi;
@@ -54,7 +55,8 @@ TEST_F(FigureScelta, OfAColumnWithABendingMoment) {
                                     {"TxtM2_1", "3"},
                                     {"TxtHMax", "400"}})
         Scrive(&s, box, text);
-    ASSERT_TRUE(QTest::qWaitFor([&s] { return s.Scelta().Finita() && s.Modello()->rowCount() > 0; }));
+    const auto* chart = Trova<VistaGrafico>(&s, "Grafico");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return s.Scelta().Finita() && !chart->Dati().fronte.empty(); }));
     Figura(s);
     Preme(&s, "CmdConfronta");
     Figura(Aperto("FrmConfronto"));

@@ -43,10 +43,12 @@ protected:
         return s;
     }
     static void Finisce(FrmScelta& s) {
-        ASSERT_TRUE(QTest::qWaitFor([&s] {
+        constexpr int attesa = 60000; // of a long catalogue on a busy machine [ms]
+        const auto done = [&s] {
             return s.Scelta().Finita() && s.Modello()->rowCount() > 0 &&
                    !Trova<QProgressBar>(&s, "Avanzamento")->isVisible();
-        }));
+        };
+        ASSERT_TRUE(QTest::qWaitFor(done, attesa));
         QTest::qWait(40); // the chart follows
     }
     static std::uint32_t Posto(const FrmScelta& s, const char* name) {
