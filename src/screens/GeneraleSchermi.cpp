@@ -16,6 +16,7 @@
 #include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
+#include "frame/RecentiDesktop.h"
 #include "frame/ui/AttesaQt.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/IconaProgramma.h"
@@ -48,6 +49,7 @@ bool TrovaCartelle(const std::optional<std::filesystem::path>& scelta) {
             ApreCartellaLavoro(QCoreApplication::applicationDirPath().toStdString(), scelta);
         PathProgramma = cartelle.lavoro;
         PathInstallazione = cartelle.installazione;
+        CartellaRecenti(CartellaDatiUtente());
         if (!ServerAttivo)
             CartellaStato(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
         if (!cartelle.avviso.empty())

@@ -28,7 +28,7 @@ chroot "$root" "nella_radice_$kind.sh" prova "/root/$(basename "$2")"
 mount --bind /tmp/.X11-unix "$root/tmp/.X11-unix"
 export root program
 picture=$3/primo-schermo-$kind.png xvfb-run -a -s "-screen 0 1366x768x24 -ac" bash -c '
-  chroot --userspec=prova:prova "$root" env HOME=/home/prova DISPLAY="$DISPLAY" "$program" 2>/dev/null &
+  chroot --userspec=prova:prova "$root" env HOME=/home/prova LC_ALL=it_IT.UTF-8 DISPLAY="$DISPLAY" "$program" 2>/dev/null &
   for _ in $(seq 150); do
     xwininfo -root -tree 2>/dev/null | grep -q "\"Doppio T" && break
     sleep 0.1
@@ -36,6 +36,6 @@ picture=$3/primo-schermo-$kind.png xvfb-run -a -s "-screen 0 1366x768x24 -ac" ba
   sleep 1
   xwininfo -root -tree | grep -q "\"Doppio T" || { echo "no window" >&2; exit 1; }
   import -window root "$picture"
-  chroot "$root" sh -c "kill \$(ls -l /proc/[0-9]*/exe 2>/dev/null | sed -n \"s#.*/proc/\([0-9]*\)/exe -> .*/sagomi\$#\1#p\")"
+  kill %1
 '
 chroot "$root" "nella_radice_$kind.sh" toglie "/root/$(basename "$2")"

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "frame/Messaggi.h"
+#include "frame/RecentiDesktop.h"
 #include "frame/Ripristino.h"
 #include "frame/ui/Protetto.h"
 
@@ -117,6 +118,7 @@ void DocumentoSchermo::RicordaFile() {
     Recenti().prepend(path);
     Recenti().resize(std::min(Recenti().size(), recentiMassimi));
     ElencaRecenti();
+    RicordaNelDesktop(path.toStdString());
 }
 
 void DocumentoSchermo::CollegaRecenti(QMenu& menu) {

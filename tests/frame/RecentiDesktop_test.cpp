@@ -1,0 +1,56 @@
+#include "frame/RecentiDesktop.h"
+
+#include <gmock/gmock.h>
+
+#include "frame/Ambiente.h"
+#include "frame/GeneraleSagomi.h"
+
+using namespace sagomi;
+using prove::LeggeByte;
+using prove::ScriveByte;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class RecentiDesktopTest : public testing::Test {
+protected:
+    RecentiDesktopTest() { CartellaRecenti(dir.percorso); }
+    ~RecentiDesktopTest() override { RipristinaGenerale(); }
+    [[nodiscard]] std::string Lista() const { return LeggeByte(elenco); }
+    prove::CartellaDiProva dir;
+    fs::path elenco = dir.percorso / "recently-used.xbel";
+};
+
+TEST_F(RecentiDesktopTest, AFileEntersWithItsKindAndTheProgram) {
+    RicordaNelDesktop("/lavori/di Niccolò/nodo.Gfl");
+    EXPECT_THAT(Lista(), HasSubstr("href=\"file:///lavori/di%20Niccol%C3%B2/nodo.Gfl\""));
+    EXPECT_THAT(Lista(), HasSubstr("application/x-sagomi-giunto"));
+    EXPECT_THAT(Lista(), HasSubstr("name=\"Sagomi\""));
+    EXPECT_EQ(fs::status(elenco).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    RicordaNelDesktop("/lavori/trave.sco");
+    EXPECT_THAT(Lista(), HasSubstr("application/x-sagomi-trave"));
+    EXPECT_THAT(Lista(), HasSubstr("nodo.Gfl")) << "the others stay";
+}
+
+TEST_F(RecentiDesktopTest, WhatIsNoFileOfOursAndNoListIsLeftAlone) {
+    RicordaNelDesktop("/lavori/testo.txt");
+    RicordaNelDesktop("relativo.gfl");
+    EXPECT_FALSE(fs::exists(elenco));
+    ScriveByte(elenco, "<xbel non finito");
+    RicordaNelDesktop("/lavori/trave.sco");
+    EXPECT_EQ(Lista(), "<xbel non finito");
+    CartellaRecenti(dir.percorso / "manca");
+    RicordaNelDesktop("/lavori/trave.sco");
+    EXPECT_EQ(dir.Voci(), 1);
+}
+
+TEST_F(RecentiDesktopTest, NothingIsKeptWhereNoFolderIsNamed) {
+    RipristinaGenerale();
+    RicordaNelDesktop("/lavori/trave.sco");
+    EXPECT_EQ(dir.Voci(), 0);
+}
+
+} // namespace
