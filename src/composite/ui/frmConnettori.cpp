@@ -100,8 +100,14 @@ void frmConnettori::CollegaEntrate() {
         entrate_->Osserva(box);
         Collega(box, &QLineEdit::textChanged, this, [this] { Cambiata(); });
     }
-    for (QLineEdit* box : txtInput_)
+    for (QLineEdit* box : txtInput_) {
         RegolaPositivo(box);
+        Collega(box, &QLineEdit::textChanged, this, [this, box] {
+            svuotate_.remove(box);
+            if (!Caricamento && box->text().isEmpty())
+                svuotate_.insert(box);
+        });
+    }
     Collega(entrate_, &FiltroCampi::conclusa, this, [this] { regole_.Applica(); });
     for (QComboBox* list : findChildren<QComboBox*>())
         Collega(list, &QComboBox::currentIndexChanged, this, [this] { Cambiata(); });
@@ -127,6 +133,7 @@ void frmConnettori::Apre(Schermo& da) {
     if (trave_ == nullptr)
         trave_ = &NavigaSchermi::Unico().Prende<TraveInUso>(QStringLiteral("frmAcciaioCls"));
     progettata_ = progettata_ && isVisible();
+    svuotate_.clear();
     NavigaSchermi::Unico().Apre(*this, da);
     FuocoSu(txtInput_[0]);
 }
@@ -144,13 +151,16 @@ void frmConnettori::Aggiorna() {
     Disegna();
 }
 
-/// What the beam has and the entries do not, as after a file; where it has nothing, where they begin.
+/// What the beam has and the entries do not, as after a file; where it has nothing, where they begin, but for
+/// those that the user has emptied.
 void frmConnettori::Riempie() {
     const QScopedValueRollback loading(Caricamento, true);
     for (std::size_t i = 0; i < dati.size(); ++i) {
         QLineEdit* box = txtInput_[static_cast<qsizetype>(i)];
         Singolo& value = Trave().*dati[i].valore;
-        if (InDigitazione(box) || (value > 0 && Singolo(NumeroIn(box)).Stretto() == value.Stretto()))
+        const bool emptied = svuotate_.contains(box) && !(value > 0);
+        if (emptied || InDigitazione(box) ||
+            (value > 0 && Singolo(NumeroIn(box)).Stretto() == value.Stretto()))
             continue;
         if (!(value > 0))
             value = dati[i].inizio;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QSet>
 
 #include "composite/ProgettoConnettori.h"
 #include "composite/ui/TraveInUso.h"
@@ -68,7 +69,8 @@ private:
     FiltroCampi* entrate_ = nullptr;
     RegoleEntrate regole_;
     int nervatureDoppie_ = 0;
-    bool progettata_ = false; ///< the outputs are those of the entries
+    QSet<QLineEdit*> svuotate_; ///< by the user, since the screen was opened
+    bool progettata_ = false;   ///< the outputs are those of the entries
 };
 
 } // namespace sagomi

@@ -76,6 +76,19 @@ TEST_F(FrmConnettoriTest, BeginsWithTheUsualStud) {
     VuoteC();
 }
 
+TEST_F(FrmConnettoriTest, ABoxThatWasEmptiedStaysSoUntilTheScreenOpensAgain) {
+    Apre();
+    Piena();
+    ApreConnettori();
+    Trova<QLineEdit>(c, "txtInput_1")->clear();
+    c->AllAttivazione();
+    EXPECT_EQ(LeggeC("txtInput_1"), "");
+    EXPECT_EQ(ValoreC("txtInput_0"), 100);
+    c->close();
+    ApreConnettori();
+    EXPECT_EQ(ValoreC("txtInput_1"), 450);
+}
+
 TEST_F(FrmConnettoriTest, TitlesAndLabelsFollowTheState) {
     Apre();
     Piena();
