@@ -3,6 +3,7 @@
 // through, then one of each screen, as the tutorial has left it. DATA is the folder with workbooks and help.
 // What the tutorial says and the program does not ends it with an error.
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -74,7 +75,9 @@ void FotografaTutte(const QString& folder) {
         Schermo& from = n.Prende(Padre(voce.nome));
         if (&from != &first)
             n.Apre(from.objectName(), first);
-        if (n.Trova(voce.nome) != &from)
+        if (voce.nome == u"FrmConfronto") // filled by the choice
+            from.findChild<QAbstractButton*>(QStringLiteral("CmdConfronta"))->click();
+        else if (n.Trova(voce.nome) != &from)
             n.Apre(voce.nome, from);
         Fotografa(folder, voce.nome, n.Prende(voce.nome));
         if (n.Trova(voce.nome) != &first)

@@ -20,7 +20,7 @@ from bs4 import BeautifulSoup, NavigableString
 
 FILES = ["Sagomi.hlp", "GiuntoFlangiato.hlp"]
 HERE = Path(__file__).resolve().parent
-TRUE_SIZE = 250  # mm; what is larger is a sheet with small texts, drawn at the size of the piece
+TEXT = 2.9  # mm, size of the texts of a drawing in print
 MARKS = re.compile(r"^data-")
 
 
@@ -68,9 +68,11 @@ def png_size(path):
 
 
 def screen_figure(name, caption, pictures):
+    """A picture of a screen, twice as dense as the screen."""
     width, height = png_size(pictures / "schermi" / f"{name}.png")
+    printed = min(0.095 * width, 164, 84 * width / height)  # mm
     text = (f'<figure class="schermo"><img src="schermi/{name}.png" width="{width // 2}" height="{height // 2}" '
-            f'alt="{html.escape(caption)}"><figcaption>{html.escape(caption)}</figcaption></figure>')
+            f'style="width:{printed:.0f}mm" alt="{html.escape(caption)}"><figcaption>{html.escape(caption)}</figcaption></figure>')
     return BeautifulSoup(text, "html.parser").figure
 
 
@@ -83,6 +85,15 @@ def tutorial_pictures(body, pictures):
         block.insert_after(figure)
 
 
+def drawn_width(svg):
+    """The width in print [mm] that gives a drawing's texts their size, where the page has room for it."""
+    box = re.search(r'width="([\d.]+)mm" height="([\d.]+)mm"', svg)
+    width, height = float(box[1]), float(box[2])
+    texts = [float(size) for size in re.findall(r'font-size="([\d.]+)"', svg)]
+    scale = TEXT / min(texts) if texts else 0.5
+    return min(scale, 150 / width, 95 / height) * width
+
+
 def drawings(body, pictures):
     """<img src="figura:NAME"> becomes a figure with its words below; several of a paragraph stay together."""
     for image in body.select('img[src^="figura:"]'):
@@ -91,11 +102,7 @@ def drawings(body, pictures):
         if not drawing.is_file():
             sys.exit(f"no drawing {name}")
         image["src"] = f"figure/{name}.svg"
-        box = re.search(r'width="([\d.]+)mm" height="([\d.]+)mm"', drawing.read_text("utf-8"))
-        width, height = float(box[1]), float(box[2])
-        sheet = max(width, height) > TRUE_SIZE
-        scale = min(115 / width, 80 / height) if sheet else min(0.6, 105 / width, 46 / height)
-        image["style"] = f"width:{scale * width:.0f}mm"
+        image["style"] = f"width:{drawn_width(drawing.read_text('utf-8')):.0f}mm"
     for block in list(body.find_all("p")):
         images = block.find_all("img", recursive=False)
         if images and not plain(block):
