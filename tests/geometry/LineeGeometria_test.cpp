@@ -117,6 +117,11 @@ TEST(Rette, PerDuePunti) {
     // Weights: (2, 4)/2 is (1, 2), (10, 20)/2 is (5, 10): the same line.
     ASSERT_TRUE(RettaPerDuePunti({2, 10}, {4, 20}, {2, 2}, a, b, c, 1e-9));
     EXPECT_NEAR(a * 3 + b * 6 + c, 0, 1e-9);
+    // Different weights: (2, 4)/2 is (1, 2), (15, 5)/5 is (3, 1); both lie on X + 2Y = 5.
+    ASSERT_TRUE(RettaPerDuePunti({2, 15}, {4, 5}, {2, 5}, a, b, c, 1e-9));
+    EXPECT_EQ(a, -10);
+    EXPECT_EQ(b, -20);
+    EXPECT_EQ(c, 50);
     a = 77;
     EXPECT_FALSE(RettaPerDuePunti({1, 1}, {2, 2}, {1, 1}, a, b, c, 1e-9));
     EXPECT_EQ(a, 77);

@@ -199,6 +199,7 @@ TEST(yInterpola, Table) {
     EXPECT_EQ(yInterpolaTabella(3, xs, ys, 30), 7.0);
     EXPECT_EQ(yInterpolaTabella(4, xs, ys, 30), 7.0); // the last row uses the one before
     EXPECT_EQ(yInterpolaTabella(4, xs, ys, 50), 13.0);
+    EXPECT_EQ(yInterpolaTabella(2, {0, 10}, {1, 3}, 20), 5.0); // of two rows too
     EXPECT_THROW((void)yInterpolaTabella(0, xs, ys, 5), std::out_of_range);
     EXPECT_THROW((void)yInterpolaTabella(5, xs, ys, 5), std::out_of_range);
     EXPECT_THROW((void)yInterpolaTabella(1, {3}, {4}, 5), std::out_of_range);

@@ -99,6 +99,20 @@ TEST(OffsetPoligono, AsksForTheTolerance) {
     EXPECT_EQ(r.testi, (std::vector<std::string>{"Impostare ZeroMaxDimen", "Impostare ZeroMaxDimen"}));
 }
 
+// The side of a hexagon of 10, carried inwards by 1, loses 1 / tan 60 = 0.577 at each end: a point 9 along
+// and 1 inside lies on it still, and nearer to it than to the next side, which is 1.366 away.
+TEST(OffsetPoligono, ASideIsShortenedByTheBisectorsOfItsCorners) {
+    ZeroMaxDimen = 1e-6;
+    const double alto = 5 * std::sqrt(3.0);
+    Poligono p;
+    p.Coordinate({0, 10, 15, 10, 0, -5}, {0, 0, alto, 2 * alto, 2 * alto, alto}, 6);
+    for (const double x : {0.6, 1.0, 9.0, 9.4}) {
+        double d = 0;
+        ASSERT_TRUE(OffsetDistanza(p, x, 1, d)) << x;
+        EXPECT_NEAR(std::abs(d), 1, 1e-9) << x;
+    }
+}
+
 TEST(OffsetPoligono, ASpikeMovesAside) {
     // A line that doubles back has no corner to reach; its tip goes aside by the distance.
     ZeroMaxDimen = 1e-6;
