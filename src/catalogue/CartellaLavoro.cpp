@@ -173,7 +173,7 @@ CartellaLavoro DellUtente(const fs::path& installata) {
         Prepara(installata, lavoro);
     } catch (const std::runtime_error& e) {
         return {installata, installata,
-                "Non è possibile usare la cartella di lavoro " + lavoro.string() + ":\r\n" + e.what() +
+                "Non è possibile usare la cartella dei dati " + lavoro.string() + ":\r\n" + e.what() +
                     "\r\nImpostazioni e sagomi dell'utente non si possono conservare."};
     }
     return {lavoro, installata, {}};

@@ -246,7 +246,7 @@ TEST_F(CartellaLavoroTest, AFullDiskLeavesTheInstalledFilesInUse) {
     const DiscoPieno disco(4);
     const CartellaLavoro c = ApreCartellaLavoro(bin);
     EXPECT_EQ(c.lavoro, share);
-    EXPECT_EQ(c.avviso, "Non è possibile usare la cartella di lavoro " + dati.string() +
+    EXPECT_EQ(c.avviso, "Non è possibile usare la cartella dei dati " + dati.string() +
                             ":\r\nil disco non ha accettato i dati\r\n"
                             "Impostazioni e sagomi dell'utente non si possono conservare.");
     EXPECT_THROW(ApreCartellaLavoro(bin, dir.percorso / "scelta"), std::runtime_error);
