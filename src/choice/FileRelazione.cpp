@@ -6,7 +6,6 @@
 #include "catalogue/Minuscole.h"
 #include "choice/Opzioni.h"
 #include "composite/AcciaioCls.h"
-#include "composite/VerificaTrave.h"
 #include "drawing/Dxf.h"
 #include "drawing/Grafica.h"
 #include "frame/FileAtomico.h"
@@ -20,7 +19,6 @@
 #include "report/RelazioneTrave.h"
 #include "report/ScritturaPdf.h"
 #include "report/TestoRelazione.h"
-#include "sections/SezioneCorrente.h"
 
 namespace sagomi {
 
@@ -43,18 +41,6 @@ public:
 
 private:
     std::int16_t numero_;
-};
-
-/// While one lives, the section in use may be any.
-class SezioneSalva {
-public:
-    SezioneSalva() : prima_(SezioneCorrente) {}
-    ~SezioneSalva() { SezioneCorrente = std::move(prima_); }
-    SezioneSalva(const SezioneSalva&) = delete;
-    SezioneSalva& operator=(const SezioneSalva&) = delete;
-
-private:
-    RiferimentoSezione prima_;
 };
 
 [[noreturn]] void NonLetto(const std::filesystem::path& file, const std::vector<Messaggio>& detti) {
@@ -80,13 +66,10 @@ DocumentoLetto LeggeNodo(const std::filesystem::path& file, std::vector<Messaggi
 
 DocumentoLetto LeggeTrave(const std::filesystem::path& file, std::vector<Messaggio>& detti) {
     const FileAperto aperto(file);
-    const SezioneSalva salva;
     AcciaioCls trave;
     if (!trave.FileLeggeScrive("L", aperto.Numero()))
         NonLetto(file, detti);
-    SezioneCorrente = trave.Sezione;
-    const EsitoTrave esito = VerificaTrave(trave);
-    return {RelazioneTrave(trave, esito)};
+    return {RelazioneTraveVerificata(trave)};
 }
 
 /// A text with its own road to the disk.

@@ -3,10 +3,10 @@
 #include <cmath>
 #include <type_traits>
 
-#include "drawing/Grafica.h"
 #include "report/CapitoliSagomo.h"
 #include "report/CapitoliStabilita.h"
 #include "report/Figure.h"
+#include "report/RelazioneSagomo.h"
 
 namespace sagomi {
 
@@ -63,14 +63,11 @@ void AggiungeCapitoli(Relazione& relazione, const S& s, const SagomoVerificato& 
 
 Relazione RelazioneVerifica(const SagomoInGara& sagomo, const SagomoVerificato& esito,
                             const Richiesta& richiesta) {
-    Relazione r{.titolo = "Verifica di un sagomo", .oggetto = sagomo.Designazione()};
-    r.maschera = sagomo.schermo;
+    Relazione r;
     std::visit(
         [&](const auto& s) {
+            r = TestaSagomo("Verifica di un sagomo", s, sagomo.schermo);
             AggiungeCapitoli(r, s, esito, richiesta);
-            r.disegno = {s.Designation, [tenuta = s](Superficie* oggetto, std::string_view maschera) {
-                             tenuta.PlottaSezione(oggetto, maschera, Dispositivo);
-                         }};
         },
         esito.sezione);
     return r;

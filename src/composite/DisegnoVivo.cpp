@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <memory>
 #include <string>
-#include <utility>
 
 #include "composite/AcciaioCls.h"
 #include "composite/VerificaTrave.h"
@@ -12,25 +11,11 @@
 #include "frame/Impostazioni.h"
 #include "frame/Messaggi.h"
 #include "sections/DisegnoSagoma.h"
-#include "sections/SezioneCorrente.h"
+#include "sections/SezioneInForza.h"
 
 namespace sagomi {
 
 namespace {
-
-/// While one lives, a section is the one in use.
-class SezioneInForza {
-public:
-    explicit SezioneInForza(RiferimentoSezione sezione) : prima_(std::move(SezioneCorrente)) {
-        SezioneCorrente = std::move(sezione);
-    }
-    ~SezioneInForza() { SezioneCorrente = std::move(prima_); }
-    SezioneInForza(const SezioneInForza&) = delete;
-    SezioneInForza& operator=(const SezioneInForza&) = delete;
-
-private:
-    RiferimentoSezione prima_;
-};
 
 /// While one lives, materials are those in force.
 class MaterialiInForza {

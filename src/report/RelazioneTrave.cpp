@@ -7,6 +7,7 @@
 #include "report/CapitoliSagomo.h"
 #include "report/Figure.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneInForza.h"
 
 namespace sagomi {
 
@@ -148,6 +149,15 @@ Relazione RelazioneTrave(const AcciaioCls& trave, const EsitoTrave& esito) {
     r.capitoli.push_back(CapitoloMateriali(trave));
     r.capitoli.push_back(CapitoloVerifica(trave, esito));
     return r;
+}
+
+Relazione RelazioneTraveVerificata(const AcciaioCls& trave) {
+    AcciaioCls copia = trave;
+    if (trave.Sezione)
+        copia.Sezione = std::make_shared<SezioneDoppioT>(*trave.Sezione);
+    const SezioneInForza propria(copia.Sezione);
+    const EsitoTrave esito = VerificaTrave(copia);
+    return RelazioneTrave(copia, esito);
 }
 
 } // namespace sagomi

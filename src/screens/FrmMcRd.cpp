@@ -8,6 +8,8 @@
 #include "frame/ui/Esito.h"
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
+#include "report/RelazioneSagomo.h"
+#include "report/ui/ComandoRelazione.h"
 #include "screens/NoteSezione.h"
 #include "sections/DisegnoSagoma.h"
 #include "sections/Duttilita.h"
@@ -75,6 +77,10 @@ FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::Fr
                       }});
     CalcolaA({ui_->TxtNsd});
     Collega(ui_->txtLstar, &QLineEdit::textChanged, this, [this] { Duttilita(); });
+    AggiungeRelazione(*this, [this] {
+        const SezioneDoppioT* s = Sezione();
+        return s == nullptr ? Relazione() : RelazioneResistenze(*s, objectName().toStdString());
+    });
     DimensionaIniziale({});
 }
 

@@ -13,6 +13,8 @@
 #include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "report/RelazioneSagomo.h"
+#include "report/ui/ComandoRelazione.h"
 #include "screens/SchermoSezione.h"
 #include "screens/TavolaFattori.h"
 #include "screens/TermineSpostato.h"
@@ -108,6 +110,11 @@ FrmMsverg::FrmMsverg() : SchermoDettaglio(QStringLiteral("FrmMsverg")), ui_(new 
                                ui_->fraAzioni->TxtMzsd, ui_->Txt_L, ui_->Txt_k, ui_->Txt_Kw, ui_->Txt_Zg,
                                ui_->Txt_C1, ui_->Txt_C2, ui_->Txt_C3}));
     CollegaEventi();
+    AggiungeRelazione(*this, [this] {
+        const SezioneDoppioT* s = Sezione();
+        return s == nullptr || !regole_.Applica() ? Relazione()
+                                                  : RelazioneSvergolamento(*s, objectName().toStdString());
+    });
     DimensionaIniziale({});
 }
 

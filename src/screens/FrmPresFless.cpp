@@ -18,6 +18,8 @@
 #include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "report/RelazioneSagomo.h"
+#include "report/ui/ComandoRelazione.h"
 #include "screens/PulsanteDiagramma.h"
 #include "screens/SchermoSezione.h"
 #include "screens/TermineSpostato.h"
@@ -121,6 +123,14 @@ FrmPresFless::FrmPresFless() : SchermoDettaglio(QStringLiteral("FrmPresFless")),
     CollegaDiagrammi();
     VisualizzaPict(IndicePict);
     ui_->ImgMomenti->Mostra(DisegnoMomenti({}, {}, IndicePict)); // its room counts from the start
+    AggiungeRelazione(*this, [this] {
+        const SezioneDoppioT* s = Sezione();
+        if (s == nullptr || s->ErroreDatiDatabase || !regole_.Applica())
+            return Relazione();
+        return RelazioneMembratura(*s, {s->CurvaInstabilita("yy"), s->CurvaInstabilita("zz")},
+                                   {Momenti(0), Momenti(1), TipoDiagramma, IndicePict},
+                                   objectName().toStdString());
+    });
     DimensionaIniziale({});
 }
 

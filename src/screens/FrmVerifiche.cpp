@@ -7,6 +7,8 @@
 #include "frame/ui/EtichettaRisultato.h"
 #include "frame/ui/Mostra.h"
 #include "frame/ui/Protetto.h"
+#include "report/RelazioneSagomo.h"
+#include "report/ui/ComandoRelazione.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/Verdetto.h"
 #include "ui_FrmVerifiche.h"
@@ -122,6 +124,11 @@ FrmVerifiche::FrmVerifiche() : SchermoDettaglio(QStringLiteral("FrmVerifiche")),
     Lega(ui_->fraAzioni->TxtMzsd, &SezioneDoppioT::Mzsd, kNm_a_Nmm(1));
     CalcolaA({ui_->fraAzioni->TxtNsd, ui_->fraAzioni->TxtMysd, ui_->fraAzioni->TxtMzsd});
     SceglieQuadro(1);
+    AggiungeRelazione(*this, [this] {
+        const SezioneDoppioT* s = Sezione();
+        return s == nullptr || !regole_.Applica() ? Relazione()
+                                                  : RelazioneSezione(*s, objectName().toStdString());
+    });
     DimensionaIniziale({});
 }
 

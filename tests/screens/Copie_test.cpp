@@ -48,6 +48,9 @@ TEST_F(CopieTest, CtrlCWithNothingSelectedCopiesTheDerivation) {
         << data->text().toStdString();
     EXPECT_NE(data->text().toStdString().find("EC3 6.2.5"), std::string::npos);
     EXPECT_NE(data->html().toStdString().find("<td>" + moment + "</td>"), std::string::npos);
+    const QImage picture = qvariant_cast<QImage>(data->imageData());
+    EXPECT_GT(picture.width(), 300);
+    EXPECT_GT(picture.height(), 300);
     EXPECT_LT(data->text().indexOf("IPE 500"), data->text().indexOf("Mc,Rd y-y")) << "the head comes first";
 }
 

@@ -18,6 +18,7 @@
 #include "catalogue/ui/EtichettaRicerca.h"
 #include "catalogue/ui/LettoreDati.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/TabellaCopiata.h"
 #include "frame/ui/Twips.h"
 
 namespace sagomi {
@@ -488,8 +489,13 @@ bool GrigliaCatalogo::Scorre(int tasto) {
 }
 
 void GrigliaCatalogo::Copia() {
-    if (const QString rows = RigheSelezionate(); !rows.isEmpty())
-        QApplication::clipboard()->setText(rows);
+    const QString rows = RigheSelezionate();
+    if (rows.isEmpty())
+        return;
+    QList<QStringList> table;
+    for (const QString& line : rows.split(u'\n', Qt::SkipEmptyParts))
+        table << line.split(u'\t');
+    QApplication::clipboard()->setMimeData(TabellaCopiata(QString(), table));
 }
 
 QString GrigliaCatalogo::RigheSelezionate() const {

@@ -36,6 +36,8 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/UpDown.h"
+#include "report/RelazioneTrave.h"
+#include "report/ui/ComandoRelazione.h"
 #include "screens/SchermoDettaglio.h"
 #include "screens/SchermoSezione.h"
 #include "sections/SezioneCorrente.h"
@@ -126,6 +128,10 @@ void frmAcciaioCls::CollegaMenu() {
     entry("mnuFileSubito", [this] {
         ConcludeEntrate();
         documento_->SalvaSubito();
+    });
+    auto* file = findChild<QMenu*>(QStringLiteral("mnuFile"));
+    AggiungeRelazione(*this, *file, findChild<QAction*>(QStringLiteral("mnuFileItem_3")), [this] {
+        return AssicuraRisultati() ? RelazioneTraveVerificata(trave_) : Relazione();
     });
     documento_->CollegaRecenti(*findChild<QMenu*>(QStringLiteral("mnuRecenti")));
     NavigaSchermi::Unico().CollegaMenu(*this);

@@ -25,6 +25,8 @@
 #include "frame/ui/Guida.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "report/RelazioneCollegamenti.h"
+#include "report/ui/ComandoRelazione.h"
 #include "ui_frmBulloni.h"
 
 namespace sagomi {
@@ -84,6 +86,11 @@ frmBulloni::frmBulloni() : Schermo(QStringLiteral("frmBulloni")), ui_(new Ui::fr
     PreparaContenuto();
     CollegaCaselle();
     CollegaScelte();
+    AggiungeRelazione(*this, [this] {
+        const bool some =
+            bullone_ && !ui_->Txt_FVRd->text().isEmpty() && !Txt_Rif_[rifResistenza]->text().isEmpty();
+        return some ? RelazioneBullone(*bullone_, ui_->Txt_TipoAcciaio->text().toStdString()) : Relazione();
+    });
     DimensionaIniziale({}); // the status line has its room by now
 }
 

@@ -10,6 +10,8 @@
 #include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "report/RelazioneCollegamenti.h"
+#include "report/ui/ComandoRelazione.h"
 #include "ui_frmSaldature.h"
 
 namespace sagomi {
@@ -30,6 +32,10 @@ frmSaldature::frmSaldature() : Schermo(QStringLiteral("frmSaldature")), ui_(new 
     ui_->setupUi(this);
     AllineaDecimali({ui_->Txt_betaw, ui_->Txt_fvwd});
     PreparaContenuto();
+    AggiungeRelazione(*this, [this] {
+        return saldatura_ ? RelazioneSaldatura(*saldatura_, ui_->Txt_TipoAcciaio->text().toStdString())
+                          : Relazione();
+    });
     DimensionaIniziale({larghezzaTitolo, 0});
     DisponeInAlto(this);
     Collega(ui_->UpDown2, &UpDown::passo, this, [this](bool su) {

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QRegularExpression>
+#include <QTableView>
 
 #include <algorithm>
 #include <tuple>
@@ -16,6 +17,7 @@
 
 #include "frame/ui/EtichettaRisultato.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/TabellaCopiata.h"
 
 namespace sagomi {
 
@@ -55,18 +57,39 @@ RigaDerivazione Riga(const QWidget* w, const QString& value) {
             clause.match(tip).captured(0).trimmed()};
 }
 
-QString InHtml(const QStringList& cells, const QString& tag) {
-    QString row = QStringLiteral("<tr>");
-    for (const QString& c : cells)
-        row += u'<' + tag + u'>' + c.toHtmlEscaped() + QStringLiteral("</") + tag + u'>';
-    return row + QStringLiteral("</tr>\n");
-}
-
 bool QualcosaDiScelto(const QObject* object) {
     if (const auto* label = qobject_cast<const QLabel*>(object))
         return label->hasSelectedText();
     const auto* box = qobject_cast<const QLineEdit*>(object);
     return box != nullptr && box->hasSelectedText();
+}
+
+/// The rows that are selected, or all of them where it is one cell or none, under their heads.
+QList<QStringList> RigheDi(const QTableView& table) {
+    const QAbstractItemModel& model = *table.model();
+    QStringList cells;
+    for (int column = 0; column < model.columnCount(); ++column)
+        cells << model.headerData(column, Qt::Horizontal).toString().simplified();
+    QList<QStringList> rows{cells};
+    const QItemSelectionModel* chosen = table.selectionModel();
+    const bool some = chosen != nullptr && chosen->selectedRows().size() > 1;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        if (some && !chosen->isRowSelected(row))
+            continue;
+        cells.clear();
+        for (int column = 0; column < model.columnCount(); ++column)
+            cells << model.index(row, column).data().toString().trimmed();
+        rows << cells;
+    }
+    return rows;
+}
+
+/// A table that has no manner of copying of its own.
+const QTableView* TabellaDi(QObject* object) {
+    const auto* table = qobject_cast<const QTableView*>(object);
+    return table == nullptr || table->model() == nullptr || table->inherits("sagomi::GrigliaCatalogo")
+               ? nullptr
+               : table;
 }
 
 /// Selects the text of a result but the blanks around it.
@@ -105,27 +128,19 @@ QList<RigaDerivazione> Derivazione(const QWidget& schermo) {
 }
 
 QMimeData* DerivazioneCopiata(const QWidget& schermo) {
-    const QStringList heads{QObject::tr("Simbolo"), QObject::tr("Valore"), QObject::tr("Unità"),
-                            QObject::tr("Norma")};
-    QString text = heads.join(u'\t') + u'\n';
-    QString html = QStringLiteral("<table>\n<caption>") + schermo.windowTitle().toHtmlEscaped() +
-                   QStringLiteral("</caption>\n") + InHtml(heads, QStringLiteral("th"));
-    for (const RigaDerivazione& r : Derivazione(schermo)) {
-        const QStringList cells{r.simbolo, r.valore, r.unita, r.norma};
-        text += cells.join(u'\t') + u'\n';
-        html += InHtml(cells, QStringLiteral("td"));
-    }
-    auto* data = new QMimeData;
-    data->setText(text);
-    data->setHtml(html + QStringLiteral("</table>\n"));
-    return data;
+    QList<QStringList> rows{
+        {QObject::tr("Simbolo"), QObject::tr("Valore"), QObject::tr("Unità"), QObject::tr("Norma")}};
+    for (const RigaDerivazione& r : Derivazione(schermo))
+        rows.append({r.simbolo, r.valore, r.unita, r.norma});
+    return TabellaCopiata(schermo.windowTitle(), rows);
 }
 
 Copie::Copie(QWidget* schermo, std::function<bool()> dettaglio)
     : QObject(schermo), schermo_(schermo), dettaglio_(std::move(dettaglio)) {
     schermo->installEventFilter(this);
     for (QWidget* w : schermo->findChildren<QWidget*>())
-        if (qobject_cast<QLineEdit*>(w) != nullptr || qobject_cast<EtichettaRisultato*>(w) != nullptr)
+        if (qobject_cast<QLineEdit*>(w) != nullptr || qobject_cast<EtichettaRisultato*>(w) != nullptr ||
+            TabellaDi(w) != nullptr)
             w->installEventFilter(this);
 }
 
@@ -137,7 +152,12 @@ bool Copie::eventFilter(QObject* object, QEvent* event) {
 
 bool Copie::Filtra(QObject* object, QEvent* event) const {
     if (event->type() == QEvent::MouseButtonDblClick)
-        return object != schermo_ && SceglieNumero(object);
+        return object != schermo_ && TabellaDi(object) == nullptr && SceglieNumero(object);
+    if (const QTableView* table = TabellaDi(object);
+        table != nullptr && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+        QApplication::clipboard()->setMimeData(TabellaCopiata(schermo_->windowTitle(), RigheDi(*table)));
+        return true;
+    }
     if (!dettaglio_() || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) ||
         QualcosaDiScelto(object))
         return false;

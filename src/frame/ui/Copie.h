@@ -19,11 +19,12 @@ struct RigaDerivazione {
 /// accessible name, the clause from the tool-tip. What is hidden or empty is left out.
 QList<RigaDerivazione> Derivazione(const QWidget& schermo);
 
-/// The same as a table for the clipboard: text with tabs, and HTML. The caller takes it over.
+/// The same as a table for the clipboard: text with tabs, HTML and a picture. The caller takes it over.
 QMimeData* DerivazioneCopiata(const QWidget& schermo);
 
 /// The manners of copying of a screen: a double click takes the whole number of a result, without blanks;
-/// Ctrl+C with nothing selected copies the derivation of a screen that was opened from another.
+/// Ctrl+C with nothing selected copies the derivation of a screen that was opened from another, in a table
+/// its rows with their heads.
 class Copie : public QObject {
     Q_OBJECT
 public:

@@ -25,6 +25,8 @@
 #include "joints/ui/PlottaNodo.h"
 #include "joints/ui/VistaGiunto.h"
 #include "joints/ui/frmGiunti.h"
+#include "report/RelazioneNodo.h"
+#include "report/ui/ComandoRelazione.h"
 #include "ui_frmGiunti.h"
 
 namespace sagomi {
@@ -131,6 +133,12 @@ void frmGiunti::CollegaFile() {
     for (int i = 0; i < numVociFile; ++i)
         Collega(findChild<QAction*>(QStringLiteral("mnufileitem_%1").arg(i)), &QAction::triggered, this,
                 [this, i] { SceltaFileMenu(i); });
+    AggiungeRelazione(*this, *ui_->mnuFile, ui_->mnufileitem_5, [this] {
+        const Giunto* joint = NodoCorrente.ConnessioneCorrente.get();
+        return joint == nullptr || !joint->Acquisito
+                   ? Relazione()
+                   : RelazioneNodo(NodoCorrente, Casella("TxtDescrizione")->text().toStdString());
+    });
     Collega(ui_->mnuHelp_0, &QAction::triggered, this, [this] { Guida::Apre(FileGuida()); });
 }
 

@@ -1,0 +1,152 @@
+#include "report/RelazioneCollegamenti.h"
+
+#include "fasteners/DisegnoForatura.h"
+#include "fasteners/Saldatura.h"
+#include "fasteners/VerdettoBullone.h"
+#include "frame/Errori.h"
+#include "frame/GeneraleSagomi.h"
+#include "frame/Messaggi.h"
+#include "report/Figure.h"
+
+namespace sagomi {
+
+namespace {
+
+constexpr const char* tabella = "ENV 1993-1-1 tab. 6.5.3";
+
+using Passi = std::vector<PassoRelazione>;
+
+std::string Nome(TermineBullone termine) {
+    switch (termine) {
+    case TermineBullone::Taglio:
+        return "taglio";
+    case TermineBullone::Trazione:
+        return "trazione";
+    case TermineBullone::Rifollamento:
+        return "rifollamento";
+    case TermineBullone::Nessuno:
+        break;
+    }
+    return {};
+}
+
+std::string Forza(Singolo N) { return Cifre(Singolo(N_a_kN(N))); }
+
+CapitoloRelazione Dati(const Bullone& b, const std::string& acciaio) {
+    CapitoloRelazione c{.titolo = "Bullone e piastra"};
+    c.passi = {Dato("Diametro", "d", std::to_string(b.d()), "mm"),
+               Dato("Classe", "", Piano(b.Classe())),
+               Dato("Tensione di rottura del bullone", "f{ub}", Piano(b.fub), "N/mm^{2}"),
+               Dato("Tensione di snervamento del bullone", "f{yb}", Piano(b.fyb), "N/mm^{2}"),
+               Dato("Sezione tagliata", "", b.Gambo ? "gambo" : "filettatura"),
+               Dato("Area tagliata", "A", Formato("0.0", b.Ataglio), "mm^{2}"),
+               Dato("Area resistente", "A{s}", Formato("0.0", b.Ares), "mm^{2}"),
+               Dato("Foro", "d{0}", Piano(b.do_), "mm"),
+               Dato("Acciaio della piastra", "", acciaio),
+               Dato("Tensione di rottura della piastra", "f{u}", Piano(b.fu), "N/mm^{2}"),
+               Dato("Spessore della piastra", "t", Piano(b.t), "mm"),
+               Dato("Distanza dal bordo nella direzione della forza", "e{1}", Piano(b.e1), "mm"),
+               Dato("Passo nella direzione della forza", "p{1}", Piano(b.p1), "mm"),
+               Dato("Distanza dal bordo di lato", "e{2}", Piano(b.e2), "mm"),
+               Dato("Passo di lato", "p{2}", Piano(b.p2), "mm"),
+               Dato("Taglio", "F{v,Sd}", Forza(b.FvSd), "kN"),
+               Dato("Trazione", "F{t,Sd}", Forza(b.FtSd), "kN"),
+               Dato("Normativa", "", NomeNormativa()),
+               Dato("Coefficiente parziale, collegamenti", "γ{M2}", Piano(GammaM2))};
+    return c;
+}
+
+CapitoloRelazione Resistenze(const Bullone& b) {
+    CapitoloRelazione c{.titolo = "Resistenze"};
+    c.passi = {{.descrizione =
+                    "Resistenza a taglio per piano; α{v} = 0,6, nella filettatura delle classi 4.8, "
+                    "5.8, 6.8 e 10.9 0,5",
+                .simbolo = "F{v,Rd}",
+                .formula = "α{v} f{ub} A / γ{M2}",
+                .valore = Forza(b.FvRd),
+                .unita = "kN",
+                .norma = tabella},
+               {.descrizione = "Resistenza a trazione",
+                .simbolo = "F{t,Rd}",
+                .formula = "0,9 f{ub} A{s} / γ{M2}",
+                .numeri = "0,9 · " + Piano(b.fub) + " · " + Formato("0.0", b.Ares) + " / " + Piano(GammaM2) +
+                          " · 10^{-3}",
+                .valore = Forza(b.FtRd),
+                .unita = "kN",
+                .norma = tabella},
+               {.descrizione = "Coefficiente di rifollamento",
+                .simbolo = "α",
+                .formula = "min(e{1} / (3 d{0}); p{1} / (3 d{0}) − 1/4; f{ub} / f{u}; 1)",
+                .valore = Cifre(b.alfa),
+                .norma = tabella},
+               {.descrizione = "Resistenza a rifollamento, ridotta se e{2} < 1,5 d{0} o p{2} < 3 d{0}",
+                .simbolo = "F{b,Rd}",
+                .formula = "2,5 α f{u} d t / γ{M2}",
+                .valore = Forza(b.FbRd),
+                .unita = "kN",
+                .norma = tabella}};
+    for (std::int16_t i = 1; i <= 5; ++i)
+        if (const std::string nota = b.Messaggio(i); !nota.empty())
+            c.note.push_back(nota);
+    AdattaDecimali(c);
+    return c;
+}
+
+CapitoloRelazione Verifica(const Bullone& b) {
+    CapitoloRelazione c{.titolo = "Verifica a taglio e trazione"};
+    const VerdettoBullone v = Giudica(b);
+    if (b.FvRd > 0 && b.FtRd > 0) {
+        const TerminiTaglioTrazione t = b.TerminiInterazione();
+        c.passi.push_back({.descrizione = "Interazione",
+                           .simbolo = "",
+                           .formula = "F{v,Sd} / F{v,Rd} + F{t,Sd} / (1,4 F{t,Rd})",
+                           .numeri = Cifre(t.taglio) + " + " + Cifre(t.trazione),
+                           .valore = Cifre(t.Somma()),
+                           .norma = "ENV 1993-1-1 6.5.5 (5)"});
+    }
+    AdattaDecimali(c);
+    c.verdetto = VerdettoRelazione{.verifica = "Bullone a taglio e trazione",
+                                   .esito = VerdettoRelazione::Da(v.utilizzo),
+                                   .utilizzo = v.utilizzo,
+                                   .governa = Nome(v.governa),
+                                   .motivo = v.Motivo(),
+                                   .norma = "ENV 1993-1-1 6.5.5"};
+    return c;
+}
+
+} // namespace
+
+Relazione RelazioneBullone(const Bullone& b, const std::string& acciaio) {
+    Relazione r{.titolo = "Verifica di un bullone",
+                .oggetto = "M" + std::to_string(b.d()) + " classe " + Piano(b.Classe())};
+    r.maschera = "frmBulloni";
+    r.disegno = DisegnoForatura({double(b.d()), b.do_, b.e1, b.p1, b.e2, b.p2});
+    r.capitoli = {Dati(b, acciaio), Resistenze(b), Verifica(b)};
+    return r;
+}
+
+Relazione RelazioneSaldatura(const Saldatura& s, const std::string& acciaio) {
+    Relazione r{.titolo = "Saldatura a cordone d'angolo", .oggetto = acciaio};
+    CapitoloRelazione c{.titolo = "Resistenza della gola"};
+    const MessaggiTaciuti silenzio;
+    c.passi = {Dato("Acciaio", "", acciaio), Dato("Tensione di rottura", "f{u}", Piano(s.fu), "N/mm^{2}"),
+               Dato("Coefficiente parziale, collegamenti", "γ{M2}", Piano(GammaM2))};
+    try {
+        const Singolo resistenza = s.fvwd();
+        c.passi.push_back(Dato("Fattore di correlazione", "β{w}", Piano(s.betaW()), "", "EC3 1-8 tab. 4.1"));
+        c.passi.push_back(
+            {.descrizione = "Resistenza a taglio della gola",
+             .simbolo = "f{vw,d}",
+             .formula = "f{u} / (√3 β{w} γ{M2})",
+             .numeri = Piano(s.fu) + " / (√3 · " + Piano(s.betaW()) + " · " + Piano(GammaM2) + ")",
+             .valore = Cifre(resistenza),
+             .unita = "N/mm^{2}",
+             .norma = "EC3 1-8 4.5.3.3"});
+    } catch (const ErroreAritmetico&) {
+        c.note.emplace_back("Questa tensione di rottura non ha un fattore di correlazione.");
+    }
+    r.capitoli = {std::move(c)};
+    return r;
+}
+
+} // namespace sagomi

@@ -1,0 +1,69 @@
+#include "report/RelazioneSagomo.h"
+
+#include "drawing/Grafica.h"
+#include "report/CapitoliSagomo.h"
+#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneSagomoL.h"
+#include "sections/SezioneSagomoU.h"
+
+namespace sagomi {
+
+namespace {
+
+template <typename S> Relazione Testa(const std::string& titolo, const S& s, const std::string& maschera) {
+    Relazione r{.titolo = titolo, .oggetto = s.Designation};
+    r.maschera = maschera;
+    r.disegno = {s.Designation, [tenuta = s](Superficie* oggetto, std::string_view schermo) {
+                     tenuta.PlottaSezione(oggetto, schermo, Dispositivo);
+                 }};
+    return r;
+}
+
+} // namespace
+
+Relazione TestaSagomo(const std::string& titolo, const SezioneDoppioT& s, const std::string& maschera) {
+    return Testa(titolo, s, maschera);
+}
+
+Relazione TestaSagomo(const std::string& titolo, const SezioneSagomoU& s, const std::string& maschera) {
+    return Testa(titolo, s, maschera);
+}
+
+Relazione TestaSagomo(const std::string& titolo, const SezioneSagomoL& s, const std::string& maschera) {
+    return Testa(titolo, s, maschera);
+}
+
+Relazione RelazioneSezione(const SezioneDoppioT& s, const std::string& maschera) {
+    Relazione r = Testa("Verifica della sezione", s, maschera);
+    r.capitoli = {CapitoloDati(s), CapitoloAzioni(s), CapitoloClassi(s), CapitoloResistenze(s),
+                  CapitoloSezione(s)};
+    return r;
+}
+
+Relazione RelazioneMembratura(const SezioneDoppioT& s, const CurveInstabilita& curve,
+                              const DiagrammiMembratura& diagrammi, const std::string& maschera) {
+    Relazione r = Testa("Verifica della membratura", s, maschera);
+    r.capitoli = {CapitoloDati(s),
+                  CapitoloAzioni(s),
+                  CapitoloMomenti(diagrammi.y, diagrammi.z, diagrammi.tipo, diagrammi.pict),
+                  CapitoloClassi(s),
+                  CapitoloResistenze(s),
+                  CapitoloInstabilita(s, curve),
+                  CapitoloMembratura(s)};
+    return r;
+}
+
+Relazione RelazioneSvergolamento(const SezioneDoppioT& s, const std::string& maschera) {
+    Relazione r = Testa("Verifica allo svergolamento", s, maschera);
+    r.capitoli = {CapitoloDati(s), CapitoloAzioni(s), CapitoloClassi(s), CapitoloResistenze(s),
+                  CapitoloSvergolamento(s)};
+    return r;
+}
+
+Relazione RelazioneResistenze(const SezioneDoppioT& s, const std::string& maschera) {
+    Relazione r = Testa("Momento resistente", s, maschera);
+    r.capitoli = {CapitoloDati(s), CapitoloClassi(s), CapitoloResistenze(s)};
+    return r;
+}
+
+} // namespace sagomi
