@@ -34,7 +34,7 @@ QString InForza(const QString& text) {
 QString Letto(QString text) { return text.remove(u'&').remove(u'•').section(u'\t', 0, 0).simplified(); }
 
 bool Uguali(const QString& shown, const QString& text) {
-    return Letto(shown) == text || Letto(shown) == InForza(text);
+    return Letto(shown) == text || Letto(shown) == Letto(InForza(text));
 }
 
 QString Mostra(const QWidget& w) {
