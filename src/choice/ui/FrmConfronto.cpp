@@ -34,7 +34,7 @@ FrmConfronto::FrmConfronto() : Schermo(QStringLiteral("FrmConfronto")) {
     PreparaContenuto();
     Collega(copia_, &QPushButton::clicked, this, [this] { Copia(); });
     FrmConfronto::Mostra({});
-    constexpr QSize misura(860, 640);
+    constexpr QSize misura(1150, 640);
     DimensionaIniziale(misura);
 }
 

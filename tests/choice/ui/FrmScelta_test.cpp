@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QFile>
+#include <QPrinter>
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QTableWidget>
@@ -17,6 +18,7 @@
 #include "catalogue/ui/GrigliaCatalogo.h"
 #include "choice/ui/ModelloScelta.h"
 #include "choice/ui/VistaGrafico.h"
+#include "drawing/ui/ScegliDispositivo.h"
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
 #include "frame/ui/FileDialogo.h"
@@ -31,6 +33,12 @@ namespace {
 
 class FrmSceltaTest : public AmbienteSchermi {
 protected:
+    void TearDown() override {
+        ImpostaSceltaStampante({});
+        ImpostaSceltaFile({});
+        AmbienteSchermi::TearDown();
+    }
+
     /// Opened from the first screen, with these entries, all rows done.
     FrmScelta& Apre(const char* N = "250", const char* L0y = "5", const char* L0z = "2.5") {
         SchermoSezione& main = Avvia();
@@ -286,6 +294,21 @@ TEST_F(FrmSceltaTest, TheTableIsCopiedAndExported) {
     const QString text = QString::fromUtf8(written.readAll());
     EXPECT_EQ(text.count(u'\n'), s.Modello()->rowCount() + 1);
     EXPECT_TRUE(text.contains(NomeInMano(s)));
+}
+
+TEST_F(FrmSceltaTest, TheTableIsPrintedOnPages) {
+    FrmScelta& s = Apre();
+    const QString file = QString::fromStdString((PathProgramma / "tabella.pdf").string());
+    ImpostaSceltaStampante([&file](QPrinter& printer, QWidget*) {
+        printer.setOutputFileName(file);
+        return true;
+    });
+    Preme(&s, "CmdStampa");
+    QFile printed(file);
+    ASSERT_TRUE(printed.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(printed.readAll().startsWith("%PDF"));
+    if (const QString folder = qEnvironmentVariable("SAGOMI_FIGURE"); !folder.isEmpty())
+        QFile::copy(file, folder + QStringLiteral("/tabella.pdf"));
 }
 
 TEST_F(FrmSceltaTest, ArrowsMoveAndLettersSearchFromAnywhere) {

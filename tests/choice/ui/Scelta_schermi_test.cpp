@@ -27,6 +27,8 @@ struct Forze {
     const char *L, *k, *Kw, *C2, *C3, *za;
 };
 
+void PrintTo(const Forze& f, std::ostream* os) { *os << f.nome; }
+
 // clang-format off
 constexpr Forze forze[] = {
     {"trave",          0, normativaNTC, pictEstremitaConcordi,    "0",    "5",   "5",   "60",  "0",   "0",  "0",  "0",  "0",  "5",   "1",   "1", "0",    "0",    "0"},
@@ -112,7 +114,8 @@ protected:
         emit s.ComboTipoAcciaio->activated(f.acciaio);
         Scrive(&s, "Txt_L0_0", f.L0y);
         Scrive(&s, "Txt_L0_1", f.L0z);
-        Scrive(&s, "TxtNsd", f.N);
+        if (s.TxtNsd != nullptr)
+            Scrive(&s, "TxtNsd", f.N);
         s.DatiRisultati();
         return s;
     }
