@@ -33,5 +33,6 @@ casella.addEventListener("keydown", (e) => {
 document.addEventListener("keydown", (e) => {
   if (e.key === "k" && e.ctrlKey) { e.preventDefault(); casella.focus(); }
 });
-const qui = document.querySelector('[aria-current="page"]');
-if (qui) qui.scrollIntoView({ block: "center" });
+const qui = document.querySelector('.argomenti [aria-current="page"]');
+const menu = document.querySelector("nav.menu");
+if (qui) menu.scrollTop = qui.offsetTop - menu.clientHeight / 2; // the page itself stays at its top
