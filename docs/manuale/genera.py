@@ -13,6 +13,7 @@ import shutil
 import struct
 import sys
 import unicodedata
+from collections import Counter
 from pathlib import Path
 from urllib.parse import quote
 
@@ -148,18 +149,25 @@ def read(file, data, pictures):
 
 
 def index_words(topics):
-    """What stands bold right behind a place, and the titles: word, file, name of the place."""
-    words = []
+    """What stands bold right behind a place, and the titles: word, file, name of the place. A word that stands in
+    several topics names its own."""
+    words = set()
     for topic in topics:
-        words.append((topic.title, topic.file, topic.name))
+        words.add((topic.title, topic.file, topic.name, ""))
         for node in topic.nodes:
             for bold in node.find_all("b"):
                 before = bold.find_previous_sibling()
                 gap = bold.previous_sibling
                 if before is not None and before.name == "a" and before.has_attr("name") and \
                         (gap is before or not str(gap).strip()):
-                    words.append((plain(bold), topic.file, before["name"]))
-    return sorted(set(words), key=lambda w: (fold(w[0]), w[1]))
+                    words.add((plain(bold), topic.file, before["name"], topic.title))
+    times = Counter(fold(word) for word, *_ in words)
+
+    def entry(word, file, name, title):
+        own = title or ("giunto" if file == FILES[1] else "")
+        return (f"{word} ({own})" if times[fold(word)] > 1 and own else word, file, name)
+
+    return sorted({entry(*word) for word in words}, key=lambda w: (fold(w[0]), w[1]))
 
 
 def places(topics):
