@@ -110,6 +110,7 @@ int VerificaUno(const Comando& c, const Gara& gara, std::ostream& uscita) {
         std::ranges::find_if(gara.sagomi, [&](const SagomoInGara& s) { return Cercato(c, s); });
     if (sagomo == gara.sagomi.end())
         NessunSagomo(c);
+    const SenzaMigliaia piano;
     std::vector<std::string> messaggi = gara.mancanti;
     const SagomoVerificato esito = Verifica(*sagomo, c.richiesta, messaggi);
     if (c.uscite.Qualcuna())

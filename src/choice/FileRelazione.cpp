@@ -11,6 +11,7 @@
 #include "frame/FileAtomico.h"
 #include "frame/FileDati.h"
 #include "frame/MotivoFile.h"
+#include "frame/Numeri.h"
 #include "frame/RaccoltaMessaggi.h"
 #include "joints/Nodo.h"
 #include "joints/RelazioneGiunto.h"
@@ -112,6 +113,10 @@ void ScriveDxf(const Relazione& r, const std::filesystem::path& file) {
 
 } // namespace
 
+SenzaMigliaia::SenzaMigliaia() : prima_(CarMigliaia) { CarMigliaia = 0; }
+
+SenzaMigliaia::~SenzaMigliaia() { CarMigliaia = prima_; }
+
 bool EFileDati(std::string_view nome) {
     const std::string estensione = Estensione(std::filesystem::path(nome));
     return estensione == ".gfl" || estensione == ".sco";
@@ -119,6 +124,7 @@ bool EFileDati(std::string_view nome) {
 
 DocumentoLetto LeggeDocumento(const std::filesystem::path& file) {
     RaccoltaMessaggi raccolta;
+    const SenzaMigliaia piano; // but for the lines of a joint, which are those on paper
     DocumentoLetto documento =
         Estensione(file) == ".gfl" ? LeggeNodo(file, raccolta.raccolti) : LeggeTrave(file, raccolta.raccolti);
     for (Messaggio& m : raccolta.raccolti)

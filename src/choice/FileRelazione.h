@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -11,6 +12,18 @@ namespace sagomi {
 
 /// Whether a name is that of a joint's or a composite beam's file, by its extension in either case.
 bool EFileDati(std::string_view nome);
+
+/// While one lives, numbers are not grouped: a comma between figures would read as a decimal one.
+class SenzaMigliaia {
+public:
+    SenzaMigliaia();
+    ~SenzaMigliaia();
+    SenzaMigliaia(const SenzaMigliaia&) = delete;
+    SenzaMigliaia& operator=(const SenzaMigliaia&) = delete;
+
+private:
+    std::uint16_t prima_;
+};
 
 /// What a data file has to be reported.
 struct DocumentoLetto {

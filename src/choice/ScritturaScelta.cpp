@@ -7,8 +7,10 @@
 #include <string_view>
 #include <variant>
 
+#include "choice/RelazioneVerifica.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Unita.h"
+#include "report/TestoRelazione.h"
 #include "sections/ColonnaInstabilita.h"
 
 namespace sagomi {
@@ -199,20 +201,6 @@ Valori ValoriRiga(const SagomoInGara& sagomo, const RigaScelta& r) {
             {"verificato", "esito", r.verificato, "", ""}};
 }
 
-void ScriveRigheTesto(std::ostream& u, const Valori& valori) {
-    constexpr std::size_t simbolo = 14;
-    constexpr std::size_t valore = 14;
-    constexpr std::size_t unita = 7;
-    for (const Valore& v : valori) {
-        if (v.chiave == "motivo" && InTesto(v, "").empty())
-            continue;
-        std::string riga = "  " + Largo(v.simbolo, simbolo, false) + Largo(InTesto(v, "-"), valore, true) +
-                           "  " + Largo(v.unita, unita, false) + v.clausola;
-        riga.erase(riga.find_last_not_of(' ') + 1);
-        u << riga << '\n';
-    }
-}
-
 /// A table with columns as wide as what stands in them; numbers to the right.
 void ScriveTabella(std::ostream& u, const std::vector<Valori>& righe) {
     if (righe.empty())
@@ -269,11 +257,9 @@ void ScriveVerifica(std::ostream& uscita, const Comando& comando, const SagomoIn
     } else if (comando.formato == FormatoUscita::Csv) {
         ScriveCsv(uscita, {risultati});
     } else {
-        uscita << "Richiesta\n";
-        ScriveRigheTesto(uscita, richiesta);
-        uscita << "Risultati\n";
-        ScriveRigheTesto(uscita, risultati);
-        ScriveMessaggi(uscita, messaggi);
+        Relazione relazione = RelazioneVerifica(sagomo, esito, comando.richiesta);
+        relazione.avvisi = messaggi;
+        uscita << TestoRelazione(relazione);
     }
 }
 

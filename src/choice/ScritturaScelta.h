@@ -13,7 +13,7 @@
 /// What is no number is a dash in a text, empty in CSV, null in JSON.
 namespace sagomi {
 
-/// One section: its resistances and checks, with their clauses.
+/// One section: its resistances and checks, with their clauses; as a text the report of RelazioneVerifica.
 void ScriveVerifica(std::ostream& uscita, const Comando& comando, const SagomoInGara& sagomo,
                     const SagomoVerificato& esito, const std::vector<std::string>& messaggi);
 

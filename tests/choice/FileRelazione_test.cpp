@@ -123,6 +123,20 @@ TEST_F(FileRelazioneTest, ASectionIsReportedAloneOrWithItsCheck) {
     EXPECT_EQ(Esegue({"UPN 200", "--N", "50", "--relazione", Via("u.txt")}), comandoVerificato);
 }
 
+// The figures of the approved text were held against hand calculations: Npl 5381 x 275/1.05 = 1409.31 kN, Mc
+// 628.4 x 275/1.05 = 164.58 kNm, n 100/1409.31 = 0.071, a (5381 - 2 x 150 x 10.7)/5381 = 0.4035, phi of y-y
+// 0.5 (1 + 0.21 (0.4623 - 0.2) + 0.4623^2) = 0.6344, chi 1/(0.6344 + 0.4344) = 0.9356.
+TEST_F(FileRelazioneTest, TheDerivationIsThatOfTheApprovedText) {
+    EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--acciaio", "S275", "--N", "100", "--My", "50", "--L0y", "5",
+                      "--L0z", "2.5"}),
+              comandoVerificato);
+    std::string testo = uscita.str();
+    const std::size_t versione = testo.find("Sagomi ");
+    ASSERT_NE(versione, std::string::npos);
+    testo.erase(versione, testo.find('\n', versione) + 1 - versione); // another one each time
+    ConfrontaApprovato("choice/ipe300.txt", testo);
+}
+
 TEST_F(FileRelazioneTest, APdfIsWrittenByWhatIsPluggedIn) {
     EXPECT_EQ(Esegue({"IPE 300", "--pdf", Via("o.pdf")}), comandoErrato);
     EXPECT_NE(errori.str().find("non scrive PDF"), std::string::npos);
