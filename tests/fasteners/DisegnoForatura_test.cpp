@@ -152,6 +152,21 @@ TEST_F(DisegnoForaturaTest, DimensionLinesRunBetweenWhatTheyMeasure) {
     EXPECT_TRUE(verticale(y2, y1, fine));
 }
 
+TEST_F(DisegnoForaturaTest, NothingLeavesTheSurface) {
+    for (const ForaturaDisegnata& f : {foratura, ForaturaDisegnata{20, 22, 200, 70, 35, 60},
+                                       ForaturaDisegnata{20, 22, 45, 70, 300, 200}}) {
+        Disegna(f);
+        for (const auto& l : superficie.linee) {
+            EXPECT_GE(std::min(l.x1, l.x2), 0);
+            EXPECT_LE(std::max(l.x1, l.x2), 400);
+            EXPECT_GE(std::min(l.y1, l.y2), 0);
+            EXPECT_LE(std::max(l.y1, l.y2), 300);
+        }
+        for (const auto& s : superficie.scritte)
+            EXPECT_LE(s.x + 0.6 * s.altezza * static_cast<double>(s.testo.size()), 400) << s.testo;
+    }
+}
+
 TEST_F(DisegnoForaturaTest, ADistanceThatIsNotAboveZeroClearsIt) {
     ForaturaDisegnata f = foratura;
     f.p2 = 0;
