@@ -1,13 +1,13 @@
 // The workbook: read whole against freexl on the same file in the same run, one sheet of it for a first
-// query, a Refresh while it is held; and two sheets of 50,000 rows, started with and sorted.
+// query, a Refresh while it is held; and two sheets of 600 to 50,000 rows, started with and sorted.
 
 #include <benchmark/benchmark.h>
-#include <freexl.h>
 
 #include <cmath>
 #include <filesystem>
 #include <string>
 
+#include "CelleFreexl.h"
 #include "catalogue/CartellaXls.h"
 #include "catalogue/Famiglie.h"
 #include "catalogue/Lettore.h"
@@ -20,25 +20,8 @@ namespace {
 const std::filesystem::path workbook = std::filesystem::path(SAGOMI_BIN) / "Sagomi.xls";
 
 void FreexlIntera(benchmark::State& state) {
-    for (auto _ : state) {
-        const void* handle = nullptr;
-        freexl_open(workbook.c_str(), &handle);
-        unsigned sheets = 0;
-        freexl_get_info(handle, FREEXL_BIFF_SHEET_COUNT, &sheets);
-        for (unsigned short i = 0; i < sheets; ++i) {
-            freexl_select_active_worksheet(handle, i);
-            unsigned rows = 0;
-            unsigned short columns = 0;
-            freexl_worksheet_dimensions(handle, &rows, &columns);
-            for (unsigned r = 0; r < rows; ++r)
-                for (unsigned short c = 0; c < columns; ++c) {
-                    FreeXL_CellValue v{};
-                    freexl_get_cell_value(handle, r, c, &v);
-                    benchmark::DoNotOptimize(v);
-                }
-        }
-        freexl_close(handle);
-    }
+    for (auto _ : state)
+        CelleFreexl(workbook);
 }
 BENCHMARK(FreexlIntera)->Unit(benchmark::kMicrosecond);
 
@@ -86,8 +69,8 @@ void RefreshTenuto(benchmark::State& state) {
 }
 BENCHMARK(RefreshTenuto)->Unit(benchmark::kMicrosecond);
 
-/// Two sheets of 50,000 rows with the columns of a rolled section, in no order.
-std::filesystem::path CartellaGrande() {
+/// Two sheets of so many rows in all with the columns of a rolled section, in no order.
+std::filesystem::path CartellaGrande(std::int64_t righe = 100'000) {
     const auto file = std::filesystem::temp_directory_path() / "sagomi_grande.xls";
     const auto& headings = Intestazioni("frmDoppioT");
     CartellaDati dati;
@@ -95,7 +78,7 @@ std::filesystem::path CartellaGrande() {
         Foglio& sheet = dati.fogli.emplace_back(Foglio{name, {}});
         for (std::size_t c = 0; c < headings.size(); ++c)
             sheet.Scrive(0, c, std::string(headings[c]));
-        for (std::size_t r = 1; r <= 50'000; ++r) {
+        for (std::size_t r = 1; r <= static_cast<std::size_t>(righe) / 2; ++r) {
             sheet.Scrive(r, 0, name + std::string(" ") + std::to_string(r));
             for (std::size_t c = 1; c < headings.size(); ++c)
                 sheet.Scrive(r, c, std::round(std::fmod(static_cast<double>(r * c) * 7919.0, 99991.0)) / 100);
@@ -107,13 +90,25 @@ std::filesystem::path CartellaGrande() {
 
 const std::string dueFogli = "SELECT * FROM [IPE$] UNION SELECT * FROM [HEA$] ORDER BY [Wy (cm3)] ASC";
 
+void Righe(benchmark::internal::Benchmark* b) { b->Arg(1'200)->Arg(10'000)->Arg(100'000); }
+
 void GrandeInizio(benchmark::State& state) {
-    const auto file = CartellaGrande();
+    const auto file = CartellaGrande(state.range(0));
     for (auto _ : state)
         benchmark::DoNotOptimize(Catalogo(file).Esegue(dueFogli));
     std::filesystem::remove(file);
+    state.SetComplexityN(state.range(0));
 }
-BENCHMARK(GrandeInizio)->Unit(benchmark::kMillisecond);
+BENCHMARK(GrandeInizio)->Apply(Righe)->Unit(benchmark::kMillisecond)->Complexity();
+
+void GrandeFreexl(benchmark::State& state) {
+    const auto file = CartellaGrande(state.range(0));
+    for (auto _ : state)
+        CelleFreexl(file);
+    std::filesystem::remove(file);
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(GrandeFreexl)->Apply(Righe)->Unit(benchmark::kMillisecond)->Complexity();
 
 void GrandeOrdine(benchmark::State& state) {
     Lettore rows;

@@ -1,6 +1,9 @@
-// The polygon against GEOS in the same run: static values, cuts, plastic moduli, and cost against vertex
-// count. Every pair is compared before it is timed; a disagreement is an error, not a number.
+// The polygon against GEOS and Boost.Geometry in the same run: static values, cuts, plastic moduli, and cost
+// against vertex count. Every pair is compared before it is timed; a disagreement is an error, not a number.
 
+#include <boost/geometry.hpp>
+#include <boost/geometry/geometries/point_xy.hpp>
+#include <boost/geometry/geometries/polygon.hpp>
 #include <geos_c.h>
 
 #include <cmath>
@@ -293,6 +296,65 @@ void InviluppoGeos(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 BENCHMARK(InviluppoGeos)->Apply(Vertici)->Complexity();
+
+// Boost.Geometry
+// --------------------------------------------------------------------------------------------------
+
+namespace bg = boost::geometry;
+using PuntoBoost = bg::model::d2::point_xy<double>;
+using PoligonoBoost = bg::model::polygon<PuntoBoost>;
+
+PoligonoBoost DaPoligono(const Poligono& p) {
+    PoligonoBoost f;
+    for (std::size_t i = 0; i < p.CoordX().size(); ++i)
+        bg::append(f, PuntoBoost(p.CoordX()[i], p.CoordY()[i]));
+    bg::correct(f);
+    return f;
+}
+
+void StaticaBoost(benchmark::State& state) {
+    Poligono p = Contorno(state);
+    const PoligonoBoost f = DaPoligono(p);
+    p.CaratteristicheStatiche();
+    if (!Vicini(p.Area, bg::area(f), 1e-9))
+        state.SkipWithError("area differs from the peer's");
+    for (auto _ : state) {
+        PuntoBoost baricentro;
+        bg::centroid(f, baricentro);
+        benchmark::DoNotOptimize(bg::area(f));
+        benchmark::DoNotOptimize(baricentro);
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(StaticaBoost)->Apply(Vertici)->Complexity(benchmark::oN);
+
+/// Both parts of the cut at mid-height.
+void DividiYBoost(benchmark::State& state) {
+    const PoligonoBoost f = DaPoligono(Contorno(state));
+    const auto scatola = bg::return_envelope<bg::model::box<PuntoBoost>>(f);
+    const double livello = (scatola.min_corner().y() + scatola.max_corner().y()) / 2;
+    const bg::model::box<PuntoBoost> sopra({-lontano, livello}, {lontano, lontano});
+    const bg::model::box<PuntoBoost> sotto({-lontano, -lontano}, {lontano, livello});
+    for (auto _ : state)
+        for (const auto& meta : {sopra, sotto}) {
+            bg::model::multi_polygon<PoligonoBoost> parti;
+            bg::intersection(f, meta, parti);
+            benchmark::DoNotOptimize(parti.data());
+        }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(DividiYBoost)->Apply(Vertici)->Complexity();
+
+void InviluppoBoost(benchmark::State& state) {
+    const PoligonoBoost f = DaPoligono(Contorno(state));
+    for (auto _ : state) {
+        PoligonoBoost inviluppo;
+        bg::convex_hull(f, inviluppo);
+        benchmark::DoNotOptimize(inviluppo.outer().data());
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(InviluppoBoost)->Apply(Vertici)->Complexity();
 
 } // namespace
 

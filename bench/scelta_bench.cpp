@@ -10,6 +10,7 @@
 #include <numbers>
 #include <vector>
 
+#include "CelleFreexl.h"
 #include "choice/Scelta.h"
 #include "frame/GeneraleSagomi.h"
 
@@ -137,6 +138,13 @@ void FormulePiane(benchmark::State& state) {
     state.SetItemsProcessed(n);
 }
 BENCHMARK(FormulePiane)->Unit(benchmark::kMillisecond);
+
+/// What reading the workbook takes, which comes before all of that.
+void FreexlIntera(benchmark::State& state) {
+    for (auto _ : state)
+        CelleFreexl(std::filesystem::path(SAGOMI_BIN) / "Sagomi.xls");
+}
+BENCHMARK(FreexlIntera)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -3,7 +3,9 @@
 
 #include <geos_c.h>
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -12,6 +14,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include "frame/GeneraleSagomi.h"
+#include "sections/Eurocod3.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneGenerica.h"
 
@@ -128,6 +132,52 @@ void ContorniDiGeos(benchmark::State& stato, const std::vector<std::string>& fam
     stato.SetItemsProcessed(stato.iterations() * static_cast<std::int64_t>(contorni.size()));
 }
 BENCHMARK_CAPTURE(ContorniDiGeos, IPE_HE, {"IPE", "IPEA", "IPEO", "HEA", "HEB", "HEM", "HEAA"});
+
+/// What a section's resistances are computed from where only its table is known.
+struct Tabellata {
+    double A, Wy, Wz, iY, iZ, h, tw, alfaY, alfaZ, NbyRd, NbzRd;
+};
+
+/// The rows that are not of class 4 in compression: their resistances need no outline.
+std::vector<Tabellata> Tabellate(const std::vector<std::string>& famiglie, double fy) {
+    std::vector<Tabellata> righe;
+    for (SezioneDoppioT& s : Sezioni(famiglie, fy)) {
+        s.InizializzaSezione();
+        if (s.ClasseCompressione < 4)
+            righe.push_back({s.Area, s.Wply, s.Wplz, s.iY, s.iZ, s.h, s.tw,
+                             AlfaCurva(s.CurvaInstabilita("yy")), AlfaCurva(s.CurvaInstabilita("zz")),
+                             s.NbyRd, s.NbzRd});
+    }
+    return righe;
+}
+
+/// The plain formulas, ENV 1993-1-1 5.4 and 5.5.1, written down as a handbook does: axial force, moments,
+/// shear and buckling about both axes. The same resistances as the initialiser's, without outline, classes
+/// and texts.
+void SoloFormule(benchmark::State& stato, const std::vector<std::string>& famiglie, double fy) {
+    const std::vector<Tabellata> righe = Tabellate(famiglie, fy);
+    const auto instabilita = [fy](const Tabellata& r, double lamda, double alfa) {
+        const double relativa = lamda / (93.9 * std::sqrt(235 / fy));
+        const double fi = 0.5 * (1 + alfa * (relativa - 0.2) + relativa * relativa);
+        const double chi = std::min(1.0, 1 / (fi + std::sqrt(fi * fi - relativa * relativa)));
+        return chi * fy / GammaM1 * r.A;
+    };
+    for (const Tabellata& r : righe)
+        if (std::abs(instabilita(r, 6000 / r.iY, r.alfaY) - r.NbyRd) > 1e-6 * r.NbyRd ||
+            std::abs(instabilita(r, 3000 / r.iZ, r.alfaZ) - r.NbzRd) > 1e-6 * r.NbzRd)
+            stato.SkipWithError("the resistances differ");
+    for (auto _ : stato)
+        for (const Tabellata& r : righe) {
+            benchmark::DoNotOptimize(r.A * fy / GammaM0);
+            benchmark::DoNotOptimize(r.Wy * fy / GammaM0);
+            benchmark::DoNotOptimize(r.Wz * fy / GammaM0);
+            benchmark::DoNotOptimize(1.04 * r.h * r.tw * fy / std::sqrt(3.0) / GammaM0);
+            benchmark::DoNotOptimize(instabilita(r, 6000 / r.iY, r.alfaY));
+            benchmark::DoNotOptimize(instabilita(r, 3000 / r.iZ, r.alfaZ));
+        }
+    stato.SetItemsProcessed(stato.iterations() * static_cast<std::int64_t>(righe.size()));
+}
+BENCHMARK_CAPTURE(SoloFormule, IPE_HE_S235, {"IPE", "IPEA", "IPEO", "HEA", "HEB", "HEM", "HEAA"}, 235);
 
 } // namespace
 

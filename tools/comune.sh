@@ -8,7 +8,7 @@ pacchetti_programma=(
   fonts-dejavu-core
 )
 pacchetti_schermo=(xvfb xauth imagemagick x11-utils)
-pacchetti_misure=(libbenchmark-dev libgeos-dev libfreexl-dev libx11-dev libxdamage-dev libxtst-dev locales speedcrunch)
+pacchetti_misure=(libbenchmark-dev libboost-dev libgeos-dev libfreexl-dev libx11-dev libxdamage-dev libxtst-dev locales speedcrunch)
 pacchetti_pacchetto=(binutils debootstrap dpkg-dev file lintian util-linux)
 pacchetti_manuale=(weasyprint python3 python3-bs4 fonts-stix)
 pacchetti_prove=(
