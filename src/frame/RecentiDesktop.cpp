@@ -73,7 +73,7 @@ void CartellaRecenti(const fs::path& cartella) { Cartella() = cartella; }
 void RicordaNelDesktop(const fs::path& file) {
     const char* mime = TipoMime(file);
     const Testo uri(g_filename_to_uri(file.c_str(), nullptr, nullptr));
-    if (Cartella().empty() || mime == nullptr || uri == nullptr)
+    if (!Cartella().is_absolute() || mime == nullptr || uri == nullptr)
         return;
     const fs::path elenco = Cartella() / "recently-used.xbel";
     const Lista lista = Legge(elenco);

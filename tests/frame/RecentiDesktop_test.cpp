@@ -51,6 +51,9 @@ TEST_F(RecentiDesktopTest, NothingIsKeptWhereNoFolderIsNamed) {
     RipristinaGenerale();
     RicordaNelDesktop("/lavori/trave.sco");
     EXPECT_EQ(dir.Voci(), 0);
+    CartellaRecenti("."); // of a user without a home
+    RicordaNelDesktop("/lavori/trave.sco");
+    EXPECT_FALSE(fs::exists("recently-used.xbel"));
 }
 
 } // namespace
