@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <fontconfig/fontconfig.h>
 
+#include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -32,6 +33,10 @@ std::optional<int> Comando(const std::vector<std::string>& arguments, const Scel
     sagomi::ImpostaPdfRelazione();
     const auto status = sagomi::EsegueComando(
         arguments, [&chosen] { return CartellaComando(chosen); }, std::cin, std::cout, std::cerr);
+    if (status && std::ferror(stdin) != 0) { // std::cin takes it for the end
+        std::cerr << "sagomi: i lavori non si possono leggere\n";
+        return sagomi::comandoErrato;
+    }
     if (!status || std::cout.flush())
         return status;
     std::cerr << "sagomi: non è possibile scrivere la risposta\n";

@@ -174,8 +174,6 @@ int EsegueLavori(const std::vector<std::string>& comuni, const TrovaCartella& ca
         peggiore = std::max(peggiore, EsegueLavoro(lavori, riga, comuni, gara, uscita));
         uscita.flush();
     }
-    if (ingresso.bad())
-        throw std::runtime_error("i lavori non si possono leggere");
     return peggiore;
 }
 

@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# prova.sh BIN: the program itself where the system fails it: a full device, jobs that cannot be read, a folder, a pipe
+# or nothing in the workbook's place, no session bus. Each time it says why, in Italian, and comes back.
+set -uo pipefail
+bin=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export HOME=$work/casa XDG_DATA_HOME=$work/casa/dati XDG_CONFIG_HOME=$work/casa/config QT_QPA_PLATFORM=offscreen
+mkdir -p "$HOME"
+bad=0
+
+# attende STATUS TEXT COMMAND...: the command ends so within 60 s and says so on its error output.
+attende() {
+  local status=$1 text=$2
+  shift 2
+  timeout 60 "$@" >"$work/uscita" 2>"$work/errori"
+  local found=$?
+  if [ "$found" -ne "$status" ] || ! grep -q "$text" "$work/errori"; then
+    echo "$*: status $found instead of $status; said: $(cat "$work/errori")" >&2
+    bad=1
+  fi
+}
+
+for formato in --csv --json ""; do
+  attende 2 "non è possibile scrivere la risposta" \
+    bash -c "exec '$bin/sagomi' --scelta $formato --famiglie IPE >/dev/full"
+done
+attende 2 "i lavori non si possono leggere" bash -c "exec '$bin/sagomi' --json </"
+attende 2 "i lavori non si possono leggere" bash -c "exec '$bin/sagomi' --json <&-"
+
+# A program of its own, with something else where its workbook should be.
+mkdir "$work/programma"
+cp "$bin/sagomi" "$work/programma"
+for cosa in niente cartella pipa; do
+  rm -rf "$work/programma/Sagomi.xls"
+  [ $cosa = cartella ] && mkdir "$work/programma/Sagomi.xls"
+  [ $cosa = pipa ] && mkfifo "$work/programma/Sagomi.xls"
+  attende 2 "Sagomi.xls" "$work/programma/sagomi" --verifica "HEA 200"
+done
+
+DBUS_SESSION_BUS_ADDRESS=unix:path=$work/manca attende 1 "bus di sessione" "$bin/sagomi-server"
+exit $bad
