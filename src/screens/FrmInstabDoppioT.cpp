@@ -70,6 +70,7 @@ void FrmInstabDoppioT::RiempieDati() {
         Riempie(ui_->fraAzioni->Txt_L0_0, mm_a_m(s->L0y));
         Riempie(ui_->fraAzioni->Txt_L0_1, mm_a_m(s->L0z));
     }
+    FuocoSu(ui_->fraAzioni->TxtNsd);
 }
 
 void FrmInstabDoppioT::CollegaFreccia() {

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "frame/Unita.h"
+#include "frame/ui/Campi.h"
 #include "frame/ui/Casella.h"
 #include "frame/ui/Mostra.h"
 #include "screens/ColonnaInstabilita.h"
@@ -111,6 +112,7 @@ void FrmInstabSagomi::RiempieDati() {
             if (azioni_->TxtNsd != nullptr)
                 Riempie(azioni_->TxtNsd, N_a_kN(s.NSd));
     });
+    FuocoSu(azioni_->TxtNsd != nullptr ? azioni_->TxtNsd : azioni_->Txt_L0_0);
 }
 
 void FrmInstabSagomi::Riporta() {

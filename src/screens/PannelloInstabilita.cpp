@@ -144,11 +144,19 @@ void PannelloInstabilita::MostraAsse(int asse, double i, double N, double NbRd) 
 
 void PannelloInstabilita::MostraGoverna(double N) {
     const QStringList axes = QString::fromLatin1(assi_).split(u' ');
+    const auto of = [this](qsizetype axis) { return resistenze_.at(static_cast<std::size_t>(axis)); };
     qsizetype least = -1;
-    for (qsizetype i = 0; i < axes.size() && !(N < 0); ++i)
-        if (const auto of = [this](qsizetype k) { return resistenze_.at(static_cast<std::size_t>(k)); };
-            std::isfinite(of(i)) && (least < 0 || of(i) < of(least)))
+    bool alone = !(N < 0);
+    for (qsizetype i = 0; i < axes.size(); ++i) {
+        if (least >= 0 && of(i) == of(least))
+            alone = false;
+        if (std::isfinite(of(i)) && (least < 0 || of(i) < of(least))) {
             least = i;
+            alone = !(N < 0);
+        }
+    }
+    if (!alone)
+        least = -1;
     for (qsizetype i = 0; i < axes.size(); ++i)
         for (const char* root : {"LblAsse_", "Lbl_NbRd_"}) {
             auto* label = findChild<QLabel*>(QString::fromLatin1(root) + QString::number(i));

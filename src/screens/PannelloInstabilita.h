@@ -24,7 +24,8 @@ public:
     void MostraAcciaio(double fy);
 
     /// Shows where the derivation about an axis starts and what it is for, and marks the axis of the least
-    /// resistance of those shown, its heading and its resistance in bold; in tension there is none.
+    /// resistance of those shown, its heading and its resistance in bold; in tension, and where two are
+    /// alike, there is none.
     /// @param asse  0 for the first axis
     /// @param i     radius of gyration [mm]
     /// @param N     axial force, compression positive [N]

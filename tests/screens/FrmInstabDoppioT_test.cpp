@@ -75,6 +75,11 @@ TEST_F(FrmInstabDoppioTTest, ResistanceIsTheOneOfTheFirstScreen) {
     EXPECT_EQ(Scritta(&f, "Lbl_NbRd_1"), Formato("0.0##", Sezione().NbzRd / 1000));
 }
 
+TEST_F(FrmInstabDoppioTTest, BeginsInItsFirstEntry) {
+    auto& f = Apre("IPE 300");
+    EXPECT_EQ(f.focusWidget(), Trova<QLineEdit>(&f, "TxtNsd"));
+}
+
 // Steel Buildings in Europe, Multi-Storey Steel Buildings part 4, worked example A.5: HE 300 B, S235, 8.00
 // and 5.60 m: Ncr 8151.2 and 5657.4 kN, chi_y 0.808. The radii of the catalogue have three figures.
 TEST_F(FrmInstabDoppioTTest, PublishedColumnHe300B) {

@@ -48,8 +48,12 @@ TEST_F(PannelloInstabilitaTest, MarksTheAxisThatGoverns) {
     panel.MostraAsse(1, 40, 1000, std::numeric_limits<double>::quiet_NaN());
     EXPECT_EQ(Scritta(&panel, "LblGoverna"), "governa v-v") << "an axis without a number does not";
     EXPECT_TRUE(!bold(0) && !bold(1) && bold(2));
+    panel.MostraAsse(0, 50, 1000, 250e3);
+    EXPECT_EQ(Scritta(&panel, "LblGoverna"), "") << "neither of two that are alike";
+    panel.MostraAsse(0, 50, 1000, 200e3);
+    EXPECT_EQ(Scritta(&panel, "LblGoverna"), "governa y-y");
     for (int axis = 0; axis < 3; ++axis)
-        panel.MostraAsse(axis, 40, -1000, 200e3);
+        panel.MostraAsse(axis, 40, -1000, 200e3 + axis);
     EXPECT_EQ(Scritta(&panel, "LblGoverna"), "") << "nothing buckles in tension";
     EXPECT_TRUE(!bold(0) && !bold(1) && !bold(2));
 }
