@@ -136,17 +136,15 @@ BENCHMARK_CAPTURE(ContorniDiGeos, IPE_HE, {"IPE", "IPEA", "IPEO", "HEA", "HEB", 
 /// What a section's resistances are computed from where only its table is known.
 struct Tabellata {
     double A, Wy, Wz, iY, iZ, h, tw, alfaY, alfaZ, NbyRd, NbzRd;
+    bool intera; ///< not of class 4 in compression: its resistances need no outline
 };
 
-/// The rows that are not of class 4 in compression: their resistances need no outline.
 std::vector<Tabellata> Tabellate(const std::vector<std::string>& famiglie, double fy) {
     std::vector<Tabellata> righe;
     for (SezioneDoppioT& s : Sezioni(famiglie, fy)) {
         s.InizializzaSezione();
-        if (s.ClasseCompressione < 4)
-            righe.push_back({s.Area, s.Wply, s.Wplz, s.iY, s.iZ, s.h, s.tw,
-                             AlfaCurva(s.CurvaInstabilita("yy")), AlfaCurva(s.CurvaInstabilita("zz")),
-                             s.NbyRd, s.NbzRd});
+        righe.push_back({s.Area, s.Wply, s.Wplz, s.iY, s.iZ, s.h, s.tw, AlfaCurva(s.CurvaInstabilita("yy")),
+                         AlfaCurva(s.CurvaInstabilita("zz")), s.NbyRd, s.NbzRd, s.ClasseCompressione < 4});
     }
     return righe;
 }
@@ -163,8 +161,8 @@ void SoloFormule(benchmark::State& stato, const std::vector<std::string>& famigl
         return chi * fy / GammaM1 * r.A;
     };
     for (const Tabellata& r : righe)
-        if (std::abs(instabilita(r, 6000 / r.iY, r.alfaY) - r.NbyRd) > 1e-6 * r.NbyRd ||
-            std::abs(instabilita(r, 3000 / r.iZ, r.alfaZ) - r.NbzRd) > 1e-6 * r.NbzRd)
+        if (r.intera && (std::abs(instabilita(r, 6000 / r.iY, r.alfaY) - r.NbyRd) > 1e-6 * r.NbyRd ||
+                         std::abs(instabilita(r, 3000 / r.iZ, r.alfaZ) - r.NbzRd) > 1e-6 * r.NbzRd))
             stato.SkipWithError("the resistances differ");
     for (auto _ : stato)
         for (const Tabellata& r : righe) {
