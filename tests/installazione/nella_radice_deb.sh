@@ -52,7 +52,7 @@ prova() {
   mount -t tmpfs -o size=64k,mode=777 tmpfs /mnt/piena
   user XDG_DATA_HOME=/mnt/piena timeout 10 sagomi 2>/root/detto.txt || true # waits in front of its message
   grep -q "Non è possibile usare la cartella dei dati /mnt/piena/sagomi" /root/detto.txt || fail "$(cat /root/detto.txt)"
-  umount /mnt/piena
+  umount -l /mnt/piena
   apt-get install -qy --reinstall --no-install-recommends "$1" >/dev/null 2>&1
   echo "works in the user's folder"
 }

@@ -26,7 +26,7 @@ prova() {
   mount -o remount,bind,ro /mnt
   user apre_e_chiude.sh /mnt/sagomi-server
   [ -s /home/prova/.local/share/sagomi/Sagomi.ini ] || fail "no settings"
-  umount /mnt
+  umount -l /mnt
   rm -r /home/prova/.local/share/sagomi
   echo "works where it lies"
 }

@@ -4,7 +4,7 @@
 set -euo pipefail
 here=$(realpath "$(dirname "$0")")
 root=$(mktemp -d)
-trap 'umount -l "$root/proc" "$root/tmp/.X11-unix" "$root" 2>/dev/null || true; rm -rf "$root"' EXIT
+trap 'umount -l "$root/proc" "$root/tmp/.X11-unix" "$root" 2>/dev/null || true; rmdir "$root"' EXIT
 mount --make-rprivate /
 mount -t tmpfs tmpfs "$root"
 tar -C "$root" -xf "$1"
