@@ -93,6 +93,7 @@ void FrmScelta::Stampa() {
             const bool left = c <= colonnaFamiglia || c + 1 == columns;
             line += (c == 0 ? "" : " ") + Largo(row[c], widths[c], !left);
         }
+        line.erase(line.find_last_not_of(' ') + 1); // blanks would go on below
         lines.push_back(std::move(line));
     }
     StampaTesto(lines, windowTitle(), this, nullptr, corpo);

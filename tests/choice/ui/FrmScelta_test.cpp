@@ -327,6 +327,21 @@ TEST_F(FrmSceltaTest, ArrowsMoveAndLettersSearchFromAnywhere) {
     EXPECT_EQ(dynamic_cast<SchermoSezione&>(Aperto("frmDoppioT")).TxtProf[0]->text(), "HEA 300");
 }
 
+TEST_F(FrmSceltaTest, CtrlEnterTakesTheRowFromAnEntry) {
+    FrmScelta& s = Apre();
+    auto* box = Trova<QLineEdit>(&s, "TxtM1_0");
+    box->setFocus();
+    const QString name = NomeInMano(s);
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_TRUE(s.isVisible()) << "Enter alone goes on";
+    QTest::keyClick(box, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(s.isVisible());
+    std::uint32_t place = 0;
+    ASSERT_TRUE(s.Modello()->InMano(place));
+    const std::string kind = s.Scelta().Sagomi()[place].schermo;
+    EXPECT_EQ(dynamic_cast<SchermoSezione&>(Aperto(kind.c_str())).TxtProf[0]->text(), name);
+}
+
 /// The catalogue with two families of 10,000 rows each.
 void AllungaCatalogo() {
     constexpr std::size_t righe = 10000;
