@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <exception>
 #include <istream>
-#include <iterator>
 #include <ostream>
 #include <stdexcept>
 
@@ -31,18 +30,18 @@ constexpr auto guida = R"(Uso: sagomi [file.sco|file.gfl]          apre le fines
 Azioni e lunghezze (numeri col punto decimale):
   --N kN                  forza assiale, positiva se di compressione
   --My kNm --Mz kNm       momento maggiore alle estremità; --My2, --Mz2 quello all'altra (se mancano 0)
-  --MyQ kNm --MzQ kNm     momento del carico in campata
+  --MyQ kNm --MzQ kNm     momento del carico in campata, con --diagramma da 3 a 6
   --diagramma 1..6        forma del diagramma: 1 e 2 estremità concordi e discordi, 3 e 4 carico distribuito e
                           concentrato contro i momenti di estremità, 5 e 6 gli stessi concordi
-  --L0y m --L0z m --L0v m lunghezze di libera inflessione
+  --L0y m --L0z m --L0v m lunghezze di libera inflessione (se manca L0v, degli angolari, la maggiore delle altre)
   --L m                   distanza fra i vincoli torsionali (se manca L0z)
   --k --Kw --C1 --C2 --C3 --za mm   dati del momento critico; C1 se manca è quello del diagramma
 Materiale e norma:
   --acciaio S235|S275|S355  --fy N/mm2  --normativa NTC|EC3
 Sagomi:
   --famiglie IPE,HEA      solo queste famiglie
-  --hmax mm --bmax mm --gmin kg/m --gmax kg/m   limiti
-  --verificati            solo quelli verificati
+  --hmax mm --bmax mm --gmin kg/m --gmax kg/m   limiti, con --scelta
+  --verificati            solo quelli verificati, con --scelta
   --doppi mm --accostati  canali e angolari doppi alla distanza data, accostati di ala o di lato corto
 Cartella:
   --cartella DIR          lavora in DIR (impostazioni, Sagomi.xls, SagomiUtente.xls), anche con le finestre
@@ -110,6 +109,8 @@ int VerificaUno(const Comando& c, const Gara& gara, std::ostream& uscita) {
         std::ranges::find_if(gara.sagomi, [&](const SagomoInGara& s) { return Cercato(c, s); });
     if (sagomo == gara.sagomi.end())
         NessunSagomo(c);
+    if (c.richiesta.doppi && std::holds_alternative<SezioneDoppioT>(sagomo->sezione))
+        throw ErroreUso("--doppi vale per canali e angolari, non per " + sagomo->Designazione());
     const SenzaMigliaia piano;
     std::vector<std::string> messaggi = gara.mancanti;
     const SagomoVerificato esito = Verifica(*sagomo, c.richiesta, messaggi);
@@ -147,9 +148,7 @@ int Risponde(Comando& c, const Gara& gara, std::ostream& uscita) {
 int EsegueLavoro(const LavoriJson& lavori, const std::string& riga, const std::vector<std::string>& comuni,
                  const Gara& gara, std::ostream& uscita) {
     try {
-        std::vector<std::string> argomenti = comuni;
-        std::ranges::copy(lavori.Argomenti(riga), std::back_inserter(argomenti));
-        Comando c = LeggeOpzioni(argomenti);
+        Comando c = LeggeOpzioni(lavori.Argomenti(riga), comuni);
         if ((c.modo != ModoComando::Verifica && c.modo != ModoComando::Scelta) ||
             c.formato != FormatoUscita::Json)
             throw ErroreUso("un lavoro chiede \"verifica\" o \"scelta\"");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <span>
 #include <string_view>
 
@@ -26,6 +27,17 @@ struct OpzioneNumero {
     std::string_view nome;
     double minimo, massimo;
     PrendeNumero prende;
+};
+
+/// What has been read so far.
+struct Lettura {
+    Comando c;
+    std::vector<std::string> date;     ///< options of this call
+    std::vector<std::string> soggetti; ///< names without dashes
+    std::string soloScelta;            ///< first option of this call that a single section has no use for
+    bool proprie = true;               ///< of this call, not those that hold for all
+
+    [[nodiscard]] bool Ha(std::string_view nome) const { return std::ranges::find(date, nome) != date.end(); }
 };
 
 constexpr double qualsiasi = 1e12; // beyond it no force nor length means anything
@@ -137,6 +149,49 @@ bool AncheDiFile(std::string_view nome) {
     return std::ranges::find(anche, nome) != std::end(anche);
 }
 
+bool SoloDiScelta(std::string_view nome) {
+    constexpr std::string_view sole[] = {"--hmax", "--bmax", "--gmin", "--gmax", "--verificati"};
+    return std::ranges::find(sole, nome) != std::end(sole);
+}
+
+/// Options of the toolkit, which it takes with one dash or two.
+bool EDelToolkit(std::string_view argomento) {
+    constexpr std::string_view nomi[] = {"style",
+                                         "stylesheet",
+                                         "widgetcount",
+                                         "platform",
+                                         "platformpluginpath",
+                                         "platformtheme",
+                                         "plugin",
+                                         "qwindowtitle",
+                                         "qwindowicon",
+                                         "qwindowgeometry",
+                                         "session",
+                                         "desktopFileName",
+                                         "display",
+                                         "geometry",
+                                         "title",
+                                         "icon",
+                                         "name",
+                                         "reverse",
+                                         "qmljsdebugger",
+                                         "testability",
+                                         "nograb",
+                                         "dograb",
+                                         "sync",
+                                         "visual",
+                                         "fontengine"};
+    argomento.remove_prefix(std::min(argomento.find_first_not_of('-'), argomento.size()));
+    return std::ranges::find(nomi, argomento.substr(0, argomento.find('='))) != std::end(nomi);
+}
+
+/// The windows take files and options of the toolkit alone.
+void ControllaFinestre(const std::vector<std::string>& argomenti) {
+    for (const std::string& argomento : argomenti)
+        if (argomento.starts_with("--") && !EDelToolkit(argomento))
+            throw ErroreUso("\"" + argomento + "\" non è un'opzione");
+}
+
 /// A name without dashes: one file or section.
 void PrendeSoggetto(Comando& c, const std::string& nome) {
     if (nome.empty())
@@ -146,28 +201,49 @@ void PrendeSoggetto(Comando& c, const std::string& nome) {
     (EFileDati(nome) ? c.file : c.sagomo) = nome;
 }
 
+/// Keeps count of an option: none stands twice, and some go with a question of their own.
+void Annota(Lettura& l, const std::string& nome) {
+    if (l.Ha(nome))
+        throw ErroreUso(nome + " sta due volte");
+    l.date.push_back(nome);
+    if (l.proprie && l.soloScelta.empty() && SoloDiScelta(nome))
+        l.soloScelta = nome;
+}
+
 /// Takes one option, with its value where it has one.
 /// @return how many arguments it has taken
-std::size_t Prende(Comando& c, std::span<const std::string> argomenti) {
+std::size_t Prende(Lettura& l, std::span<const std::string> argomenti) {
     const std::string& nome = argomenti.front();
-    for (const auto& [interruttore, mette] : interruttori)
-        if (interruttore == nome) {
-            mette(c);
-            return 1;
-        }
+    const auto* interruttore = std::ranges::find(interruttori, nome, [](const auto& i) { return i.first; });
     const auto* testo = std::ranges::find(testi, nome, &OpzioneTesto::nome);
     const auto* numero = std::ranges::find(numeri, nome, &OpzioneNumero::nome);
-    if (testo == std::end(testi) && numero == std::end(numeri))
+    const bool conValore = testo != std::end(testi) || numero != std::end(numeri);
+    if (interruttore == std::end(interruttori) && !conValore)
         throw ErroreUso("\"" + nome + "\" non è un'opzione");
-    if (argomenti.size() < 2)
+    if (conValore && argomenti.size() < 2)
         throw ErroreUso(nome + " vuole un valore");
-    if (c.soloSagomi.empty() && !AncheDiFile(nome))
-        c.soloSagomi = nome;
-    if (testo != std::end(testi))
-        testo->prende(c, argomenti[1]);
+    Annota(l, nome);
+    if (l.c.soloSagomi.empty() && (conValore || nome == "--accostati") && !AncheDiFile(nome) &&
+        !SoloDiScelta(nome))
+        l.c.soloSagomi = nome;
+    if (interruttore != std::end(interruttori))
+        interruttore->second(l.c);
+    else if (testo != std::end(testi))
+        testo->prende(l.c, argomenti[1]);
     else
-        numero->prende(c, NumeroDi(*numero, argomenti[1]));
-    return 2;
+        numero->prende(l.c, NumeroDi(*numero, argomenti[1]));
+    return conValore ? 2 : 1;
+}
+
+void PrendeTutte(Lettura& l, const std::vector<std::string>& argomenti) {
+    for (std::span<const std::string> resto(argomenti); !resto.empty();) {
+        if (resto.front().starts_with("-")) {
+            resto = resto.subspan(Prende(l, resto));
+            continue;
+        }
+        l.soggetti.push_back(resto.front());
+        resto = resto.subspan(1);
+    }
 }
 
 bool ENostra(const std::string& argomento) {
@@ -225,31 +301,58 @@ void ControllaSoggetto(Comando& c, const std::vector<std::string>& soggetti) {
     ControllaUscite(c);
 }
 
-} // namespace
+/// Moments that no diagram has, or that the one in force leaves out.
+void ControllaMomenti(const Richiesta& r) {
+    if (std::abs(r.y.M2) > r.y.M1 || std::abs(r.z.M2) > r.z.M1)
+        throw ErroreUso("--My2 e --Mz2 non possono superare --My e --Mz in valore assoluto");
+    if (r.tipoDiagramma == diagrammaEstremita && (r.y.MQ != 0 || r.z.MQ != 0))
+        throw ErroreUso("--MyQ e --MzQ vogliono --diagramma da 3 a 6");
+}
 
-Comando LeggeOpzioni(const std::vector<std::string>& argomenti) {
-    Comando c;
-    if (std::ranges::none_of(argomenti, ENostra))
-        return c;
-    std::vector<std::string> soggetti;
-    for (std::span<const std::string> resto(argomenti); !resto.empty();) {
-        if (resto.front().starts_with("-")) {
-            resto = resto.subspan(Prende(c, resto));
-            continue;
-        }
-        soggetti.push_back(resto.front());
-        resto = resto.subspan(1);
-    }
+/// What would go unheard is refused.
+void ControllaIgnorate(const Lettura& l) {
+    if (l.c.richiesta.accostati && !l.c.richiesta.doppi)
+        throw ErroreUso("--accostati vuole --doppi");
+    if ((l.c.modo == ModoComando::Verifica || l.c.modo == ModoComando::Relazione) && !l.soloScelta.empty())
+        throw ErroreUso(l.soloScelta + " va con --scelta: un sagomo solo non si sceglie");
+}
+
+/// What follows from the options together.
+void Completa(Lettura& l, bool conL0v) {
+    Comando& c = l.c;
     if (c.modo != ModoComando::Aiuto && c.modo != ModoComando::Versione)
-        ControllaSoggetto(c, soggetti);
+        ControllaSoggetto(c, l.soggetti);
     if (c.modo == ModoComando::Finestre && c.formato != FormatoUscita::Json)
         throw ErroreUso("manca che cosa fare: --verifica o --scelta");
     if (c.modo == ModoComando::Finestre)
         c.modo = ModoComando::Lavori;
-    c.richiesta.tipoDiagramma = TipoDiPict(c.richiesta.pict);
-    if (std::abs(c.richiesta.y.M2) > c.richiesta.y.M1 || std::abs(c.richiesta.z.M2) > c.richiesta.z.M1)
-        throw ErroreUso("--My2 e --Mz2 non possono superare --My e --Mz in valore assoluto");
-    return c;
+    Richiesta& r = c.richiesta;
+    r.tipoDiagramma = TipoDiPict(r.pict);
+    // An angle buckles about v-v, too: without a length of its own by the greater of the others.
+    if (!conL0v)
+        r.L0v = std::max(r.L0y, r.L0z);
+    if (c.modo != ModoComando::Lavori) { // each job completes what holds for all
+        ControllaMomenti(r);
+        ControllaIgnorate(l);
+    }
+}
+
+} // namespace
+
+Comando LeggeOpzioni(const std::vector<std::string>& argomenti, const std::vector<std::string>& comuni) {
+    Lettura l;
+    if (std::ranges::none_of(argomenti, ENostra) && comuni.empty()) {
+        ControllaFinestre(argomenti);
+        return l.c;
+    }
+    l.proprie = false;
+    PrendeTutte(l, comuni);
+    const bool conL0v = l.Ha("--L0v");
+    l.proprie = true;
+    l.date.clear();
+    PrendeTutte(l, argomenti);
+    Completa(l, conL0v || l.Ha("--L0v"));
+    return l.c;
 }
 
 std::optional<std::filesystem::path> PrendeCartella(std::vector<std::string>& argomenti) {

@@ -33,15 +33,16 @@ struct Comando {
     std::string acciaio = "S235";
     double fy = 0; ///< another strength than the grade's [N/mm2]; 0 for none
     std::string normativa = "NTC";
-    Richiesta richiesta;
+    Richiesta richiesta; ///< L0v, where it is not given, the greater of L0y and L0z
     Filtri filtri;
 };
 
 /// Reads the arguments without the program's name. Numbers have a point, whatever the locale. Without any of
-/// our options the windows are meant, whatever else stands there; --json without a question means jobs. A
-/// name without dashes, a file's or a section's, asks for what --relazione, --pdf and --dxf write. Throws
-/// ErroreUso.
-Comando LeggeOpzioni(const std::vector<std::string>& argomenti);
+/// our options the windows are meant, with a file or options of the toolkit; --json without a question means
+/// jobs. A name without dashes, a file's or a section's, asks for what --relazione, --pdf and --dxf write.
+/// Throws ErroreUso, also for what would be ignored or stands there twice.
+/// @param comuni  hold where the arguments do not say otherwise, as far as they mean anything there
+Comando LeggeOpzioni(const std::vector<std::string>& argomenti, const std::vector<std::string>& comuni = {});
 
 /// Takes --cartella with its folder out of the arguments; it holds for windows and answers alike.
 /// @return the folder, where one is chosen; of several the last

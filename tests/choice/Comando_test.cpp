@@ -43,6 +43,8 @@ TEST_F(ComandoTest, WithoutAQuestionTheWindowsAreMeant) {
     EXPECT_EQ(Esegue({}), std::nullopt);
     EXPECT_EQ(Esegue({"-platform", "offscreen"}), std::nullopt);
     EXPECT_EQ(Esegue({"trave.sco"}), std::nullopt);
+    EXPECT_EQ(Esegue({"--platform", "offscreen", "nodo.gfl"}), std::nullopt);
+    EXPECT_EQ(Esegue({"-style=Fusion"}), std::nullopt);
 }
 
 TEST_F(ComandoTest, HelpAndVersionHold) {
@@ -96,6 +98,61 @@ TEST_F(ComandoTest, AngleInPairsUnderAForce) {
                       "--doppi", "10"}),
               comandoVerificato);
     EXPECT_TRUE(Dice("membratura"));
+}
+
+// iv = 19.5 mm, 3 m: lambda 153.85, relative 1.638, curve b: phi 2.087, chi 0.2960; A 1920 mm2, fy 235,
+// gammaM1 1.05: Nb,v 127.2 kN, and 200 on it is 1.573. With 0 v-v does not buckle.
+TEST_F(ComandoTest, AnAngleBucklesAboutItsMinorAxisByTheGreaterLength) {
+    std::vector<std::string> call = {"--verifica", "L 100x100x10", "--N", "200", "--L0y", "3", "--L0z", "3"};
+    EXPECT_EQ(Esegue(call), comandoNonVerificato);
+    EXPECT_TRUE(Dice("157")) << uscita.str();
+    const std::string without = uscita.str();
+    call.insert(call.end(), {"--L0v", "3"});
+    EXPECT_EQ(Esegue(call), comandoNonVerificato);
+    EXPECT_EQ(uscita.str(), without);
+    call.back() = "0";
+    EXPECT_EQ(Esegue(call), comandoVerificato);
+    EXPECT_EQ(LeggeOpzioni({"--scelta", "--L0z", "4", "--L0y", "2"}).richiesta.L0v, 4000);
+    EXPECT_EQ(Esegue({"--json"}, R"({"verifica":"L 100x100x10","N":200,"L0y":3,"L0z":1})"
+                                 "\n"),
+              comandoNonVerificato);
+    EXPECT_EQ(LeggeOpzioni({"--scelta", "--L0z", "4"}, {"--json", "--L0v", "1"}).richiesta.L0v, 1000);
+}
+
+TEST_F(ComandoTest, AMomentInTheSpanWantsADiagramThatHasIt) {
+    const std::vector<std::string> call = {"--verifica", "IPE 300", "--MyQ", "50"};
+    EXPECT_EQ(Esegue(call), comandoErrato);
+    EXPECT_NE(errori.str().find("--MyQ e --MzQ vogliono --diagramma da 3 a 6"), std::string::npos);
+    EXPECT_EQ(Esegue({"--scelta", "--MzQ", "1", "--diagramma", "2"}), comandoErrato);
+    EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--MyQ", "0"}), comandoVerificato);
+    EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--MyQ", "50", "--diagramma", "3"}), comandoVerificato);
+    EXPECT_EQ(Esegue({"--json"}, R"({"verifica":"IPE 300","MyQ":50})"
+                                 "\n"),
+              comandoErrato);
+    EXPECT_TRUE(Dice("vogliono --diagramma da 3 a 6")) << uscita.str();
+    EXPECT_EQ(Esegue({"--json", "--MyQ", "50"}, R"({"verifica":"IPE 300","diagramma":3})"
+                                                "\n"),
+              comandoVerificato);
+}
+
+// What stands beside --json holds for each job, what a job says itself comes first.
+TEST_F(ComandoTest, AJobOverrulesWhatHoldsForAll) {
+    EXPECT_EQ(Esegue({"--json", "--N", "900", "--L0z", "4", "--hmax", "300"},
+                     R"({"verifica":"HEA 200"})"
+                     "\n"
+                     R"({"verifica":"HEA 200","N":400})"
+                     "\n"
+                     R"({"verifica":"HEA 200","N":400,"N":900})"
+                     "\n"),
+              comandoErrato);
+    std::istringstream lines(uscita.str());
+    std::string uno, due, tre;
+    std::getline(lines, uno);
+    std::getline(lines, due);
+    std::getline(lines, tre);
+    EXPECT_NE(uno.find("\"verificato\":false"), std::string::npos) << uno;
+    EXPECT_NE(due.find("\"verificato\":true"), std::string::npos) << due;
+    EXPECT_EQ(tre, "{\"errore\":\"--N sta due volte\"}");
 }
 
 // The same figures as alone, in the order of the jobs.
@@ -217,6 +274,17 @@ TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
         {{"--csv"}, "manca che cosa fare"},
         {{"--N", "3"}, "manca che cosa fare"},
         {{"--scelta", "--pippo", "3"}, "\"--pippo\" non è un'opzione"},
+        {{"--verifca", "HEA 200"}, "\"--verifca\" non è un'opzione"},
+        {{"nodo.gfl", "--aiuto"}, "\"--aiuto\" non è un'opzione"},
+        {{"--verifica", "HEA 200", "--N", "1", "--N", "2"}, "--N sta due volte"},
+        {{"--scelta", "--scelta"}, "--scelta sta due volte"},
+        {{"--verifica", "HEA 200", "--hmax", "300"}, "--hmax va con --scelta"},
+        {{"--verifica", "HEA 200", "--verificati"}, "--verificati va con --scelta"},
+        {{"UPN 200", "--gmax", "30", "--relazione", "o.txt"}, "--gmax va con --scelta"},
+        {{"nodo.gfl", "--verificati", "--relazione", "o.txt"}, "--verificati va con --scelta"},
+        {{"nodo.gfl", "--doppi", "1", "--accostati", "--relazione", "o.txt"}, "--doppi vale per un sagomo"},
+        {{"--verifica", "UPN 200", "--accostati"}, "--accostati vuole --doppi"},
+        {{"--verifica", "HEA 200", "--doppi", "10"}, "--doppi vale per canali e angolari"},
         {{"--scelta", "ciao"}, "\"ciao\" non è un'opzione"},
     };
     for (const auto& [call, expected] : calls) {
