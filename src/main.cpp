@@ -1,7 +1,9 @@
 #include <QApplication>
+#include <QByteArrayView>
 #include <fontconfig/fontconfig.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <iostream>
@@ -52,11 +54,36 @@ std::vector<std::string> FileDaAprire() {
     return files;
 }
 
+/// While one lives, a toolkit that finds no screen says so in our words and ends the program: it would abort.
+class SenzaSchermo {
+public:
+    SenzaSchermo() { before_ = qInstallMessageHandler(&Prende); }
+    ~SenzaSchermo() { qInstallMessageHandler(before_); }
+    SenzaSchermo(const SenzaSchermo&) = delete;
+    SenzaSchermo& operator=(const SenzaSchermo&) = delete;
+
+private:
+    static void Prende(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+        if (type == QtFatalMsg) {
+            std::fputs("sagomi: non c'è uno schermo su cui aprire le finestre (DISPLAY o WAYLAND_DISPLAY); "
+                       "sagomi --help dice che cosa si fa senza\n",
+                       stderr);
+            std::_Exit(sagomi::comandoErrato);
+        }
+        // What the platforms say on the way belongs to it.
+        if (!QByteArrayView(context.category).startsWith("qt.qpa") && before_ != nullptr)
+            before_(type, context, text);
+    }
+    static inline QtMessageHandler before_ = nullptr;
+};
+
 int Finestre(int argc, char* argv[], const Scelta& chosen) {
     // The toolkit asks for the list of the system's fonts when it needs the first of them; reading it takes
     // as long as all the rest that comes before.
     std::jthread fonts([] { FcInit(); });
+    std::optional<SenzaSchermo> noScreen(std::in_place);
     const QApplication application(argc, argv);
+    noScreen.reset();
     sagomi::PreparaApplicazione();
     fonts.join();
     if (!sagomi::TrovaCartelle(chosen))

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # prova.sh BIN: the program itself where the system fails it: a full device, jobs that cannot be read, a folder, a pipe
-# or nothing in the workbook's place, no session bus. Each time it says why, in Italian, and comes back.
+# or nothing in the workbook's place, no screen, no session bus; and where its caller errs. Each time it says why, in Italian, and comes back.
 set -uo pipefail
 bin=$1
 work=$(mktemp -d)
@@ -37,6 +37,18 @@ for cosa in niente cartella pipa; do
   [ $cosa = pipa ] && mkfifo "$work/programma/Sagomi.xls"
   attende 2 "Sagomi.xls" "$work/programma/sagomi" --verifica "HEA 200"
 done
+
+# Without a screen, or with one that does not answer; a typing error is one with a screen, too.
+cieco() { attende 2 "$1" env -u QT_QPA_PLATFORM -u DISPLAY -u WAYLAND_DISPLAY "${@:2}"; }
+cieco "non c'è uno schermo" "$bin/sagomi" giunto.gfl
+cieco "non c'è uno schermo" "$bin/sagomi"
+cieco "non c'è uno schermo" DISPLAY=:4711 "$bin/sagomi" giunto.gfl
+if [ "$(wc -l <"$work/errori")" -ne 1 ]; then
+  echo "more than one line: $(cat "$work/errori")" >&2
+  bad=1
+fi
+cieco '"--verifca" non è un' "$bin/sagomi" --verifca "HEA 200"
+attende 2 '"--verifca" non è un' "$bin/sagomi" --verifca "HEA 200"
 
 DBUS_SESSION_BUS_ADDRESS=unix:path=$work/manca attende 1 "bus di sessione" "$bin/sagomi-server"
 exit $bad
