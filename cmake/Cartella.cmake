@@ -7,9 +7,10 @@ install(CODE [[
   foreach(p sagomi sagomi-server)
     file(RPATH_SET FILE "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/${p}" NEW_RPATH "\$ORIGIN/lib")
   endforeach()]] COMPONENT cartella EXCLUDE_FROM_ALL)
-install(FILES ${sagomi_accanto} ${sagomi_utente_vuota} ${PROJECT_SOURCE_DIR}/LICENSE
-              ${PROJECT_BINARY_DIR}/pacchetto/LEGGIMI.txt
+install(FILES ${sagomi_accanto} ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_BINARY_DIR}/pacchetto/LEGGIMI.txt
         DESTINATION . COMPONENT cartella EXCLUDE_FROM_ALL)
+# The first start makes the user's workbook: an archive that is unpacked again must not have one to write over it.
+install(FILES ${sagomi_utente_vuota} RENAME SagomiUtente-vuota.xls DESTINATION . COMPONENT cartella EXCLUDE_FROM_ALL)
 install(PROGRAMS ${PROJECT_SOURCE_DIR}/data/pacchetto/nel-menu DESTINATION . COMPONENT cartella EXCLUDE_FROM_ALL)
 install(FILES ${scrivania}/org.sagomi.Sagomi.desktop ${scrivania}/org.sagomi.Sagomi.svg
               ${scrivania}/application-x-sagomi-giunto.svg ${scrivania}/application-x-sagomi-trave.svg

@@ -61,8 +61,11 @@ endif()
 list(TRANSFORM accanto PREPEND ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/ OUTPUT_VARIABLE sagomi_accanto)
 install(FILES ${sagomi_accanto} DESTINATION ${CMAKE_INSTALL_DATADIR}/sagomi COMPONENT programma)
 
-# The user's own workbook: one that he has already is never written over.
+# The user's own workbook: one that he has already is never written over. The one without rows tells whether it has
+# been used, where the installation is the user's folder.
 set(sagomi_utente_vuota ${PROJECT_BINARY_DIR}/vuota/SagomiUtente.xls)
+install(FILES ${sagomi_utente_vuota} RENAME SagomiUtente-vuota.xls DESTINATION ${CMAKE_INSTALL_DATADIR}/sagomi
+        COMPONENT programma)
 install(CODE "
   set(utente \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/sagomi/SagomiUtente.xls\")
   if(NOT EXISTS \"\${utente}\")

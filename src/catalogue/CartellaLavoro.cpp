@@ -26,7 +26,8 @@ namespace {
 
 constexpr std::string_view cartellaStandard = "Sagomi.xls";
 constexpr std::string_view impostazioni = "Sagomi.ini";
-constexpr std::string_view registro = ".Sagomi.xls.copia"; ///< what is known of the copy
+constexpr std::string_view utenteVuota = "SagomiUtente-vuota.xls"; ///< as installed, without rows
+constexpr std::string_view registro = ".Sagomi.xls.copia";         ///< what is known of the copy
 constexpr std::size_t byteMassimi = std::size_t{64} << 20U;
 constexpr const char* cartellaVecchia = "Sagomi"; ///< of older programs, in the configuration folder
 
@@ -63,21 +64,35 @@ void ScriveOppureLancia(const fs::path& file, std::string_view byte) {
         throw std::runtime_error(MotivoNonScritto(file));
 }
 
-/// The older file goes only when the new one lies on the disk.
-/// @param sopra  also over a file that is there: one that came with the program and that nobody has used
-void Trasloca(const fs::path& da, const fs::path& a, std::string_view nome, bool sopra) {
+bool StessiByte(const fs::path& a, const fs::path& b) {
+    std::error_code nessunoA, nessunoB;
+    const bool lunghi = fs::file_size(a, nessunoA) == fs::file_size(b, nessunoB);
+    return !nessunoA && !nessunoB && lunghi &&
+           LeggeFile(a, byteMassimi).byte == LeggeFile(b, byteMassimi).byte;
+}
+
+/// The older file goes only when the new one lies on the disk. One that is there already stays, but for the
+/// user's workbook as it was installed, without rows.
+void Trasloca(const fs::path& da, const fs::path& a, std::string_view nome) {
     const fs::path vecchio = FileAccanto(da, nome);
     const fs::path nuovo = FileAccanto(a, nome);
-    if (!Esiste(vecchio) || (Esiste(nuovo) && !sopra))
+    const auto senzaRighe = [&] {
+        return nome == cartellaUtente && StessiByte(nuovo, FileAccanto(a, utenteVuota));
+    };
+    if (!Esiste(vecchio) || (Esiste(nuovo) && !senzaRighe()))
         return;
     ScriveOppureLancia(nuovo, Testo(LeggeFile(vecchio, byteMassimi)));
     std::error_code errore;
     fs::remove(vecchio, errore);
 }
 
+void CopiaSeManca(const fs::path& da, std::string_view nome, const fs::path& a, std::string_view nuovo) {
+    if (const fs::path file = FileAccanto(da, nome); Esiste(file) && !Esiste(FileAccanto(a, nuovo)))
+        ScriveOppureLancia(a / nuovo, Testo(LeggeFile(file, byteMassimi)));
+}
+
 void CopiaSeManca(const fs::path& da, const fs::path& a, std::string_view nome) {
-    if (const fs::path file = FileAccanto(da, nome); Esiste(file) && !Esiste(FileAccanto(a, nome)))
-        ScriveOppureLancia(a / nome, Testo(LeggeFile(file, byteMassimi)));
+    CopiaSeManca(da, nome, a, nome);
 }
 
 /// The standard workbook of a working folder: a copy of the installed one until the user changes it. What was
@@ -143,11 +158,12 @@ bool Uguali(const fs::path& a, const fs::path& b) {
 }
 
 void Prepara(const fs::path& installata, const fs::path& lavoro) {
-    if (Uguali(installata, lavoro))
-        return;
-    CopiaSeManca(installata, lavoro, impostazioni);
-    CopiaSeManca(installata, lavoro, cartellaUtente);
-    CopiaStandard(installata, lavoro).Rinnova();
+    if (!Uguali(installata, lavoro)) {
+        CopiaSeManca(installata, lavoro, impostazioni);
+        CopiaSeManca(installata, lavoro, cartellaUtente);
+        CopiaStandard(installata, lavoro).Rinnova();
+    }
+    CopiaSeManca(installata, utenteVuota, lavoro, cartellaUtente);
 }
 
 CartellaLavoro Scelta(const fs::path& installata, const fs::path& scelta) {
@@ -161,6 +177,16 @@ CartellaLavoro Scelta(const fs::path& installata, const fs::path& scelta) {
     return {lavoro, installata, {}};
 }
 
+CartellaLavoro Accanto(const fs::path& programma) {
+    try {
+        Prepara(programma, programma);
+    } catch (const std::runtime_error& e) {
+        return {programma, programma,
+                "Non è possibile creare " + (programma / cartellaUtente).string() + ":\r\n" + e.what()};
+    }
+    return {programma, programma, {}};
+}
+
 CartellaLavoro DellUtente(const fs::path& installata) {
     const fs::path lavoro = CartellaDatiUtente() / "sagomi";
     try {
@@ -169,7 +195,7 @@ CartellaLavoro DellUtente(const fs::path& installata) {
         Crea(lavoro);
         const fs::path vecchia = CartellaConfigurazioneUtente() / cartellaVecchia;
         for (const std::string_view nome : {impostazioni, cartellaUtente})
-            Trasloca(vecchia, lavoro, nome, Uguali(installata, lavoro));
+            Trasloca(vecchia, lavoro, nome);
         Prepara(installata, lavoro);
     } catch (const std::runtime_error& e) {
         return {installata, installata,
@@ -186,7 +212,7 @@ CartellaLavoro ApreCartellaLavoro(const fs::path& programma, const std::optional
     if (scelta)
         return Scelta(installata, *scelta);
     if (installata == programma && Scrivibile(programma))
-        return {programma, programma, {}};
+        return Accanto(programma);
     return DellUtente(installata);
 }
 

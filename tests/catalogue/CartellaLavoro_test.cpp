@@ -205,10 +205,61 @@ TEST_F(CartellaLavoroTest, WhatTheUserHadInHisConfigurationFolderMoves) {
 
 TEST_F(CartellaLavoroTest, AnInstallationInTheUsersDataFolderIsTheWorkingFolder) {
     const ConVariabile altra("XDG_DATA_HOME", (dir.percorso / "usr" / "share").string());
+    ScriveByte(share / "SagomiUtente-vuota.xls", "vuota");
     ScriveConfigurazione("SagomiUtente.xls", "sezioni");
     EXPECT_EQ(ApreCartellaLavoro(bin).lavoro, share);
     EXPECT_EQ(LeggeByte(share / "SagomiUtente.xls"), "sezioni");
     EXPECT_FALSE(fs::exists(share / ".Sagomi.xls.copia"));
+}
+
+// An older program, or a backup, puts its files into the configuration folder again.
+TEST_F(CartellaLavoroTest, WhatTheUserWorksWithInSuchAnInstallationIsNeverReplaced) {
+    const ConVariabile altra("XDG_DATA_HOME", (dir.percorso / "usr" / "share").string());
+    ScriveByte(share / "SagomiUtente-vuota.xls", "vuota");
+    ApreCartellaLavoro(bin);
+    ScriveByte(share / "SagomiUtente.xls", "le mie sezioni");
+    ScriveByte(share / "Sagomi.ini", "le mie impostazioni");
+    ScriveConfigurazione("SagomiUtente.xls", "vecchie sezioni");
+    ScriveConfigurazione("Sagomi.ini", "vecchie impostazioni");
+    EXPECT_EQ(ApreCartellaLavoro(bin).avviso, "");
+    EXPECT_EQ(LeggeByte(share / "SagomiUtente.xls"), "le mie sezioni");
+    EXPECT_EQ(LeggeByte(share / "Sagomi.ini"), "le mie impostazioni");
+    EXPECT_EQ(LeggeByte(configurazione / "SagomiUtente.xls"), "vecchie sezioni");
+    EXPECT_EQ(LeggeByte(configurazione / "Sagomi.ini"), "vecchie impostazioni");
+}
+
+TEST_F(CartellaLavoroTest, AWorkbookThatCannotBeToldFromTheInstalledOneStays) {
+    const ConVariabile altra("XDG_DATA_HOME", (dir.percorso / "usr" / "share").string());
+    ScriveConfigurazione("SagomiUtente.xls", "vecchie sezioni");
+    ApreCartellaLavoro(bin);
+    EXPECT_EQ(LeggeByte(share / "SagomiUtente.xls"), "vuota");
+    EXPECT_EQ(LeggeByte(configurazione / "SagomiUtente.xls"), "vecchie sezioni");
+}
+
+TEST_F(CartellaLavoroTest, TheFirstStartBesideTheProgramMakesTheUsersWorkbook) {
+    ScriveByte(bin / "Sagomi.xls", "standard");
+    ScriveByte(bin / "SagomiUtente-vuota.xls", "senza righe");
+    {
+        const DiscoPieno disco(4);
+        EXPECT_EQ(ApreCartellaLavoro(bin).avviso, "Non è possibile creare " +
+                                                      (bin / "SagomiUtente.xls").string() +
+                                                      ":\r\nil disco non ha accettato i dati");
+    }
+    EXPECT_EQ(ApreCartellaLavoro(bin).avviso, "");
+    EXPECT_EQ(LeggeByte(bin / "SagomiUtente.xls"), "senza righe");
+    ScriveByte(bin / "SagomiUtente.xls", "le mie sezioni");
+    ApreCartellaLavoro(bin);
+    EXPECT_EQ(LeggeByte(bin / "SagomiUtente.xls"), "le mie sezioni");
+}
+
+TEST_F(CartellaLavoroTest, AnInstallationWithTheEmptyWorkbookAloneFillsTheUsersFolder) {
+    fs::remove(share / "SagomiUtente.xls");
+    ScriveByte(share / "SagomiUtente-vuota.xls", "senza righe");
+    ApreCartellaLavoro(bin);
+    EXPECT_EQ(LeggeByte(dati / "SagomiUtente.xls"), "senza righe");
+    EXPECT_FALSE(fs::exists(dati / "SagomiUtente-vuota.xls"));
+    ApreCartellaLavoro(bin, dir.percorso / "scelta");
+    EXPECT_EQ(LeggeByte(dir.percorso / "scelta" / "SagomiUtente.xls"), "senza righe");
 }
 
 TEST_F(CartellaLavoroTest, AChosenFolderIsMadeAndFilled) {

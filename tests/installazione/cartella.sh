@@ -11,7 +11,7 @@ rm -rf "$2"
 mkdir -p "$place" "$home"
 cmake --install "$1" --component cartella --prefix "$place/sagomi" >/dev/null
 cd "$place/sagomi"
-for file in Sagomi.xls SagomiUtente.xls Sagomi.hlp GiuntoFlangiato.hlp FormuleGiunto.rtf LEGGIMI.txt LICENSE; do
+for file in Sagomi.xls SagomiUtente-vuota.xls Sagomi.hlp GiuntoFlangiato.hlp FormuleGiunto.rtf LEGGIMI.txt LICENSE; do
   [ -s "$file" ] || fail "no $file"
 done
 
@@ -28,6 +28,13 @@ run ./sagomi --verifica "HEA 200" --N 400 | grep -q "HEA 200" || fail "no answer
 run "$here/apre_e_chiude.sh" ./sagomi-server
 [ -s Sagomi.ini ] || fail "the settings have not stayed"
 [ ! -e "$home/.local/share/sagomi" ] || fail "worked in the user's folder"
+
+# Unpacked again over itself it leaves the user's own.
+cmp SagomiUtente.xls SagomiUtente-vuota.xls || fail "the first start has not made the user's workbook"
+echo mia >>SagomiUtente.xls
+cmake --install "$1" --component cartella --prefix "$PWD" >/dev/null
+tail -c 4 SagomiUtente.xls | grep -q mia || fail "the user's sections have gone"
+cp SagomiUtente-vuota.xls SagomiUtente.xls
 
 # In the menu and out of it; what its entry starts is this program, whatever its path.
 menu=$home/.local/share/applications/org.sagomi.Sagomi.desktop
