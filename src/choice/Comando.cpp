@@ -56,6 +56,17 @@ Stato di uscita: 0 verificato, 1 non verificato, 2 uso errato.
 
 using TrovaCartella = std::function<std::filesystem::path()>;
 
+/// Where answers go, and what has no place in them.
+struct Uscite {
+    std::ostream &uscita, &errori;
+};
+
+/// A table for programs has no place for what was told on the way.
+void MessaggiAParte(const Comando& c, const std::vector<std::string>& messaggi, const Uscite& u) {
+    if (c.formato == FormatoUscita::Csv)
+        ScriveMessaggi(u.errori, messaggi);
+}
+
 /// A name without blanks, in small letters: "hea200" finds "HEA 200".
 std::string Piegato(std::string_view nome) {
     std::string s = Minuscole(nome);
@@ -104,7 +115,7 @@ void ScriveRelazione(const Comando& c, DocumentoLetto documento, const std::vect
                          : "nessun sagomo si chiama \"" + c.sagomo + '"');
 }
 
-int VerificaUno(const Comando& c, const Gara& gara, std::ostream& uscita) {
+int VerificaUno(const Comando& c, const Gara& gara, const Uscite& u) {
     const auto sagomo =
         std::ranges::find_if(gara.sagomi, [&](const SagomoInGara& s) { return Cercato(c, s); });
     if (sagomo == gara.sagomi.end())
@@ -117,7 +128,8 @@ int VerificaUno(const Comando& c, const Gara& gara, std::ostream& uscita) {
     if (c.uscite.Qualcuna())
         ScriveRelazione(c, {RelazioneVerifica(*sagomo, esito, c.richiesta)}, messaggi);
     if (c.modo == ModoComando::Verifica)
-        ScriveVerifica(uscita, c, *sagomo, esito, messaggi);
+        ScriveVerifica(u.uscita, c, *sagomo, esito, messaggi);
+    MessaggiAParte(c, messaggi, u);
     return esito.riga.verificato ? comandoVerificato : comandoNonVerificato;
 }
 
@@ -130,23 +142,24 @@ int RelazioneDiFile(const Comando& c) {
     return soloDisegno || esito == EsitoRelazione::Passa ? comandoVerificato : comandoNonVerificato;
 }
 
-int SceglieFraTutti(const Comando& c, const Gara& gara, std::ostream& uscita) {
+int SceglieFraTutti(const Comando& c, const Gara& gara, const Uscite& u) {
     std::vector<std::string> messaggi = gara.mancanti;
     std::vector<RigaScelta> righe = Valuta(gara.sagomi, c.richiesta, c.filtri, messaggi);
     OrdinaPerPeso(righe);
-    ScriveScelta(uscita, c, gara.sagomi, righe, messaggi);
+    ScriveScelta(u.uscita, c, gara.sagomi, righe, messaggi);
+    MessaggiAParte(c, messaggi, u);
     return !righe.empty() && righe.front().verificato ? comandoVerificato : comandoNonVerificato;
 }
 
-int Risponde(Comando& c, const Gara& gara, std::ostream& uscita) {
+int Risponde(Comando& c, const Gara& gara, const Uscite& u) {
     ControllaFamiglie(gara, c.filtri.famiglie);
     MetteInVigore(c);
-    return c.modo == ModoComando::Scelta ? SceglieFraTutti(c, gara, uscita) : VerificaUno(c, gara, uscita);
+    return c.modo == ModoComando::Scelta ? SceglieFraTutti(c, gara, u) : VerificaUno(c, gara, u);
 }
 
 /// One job; what is wrong with it is its answer, and those after it go on.
 int EsegueLavoro(const LavoriJson& lavori, const std::string& riga, const std::vector<std::string>& comuni,
-                 const Gara& gara, std::ostream& uscita) {
+                 const Gara& gara, const Uscite& u) {
     try {
         Comando c = LeggeOpzioni(lavori.Argomenti(riga), comuni);
         if ((c.modo != ModoComando::Verifica && c.modo != ModoComando::Scelta) ||
@@ -154,24 +167,24 @@ int EsegueLavoro(const LavoriJson& lavori, const std::string& riga, const std::v
             throw ErroreUso("un lavoro chiede \"verifica\" o \"scelta\"");
         if (c.uscite.Qualcuna())
             throw ErroreUso("un lavoro risponde sull'uscita e non scrive file");
-        return Risponde(c, gara, uscita);
+        return Risponde(c, gara, u);
     } catch (const std::exception& e) {
-        ScriveErrore(uscita, e.what());
+        ScriveErrore(u.uscita, e.what());
         return comandoErrato;
     }
 }
 
 /// The jobs on the input; options of the command line hold for each of them.
 int EsegueLavori(const std::vector<std::string>& comuni, const TrovaCartella& cartella,
-                 std::istream& ingresso, std::ostream& uscita) {
+                 std::istream& ingresso, const Uscite& u) {
     const Gara gara = Legge(cartella(), {});
     const LavoriJson lavori;
     int peggiore = comandoVerificato;
     for (std::string riga; std::getline(ingresso, riga);) {
         if (riga.find_first_not_of(" \t\r") == std::string::npos)
             continue;
-        peggiore = std::max(peggiore, EsegueLavoro(lavori, riga, comuni, gara, uscita));
-        uscita.flush();
+        peggiore = std::max(peggiore, EsegueLavoro(lavori, riga, comuni, gara, u));
+        u.uscita.flush();
     }
     return peggiore;
 }
@@ -187,13 +200,13 @@ void TrovaFormule(const TrovaCartella& cartella) {
     }
 }
 
-int Esegue(Comando c, const TrovaCartella& cartella, std::ostream& uscita) {
+int Esegue(Comando c, const TrovaCartella& cartella, const Uscite& u) {
     if (c.modo == ModoComando::Aiuto) {
-        uscita << guida;
+        u.uscita << guida;
         return comandoVerificato;
     }
     if (c.modo == ModoComando::Versione) {
-        uscita << "sagomi " << versioneProgramma << '\n';
+        u.uscita << "sagomi " << versioneProgramma << '\n';
         return comandoVerificato;
     }
     if (!c.file.empty()) {
@@ -201,7 +214,7 @@ int Esegue(Comando c, const TrovaCartella& cartella, std::ostream& uscita) {
         TrovaFormule(cartella);
         return RelazioneDiFile(c);
     }
-    return Risponde(c, Legge(cartella(), c.filtri.famiglie), uscita);
+    return Risponde(c, Legge(cartella(), c.filtri.famiglie), u);
 }
 
 } // namespace
@@ -220,8 +233,8 @@ std::optional<int> EsegueComando(const std::vector<std::string>& argomenti, cons
         if (comando.modo == ModoComando::Finestre)
             return std::nullopt;
         if (comando.modo == ModoComando::Lavori)
-            return EsegueLavori(argomenti, cartella, ingresso, uscita);
-        return Esegue(std::move(comando), cartella, uscita);
+            return EsegueLavori(argomenti, cartella, ingresso, {uscita, errori});
+        return Esegue(std::move(comando), cartella, {uscita, errori});
     } catch (const ErroreUso& e) {
         errori << "sagomi: " << e.what() << "\nsagomi --help dice come si usa\n";
         return comandoErrato;

@@ -10,10 +10,6 @@
 
 namespace sagomi {
 
-namespace {
-
-/// The section as the check of its resistance has it: with the largest moments of the diagrams, without that
-/// of the shifted centroid.
 SezioneDoppioT PerLaSezione(const SezioneDoppioT& s, const Richiesta& r) {
     SezioneDoppioT sezione = s;
     sezione.Mysd = EffettiDelDiagramma(r.y, r.tipoDiagramma, r.pict).M;
@@ -21,6 +17,8 @@ SezioneDoppioT PerLaSezione(const SezioneDoppioT& s, const Richiesta& r) {
     sezione.ClassePressoFlessioneCalcola();
     return sezione;
 }
+
+namespace {
 
 void AggiungeCapitoli(Relazione& relazione, const SezioneDoppioT& s, const SagomoVerificato& e,
                       const Richiesta& r) {

@@ -1,0 +1,219 @@
+#include "choice/ScritturaScelta.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <sstream>
+
+#include "choice/Comando.h"
+#include "choice/Opzioni.h"
+#include "choice/Scelta.h"
+#include "frame/GeneraleSagomi.h"
+
+using namespace sagomi;
+
+namespace {
+
+using Argomenti = std::vector<std::string>;
+
+class ScritturaSceltaTest : public testing::Test {
+protected:
+    void TearDown() override { RipristinaGenerale(); }
+
+    std::optional<int> Esegue(const Argomenti& argomenti, const std::string& lavori = {}) {
+        std::istringstream ingresso(lavori);
+        uscita.str("");
+        errori.str("");
+        return EsegueComando(argomenti, SAGOMI_BIN, ingresso, uscita, errori);
+    }
+    /// What stands after a key in the answer; empty where there is no such key.
+    [[nodiscard]] std::string Campo(const std::string& chiave) const {
+        const std::string testo = uscita.str(), nome = '"' + chiave + "\":";
+        const std::size_t da = testo.find(nome);
+        return da == std::string::npos
+                   ? ""
+                   : testo.substr(da + nome.size(), testo.find_first_of(",}", da) - da - nome.size());
+    }
+    [[nodiscard]] double Numero(const std::string& chiave) const {
+        const std::string testo = Campo(chiave);
+        double v = std::nan("");
+        std::from_chars(testo.data(), testo.data() + testo.size(), v);
+        return v;
+    }
+
+    std::ostringstream uscita, errori;
+};
+
+// HEA 200, L 2.5 m: Jz 1336 cm4, Jw 108000 cm6, JT 20.98 cm4, C1 1.88: pi2 E Jz / L2 = 4430 kN, the root of
+// 8084 + 3825 mm2 is 109.1 mm, so Mcr = 1.88 x 483.5 = 909 kNm. betaM of a triangle is 1.8.
+TEST_F(ScritturaSceltaTest, TheStepsOfTheMemberAreWritten) {
+    Esegue({"--verifica", "HEA 200", "--N", "400", "--My", "30", "--L0y", "5", "--L0z", "2.5", "--json"});
+    EXPECT_NEAR(Numero("Mcr"), 909, 1);
+    EXPECT_NEAR(Numero("lamdaSegnatoLT"), std::sqrt(1.05 * 96.126 / 909), 5e-4);
+    EXPECT_EQ(Campo("chiLT"), "1");
+    EXPECT_EQ(Campo("betaMy"), "1.8");
+    EXPECT_EQ(Campo("LLT"), "2.5");
+    EXPECT_NEAR(Numero("ky"), 1 - Numero("muy") * 400 / (1.05 * Numero("NbyRd")), 1e-3);
+    EXPECT_NEAR(Numero("kLT"), std::min(1.0, 1 - Numero("muLT") * 400 / (1.05 * Numero("NbzRd"))), 1e-3);
+    for (const char* check : {"Sezione", "Membratura", "Svergolamento"}) {
+        const double sum = Numero(std::string("termineN") + check) +
+                           Numero(std::string("termineMy") + check) +
+                           Numero(std::string("termineMz") + check);
+        std::string key = check;
+        key.front() = static_cast<char>(key.front() + ('a' - 'A'));
+        EXPECT_NEAR(sum, Numero(key), 2e-4) << check;
+    }
+}
+
+TEST_F(ScritturaSceltaTest, AnAngleHasItsMinorAxisAndNoBending) {
+    Esegue({"--verifica", "L 100x100x10", "--N", "100", "--L0y", "3", "--L0z", "3", "--json"});
+    EXPECT_NEAR(Numero("lamdav"), 3000 / 19.5, 0.01);
+    EXPECT_NEAR(Numero("NbvRd"), Numero("chiv") * 1920 * 235 / 1.05 / 1000, 0.05);
+    EXPECT_NEAR(Numero("massimo"), 100 / Numero("NbvRd"), 1e-5);
+    EXPECT_EQ(Campo("Mcr"), "");
+    EXPECT_EQ(Campo("termineMyMembratura"), "");
+}
+
+// What was asked for stands in the answer with all its figures: asked again, it is answered alike.
+TEST_F(ScritturaSceltaTest, AnAnswerCanBeRunAgain) {
+    const std::map<std::string, std::string> asked = {
+        {"N", "123.456789"}, {"My2", "-2.3"},    {"MyQ", "12.7"}, {"Mz2", "0.1"},
+        {"diagramma", "4"},  {"L0y", "5.00007"}, {"L0z", "2.3"},  {"L0v", "1.7"},
+        {"L", "2.123456"},   {"k", "0.7"},       {"Kw", "0.9"},   {"C1", "1.285"},
+        {"C2", "1.562"},     {"C3", "0.753"},    {"za", "-95.5"}, {"fy", "248.3"}};
+    Argomenti call{"--verifica", "IPE 300", "--json", "--My", "30.1", "--Mz", "1.3"};
+    for (const auto& [name, value] : asked)
+        call.insert(call.end(), {"--" + name, value});
+    ASSERT_NE(Esegue(call), comandoErrato) << errori.str();
+    for (const auto& [name, value] : asked)
+        EXPECT_EQ(Campo(name), value) << name;
+    EXPECT_EQ(Campo("My1"), "30.1");
+    EXPECT_EQ(Campo("fu"), "360");
+    EXPECT_EQ(Campo("doppi"), "null");
+    const std::string first = uscita.str();
+    Argomenti again{"--verifica", "IPE 300", "--json", "--My", Campo("My1"), "--Mz", Campo("Mz1")};
+    for (const auto& [name, value] : asked)
+        again.insert(again.end(), {"--" + name, Campo(name)});
+    Esegue(again);
+    EXPECT_EQ(uscita.str(), first);
+    Esegue({"--verifica", "UPN 200", "--doppi", "12.5", "--accostati", "--json"});
+    EXPECT_EQ(Campo("doppi"), "12.5");
+    EXPECT_EQ(Campo("accostati"), "true");
+    EXPECT_EQ(Campo("L"), "null");
+}
+
+// 5383 mm2 x 235 / 1.05 = 1204.1 kN: a force a little above it is above 1, and does not read as 1.
+TEST_F(ScritturaSceltaTest, AUtilisationBesideOneIsNotToldAsOne) {
+    const Argomenti call{"--verifica", "HEA 200", "--N", "1204.13"};
+    Argomenti json = call;
+    json.emplace_back("--json");
+    EXPECT_EQ(Esegue(json), comandoNonVerificato);
+    EXPECT_GT(Numero("massimo"), 1);
+    EXPECT_LT(Numero("massimo"), 1.0001);
+    EXPECT_EQ(Campo("verificato"), "false");
+    Esegue({"--scelta", "--famiglie", "HEA", "--N", "1204.13"});
+    EXPECT_NE(uscita.str().find("  1.0000"), std::string::npos) << uscita.str();
+}
+
+TEST_F(ScritturaSceltaTest, ARowSaysWhyItDoesNotHold) {
+    const Argomenti call{"--scelta", "--famiglie", "UPN", "--My", "10"};
+    for (const char* format : {"--json", "--csv", "--verificati"}) {
+        Argomenti formatted = call;
+        formatted.emplace_back(format);
+        EXPECT_EQ(Esegue(formatted), comandoNonVerificato);
+        EXPECT_EQ(uscita.str().find("La flessione di canali e angolari non ha una verifica") !=
+                      std::string::npos,
+                  std::string(format) != "--verificati");
+    }
+    Esegue(call);
+    EXPECT_NE(uscita.str().find("non ha una verifica"), std::string::npos) << uscita.str();
+}
+
+// The user's own workbook is a text: that is told, and the table of CSV stays one.
+TEST_F(ScritturaSceltaTest, WhatIsToldStandsBesideATableOfCsv) {
+    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "ScritturaSceltaTest";
+    std::filesystem::create_directories(folder);
+    std::filesystem::copy_file(std::filesystem::path(SAGOMI_BIN) / "Sagomi.xls", folder / "Sagomi.xls",
+                               std::filesystem::copy_options::overwrite_existing);
+    std::ofstream(folder / "SagomiUtente.xls") << "ciao";
+    for (const Argomenti& question :
+         {Argomenti{"--scelta", "--famiglie", "IPE"}, Argomenti{"--verifica", "IPE 300"}}) {
+        Argomenti call = question;
+        call.emplace_back("--csv");
+        std::istringstream nothing;
+        uscita.str("");
+        errori.str("");
+        EXPECT_EQ(EsegueComando(call, folder, nothing, uscita, errori), comandoVerificato);
+        EXPECT_TRUE(uscita.str().starts_with("designazione,")) << uscita.str();
+        EXPECT_EQ(uscita.str().find("SagomiUtente"), std::string::npos);
+        EXPECT_TRUE(errori.str().starts_with("avviso: ")) << errori.str();
+    }
+    std::filesystem::remove_all(folder);
+}
+
+/// The fields of a line of CSV without quotation marks.
+std::vector<std::string> Campi(const std::string& line) {
+    std::vector<std::string> fields;
+    std::istringstream in(line);
+    for (std::string field; std::getline(in, field, ',');)
+        fields.push_back(field);
+    return fields;
+}
+
+std::string Cifre(double v) {
+    char text[64];
+    return std::isnan(v) ? "" : std::string(text, std::to_chars(text, text + sizeof text, v).ptr);
+}
+
+class ScritturaDiTutto : public ScritturaSceltaTest, public testing::WithParamInterface<Argomenti> {};
+
+// Each row of all kinds, to the last figure.
+TEST_P(ScritturaDiTutto, HasTheFiguresOfTheSweep) {
+    Argomenti call = GetParam();
+    call.insert(call.end(), {"--scelta", "--csv"});
+    Esegue(call);
+    std::istringstream lines(uscita.str());
+    std::string line;
+    std::getline(lines, line);
+    const Argomenti heads = Campi(line);
+    const auto at = [&heads](const char* name) {
+        return static_cast<std::size_t>(std::ranges::find(heads, name) - heads.begin());
+    };
+    const std::size_t greatest = at("massimo"), member = at("membratura"), holds = at("verificato");
+
+    Comando c = LeggeOpzioni(call);
+    MetteInVigore(c);
+    const Gara gara = LeggeGara(SAGOMI_BIN);
+    std::vector<std::string> messages;
+    std::vector<RigaScelta> rows = Valuta(gara.sagomi, c.richiesta, c.filtri, messages);
+    OrdinaPerPeso(rows);
+    ASSERT_GT(rows.size(), 300U);
+    for (const RigaScelta& row : rows) {
+        ASSERT_TRUE(std::getline(lines, line));
+        const Argomenti fields = Campi(line);
+        ASSERT_GT(fields.size(), holds) << line;
+        ASSERT_EQ(fields[0], gara.sagomi[row.indice].Designazione());
+        ASSERT_EQ(fields[greatest], Cifre(row.massimo)) << line;
+        ASSERT_EQ(fields[member], Cifre(row.membratura)) << line;
+        ASSERT_EQ(fields[holds], row.verificato ? "OK" : "NO") << line;
+    }
+    EXPECT_FALSE(std::getline(lines, line));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Forze, ScritturaDiTutto,
+    testing::Values(Argomenti{"--N", "200", "--L0y", "3", "--L0z", "3"},
+                    Argomenti{"--N", "-350.5", "--acciaio", "S355", "--normativa", "EC3"},
+                    Argomenti{"--N", "100", "--My", "30", "--Mz", "2", "--L0y", "5", "--L0z", "2.5"},
+                    Argomenti{"--My", "80", "--My2", "-40", "--MyQ", "60", "--diagramma", "4", "--L", "4",
+                              "--C2", "0.5", "--za", "100", "--acciaio", "S275"},
+                    Argomenti{"--N", "300", "--L0y", "4", "--L0z", "4", "--L0v", "1", "--doppi", "10"},
+                    Argomenti{"--N", "90", "--L0y", "4", "--doppi", "8", "--accostati", "--hmax", "300"}));
+
+} // namespace
