@@ -5,11 +5,13 @@
 #include <algorithm>
 #include <cctype>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
 
 #include "frame/FileAtomico.h"
+#include "frame/LetturaFile.h"
 #include "frame/Ripristino.h"
 
 namespace sagomi {
@@ -46,13 +48,22 @@ struct Libera {
 using Lista = std::unique_ptr<GBookmarkFile, Libera>;
 using Testo = std::unique_ptr<gchar, Libera>;
 
-/// The list of a file, empty where there is none; nullptr where it is no list.
+constexpr std::size_t byteMassimi = std::size_t{16} << 20U;
+
+/// The list of a file, empty where there is none; nullptr where it is no list, or none of a desktop's length.
 Lista Legge(const fs::path& file) {
     Lista lista(g_bookmark_file_new());
     std::error_code errore;
-    if (fs::exists(file, errore) &&
-        g_bookmark_file_load_from_file(lista.get(), file.c_str(), nullptr) == FALSE)
+    if (!fs::exists(file, errore))
+        return lista;
+    try {
+        const FileLetto letto = LeggeFile(file, byteMassimi);
+        const std::string testo(letto.byte.begin(), letto.byte.end());
+        if (g_bookmark_file_load_from_data(lista.get(), testo.data(), testo.size(), nullptr) == FALSE)
+            lista.reset();
+    } catch (const std::runtime_error&) {
         lista.reset();
+    }
     return lista;
 }
 

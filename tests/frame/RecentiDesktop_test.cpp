@@ -1,6 +1,7 @@
 #include "frame/RecentiDesktop.h"
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 #include "frame/Ambiente.h"
 #include "frame/GeneraleSagomi.h"
@@ -45,6 +46,25 @@ TEST_F(RecentiDesktopTest, WhatIsNoFileOfOursAndNoListIsLeftAlone) {
     CartellaRecenti(dir.percorso / "manca");
     RicordaNelDesktop("/lavori/trave.sco");
     EXPECT_EQ(dir.Voci(), 1);
+}
+
+TEST_F(RecentiDesktopTest, APipeInItsPlaceIsNotWaitedFor) {
+    ASSERT_EQ(mkfifo(elenco.c_str(), 0600), 0);
+    RicordaNelDesktop("/lavori/trave.sco");
+    EXPECT_TRUE(fs::is_fifo(elenco));
+    EXPECT_EQ(dir.Voci(), 1);
+}
+
+TEST_F(RecentiDesktopTest, AListOfNoDesktopsLengthIsLeftAlone) {
+    RicordaNelDesktop("/lavori/nodo.gfl");
+    const std::string before = Lista();
+    const std::string filled = before + std::string((16U << 20U) - before.size(), '\n');
+    ScriveByte(elenco, filled);
+    RicordaNelDesktop("/lavori/trave.sco");
+    EXPECT_THAT(Lista(), HasSubstr("trave.sco")) << "16 MB are read";
+    ScriveByte(elenco, filled + '\n');
+    RicordaNelDesktop("/lavori/altra.sco");
+    EXPECT_EQ(fs::file_size(elenco), filled.size() + 1);
 }
 
 TEST_F(RecentiDesktopTest, NothingIsKeptWhereNoFolderIsNamed) {
