@@ -3,7 +3,6 @@
 #include <glib.h>
 #include <unistd.h>
 
-#include <fstream>
 #include <memory>
 #include <sstream>
 #include <stdexcept>
@@ -29,6 +28,7 @@ constexpr std::string_view impostazioni = "Sagomi.ini";
 constexpr std::string_view utenteVuota = "SagomiUtente-vuota.xls"; ///< as installed, without rows
 constexpr std::string_view registro = ".Sagomi.xls.copia";         ///< what is known of the copy
 constexpr std::size_t byteMassimi = std::size_t{64} << 20U;
+constexpr std::size_t byteMassimiRegistro = std::size_t{16} << 20U;
 constexpr const char* cartellaVecchia = "Sagomi"; ///< of older programs, in the configuration folder
 
 bool Scrivibile(const fs::path& cartella) { return access(cartella.c_str(), W_OK | X_OK) == 0; }
@@ -102,9 +102,7 @@ public:
     CopiaStandard(const fs::path& da, const fs::path& a)
         : originale_(FileAccanto(da, cartellaStandard)), copia_(FileAccanto(a, cartellaStandard)),
           registro_(a / registro), adesso_(ImprontaDi(originale_)) {
-        std::ifstream file(registro_);
-        file >> somma_ >> vista_.disco >> vista_.nodo >> vista_.lunghezza >> vista_.secondi >>
-            vista_.nanosecondi;
+        LeggeRegistro();
     }
 
     /// A copy that is there, but cannot be renewed now, is renewed at another start.
@@ -121,6 +119,17 @@ public:
     }
 
 private:
+    /// Where it cannot be read nothing is known of the copy.
+    void LeggeRegistro() {
+        try {
+            std::istringstream riga{std::string(Testo(LeggeFile(registro_, byteMassimiRegistro)))};
+            riga >> somma_ >> vista_.disco >> vista_.nodo >> vista_.lunghezza >> vista_.secondi >>
+                vista_.nanosecondi;
+        } catch (const std::runtime_error&) {
+            somma_.clear();
+        }
+    }
+
     void Confronta(bool manca) {
         const FileLetto nuova = LeggeFile(originale_, byteMassimi);
         const std::string sommaNuova = Somma(nuova);

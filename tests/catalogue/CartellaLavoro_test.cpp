@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -172,6 +173,23 @@ TEST_F(CartellaLavoroTest, AWorkbookOfUnknownOriginIsTheUsers) {
     ScriveByte(dati / ".Sagomi.xls.copia", "non si legge\n");
     ApreCartellaLavoro(bin);
     EXPECT_EQ(Standard(), "portata da altrove");
+}
+
+// Nothing is waited for, and what is unknown of the copy makes it the user's.
+TEST_F(CartellaLavoroTest, APipeOrALongFileInPlaceOfTheRegisterHoldsNoStartUp) {
+    const fs::path registro = dati / ".Sagomi.xls.copia";
+    ApreCartellaLavoro(bin);
+    fs::remove(registro);
+    ASSERT_EQ(mkfifo(registro.c_str(), 0600), 0);
+    Aggiorna("standard 2");
+    EXPECT_EQ(ApreCartellaLavoro(bin).avviso, "");
+    EXPECT_EQ(Standard(), "standard 1");
+    fs::remove(registro);
+    ScriveByte(registro, "");
+    fs::resize_file(registro, std::uintmax_t{2} << 30U); // without blocks on the disk
+    EXPECT_EQ(ApreCartellaLavoro(bin).avviso, "");
+    EXPECT_EQ(Standard(), "standard 1");
+    EXPECT_LT(fs::file_size(registro), 1000U) << "written anew";
 }
 
 // The copy has been renewed, but not what is known of it: the next version is taken over all the same.
