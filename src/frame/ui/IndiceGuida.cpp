@@ -1,18 +1,31 @@
 #include "frame/ui/IndiceGuida.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTextDocumentFragment>
 #include <QWidget>
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "frame/Cartelle.h"
+#include "frame/LetturaFile.h"
 
 namespace sagomi {
 
 namespace {
+
+constexpr std::size_t byteMassimi = std::size_t{16} << 20U;
+
+QString TestoDelFile(const QString& file) {
+    try {
+        const FileLetto read = LeggeFile(file.toStdString(), byteMassimi);
+        return QString::fromUtf8(reinterpret_cast<const char*>(read.byte.data()),
+                                 static_cast<qsizetype>(read.byte.size()));
+    } catch (const std::runtime_error&) {
+        return {};
+    }
+}
 
 QString Piano(const QString& html) {
     return QTextDocumentFragment::fromHtml(html).toPlainText().simplified();
@@ -66,10 +79,8 @@ QStringList Nomi(const QString& name) {
 QString LeggeGuida(const QString& file) {
     const QDir folder(QString::fromStdString(CartellaInstallata().string()));
     for (const QString& name : folder.entryList(QDir::Files))
-        if (name.compare(file, Qt::CaseInsensitive) == 0) {
-            QFile help(folder.filePath(name));
-            return help.open(QIODevice::ReadOnly) ? QString::fromUtf8(help.readAll()) : QString();
-        }
+        if (name.compare(file, Qt::CaseInsensitive) == 0)
+            return TestoDelFile(folder.filePath(name));
     return {};
 }
 

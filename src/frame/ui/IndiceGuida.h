@@ -20,7 +20,7 @@ struct ArgomentoGuida {
 };
 
 /// A help file beside the program, found without regard to the case of its letters; empty where there is none
-/// or it cannot be read.
+/// or it cannot be read, or is longer than 16 MB.
 QString LeggeGuida(const QString& file);
 
 /// Its topics in their order.

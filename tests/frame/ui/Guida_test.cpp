@@ -127,6 +127,14 @@ TEST_F(GuidaTest, JointScreenHasItsOwnFileAndTheIndexKnowsBoth) {
     EXPECT_TRUE(titles("lstIndice").contains("Nodo"));
 }
 
+TEST_F(GuidaTest, AHelpFileOfAnyLengthIsNotRead) {
+    const auto file = std::filesystem::path(PathProgramma) / "GiuntoFlangiato.hlp";
+    std::filesystem::resize_file(file, 16U << 20U);
+    EXPECT_FALSE(LeggeGuida(QStringLiteral("GiuntoFlangiato.hlp")).isEmpty());
+    std::filesystem::resize_file(file, (16U << 20U) + 1);
+    EXPECT_TRUE(LeggeGuida(QStringLiteral("GiuntoFlangiato.hlp")).isEmpty());
+}
+
 // A control without a place of its own leads to the part of the screen that it stands in, then to the screen.
 TEST_F(GuidaTest, PlaceOfAControlIsTheNearestOneAroundIt) {
     Schermo joint(QStringLiteral("frmGiunti"));
