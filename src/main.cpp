@@ -15,6 +15,7 @@
 #include "catalogue/CartellaLavoro.h"
 #include "choice/Comando.h"
 #include "choice/Opzioni.h"
+#include "frame/GeneraleSagomi.h"
 #include "frame/ui/Protetto.h"
 #include "report/ui/PdfRelazione.h"
 #include "screens/ApreFile.h"
@@ -24,10 +25,16 @@ namespace {
 
 using Scelta = std::optional<std::filesystem::path>;
 
+/// Where an answer finds the workbooks; what lies with the program, formulas, is read there.
 std::filesystem::path CartellaComando(const Scelta& chosen) {
     std::error_code none;
     const auto own = std::filesystem::read_symlink("/proc/self/exe", none).parent_path();
-    return sagomi::ApreCartellaLavoro(own, chosen).lavoro;
+    sagomi::CartellaLavoro folders = sagomi::ApreCartellaLavoro(own, chosen);
+    sagomi::PathInstallazione = folders.installazione;
+    std::erase(folders.avviso, '\r');
+    if (!folders.avviso.empty())
+        std::cerr << "sagomi: " << folders.avviso << '\n';
+    return folders.lavoro;
 }
 
 /// What is answered without windows.

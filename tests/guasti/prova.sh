@@ -38,6 +38,13 @@ for cosa in niente cartella pipa; do
   attende 2 "Sagomi.xls" "$work/programma/sagomi" --verifica "HEA 200"
 done
 
+# Installed, for a user whose folder cannot be made: the installed workbook answers.
+mkdir -p "$work/usr/bin" "$work/usr/share/sagomi"
+cp "$bin/sagomi" "$work/usr/bin"
+cp "$bin/Sagomi.xls" "$work/usr/share/sagomi"
+XDG_DATA_HOME=/proc attende 0 "Non è possibile usare la cartella dei dati /proc/sagomi" \
+  "$work/usr/bin/sagomi" --verifica "HEA 200" --N 400
+
 # Without a screen, or with one that does not answer; a typing error is one with a screen, too.
 cieco() { attende 2 "$1" env -u QT_QPA_PLATFORM -u DISPLAY -u WAYLAND_DISPLAY "${@:2}"; }
 cieco "non c'è uno schermo" "$bin/sagomi" giunto.gfl

@@ -36,6 +36,10 @@ cmake --install "$1" --component cartella --prefix "$PWD" >/dev/null
 tail -c 4 SagomiUtente.xls | grep -q mia || fail "the user's sections have gone"
 cp SagomiUtente-vuota.xls SagomiUtente.xls
 
+# Working in another folder it finds the formulas where it lies.
+run ./sagomi "$here/nodo.gfl" --normativa EC3 --cartella "$2/lavori" --pdf "$2/nodo.pdf" || [ $? -eq 1 ]
+pdftotext -layout "$2/nodo.pdf" - | grep -qF "⌈t" || fail "a report without formulas"
+
 # In the menu and out of it; what its entry starts is this program, whatever its path.
 menu=$home/.local/share/applications/org.sagomi.Sagomi.desktop
 run ./nel-menu

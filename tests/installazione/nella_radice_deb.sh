@@ -32,6 +32,13 @@ prova() {
   cmp $data/SagomiUtente.xls /usr/share/sagomi/SagomiUtente.xls
   [ ! -e $data/Sagomi.hlp ] || fail "the help was copied"
 
+  # A joint's report has the formulas of the installation: without them it is shorter.
+  user sagomi /usr/local/share/nodo.gfl --normativa EC3 --pdf /home/prova/nodo.pdf || [ $? -eq 1 ]
+  mv /usr/share/sagomi/FormuleGiunto.rtf /root/
+  user sagomi /usr/local/share/nodo.gfl --normativa EC3 --pdf /home/prova/senza.pdf || [ $? -eq 1 ]
+  mv /root/FormuleGiunto.rtf /usr/share/sagomi/
+  [ "$(stat -c %s /home/prova/nodo.pdf)" -gt "$(stat -c %s /home/prova/senza.pdf)" ] || fail "a report without formulas"
+
   # A newer catalogue is taken over, one that the user has changed stays.
   echo >>/usr/share/sagomi/Sagomi.xls
   user sagomi --verifica "HEA 200" >/dev/null || true

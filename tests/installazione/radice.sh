@@ -13,6 +13,7 @@ mount -t proc proc "$root/proc"
 cp /etc/resolv.conf "$root/etc/"
 mkdir -m 1777 -p "$root/tmp/.X11-unix"
 install -m 755 "$here"/apre_e_chiude.sh "$here"/nella_radice_*.sh "$root/usr/local/bin/"
+install -D -m 644 "$here/nodo.gfl" "$root/usr/local/share/nodo.gfl"
 cp "$2" "$root/root/"
 chroot "$root" useradd --create-home prova
 export LANG=C.UTF-8 HOME=/root DEBIAN_FRONTEND=noninteractive
