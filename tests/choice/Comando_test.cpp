@@ -12,6 +12,7 @@
 
 #include "choice/Opzioni.h"
 #include "choice/Scelta.h"
+#include "frame/Ambiente.h"
 #include "frame/GeneraleSagomi.h"
 
 using namespace sagomi;
@@ -203,8 +204,8 @@ TEST_F(ComandoTest, AJobSearchesInItsFamiliesAlone) {
 
 // The user's own workbook is a text: the families of the other are there all the same.
 TEST_F(ComandoTest, AFamilyWhoseSheetCannotBeReadIsToldSo) {
-    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "ComandoTest";
-    std::filesystem::create_directories(folder);
+    const prove::CartellaDiProva prova;
+    const std::filesystem::path folder = prova.percorso;
     std::filesystem::copy_file(std::filesystem::path(SAGOMI_BIN) / "Sagomi.xls", folder / "Sagomi.xls",
                                std::filesystem::copy_options::overwrite_existing);
     std::ofstream(folder / "SagomiUtente.xls") << "ciao";
@@ -214,7 +215,6 @@ TEST_F(ComandoTest, AFamilyWhoseSheetCannotBeReadIsToldSo) {
     EXPECT_TRUE(Dice("nessuna riga della famiglia")) << uscita.str();
     EXPECT_TRUE(Dice("SagomiUtente.xls")) << uscita.str();
     EXPECT_EQ(Righe(), 2);
-    std::filesystem::remove_all(folder);
 }
 
 struct Errato {

@@ -10,6 +10,7 @@
 #include "Registratore.h"
 #include "choice/Comando.h"
 #include "choice/Opzioni.h"
+#include "frame/Ambiente.h"
 #include "frame/FileDati.h"
 #include "joints/NodoDaFile.h"
 #include "report/ScritturaPdf.h"
@@ -29,16 +30,9 @@ std::string Byte(const fs::path& file) {
 
 class FileRelazioneTest : public testing::Test {
 protected:
-    void SetUp() override {
-        cartella =
-            fs::path(testing::TempDir()) /
-            (std::string("relazione_") + testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::create_directories(cartella);
-    }
     void TearDown() override {
         RipristinaGenerale();
         ImpostaScritturaPdf({});
-        fs::remove_all(cartella);
     }
 
     int Esegue(const std::vector<std::string>& argomenti) {
@@ -66,7 +60,8 @@ protected:
         return file.string();
     }
 
-    fs::path cartella;
+    CartellaDiProva prova;
+    fs::path cartella = prova.percorso;
     std::ostringstream uscita, errori;
 };
 

@@ -14,6 +14,7 @@
 #include "choice/Comando.h"
 #include "choice/Opzioni.h"
 #include "choice/Scelta.h"
+#include "frame/Ambiente.h"
 #include "frame/GeneraleSagomi.h"
 
 using namespace sagomi;
@@ -137,8 +138,8 @@ TEST_F(ScritturaSceltaTest, ARowSaysWhyItDoesNotHold) {
 
 // The user's own workbook is a text: that is told, and the table of CSV stays one.
 TEST_F(ScritturaSceltaTest, WhatIsToldStandsBesideATableOfCsv) {
-    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "ScritturaSceltaTest";
-    std::filesystem::create_directories(folder);
+    const prove::CartellaDiProva prova;
+    const std::filesystem::path folder = prova.percorso;
     std::filesystem::copy_file(std::filesystem::path(SAGOMI_BIN) / "Sagomi.xls", folder / "Sagomi.xls",
                                std::filesystem::copy_options::overwrite_existing);
     std::ofstream(folder / "SagomiUtente.xls") << "ciao";
@@ -153,7 +154,6 @@ TEST_F(ScritturaSceltaTest, WhatIsToldStandsBesideATableOfCsv) {
         EXPECT_EQ(uscita.str().find("SagomiUtente"), std::string::npos);
         EXPECT_TRUE(errori.str().starts_with("avviso: ")) << errori.str();
     }
-    std::filesystem::remove_all(folder);
 }
 
 /// The fields of a line of CSV without quotation marks.

@@ -1,6 +1,7 @@
 // The command "Relazione PDF..." of the check screens.
 #include <QFile>
 #include <QMenu>
+#include <QTemporaryDir>
 
 #include "frame/ui/FileDialogo.h"
 #include "report/RelazioneSagomo.h"
@@ -44,7 +45,8 @@ protected:
         return Aperto(nome);
     }
 
-    QString file = QString::fromStdString(testing::TempDir()) + "Relazione_test.pdf";
+    QTemporaryDir prova;
+    QString file = prova.filePath("Relazione_test.pdf");
     QString proposto, nomeProposto;
     std::optional<SceltaRelazione> scelta = SceltaRelazione{MetaRelazione::Pdf, "Capannone"};
 };

@@ -6,6 +6,7 @@
 #include "choice/Comando.h"
 #include "drawing/Dxf.h"
 #include "drawing/Grafica.h"
+#include "frame/Ambiente.h"
 #include "screens/Comandi.h"
 #include "screens/PlottaSezioneCorrente.h"
 
@@ -22,17 +23,10 @@ std::string Byte(const fs::path& file) {
 
 class ComandoSchermiTest : public AmbienteSchermi {
 protected:
-    void SetUp() override {
-        AmbienteSchermi::SetUp();
-        fs::create_directories(cartella);
-    }
-    void TearDown() override {
-        fs::remove_all(cartella);
-        AmbienteSchermi::TearDown();
-    }
     [[nodiscard]] std::string Via(const char* nome) const { return (cartella / nome).string(); }
 
-    fs::path cartella = fs::path(testing::TempDir()) / "ComandoSchermiTest";
+    CartellaDiProva prova;
+    fs::path cartella = prova.percorso;
 };
 
 TEST_F(ComandoSchermiTest, ADrawingOfASectionIsThatOfItsScreen) {

@@ -12,6 +12,7 @@
 
 #include "Registratore.h"
 #include "choice/Comando.h"
+#include "frame/Ambiente.h"
 #include "frame/FileDati.h"
 #include "joints/NodoDaFile.h"
 #include "report/Relazione.h"
@@ -38,13 +39,9 @@ protected:
     void SetUp() override {
         if (std::string(SAGOMI_PDFTOTEXT).find('/') == std::string::npos)
             GTEST_SKIP() << "no pdftotext";
-        fs::create_directories(cartella);
         ImpostaPdfRelazione();
     }
-    void TearDown() override {
-        RipristinaGenerale();
-        fs::remove_all(cartella);
-    }
+    void TearDown() override { RipristinaGenerale(); }
 
     /// The text of the PDF that a command writes.
     std::string Pdf(std::vector<std::string> argomenti) {
@@ -67,7 +64,8 @@ protected:
             EXPECT_TRUE(std::regex_search(testo, std::regex(atteso))) << atteso << '\n' << testo;
     }
 
-    fs::path cartella = fs::path(testing::TempDir()) / "PdfRelazioneTest";
+    CartellaDiProva prova;
+    fs::path cartella = prova.percorso;
     int esito = -1;
 };
 
