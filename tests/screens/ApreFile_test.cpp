@@ -1,5 +1,7 @@
 #include "screens/ApreFile.h"
 
+#include <QLineEdit>
+
 #include "screens/Comandi.h"
 
 using namespace sagomi;
@@ -13,6 +15,15 @@ TEST_F(ApreFileTest, AFileOfABeamOpensOnItsScreen) {
     Avvia();
     EXPECT_TRUE(ApreFile(QStringLiteral(SAGOMI_TEST_DATA "/composite/piena.sco")));
     EXPECT_EQ(Aperto("frmAcciaioCls").windowTitle(), "AcciaioCls/Flessione - File: piena.sco");
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(ApreFileTest, AFileOfAJointOpensOnItsScreen) {
+    Avvia();
+    EXPECT_TRUE(ApreFile(QStringLiteral(SAGOMI_TEST_DATA "/joints/nodo.Gfl")));
+    Schermo& g = Aperto("frmGiunti");
+    EXPECT_EQ(g.windowTitle(), "Giunto Flangiato - F1 per aiuto - File: nodo.Gfl");
+    EXPECT_EQ(Trova<QLineEdit>(&g, "TxtDescrizione")->text(), "Nodo di prova, però leggero");
     EXPECT_TRUE(registratore.testi.empty());
 }
 
