@@ -101,13 +101,29 @@ void Bullone::CalcolaResistenzaTaglio() {
         FvRdFilettata = 0.6 * fub * Ares / GammaM2;
     } else if (Contiene(classi05, Classe_)) {
         FvRdFilettata = 0.5 * fub * Ares / GammaM2;
-        if (d_ < diametroMedio && do_ - d_ > 1)
+        if (GrandeGioco())
             FvRdFilettata *= giocoRidotto;
     } else {
         Avvisa("Classe bullone non implementata");
     }
     Ataglio = Gambo ? Alorda : Ares;
     FvRd = Gambo ? FvRdGambo : FvRdFilettata;
+}
+
+bool Bullone::GrandeGioco() const { return d_ < diametroMedio && do_ - d_ > 1; }
+
+double Bullone::alfaV() const { return !Gambo && Contiene(classi05, Classe_) ? 0.5 : 0.6; }
+
+double Bullone::FattoreGioco() const {
+    return !Gambo && Contiene(classi05, Classe_) && GrandeGioco() ? giocoRidotto : 1;
+}
+
+double Bullone::FattoreBordo() const {
+    return e2.Stretto() < MultiploForo(1.5).Stretto() ? RiduzioneBordo() : 1;
+}
+
+double Bullone::FattorePasso() const {
+    return p2.Stretto() < MultiploForo(3).Stretto() ? RiduzionePasso() : 1;
 }
 
 // ENV 1993-1-1 7.5.2 (1).
@@ -167,10 +183,8 @@ void Bullone::RifollamentoCalcola() {
         FbRd = 0;
         return;
     }
-    if (e2.Stretto() < MultiploForo(1.5).Stretto())
-        FbRd *= RiduzioneBordo();
-    if (p2.Stretto() < MultiploForo(3).Stretto())
-        FbRd *= RiduzionePasso();
+    FbRd *= FattoreBordo();
+    FbRd *= FattorePasso();
 }
 
 } // namespace sagomi

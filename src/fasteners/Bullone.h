@@ -82,6 +82,15 @@ public:
     /// the table does not hold is told in a message and leaves FvRdFilettata as it was.
     void CalcolaResistenzaTaglio();
 
+    /// Share of fub that the sheared area bears [-], table 6.5.3: 0.6, on the thread of classes 4.8, 5.8, 6.8
+    /// and 10.9 0.5.
+    [[nodiscard]] double alfaV() const;
+    /// Factor of FvRd for the play of the hole, 6.5.5 (8), and of FbRd for e2 and p2, 6.5.5 (10) [-]; 1 where
+    /// nothing is reduced.
+    [[nodiscard]] double FattoreGioco() const;
+    [[nodiscard]] double FattoreBordo() const;
+    [[nodiscard]] double FattorePasso() const;
+
     /// Hole of standard play for the diameter [mm], 7.5.2 (1).
     [[nodiscard]] Singolo DiametroForoStandard() const;
 
@@ -103,6 +112,8 @@ public:
 private:
     /// The multiple of the hole's diameter that a distance is held against, in single precision.
     [[nodiscard]] Singolo MultiploForo(double n) const { return n * do_; }
+    /// The hole of a bolt below M15 is larger than the standard one.
+    [[nodiscard]] bool GrandeGioco() const;
     /// Reductions of the bearing resistance for a narrow edge (e2) and a narrow gauge (p2) [-].
     [[nodiscard]] double RiduzioneBordo() const;
     [[nodiscard]] double RiduzionePasso() const;

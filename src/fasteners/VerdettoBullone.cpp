@@ -49,7 +49,9 @@ VerdettoBullone Giudica(const Bullone& b) {
     if (!(b.FvRd > 0 && b.FtRd > 0))
         return v;
     const TerminiTaglioTrazione sum = b.TerminiInterazione();
-    v.utilizzo = sum.Somma();
+    v.interazione = sum.Somma();
+    v.trazione = b.FtSd / b.FtRd;
+    v.utilizzo = v.interazione;
     v.governa = Maggiore(sum);
     const auto considera = [&v](double utilizzo, TermineBullone termine) {
         if (utilizzo <= v.utilizzo || std::isnan(v.utilizzo))
@@ -57,11 +59,12 @@ VerdettoBullone Giudica(const Bullone& b) {
         v.utilizzo = utilizzo;
         v.governa = termine;
     };
-    considera(b.FtSd / b.FtRd, TermineBullone::Trazione);
+    considera(v.trazione, TermineBullone::Trazione);
     v.motivoTaglio = Supera("Fv,Sd", b.FvSd, "Fv,Rd", b.FvRd);
     v.motivoTrazione = Supera("Ft,Sd", b.FtSd, "Ft,Rd", b.FtRd);
     if (ConPiastra(b)) {
-        considera(Utilizzo(b.FvSd, b.FbRd), TermineBullone::Rifollamento);
+        v.rifollamento = Utilizzo(b.FvSd, b.FbRd);
+        considera(v.rifollamento, TermineBullone::Rifollamento);
         v.motivoTaglio = Unisce(v.motivoTaglio, Supera("Fv,Sd", b.FvSd, "Fb,Rd", b.FbRd));
     }
     return v;

@@ -16,9 +16,13 @@ struct VerdettoBullone {
     /// Held against 1: the largest of the sum and the forces over their own resistances. No number where a
     /// resistance is not above 0, which has no verdict.
     double utilizzo = std::numeric_limits<double>::quiet_NaN();
-    TermineBullone governa = TermineBullone::Nessuno; ///< none where nothing acts
-    std::string motivoTaglio;                         ///< why the shear force alone is too much; else empty
-    std::string motivoTrazione;                       ///< the same of the tension force
+    // What it is the largest of; no number for none.
+    double interazione = std::numeric_limits<double>::quiet_NaN();  ///< the sum
+    double trazione = std::numeric_limits<double>::quiet_NaN();     ///< tension alone
+    double rifollamento = std::numeric_limits<double>::quiet_NaN(); ///< shear against bearing
+    TermineBullone governa = TermineBullone::Nessuno;               ///< none where nothing acts
+    std::string motivoTaglio;   ///< why the shear force alone is too much; else empty
+    std::string motivoTrazione; ///< the same of the tension force
 
     /// Both reasons in one line.
     [[nodiscard]] std::string Motivo() const;

@@ -29,6 +29,12 @@ inline std::string Cifre(const NumeroMostrato& v) {
     return testo;
 }
 
+/// Four figures to stand in a formula: without separators of thousands.
+inline std::string InFormula(double v) {
+    constexpr double mille = 1000;
+    return v <= -mille || v >= mille ? Intero(v) : Cifre(v);
+}
+
 /// The steps of a chapter.
 inline PassoRelazione Dato(std::string descrizione, std::string simbolo, std::string valore,
                            std::string unita = {}, std::string norma = {}) {

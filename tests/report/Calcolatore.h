@@ -1,0 +1,95 @@
+#pragma once
+
+#include <cmath>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace sagomi::prove {
+
+/// Works out what a report prints as a formula with its numbers put in, as "√(235 / 275) · 10^{-3}".
+class Calcolatore {
+public:
+    /// @throws std::invalid_argument on what is no such formula
+    static double Valore(std::string_view formula) {
+        Calcolatore c(formula);
+        const double v = c.Somma();
+        c.Salta();
+        if (!c.resto_.empty())
+            throw std::invalid_argument(std::string(formula));
+        return v;
+    }
+
+private:
+    explicit Calcolatore(std::string_view formula) : resto_(formula) {}
+
+    void Salta() {
+        while (resto_.starts_with(' '))
+            resto_.remove_prefix(1);
+    }
+    bool Prende(std::string_view segno) {
+        Salta();
+        if (!resto_.starts_with(segno))
+            return false;
+        resto_.remove_prefix(segno.size());
+        return true;
+    }
+    double Somma() {
+        double v = Prodotto();
+        while (true) {
+            if (Prende("+"))
+                v += Prodotto();
+            else if (Prende("−") || Prende("-"))
+                v -= Prodotto();
+            else
+                return v;
+        }
+    }
+    double Prodotto() {
+        double v = Potenza();
+        while (true) {
+            if (Prende("·"))
+                v *= Potenza();
+            else if (Prende("/"))
+                v /= Potenza();
+            else
+                return v;
+        }
+    }
+    double Potenza() {
+        double v = Fattore();
+        while (Prende("^{"))
+            v = std::pow(v, Chiusa("}"));
+        return v;
+    }
+    double Fattore() {
+        if (Prende("−") || Prende("-"))
+            return -Potenza();
+        if (Prende("√"))
+            return std::sqrt(Fattore());
+        if (Prende("("))
+            return Chiusa(")");
+        if (Prende("["))
+            return Chiusa("]");
+        return Numero();
+    }
+    double Chiusa(std::string_view fine) {
+        const double v = Somma();
+        if (!Prende(fine))
+            throw std::invalid_argument(std::string(resto_));
+        return v;
+    }
+    double Numero() {
+        Salta();
+        const std::size_t lungo = std::min(resto_.find_first_not_of("0123456789."), resto_.size());
+        if (lungo == 0)
+            throw std::invalid_argument(std::string(resto_));
+        const double v = std::stod(std::string(resto_.substr(0, lungo)));
+        resto_.remove_prefix(lungo);
+        return v;
+    }
+
+    std::string_view resto_;
+};
+
+} // namespace sagomi::prove
