@@ -3,8 +3,10 @@
 #include <cmath>
 #include <utility>
 
+#include "frame/Acciaio.h"
 #include "frame/Cartelle.h"
 #include "frame/FileDati.h"
+#include "frame/GeneraleSagomi.h"
 #include "frame/LetturaFile.h"
 #include "frame/Messaggi.h"
 #include "joints/DisegnoNodo.h"
@@ -19,6 +21,8 @@
 namespace sagomi {
 
 namespace {
+
+using Passi = std::vector<PassoRelazione>;
 
 /// Without blanks and dashes around it.
 std::string Nudo(std::string_view testo, std::string_view tolti = " -") {
@@ -82,7 +86,7 @@ void AggiungeVoci(Relazione& r, const Nodo& nodo, int indice, const std::string&
 }
 
 /// The steps of the check, made anew where the joint has none; empty where they lead elsewhere.
-TracciaGiunto Passi(const Giunto& giunto) {
+TracciaGiunto PassiDi(const Giunto& giunto) {
     if (!giunto.Traccia.empty() || !giunto.Acquisito)
         return giunto.Traccia;
     const MessaggiTaciuti silenzio;
@@ -201,7 +205,7 @@ void AggiungePassi(Relazione& r, const Giunto& giunto, const std::string& lato) 
     CapitoloRelazione c{.titolo = "Passi del calcolo, giunto " + lato};
     const std::string rtf = Formule();
     std::string_view componente;
-    for (const PassoGiunto& p : Passi(giunto)) {
+    for (const PassoGiunto& p : PassiDi(giunto)) {
         if (p.nome == "TipoMessaggio" ||
             (!p.testo.empty() && p.testo.find_first_not_of(" ") == std::string::npos))
             continue;
@@ -246,6 +250,70 @@ void AggiungeVerdetti(Relazione& r, const Giunto& giunto, const std::string& lat
         r.capitoli.push_back(std::move(taglio));
 }
 
+const char* Tipo(const Nodo& nodo) {
+    switch (nodo.Tipovie) {
+    case nodoCroce:
+        return "due travi, con colonna superiore";
+    case nodoCroceSenzaColonna:
+        return "due travi, senza colonna superiore";
+    case nodoT:
+        return "una trave, con colonna superiore";
+    default:
+        return "una trave, senza colonna superiore";
+    }
+}
+
+const char* Irrigidimenti(const Giunto& g) {
+    return g.Irrigidimenti == "Si"   ? "con irrigidimenti"
+           : g.Irrigidimenti == "Cp" ? "irrigidimento in zona compressa"
+                                     : "senza irrigidimenti";
+}
+
+std::string Figura(double v) { return Formato("0.0##", v); }
+
+/// Name, grade and strengths of a section, and the actions, which a node holds in kN and kNm.
+void AggiungeSagomo(Passi& p, const std::string& ruolo, const SezioneDoppioT& s) {
+    p.push_back(Dato(ruolo, "", s.Designation));
+    if (const std::string acciaio = AcciaioMostrato(s.TipoAcciaio, s.fy); !acciaio.empty())
+        p.push_back(Dato(ruolo + ", acciaio", "", acciaio));
+    p.push_back(Dato(ruolo + ", tensione di snervamento", "f{y}", Piano(s.fy), "N/mm^{2}"));
+    p.push_back(Dato(ruolo + ", tensione di rottura", "f{u}", Piano(s.fu), "N/mm^{2}"));
+    p.push_back(Dato(ruolo + ", forza assiale", "N{Sd}", Figura(s.Nsd()), "kN"));
+    p.push_back(Dato(ruolo + ", momento", "M{Sd}", Figura(s.Mysd), "kNm"));
+    p.push_back(Dato(ruolo + ", taglio", "V{Sd}", Figura(s.Vsd()), "kN"));
+}
+
+void AggiungeGiunto(Passi& p, const Giunto& g, const std::string& lato) {
+    const std::string ruolo = lato == "destro" ? "Trave destra" : "Trave sinistra";
+    if (g.Trave) {
+        AggiungeSagomo(p, ruolo, *g.Trave);
+        p.push_back(Dato(ruolo + ", luce", "L", Figura(g.Trave->lunghezza()), "m"));
+    }
+    p.push_back(Dato("Giunto " + lato + ", classe dei bulloni", "", g.Classe));
+    p.push_back(
+        Dato("Giunto " + lato + ", tensione di rottura dei bulloni", "f{ub}", Piano(g.fubl), "N/mm^{2}"));
+    p.push_back(Dato("Giunto " + lato + ", anima della colonna", "", Irrigidimenti(g)));
+    p.push_back(Dato("Giunto " + lato + ", taglio nel pannello d'anima", "β",
+                     g.Beta_Cautel ? "cautelativo" : "analitico", "", "ENV 1993-1-1 annesso J"));
+}
+
+/// What was entered.
+CapitoloRelazione CapitoloDati(const Nodo& nodo) {
+    CapitoloRelazione c{.titolo = "Dati"};
+    c.passi = {Dato("Nodo", "", Tipo(nodo)), Dato("Normativa", "", NomeNormativa()),
+               Dato("Coefficiente parziale, resistenza", "γ{M0}", Piano(GammaM0)),
+               Dato("Coefficiente parziale, instabilità", "γ{M1}", Piano(GammaM1)),
+               Dato("Coefficiente parziale, collegamenti", "γ{M2}", Piano(GammaM2))};
+    if (nodo.Colonnainf)
+        AggiungeSagomo(c.passi, "Colonna", *nodo.Colonnainf);
+    if (nodo.Tipovie == nodoCroce || nodo.Tipovie == nodoT)
+        c.passi.push_back(Dato("Colonna superiore, taglio", "V{Sd,sup}", Figura(nodo.VColSup), "kN"));
+    for (int i = 1; i <= nodo.NumeroGiunti; ++i)
+        if (const auto& giunto = nodo.Giunti[i].Riferimento())
+            AggiungeGiunto(c.passi, *giunto, i == 1 ? "destro" : "sinistro");
+    return c;
+}
+
 std::string Nome(const Nodo& nodo) {
     std::string nome;
     for (const SezioneDoppioT* s :
@@ -262,6 +330,7 @@ Relazione RelazioneNodo(const Nodo& nodo, const std::string& descrizione) {
                 .oggetto = descrizione.empty() ? Nome(nodo) : descrizione};
     r.maschera = "frmGiunti";
     r.disegno = nodo.ConnessioneCorrente ? DisegnoNodo(nodo) : Disegno();
+    r.capitoli.push_back(CapitoloDati(nodo));
     for (int i = 1; i <= nodo.NumeroGiunti; ++i) {
         const std::string lato = i == 1 ? "destro" : "sinistro";
         AggiungeVoci(r, nodo, i, lato);

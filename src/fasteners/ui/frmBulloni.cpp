@@ -89,7 +89,9 @@ frmBulloni::frmBulloni() : Schermo(QStringLiteral("frmBulloni")), ui_(new Ui::fr
     AggiungeRelazione(*this, [this] {
         const bool some =
             bullone_ && !ui_->Txt_FVRd->text().isEmpty() && !Txt_Rif_[rifResistenza]->text().isEmpty();
-        return some ? RelazioneBullone(*bullone_, ui_->Txt_TipoAcciaio->text().toStdString()) : Relazione();
+        return some ? RelazioneBullone(*bullone_, ui_->Txt_TipoAcciaio->text().toStdString(),
+                                       !ui_->Lbl_Risultato_1->text().isEmpty())
+                    : Relazione();
     });
     DimensionaIniziale({}); // the status line has its room by now
 }

@@ -114,8 +114,10 @@ void MostraAnteprima(Schermo& screen, const Relazione& r) {
     printer.setPageSize(QPageSize(QPageSize::A4));
     QPrintPreviewDialog preview(&printer, &screen);
     preview.setWindowTitle(QString::fromStdString(r.titolo + ": " + r.oggetto));
-    Collega(&preview, &QPrintPreviewDialog::paintRequested, &preview,
-            [&r](QPrinter* paper) { StampaRelazioneSu(*paper, r); });
+    Collega(&preview, &QPrintPreviewDialog::paintRequested, &preview, [&r](QPrinter* paper) {
+        if (!StampaRelazioneSu(*paper, r))
+            Avvisa("La stampante non accetta la relazione.");
+    });
     preview.exec();
 }
 
