@@ -1,6 +1,5 @@
 #include "choice/RelazioneVerifica.h"
 
-#include <cmath>
 #include <type_traits>
 
 #include "report/CapitoliSagomo.h"
@@ -32,7 +31,7 @@ void AggiungeCapitoli(Relazione& relazione, const SezioneDoppioT& s, const Sagom
     c.push_back(CapitoloSezione(sezione));
     c.push_back(CapitoloInstabilita(s, {e.CurvaY, e.CurvaZ}));
     c.push_back(CapitoloMembratura(s));
-    if (!std::isnan(e.riga.MbRd))
+    if (r.LLT || r.L0z > 0)
         c.push_back(CapitoloSvergolamento(s));
 }
 

@@ -150,24 +150,70 @@ void AggiungePlastica(Passi& p, const SezioneDoppioT& s, const TerminiInterazion
     p.push_back({.descrizione = "Interazione",
                  .simbolo = "",
                  .formula = "(M{y,Sd} / M{N,y,Rd})^{α} + (M{z,Sd} / M{N,z,Rd})^{β}",
-                 .numeri = "(" + KiloMetri(t.y.MSd) + " / " + KiloMetri(t.y.MRd) + ")^{" +
-                           Piano(t.y.esponente) + "} + (" + KiloMetri(t.z.MSd) + " / " + KiloMetri(t.z.MRd) +
-                           ")^{" + Rapporto(t.z.esponente) + "}",
+                 .numeri = v.assialeOltre ? std::string()
+                                          : "(" + KiloMetri(t.y.MSd) + " / " + KiloMetri(t.y.MRd) + ")^{" +
+                                                Piano(t.y.esponente) + "} + (" + KiloMetri(t.z.MSd) + " / " +
+                                                KiloMetri(t.z.MRd) + ")^{" + Rapporto(t.z.esponente) + "}",
                  .valore = Rapporto(v.somma),
                  .norma = norma + " (6)"});
+}
+
+PassoRelazione MomentoElastico(const std::string& asse, double Wel, Singolo fy, double MRd) {
+    return {.descrizione = "Momento elastico intorno a " + asse + "-" + asse,
+            .simbolo = "M{el," + asse + ",Rd}",
+            .formula = "W{el," + asse + "} f{y} / γ{M0}",
+            .numeri = Intero(Wel) + " · " + Piano(fy) + " / " + Piano(GammaM0) + " · 10^{-6}",
+            .valore = KiloMetri(MRd),
+            .unita = "kNm",
+            .norma = "EC3 6.2.5"};
+}
+
+/// Shear areas of ENV 1993-1-1 5.4.6 (2).
+PassoRelazione TaglioAnima(const SezioneDoppioT& s) {
+    const std::string h = Piano(s.h), b = Piano(s.b), tw = Piano(s.tw), tf = Piano(s.tf);
+    return {.descrizione = "Resistenza a taglio dell'anima",
+            .simbolo = "V{pl,y,Rd}",
+            .formula = std::string(s.Saldata ? "(h − 2 t{f}) t{w}" : "[A − 2 b t{f} + (t{w} + 2 r) t{f}]") +
+                       " f{y} / (√3 γ{M0})",
+            .numeri = (s.Saldata ? "(" + h + " − 2 · " + tf + ") · " + tw
+                                 : "[" + Intero(s.Area) + " − 2 · " + b + " · " + tf + " + (" + tw +
+                                       " + 2 · " + Piano(s.r1) + ") · " + tf + "]") +
+                      " · " + Piano(s.fy) + " / (√3 · " + Piano(GammaM0) + ") · 10^{-3}",
+            .valore = Kilo(s.VplyRd),
+            .unita = "kN",
+            .norma = "ENV 1993-1-1 5.4.6"};
+}
+
+PassoRelazione TaglioAli(const SezioneDoppioT& s) {
+    return {.descrizione = "Resistenza a taglio delle ali",
+            .simbolo = "V{pl,z,Rd}",
+            .formula = "2 b t{f} f{y} / (√3 γ{M0})",
+            .numeri = "2 · " + Piano(s.b) + " · " + Piano(s.tf) + " · " + Piano(s.fy) + " / (√3 · " +
+                      Piano(GammaM0) + ") · 10^{-3}",
+            .valore = Kilo(s.VplzRd),
+            .unita = "kN",
+            .norma = "ENV 1993-1-1 5.4.6"};
+}
+
+/// A shift; of a section that is whole in bending about that axis it is 0.
+PassoRelazione Spostamento(const char* descrizione, const char* simbolo, bool efficace, const char* formula,
+                           double mm) {
+    return {.descrizione = descrizione,
+            .simbolo = simbolo,
+            .formula = efficace ? formula : "",
+            .valore = Cifre(mm),
+            .unita = "mm",
+            .norma = "EC3 6.2.9.3"};
 }
 
 /// Classes 3 and 4: the terms add up; of class 4 the moments have that of the shifted centroid.
 void AggiungeElastica(Passi& p, const SezioneDoppioT& s, const TerminiInterazione& t, const Verdetto& v) {
     const bool classe4 = s.ClassePressoFlessione > 3;
     if (classe4) {
-        p.push_back(Dato("Spostamento del baricentro lungo l'anima", "e{Ny}", Cifre(s.eNy), "mm"));
-        p.push_back(Dato("Spostamento del baricentro lungo le ali", "e{Nz}", Cifre(s.eNz), "mm"));
+        AggiungeSpostamenti(p, s);
     } else {
-        p.push_back(
-            Dato("Momento elastico intorno a y-y", "M{el,y,Rd}", KiloMetri(t.y.MRd), "kNm", "EC3 6.2.5"));
-        p.push_back(
-            Dato("Momento elastico intorno a z-z", "M{el,z,Rd}", KiloMetri(t.z.MRd), "kNm", "EC3 6.2.5"));
+        p.push_back(MomentoElastico("y", s.Wely, s.fy, t.y.MRd));
+        p.push_back(MomentoElastico("z", s.Welz, s.fy, t.z.MRd));
     }
     const std::string formula = classe4
                                     ? "N{Sd} / N{pl,Rd} + (M{y,Sd} + N{Sd} e{Ny}) / M{c,y,Rd} + (M{z,Sd} + "
@@ -183,6 +229,13 @@ void AggiungeElastica(Passi& p, const SezioneDoppioT& s, const TerminiInterazion
 }
 
 } // namespace
+
+void AggiungeSpostamenti(Passi& p, const SezioneDoppioT& s) {
+    p.push_back(Spostamento("Baricentro della sezione efficace, spostamento lungo l'anima", "e{Ny}",
+                            s.ClasseFlessioneY > 3, "h / 2 − y{G,eff}", s.eNy));
+    p.push_back(Spostamento("Baricentro della sezione efficace, spostamento lungo le ali", "e{Nz}",
+                            s.ClasseFlessioneZ > 3, "−x{G,eff}", s.eNz));
+}
 
 CapitoloRelazione CapitoloDati(const SezioneDoppioT& s) {
     CapitoloRelazione c{.titolo = "Dati del sagomo"};
@@ -291,10 +344,8 @@ CapitoloRelazione CapitoloResistenze(const SezioneDoppioT& s) {
                        .norma = "ENV 1993-1-1 5.4.4"});
     c.passi.push_back(Momento(true, s.ClasseFlessioneY, s.Wply, s.Wely, s.WyEff, s.fy, s.McyRd));
     c.passi.push_back(Momento(false, s.ClasseFlessioneZ, s.Wplz, s.Welz, s.WzEff, s.fy, s.MczRd));
-    c.passi.push_back(
-        Dato("Resistenza a taglio dell'anima", "V{pl,y,Rd}", Kilo(s.VplyRd), "kN", "ENV 1993-1-1 5.4.6"));
-    c.passi.push_back(
-        Dato("Resistenza a taglio delle ali", "V{pl,z,Rd}", Kilo(s.VplzRd), "kN", "ENV 1993-1-1 5.4.6"));
+    c.passi.push_back(TaglioAnima(s));
+    c.passi.push_back(TaglioAli(s));
     return c;
 }
 

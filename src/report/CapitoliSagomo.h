@@ -30,6 +30,9 @@ CapitoloRelazione CapitoloResistenze(const SezioneDoppioT& s);
 /// Axial force with bending on the section, EC3 6.2.9. ClassePressoFlessioneCalcola has run.
 CapitoloRelazione CapitoloSezione(const SezioneDoppioT& s);
 
+/// Shifts of the centroid of a section of class 4.
+void AggiungeSpostamenti(std::vector<PassoRelazione>& passi, const SezioneDoppioT& s);
+
 /// A verdict of the model as a report has it.
 VerdettoRelazione VerdettoDi(const Verdetto& v, std::string verifica, std::string norma);
 

@@ -78,7 +78,9 @@ CapitoloRelazione CapitoloColonne() { return {.titolo = "Instabilità per compre
 /// mu, k and the resistance about one axis of the interaction.
 struct AsseMembratura {
     std::string asse;
-    double lamda, BetaM, mu, k, NbRd, McRd;
+    double BetaM, mu, k, NbRd;
+    bool elastico; ///< the moment is the elastic one
+    double McRd;
     const TermineMomento& termine;
 };
 
@@ -101,7 +103,7 @@ void Aggiunge(Passi& p, const SezioneDoppioT& s, const AsseMembratura& m) {
                            " / (" + Piano(GammaM1) + " · " + Kilo(m.NbRd) + ")",
                  .valore = Formato("0.0##", m.k),
                  .norma = interazione});
-    const std::string momento = (elastica ? "M{el," : "M{c,") + a + ",Rd}";
+    const std::string momento = (m.elastico ? "M{el," : "M{c,") + a + ",Rd}";
     p.push_back({.descrizione = "Momento resistente della classe, con γ{M1}",
                  .simbolo = "M{" + a + ",Rd}",
                  .formula = "γ{M0} " + momento + " / γ{M1}",
@@ -250,12 +252,12 @@ CapitoloRelazione CapitoloMembratura(const SezioneDoppioT& s) {
     const TerminiInterazione t = s.TerminiMNInstab();
     const bool elastica = s.ClassePressoFlessione >= 3;
     const bool classe4 = s.ClassePressoFlessione > 3;
-    Aggiunge(
-        c.passi, s,
-        {"y", s.LamdaSegnatoY(), s.BetaMy, s.muY(), s.kY(), s.NbyRd, elastica ? s.MelyRd : s.McyRd, t.y});
-    Aggiunge(
-        c.passi, s,
-        {"z", s.LamdaSegnatoZ(), s.BetaMz, s.muZ(), s.kZ(), s.NbzRd, elastica ? s.MelzRd : s.MczRd, t.z});
+    Aggiunge(c.passi, s,
+             {"y", s.BetaMy, s.muY(), s.kY(), s.NbyRd, elastica, elastica ? s.MelyRd : s.McyRd, t.y});
+    Aggiunge(c.passi, s,
+             {"z", s.BetaMz, s.muZ(), s.kZ(), s.NbzRd, elastica, elastica ? s.MelzRd : s.MczRd, t.z});
+    if (classe4)
+        AggiungeSpostamenti(c.passi, s);
     const Verdetto v = GiudicaInstabilita(s);
     const std::string norma = NormaInterazione(s.ClassePressoFlessione, "(1)", "(3)", "(5)");
     c.passi.push_back(
@@ -271,13 +273,19 @@ CapitoloRelazione CapitoloMembratura(const SezioneDoppioT& s) {
     return c;
 }
 
-CapitoloRelazione CapitoloSvergolamento(const SezioneDoppioT& s) {
+CapitoloRelazione CapitoloSvergolamento(const SezioneDoppioT& s, bool conAsseZ) {
     CapitoloRelazione c{.titolo = "Verifica allo svergolamento"};
     AggiungeMcr(c.passi, s);
     AggiungeMbRd(c.passi, s);
     const TerminiInterazione t = s.TerminiFlessoTorsionale();
     const std::string norma = NormaInterazione(s.ClassePressoFlessione, "(2)", "(4)", "(6)");
     const bool classe4 = s.ClassePressoFlessione > 3;
+    if (conAsseZ)
+        Aggiunge(c.passi, s, {"z", s.BetaMz, s.muZ(), s.kZ(), s.NbzRd, false, s.MczRd, t.z});
+    if (conAsseZ && classe4)
+        AggiungeSpostamenti(c.passi, s);
+    c.passi.push_back(Dato("Coefficiente di momento uniforme equivalente, svergolamento", "β{M,LT}",
+                           Formato("0.0##", s.BetaMLT), "", "ENV 1993-1-1 fig. 5.5.3"));
     c.passi.push_back(
         {.descrizione = "",
          .simbolo = "μ{LT}",
@@ -288,6 +296,9 @@ CapitoloRelazione CapitoloSvergolamento(const SezioneDoppioT& s) {
     c.passi.push_back({.descrizione = "",
                        .simbolo = "k{LT}",
                        .formula = "1 − μ{LT} N{Sd} / (γ{M1} N{b,z,Rd}) ≤ 1",
+                       .numeri = "1 − " + ConSegno(Formato("0.0##", s.muLT())) + " · " +
+                                 ConSegno(Kilo(s.NSd)) + " / (" + Piano(GammaM1) + " · " + Kilo(s.NbzRd) +
+                                 ")",
                        .valore = Formato("0.0##", s.kLT()),
                        .norma = norma});
     Verdetto v = GiudicaFlessoTorsionale(s);

@@ -55,8 +55,12 @@ Relazione RelazioneMembratura(const SezioneDoppioT& s, const CurveInstabilita& c
 
 Relazione RelazioneSvergolamento(const SezioneDoppioT& s, const std::string& maschera) {
     Relazione r = Testa("Verifica allo svergolamento", s, maschera);
-    r.capitoli = {CapitoloDati(s), CapitoloAzioni(s), CapitoloClassi(s), CapitoloResistenze(s),
-                  CapitoloSvergolamento(s)};
+    r.capitoli = {CapitoloDati(s),
+                  CapitoloAzioni(s),
+                  CapitoloClassi(s),
+                  CapitoloResistenze(s),
+                  CapitoloInstabilita(s, {s.CurvaInstabilita("yy"), s.CurvaInstabilita("zz")}),
+                  CapitoloSvergolamento(s, true)};
     return r;
 }
 

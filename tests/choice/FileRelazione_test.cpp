@@ -132,6 +132,16 @@ TEST_F(FileRelazioneTest, TheDerivationIsThatOfTheApprovedText) {
     ConfrontaApprovato("choice/ipe300.txt", testo);
 }
 
+// Without a restraint against warping there is no critical moment: the check is named and has no verdict.
+TEST_F(FileRelazioneTest, AMissingCriticalMomentLeavesTheChapterWithoutAVerdict) {
+    EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--N", "100", "--My", "20", "--L0y", "5", "--L0z", "2.5",
+                      "--Kw", "0"}),
+              comandoNonVerificato);
+    EXPECT_NE(uscita.str().find("Stabilità flesso-torsionale: -"), std::string::npos) << uscita.str();
+    EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--N", "100", "--Kw", "0"}), comandoVerificato) << "no length";
+    EXPECT_EQ(uscita.str().find("flesso-torsionale"), std::string::npos) << uscita.str();
+}
+
 TEST_F(FileRelazioneTest, APdfIsWrittenByWhatIsPluggedIn) {
     EXPECT_EQ(Esegue({"IPE 300", "--pdf", Via("o.pdf")}), comandoErrato);
     EXPECT_NE(errori.str().find("non scrive PDF"), std::string::npos);
