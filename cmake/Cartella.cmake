@@ -25,7 +25,9 @@ Translations = lib/translations
 ")
 install(FILES ${PROJECT_BINARY_DIR}/pacchetto/qt.conf DESTINATION . COMPONENT cartella EXCLUDE_FROM_ALL)
 
-# The manual, where it has been built before.
+# The manuals of the program and of its verification, where they have been built before; tools/pacchetto builds them.
+install(FILES ${PROJECT_BINARY_DIR}/verifica/verifica.pdf DESTINATION manuale COMPONENT cartella EXCLUDE_FROM_ALL
+        OPTIONAL)
 install(FILES ${PROJECT_BINARY_DIR}/manuale/Sagomi.pdf DESTINATION manuale COMPONENT cartella EXCLUDE_FROM_ALL OPTIONAL)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/manuale/sito/ DESTINATION manuale/html COMPONENT cartella EXCLUDE_FROM_ALL
         OPTIONAL)

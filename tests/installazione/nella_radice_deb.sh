@@ -20,10 +20,13 @@ prova() {
   apt-get install -qy --no-install-recommends "$1" >/dev/null 2>/root/apt.txt || { cat /root/apt.txt; exit 1; }
   dpkg --verify sagomi
   [ -e /usr/share/man/man1/sagomi.1.gz ] || fail "no page of man" # a small system leaves documents out
+  for document in Sagomi.pdf html/index.html verifica.pdf; do
+    dpkg -L sagomi | grep -x "/usr/share/doc/sagomi/$document" >/dev/null || fail "no $document"
+  done
   cd /home/prova
   [[ $(user sagomi --version) == "sagomi "[0-9]* ]] || fail "no version"
   [ ! -e $data ] || fail "asking for the version makes a folder"
-  user sagomi --verifica "HEA 200" --N 400 | grep -q "HEA 200" || fail "no answer"
+  user sagomi --verifica "HEA 200" --N 400 | grep "HEA 200" >/dev/null || fail "no answer"
 
   # The object on the session bus is started by its file; the windows find their folder, help and settings.
   user apre_e_chiude.sh
