@@ -158,13 +158,21 @@ void FrmMsverg::RiempieDati() {
         Riempie(ui_->Txt_C2, s->c2);
         Riempie(ui_->Txt_C3, s->c3);
         Riempie(ui_->Txt_Zg, s->za);
-        if (s->LLT > 0)
+        const auto& scelti = chiamante_->valoriScelti;
+        if (s->LLT > 0 || (scelti && scelti->LLT)) // a choice may ask for 0: held all along
             Riempie(ui_->Txt_L, mm_a_m(s->LLT));
         else if (s->L0z > 0 && ui_->Txt_L->text().isEmpty())
             Riempie(ui_->Txt_L, mm_a_m(s->L0z)); // restraints hold against both, as a rule
     }
     sezione_ = SezioneCorrente;
     FuocoSu(ui_->fraAzioni->TxtNsd);
+}
+
+// Without a length in the choice the check was not asked for: none here either.
+void FrmMsverg::RiempieDaScelta(const ValoriScelti& scelti) {
+    scelti.MetteMembratura(*Sezione());
+    ui_->Txt_L->clear();
+    RiempieDati();
 }
 
 void FrmMsverg::RiportaValori(const SezioneDoppioT& vecchia, SezioneDoppioT& nuova) {

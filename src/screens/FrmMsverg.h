@@ -28,6 +28,7 @@ protected:
     /// Writes the entries into the section, computes and shows.
     void Calcola() override;
     void RiempieDati() override;
+    void RiempieDaScelta(const ValoriScelti& scelti) override;
     /// The factors of the moment diagram have no box here: a new section takes them from the old one.
     void RiportaValori(const SezioneDoppioT& vecchia, SezioneDoppioT& nuova) override;
 

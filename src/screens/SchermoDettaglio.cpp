@@ -44,6 +44,8 @@ void SchermoDettaglio::ApreDa(SchermoSezione& chiamante, Schermo& da) {
         CopiaIntestazione();
         RiempieDati();
     }
+    if (chiamante.valoriScelti)
+        presaVista_ = chiamante.valoriScelti->presa;
     RicordaChiamante();
     NavigaSchermi::Unico().Apre(*this, da);
 }
@@ -118,6 +120,16 @@ void SchermoDettaglio::Lega(QLineEdit* casella, Singolo SezioneDoppioT::*valore,
 
 bool SchermoDettaglio::StessaSezione() const {
     return Sezione() != nullptr && SezioneInUso<SezioneDoppioT>(sezioneVista_) == Sezione();
+}
+
+// The entries of a screen that stands open were another row's; before the caller has computed there is
+// nothing to take.
+void SchermoDettaglio::PrendeDallaScelta() {
+    const auto& scelti = chiamante_->valoriScelti;
+    if (!scelti || scelti->presa == presaVista_ || chiamante_->CaricaForm || Sezione() == nullptr)
+        return;
+    presaVista_ = scelti->presa;
+    RiempieDaScelta(*scelti);
 }
 
 void SchermoDettaglio::PrendeDallaSezione() {
@@ -226,6 +238,7 @@ void SchermoDettaglio::Ricalcola() {
         return;
     const QScopedValueRollback guard(inCalcolo_, true);
     CopiaIntestazione();
+    PrendeDallaScelta();
     CompletaForm(*chiamante_);
 }
 

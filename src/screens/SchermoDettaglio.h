@@ -2,6 +2,7 @@
 
 #include <QList>
 
+#include <cstdint>
 #include <functional>
 #include <initializer_list>
 
@@ -16,6 +17,7 @@ namespace sagomi {
 
 class FiltroCampi;
 class SchermoSezione;
+struct ValoriScelti;
 
 /// A detail screen: opened from a main screen, or from another detail, it works on SezioneCorrente and shows
 /// the caller's section, steel and strength. It stays in front of its caller, which remains usable, and
@@ -61,6 +63,9 @@ protected:
     /// Refills the entries that have a twin on the section or the caller; runs at each opening.
     virtual void RiempieDati() {}
 
+    /// The same when a choice has given the caller a row and values while the screen stands open.
+    virtual void RiempieDaScelta(const ValoriScelti& /*scelti*/) { RiempieDati(); }
+
     /// Hands N and the buckling lengths to the boxes of the caller, which then reacts, where they differ.
     /// @return whether one did
     bool RiportaAlChiamante();
@@ -103,6 +108,7 @@ private:
         double unita;
         double visto = 0; ///< as this screen left it
     };
+    void PrendeDallaScelta();
     void PrendeDallaSezione();
     void RicordaSezione();
     [[nodiscard]] QList<QLineEdit*> CaselleDelChiamante() const;
@@ -115,6 +121,7 @@ private:
     QList<double> visti_;     ///< numbers of the caller's boxes that this screen has heard of
     QList<Legame> legami_;
     RiferimentoSezione sezioneVista_; ///< computed with last
+    std::uint64_t presaVista_ = 0;    ///< the row of a choice whose values the entries began with
     bool suCopia_ = false;            ///< the section in use is a copy, for this computation alone
 };
 

@@ -276,7 +276,7 @@ void SchermoSezione::CollegaSvergolamento() {
                 section.C1 = 1;
             });
         if (auto* section = SezioneInUso<SezioneDoppioT>(); valoriScelti && section != nullptr)
-            valoriScelti->MetteIn(*section);
+            valoriScelti->MetteMembratura(*section);
         ApreDettaglio(QStringLiteral("FrmMsverg"));
     });
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
+
+#include "sections/DiagrammaMomenti.h"
 
 namespace sagomi {
 
@@ -14,7 +17,14 @@ struct ValoriScelti {
     double k = 1, Kw = 1, C1 = 1, c2 = 0, c3 = 0, za = 0;
     bool C1Proprio = false; ///< C1 is not that of the diagram
 
+    MomentiMembratura y, z; ///< the diagrams that the moments come from
+    std::int16_t pict = pictEstremitaConcordi;
+    std::uint64_t presa = 0; ///< of each row that is taken another: details that are open begin anew
+
     void MetteIn(SezioneDoppioT& sezione) const;
+    /// The same with the diagrams, for the checks of a member.
+    /// @param sezione  initialised, with its class
+    void MetteMembratura(SezioneDoppioT& sezione) const;
     /// The end factors and the load alone, without moments and C1.
     void MetteFattori(SezioneDoppioT& sezione) const;
 };

@@ -77,6 +77,7 @@ int CercaRiga(const Lettore& righe, const SagomoInGara& sagomo) {
 }
 
 ValoriScelti ValoriDi(const Richiesta& r) {
+    static std::uint64_t prese = 0;
     const EffettiDiagramma y = EffettiDelDiagramma(r.y, r.tipoDiagramma, r.pict);
     const EffettiDiagramma z = EffettiDelDiagramma(r.z, r.tipoDiagramma, r.pict);
     return {.Mysd = y.M,
@@ -90,7 +91,11 @@ ValoriScelti ValoriDi(const Richiesta& r) {
             .c2 = r.c2,
             .c3 = r.c3,
             .za = r.za,
-            .C1Proprio = r.C1.has_value()};
+            .C1Proprio = r.C1.has_value(),
+            .y = r.y,
+            .z = r.z,
+            .pict = r.pict,
+            .presa = ++prese};
 }
 
 } // namespace
