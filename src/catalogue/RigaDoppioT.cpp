@@ -3,6 +3,8 @@
 #include <charconv>
 #include <cmath>
 #include <span>
+#include <string>
+#include <utility>
 
 #include "catalogue/Lettore.h"
 #include "frame/Unita.h"
@@ -110,18 +112,33 @@ Valore Pulito(double valore) {
 
 } // namespace
 
-void LeggeRiga(const Lettore& riga, SezioneDoppioT& sezione, RigheDoppioT righe) {
-    if (riga.BOF() || riga.EOF_())
-        return;
-    sezione.Designation = riga.Testo(0);
+namespace {
+
+/// @param numero  of a field by its position
+template <typename F>
+void Riempie(SezioneDoppioT& sezione, std::string nome, const F& numero, RigheDoppioT righe) {
+    sezione.Designation = std::move(nome);
     for (const Destinazione& d : Destinazioni(righe))
-        sezione.*d.membro = d.unita(riga.Numero(d.campo));
+        sezione.*d.membro = d.unita(numero(d.campo));
     if (righe == RigheDoppioT::Laminate)
         return;
     sezione.Saldata = true;
     sezione.SaldataAsimm = righe == RigheDoppioT::SaldateAsimmetriche;
     if (!sezione.SaldataAsimm)
         sezione.WelyInf = sezione.Wely;
+}
+
+} // namespace
+
+void LeggeRiga(const Lettore& riga, SezioneDoppioT& sezione, RigheDoppioT righe) {
+    if (!riga.BOF() && !riga.EOF_())
+        Riempie(
+            sezione, riga.Testo(0), [&riga](int campo) { return riga.Numero(campo); }, righe);
+}
+
+void LeggeCampi(const std::vector<Valore>& campi, SezioneDoppioT& sezione, RigheDoppioT righe) {
+    const auto numero = [&campi](int campo) { return NumeroDi(campi.at(static_cast<std::size_t>(campo))); };
+    Riempie(sezione, TestoDi(campi.at(0)), numero, righe);
 }
 
 std::vector<Valore> CampiRiga(const SezioneDoppioT& sezione, RigheDoppioT righe) {

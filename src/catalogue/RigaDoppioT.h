@@ -19,6 +19,9 @@ enum class RigheDoppioT { Laminate, Saldate, SaldateAsimmetriche };
 /// table with fewer columns than these rows have (19, 18 or 21) throws std::out_of_range.
 void LeggeRiga(const Lettore& riga, SezioneDoppioT& sezione, RigheDoppioT righe = RigheDoppioT::Laminate);
 
+/// The same from the fields of a row by position; too few of them throw std::out_of_range.
+void LeggeCampi(const std::vector<Valore>& campi, SezioneDoppioT& sezione, RigheDoppioT righe);
+
 /// The way back: the fields of a row by position, from the section's name and weight [kg/m] to the warping
 /// constant, each the shortest number that the section's single stands for. What is not finite is empty.
 std::vector<Valore> CampiRiga(const SezioneDoppioT& sezione, RigheDoppioT righe);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <system_error>
-#include <vector>
 
 #include "catalogue/Catalogo.h"
 #include "catalogue/Famiglie.h"
@@ -69,9 +68,6 @@ std::string NomeUtente(std::string nome) {
     return nome;
 }
 
-namespace {
-
-/// The fields of a row once it is completed; none where it has its values, or never can.
 std::vector<Valore> Completati(const Lettore& riga, RigheDoppioT righe,
                                const std::function<void(SezioneDoppioT&)>& prepara) {
     SezioneDoppioT s;
@@ -84,8 +80,6 @@ std::vector<Valore> Completati(const Lettore& riga, RigheDoppioT righe,
     InizializzaSaldata(s, piatti);
     return CampiRiga(s, righe);
 }
-
-} // namespace
 
 int CompletaRighe(const fs::path& file, std::string_view tabella, RigheDoppioT righe,
                   const std::function<void(SezioneDoppioT&)>& prepara) {

@@ -5,12 +5,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "catalogue/FoglioDati.h"
 #include "catalogue/RigaDoppioT.h"
 
 namespace sagomi {
 
+class Lettore;
 class SezioneDoppioT;
 struct MostraVplRd;
 
@@ -45,6 +47,13 @@ void InizializzaSaldata(SezioneDoppioT& sezione, const PiattiSaldati& piatti, Mo
 
 /// A name as a row takes it: a quotation mark becomes two apostrophes.
 std::string NomeUtente(std::string nome);
+
+/// The fields of a row in hand that has its dimensions only, and no values that compute, with what follows
+/// from the dimensions; none for a row with values and for one whose plates make no section. It may tell
+/// messages.
+/// @param prepara  gives a fresh section its steel and entries
+std::vector<Valore> Completati(const Lettore& riga, RigheDoppioT righe,
+                               const std::function<void(SezioneDoppioT&)>& prepara);
 
 /// Gives the rows of a user's sheet that have their dimensions only, and no values that compute, what follows
 /// from the dimensions; rows with values, and those whose plates make no section, stay. All are written at

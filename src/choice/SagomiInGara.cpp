@@ -9,6 +9,8 @@
 #include "catalogue/Lettore.h"
 #include "catalogue/RigaDoppioT.h"
 #include "catalogue/RigaSagomi.h"
+#include "catalogue/SagomoUtente.h"
+#include "frame/Messaggi.h"
 
 namespace sagomi {
 
@@ -28,6 +30,22 @@ template <typename S> S Letta(const Lettore& riga) {
     return sezione;
 }
 
+/// A row of the user's own that has its dimensions only has what follows from them, as its screen completes
+/// it. Its constants do not depend on the steel.
+void Completa(const Lettore& riga, SezioneDoppioT& sezione, SagomoInGara& sagomo) {
+    constexpr double fy = 235, fu = 360;
+    const MessaggiTaciuti quiet;
+    const RigheDoppioT righe = RigheDi(sagomo.schermo);
+    const std::vector<Valore> campi = Completati(riga, righe, [](SezioneDoppioT& s) {
+        s.fy = fy;
+        s.fu = fu;
+    });
+    if (campi.empty())
+        return;
+    LeggeCampi(campi, sezione, righe);
+    sagomo.g = NumeroDi(campi.at(campoPeso));
+}
+
 void LeggeSezione(const Lettore& riga, SagomoInGara& sagomo) {
     if (sagomo.schermo == "frmSagomiU") {
         sagomo.sezione = Letta<SezioneSagomoU>(riga);
@@ -36,6 +54,8 @@ void LeggeSezione(const Lettore& riga, SagomoInGara& sagomo) {
     } else {
         SezioneDoppioT sezione;
         LeggeRiga(riga, sezione, RigheDi(sagomo.schermo));
+        if (sagomo.utente)
+            Completa(riga, sezione, sagomo);
         sagomo.sezione = std::move(sezione);
     }
 }
