@@ -64,16 +64,19 @@ bool Ammesso(const SagomoInGara& sagomo, const Ingombro& i, const Filtri& f) {
            !(f.gMinimo && i.g < *f.gMinimo);
 }
 
-/// What a check has said goes into the row; one that was asked for and has no number does not hold.
+/// What a check has said goes into the row; one that was asked for and has no number does not hold. The
+/// reason is that of the check that governs, or, where every number holds, of the one without a verdict.
 void Accoglie(RigaScelta& riga, VerificaScelta verifica, double RigaScelta::*valore, const Verdetto& v) {
+    const bool senzaVerdetto = !riga.verificato && !(riga.massimo > 1);
     riga.*valore = v.utilizzo;
     riga.verificato = riga.verificato && v.utilizzo <= 1;
     if (std::isnan(v.utilizzo)) {
-        riga.motivo = "La verifica a " + std::string(NomeVerifica(verifica)) + " non ha un verdetto";
+        if (riga.motivo.empty())
+            riga.motivo = "La verifica a " + std::string(NomeVerifica(verifica)) + " non ha un verdetto";
     } else if (std::isnan(riga.massimo) || v.utilizzo > riga.massimo) {
         riga.massimo = v.utilizzo;
         riga.governa = verifica;
-        if (!v.motivo.empty())
+        if (v.utilizzo > 1 || !senzaVerdetto)
             riga.motivo = v.motivo;
     }
 }

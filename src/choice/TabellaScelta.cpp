@@ -81,6 +81,8 @@ const std::vector<ColonnaScelta>& ColonneScelta() {
          [](const RigaScelta& r) { return Forza(r.NbyRd); }},
         {"Nbz,Rd (kN)", forza, "Resistenza all'instabilità intorno a z-z, ENV 1993-1-1 5.5.1", "10.000",
          [](const RigaScelta& r) { return Forza(r.NbzRd); }},
+        {"Nbv,Rd (kN)", forza, "Degli angolari, resistenza all'instabilità intorno a v-v, ENV 1993-1-1 5.5.1",
+         "10.000", [](const RigaScelta& r) { return Forza(r.NbvRd); }},
         {"Mcy,Rd (kNm)", momento, "Momento resistente intorno a y-y, ENV 1993-1-1 5.4.5", "10.000,0",
          [](const RigaScelta& r) { return Nmm_a_kNm(r.McyRd); }},
         {"Mb,Rd (kNm)", momento, "Resistenza all'instabilità flesso-torsionale, ENV 1993-1-1 5.5.2",
@@ -99,7 +101,7 @@ const std::vector<ColonnaScelta>& ColonneScelta() {
 int ColonnaUtilizzo() { return static_cast<int>(ColonneScelta().size()) - 1; }
 
 std::string TestoUtilizzo(const RigaScelta& riga) {
-    if (std::isnan(riga.massimo))
+    if (std::isnan(riga.massimo) || (!riga.verificato && riga.massimo <= 1)) // a check has no verdict
         return riga.motivo.empty() ? "-" : riga.motivo;
     constexpr double troppo = 99.99; // beyond it the number says no more
     std::string testo =

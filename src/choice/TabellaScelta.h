@@ -32,7 +32,8 @@ int ColonnaUtilizzo();
 /// A field as it is shown; what is no number is empty.
 std::string TestoScelta(const RigaScelta& riga, const SagomoInGara& sagomo, int colonna);
 
-/// "OK  92 %  svergolamento"; without a verdict the reason why there is none, or a dash.
+/// "OK  92 %  svergolamento"; without a verdict the reason why there is none, or a dash; so too where the
+/// numbers of the others hold.
 std::string TestoUtilizzo(const RigaScelta& riga);
 
 /// The same field with all its figures.

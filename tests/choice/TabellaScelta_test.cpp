@@ -67,6 +67,10 @@ TEST_F(TabellaSceltaTest, AUtilisationHasItsVerdictAndWhatGoverns) {
     EXPECT_EQ(TestoUtilizzo(none), "-");
     none.motivo = "perché";
     EXPECT_EQ(TestoUtilizzo(none), "perché");
+    none.massimo = 0.5;
+    EXPECT_EQ(TestoUtilizzo(none), "perché") << "one check has no verdict: 50 % of another tells nothing";
+    none.massimo = 1.5;
+    EXPECT_EQ(TestoUtilizzo(none), "NO  150 %  svergolamento");
 }
 
 TEST_F(TabellaSceltaTest, FieldsAreInTheUnitsOfTheirHeadings) {
@@ -74,6 +78,7 @@ TEST_F(TabellaSceltaTest, FieldsAreInTheUnitsOfTheirHeadings) {
     r.NplRd = 1234567; // N
     r.McyRd = 12.34e6; // N mm
     r.A = 5381;        // mm2
+    r.NbvRd = 98765;   // N
     const auto text = [&](const char* heading) {
         for (int c = 0; c <= ColonnaUtilizzo(); ++c)
             if (std::string_view(ColonneScelta()[static_cast<std::size_t>(c)].titolo) == heading)
@@ -83,6 +88,8 @@ TEST_F(TabellaSceltaTest, FieldsAreInTheUnitsOfTheirHeadings) {
     EXPECT_EQ(text("Npl,Rd (kN)"), Formato("#,##0", 1235));
     EXPECT_EQ(text("Mcy,Rd (kNm)"), Formato("0.0", 12.3));
     EXPECT_EQ(text("A (cm2)"), Formato("0.0", 53.8));
+    EXPECT_EQ(text("Nbv,Rd (kN)"), "99");
+    EXPECT_EQ(text("Nbz,Rd (kN)"), "") << "no number";
     EXPECT_EQ(text("Mb,Rd (kNm)"), "") << "no number";
     EXPECT_EQ(text("sagomo"), "IPE 100");
     EXPECT_EQ(text("famiglia"), "IPE");
