@@ -21,7 +21,6 @@
 #include "catalogue/Catalogo.h"
 #include "catalogue/ui/GrigliaCatalogo.h"
 #include "choice/GraficoScelta.h"
-#include "choice/ui/ConConfronto.h"
 #include "choice/ui/ModelloScelta.h"
 #include "choice/ui/PannelliScelta.h"
 #include "choice/ui/VistaGrafico.h"
@@ -131,7 +130,7 @@ void FrmScelta::CollegaEntrate() {
     for (QCheckBox* box : {doppi_, accostati_})
         Collega(box, &QCheckBox::toggled, this, [this] { Ricomincia(); });
     Collega(soloVerificati_, &QCheckBox::toggled, this, [this] {
-        if (scelta_.Finita())
+        if (possibili_ && scelta_.Finita())
             MostraRighe();
     });
 }
@@ -216,11 +215,19 @@ void FrmScelta::Apre(Schermo& da) {
     if (auto* main = PrincipaleDi(da))
         chiamante_ = main;
     PrendeDalChiamante(false);
+    if (!mancanti_.empty()) // what could not be read then, perhaps now
+        lettoDa_.clear();
     LeggeCatalogo();
     NavigaSchermi::Unico().Apre(*this, da);
 }
 
-void FrmScelta::AllAttivazione() { Ricomincia(); }
+void FrmScelta::AllAttivazione() {
+    if (chiamante_ == nullptr)
+        return;
+    LeggeCatalogo();
+    PrendeDalChiamante(true);
+    Ricomincia();
+}
 
 void FrmScelta::Aggiorna() {
     if (inRiempimento_)
@@ -238,6 +245,7 @@ void FrmScelta::LeggeCatalogo() {
     else
         return;
     mancanti_.clear();
+    confrontati_.clear();
     modello_->Mostra({}, {});
     scelta_.Sagomi({});
     lettura_ = std::make_unique<LetturaGara>(sagomi, utente);
@@ -262,7 +270,9 @@ bool FrmScelta::PrendeDalChiamante(bool soloCambiate) {
     }
     const EntrateAcciaio steel{chiamante_->ComboTipoAcciaio->currentIndex(), chiamante_->FyInForza(),
                                chiamante_->FuInForza()};
-    const bool some = seen != visti_ || steel != acciaio_;
+    const std::array<double, 3> code{double(Normativa), GammaM0, GammaM1};
+    const bool some = seen != visti_ || steel != acciaio_ || code != normativa_;
+    normativa_ = code;
     visti_ = seen;
     acciaio_ = steel;
     nomeAcciaio_ = chiamante_->ComboTipoAcciaio->currentText().toStdString();
@@ -350,12 +360,15 @@ void FrmScelta::Ricomincia() {
         scelta_.Ferma();
         modello_->Rinnova(0, modello_->rowCount() - 1);
         avanzamento_->hide();
+        modello_->SvuotaLeggeri();
         MostraRiassunto();
+        AggiornaConfronto();
         disegno_.start();
         return;
     }
     scelta_.Comincia(RichiestaInForza(), FiltriInForza());
     Avanza();
+    AggiornaConfronto();
 }
 
 void FrmScelta::Avanza() {
@@ -399,8 +412,13 @@ void FrmScelta::MostraParziale() {
     const bool grows = lettura_ && std::ssize(scelta_.Sagomi()) >= 2 * modello_->rowCount();
     if (grows || modello_->rowCount() == 0)
         MostraRighe();
-    else
+    else {
+        modello_->SvuotaLeggeri();
+        MostraRiassunto();
         tabella_->viewport()->update();
+    }
+    if (!grafico_->Dati().punti.empty())
+        AggiornaGrafico(); // empties it
 }
 
 void FrmScelta::MostraRighe() {
@@ -409,13 +427,39 @@ void FrmScelta::MostraRighe() {
     if (soloVerificati_->isChecked())
         std::erase_if(places, [this](std::uint32_t p) { return !scelta_.Riga(p).verificato; });
     OrdinaScelta(places, scelta_.Righe(), scelta_.Sagomi(), ordine_);
+    if (!Fatta())
+        lightest.clear();
+    const std::vector<std::uint32_t> selected = Selezionate();
     modello_->Mostra(std::move(places), std::move(lightest));
+    Riseleziona(selected);
     MostraRiassunto();
+}
+
+// The rows have other places in the table now: what the user has selected are sections.
+void FrmScelta::Riseleziona(const std::vector<std::uint32_t>& posti) {
+    if (posti.size() < 2)
+        return;
+    std::vector<bool> marked(scelta_.Sagomi().size());
+    for (const std::uint32_t p : posti)
+        marked[p] = true;
+    QItemSelection rows;
+    const int count = modello_->rowCount();
+    const auto chosen = [&](int row) {
+        return marked[modello_->Posti()[static_cast<std::size_t>(row)]] || row == modello_->RigaInMano();
+    };
+    for (int row = 0; row < count; ++row) {
+        const int first = row;
+        while (row < count && chosen(row))
+            ++row;
+        if (row > first)
+            rows.select(modello_->index(first, 0), modello_->index(row - 1, modello_->columnCount() - 1));
+    }
+    tabella_->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
 }
 
 void FrmScelta::MostraRiassunto() {
     const auto places = modello_->Posti();
-    const bool valid = possibili_ && !places.empty();
+    const bool valid = Fatta() && !places.empty();
     const auto rows = scelta_.Righe();
     const auto holds = [&](std::uint32_t p) { return scelta_.Valida(p) && rows[p].verificato; };
     const auto some = valid ? std::ranges::count_if(places, holds) : 0;
@@ -444,13 +488,14 @@ void FrmScelta::MostraRiassunto() {
         told += QStringLiteral(" · ") + notes.join(QStringLiteral(" · "));
     barra_->setText(told);
     barra_->setToolTip(notes.join(u'\n'));
-    for (QPushButton* command : {prendi_, confronta_, copia_, stampa_, esporta_})
-        command->setEnabled(!places.empty());
+    prendi_->setEnabled(possibili_ && !places.empty());
+    for (QPushButton* command : {confronta_, copia_, stampa_, esporta_})
+        command->setEnabled(valid);
 }
 
 void FrmScelta::AggiornaGrafico() {
     auto chart = std::make_shared<DatiGrafico>();
-    if (possibili_ && scelta_.Finita()) {
+    if (Fatta()) {
         *chart = DatiGraficoDi(modello_->Posti(), scelta_.Righe(), scelta_.Sagomi());
         std::uint32_t held = 0;
         if (modello_->InMano(held)) {
@@ -475,7 +520,7 @@ void FrmScelta::Ordina(int colonna) {
                                 ? QString()
                                 : modello_->headerData(colonna, Qt::Horizontal, Qt::DisplayRole).toString();
     tabella_->MostraOrdine(heading, ordine_.discendente ? Qt::DescendingOrder : Qt::AscendingOrder);
-    if (scelta_.Finita())
+    if (possibili_ && scelta_.Finita())
         MostraRighe();
 }
 
@@ -501,26 +546,6 @@ void FrmScelta::Prende() {
     close();
     if (main != from)
         NavigaSchermi::Unico().Passa(*main, from);
-}
-
-// One row alone is held against the lightest of other families.
-void FrmScelta::Confronta() {
-    std::vector<std::uint32_t> places = Selezionate();
-    if (places.size() < 2) {
-        std::vector<std::uint32_t> others(modello_->Leggeri().begin(), modello_->Leggeri().end());
-        std::ranges::sort(others, {}, [this](std::uint32_t p) { return std::pair(scelta_.Riga(p).g, p); });
-        for (const std::uint32_t p : others)
-            if (std::ranges::find(places, p) == places.end())
-                places.push_back(p);
-    }
-    places.resize(std::min(places.size(), massimoConfronto));
-    std::vector<Confrontato> rows;
-    std::vector<std::string> told;
-    for (const std::uint32_t p : places)
-        rows.push_back(
-            {scelta_.Sagomi()[p], Verifica(scelta_.Sagomi()[p], scelta_.RichiestaInForza(), told)});
-    NavigaSchermi::Unico().Prende<ConConfronto>(QStringLiteral("FrmConfronto")).Mostra(std::move(rows));
-    NavigaSchermi::Unico().Apre(QStringLiteral("FrmConfronto"), *this);
 }
 
 bool FrmScelta::FrecciaDiRiga(int tasto) {

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QTimer>
 
+#include <array>
 #include <memory>
 
 #include "choice/SceltaInCorso.h"
@@ -88,12 +89,17 @@ private:
     void MostraRighe();
     void MostraParziale();
     void MostraSegnaposti();
+    /// All rows are computed for the entries as they are.
+    [[nodiscard]] bool Fatta() const { return possibili_ && scelta_.Finita() && !lettura_; }
     void MostraRiassunto();
     void AggiornaGrafico();
     void Ordina(int colonna);
     bool FrecciaDiRiga(int tasto);
     [[nodiscard]] std::vector<std::uint32_t> InVista() const;
     [[nodiscard]] std::vector<std::uint32_t> Selezionate() const;
+    void Riseleziona(const std::vector<std::uint32_t>& posti);
+    void MostraConfronto();
+    void AggiornaConfronto();
 
     void Copia();
     void Stampa();
@@ -108,6 +114,8 @@ private:
     FiltroCampi* entrate_ = nullptr;
     SchermoSezione* chiamante_ = nullptr;
     EntrateAcciaio acciaio_;
+    std::array<double, 3> normativa_{};      ///< the code and its factors that were taken
+    std::vector<std::uint32_t> confrontati_; ///< places of the rows that stand side by side
     std::string nomeAcciaio_;
     QList<QString> visti_; ///< the caller's entries that were taken
     bool inRiempimento_ = false;

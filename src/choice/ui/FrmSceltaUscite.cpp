@@ -9,6 +9,7 @@
 #include "catalogue/ui/GrigliaCatalogo.h"
 #include "choice/Opzioni.h"
 #include "choice/ScritturaScelta.h"
+#include "choice/ui/ConConfronto.h"
 #include "choice/ui/FrmScelta.h"
 #include "choice/ui/ModelloScelta.h"
 #include "drawing/ui/StampaTesto.h"
@@ -19,8 +20,9 @@
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
 #include "frame/ui/FileDialogo.h"
+#include "frame/ui/NavigaSchermi.h"
 
-// What leaves the choice: copies, paper, files.
+// What leaves the choice: copies, paper, files, rows side by side.
 namespace sagomi {
 
 namespace {
@@ -67,6 +69,39 @@ std::vector<std::string> Testata(const Richiesta& r) {
 void FrmScelta::Copia() {
     if (const QString rows = tabella_->RigheSelezionate(); !rows.isEmpty())
         QGuiApplication::clipboard()->setText(rows);
+}
+
+// One row alone is held against the lightest of other families.
+void FrmScelta::Confronta() {
+    std::vector<std::uint32_t> places = Selezionate();
+    if (places.size() < 2) {
+        std::vector<std::uint32_t> others(modello_->Leggeri().begin(), modello_->Leggeri().end());
+        std::ranges::sort(others, {}, [this](std::uint32_t p) { return std::pair(scelta_.Riga(p).g, p); });
+        for (const std::uint32_t p : others)
+            if (std::ranges::find(places, p) == places.end())
+                places.push_back(p);
+    }
+    places.resize(std::min(places.size(), massimoConfronto));
+    confrontati_ = std::move(places);
+    MostraConfronto();
+    NavigaSchermi::Unico().Apre(QStringLiteral("FrmConfronto"), *this);
+}
+
+void FrmScelta::MostraConfronto() {
+    std::vector<Confrontato> rows;
+    std::vector<std::string> told;
+    if (possibili_)
+        for (const std::uint32_t p : confrontati_)
+            rows.push_back(
+                {scelta_.Sagomi()[p], Verifica(scelta_.Sagomi()[p], scelta_.RichiestaInForza(), told)});
+    NavigaSchermi::Unico().Prende<ConConfronto>(QStringLiteral("FrmConfronto")).Mostra(std::move(rows));
+}
+
+// It may stand open while the entries change.
+void FrmScelta::AggiornaConfronto() {
+    if (const Schermo* open = NavigaSchermi::Unico().Trova(QStringLiteral("FrmConfronto"));
+        open != nullptr && open->isVisible())
+        MostraConfronto();
 }
 
 // The numbers as the table shows them, in columns as wide as they need.

@@ -30,6 +30,8 @@ public:
     /// first is where the user has chosen none.
     /// @param leggeri  those that are marked as the lightest of their families
     void Mostra(std::vector<std::uint32_t> posti, std::vector<std::uint32_t> leggeri);
+    /// None is marked as the lightest of its family.
+    void SvuotaLeggeri() { leggeri_.clear(); }
     /// The values of some rows, or all, have changed.
     void Rinnova(int da, int a);
 

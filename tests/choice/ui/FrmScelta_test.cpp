@@ -10,15 +10,19 @@
 #include <QTableWidget>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 
 #include "catalogue/CatalogoCsv.h"
+#include "catalogue/SagomoUtente.h"
 #include "catalogue/ScrittoreXls.h"
+#include "catalogue/ScritturaRighe.h"
 #include "catalogue/ui/GrigliaCatalogo.h"
 #include "choice/ui/ModelloScelta.h"
 #include "choice/ui/VistaGrafico.h"
 #include "drawing/ui/ScegliDispositivo.h"
+#include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
 #include "frame/ui/FileDialogo.h"
@@ -41,7 +45,10 @@ protected:
 
     /// Opened from the first screen, with these entries, all rows done.
     FrmScelta& Apre(const char* N = "250", const char* L0y = "5", const char* L0z = "2.5") {
-        SchermoSezione& main = Avvia();
+        return ApreDa(Avvia(), N, L0y, L0z);
+    }
+    static FrmScelta& ApreDa(SchermoSezione& main, const char* N = "250", const char* L0y = "5",
+                             const char* L0z = "2.5") {
         Scrive(&main, "TxtNsd", N);
         Scrive(&main, "Txt_L0_0", L0y);
         Scrive(&main, "Txt_L0_1", L0z);
@@ -58,6 +65,32 @@ protected:
         };
         ASSERT_TRUE(QTest::qWaitFor(done, attesa));
         QTest::qWait(40); // the chart follows
+    }
+    /// Both ends, ends that warp half, a load above mid-height.
+    static void ScriveAzioni(FrmScelta& s) {
+        for (const auto& [box, text] : {std::pair{"TxtM1_0", "40"},
+                                        {"TxtM2_0", "-15"},
+                                        {"TxtM1_1", "5"},
+                                        {"TxtM2_1", "2"},
+                                        {"Txt_k", "0.7"},
+                                        {"Txt_C1", "1.5"},
+                                        {"Txt_C2", "0.4"},
+                                        {"Txt_Zg", "90"},
+                                        {"Txt_L", "3"}})
+            Scrive(&s, box, text);
+        Finisce(s);
+    }
+    static void ProvaUtilizzo(const char* screen, double value) {
+        EXPECT_TRUE(
+            Scritta(&Aperto(screen), "LblUtilizzo").starts_with("Utilizzo " + Formato("0.0", value * 100)))
+            << screen << ": " << Scritta(&Aperto(screen), "LblUtilizzo") << " for " << value;
+    }
+    /// The user's own workbook with a row that has its dimensions only: 400 x 200 x 8 x 14, fillets of 5 mm.
+    static void ScriveSagomoUtente() {
+        const auto file = PathProgramma / "SagomiUtente.xls";
+        InstallaCartellaUtente(file);
+        const std::vector<Valore> row = {std::string("MIO 400"), {}, 400.0, 200.0, 8.0, 14.0, 5.0};
+        ScriveRighe(file, ImprontaDi(file), "'DoppioT Simmetrico'$", {{{}, row}});
     }
     static std::uint32_t Posto(const FrmScelta& s, const char* name) {
         const auto all = s.Scelta().Sagomi();
@@ -179,6 +212,15 @@ TEST_F(FrmSceltaTest, EntriesThatCannotBeEmptyTheResults) {
     EXPECT_TRUE(registratore.testi.empty()) << "while the user types nothing speaks";
     EXPECT_EQ(s.Modello()->data(s.Modello()->index(0, ColonnaUtilizzo()), Qt::DisplayRole).toString(), "");
     EXPECT_EQ(s.Modello()->TestoIntero(0, ColonnaUtilizzo()), "");
+    EXPECT_EQ(Trova<QLabel>(&s, "LblRiassunto")->text(), "");
+    EXPECT_TRUE(s.Modello()->Leggeri().empty());
+    for (const char* command : {"CmdPrendi", "CmdConfronta", "CmdCopia", "CmdStampa", "CmdEsporta"})
+        EXPECT_FALSE(Trova<QPushButton>(&s, command)->isEnabled()) << command;
+    const int rows = s.Modello()->rowCount();
+    emit Trova<GrigliaCatalogo>(&s, "DBGrid1")->ordineChiesto(2);
+    Trova<QCheckBox>(&s, "ChkSoloVerificati")->setChecked(true);
+    EXPECT_EQ(s.Modello()->rowCount(), rows) << "the names, and the row in hand, stay";
+    Trova<QCheckBox>(&s, "ChkSoloVerificati")->setChecked(false);
     box->selectAll();
     QTest::keyClicks(box, "4");
     Finisce(s);
@@ -210,17 +252,7 @@ protected:
 
 TEST_P(PresaTest, ATakenRowShowsTheSameValuesInTheDetails) {
     FrmScelta& s = Apre();
-    for (const auto& [box, text] : {std::pair{"TxtM1_0", "40"},
-                                    {"TxtM2_0", "-15"},
-                                    {"TxtM1_1", "5"},
-                                    {"TxtM2_1", "2"},
-                                    {"Txt_k", "0.7"},
-                                    {"Txt_C1", "1.5"},
-                                    {"Txt_C2", "0.4"},
-                                    {"Txt_Zg", "90"},
-                                    {"Txt_L", "3"}})
-        Scrive(&s, box, text);
-    Finisce(s);
+    ScriveAzioni(s);
     ASSERT_TRUE(s.Modello()->VaiA(GetParam() == nullptr ? Saldata(s) : Posto(s, GetParam())));
     const RigaScelta row = InMano(s);
     const std::string kind = s.Scelta().Sagomi()[row.indice].schermo;
@@ -251,6 +283,124 @@ TEST_P(PresaTest, ATakenRowShowsTheSameValuesInTheDetails) {
 INSTANTIATE_TEST_SUITE_P(Sagomi, PresaTest, testing::Values("HEA 240", "IPE 500", nullptr),
                          [](const auto& i) { return "n" + std::to_string(i.index); });
 
+TEST_F(FrmSceltaTest, DetailsThatStandOpenShowTheTakenRow) {
+    SchermoSezione& main = Avvia();
+    Preme(&main, "Command1");
+    Scrive(&Aperto("FrmPresFless"), "TxtM1_0", "11");
+    Preme(&Aperto("FrmPresFless"), "LblFlessTors");
+    for (const auto& [box, text] : {std::pair{"Txt_L", "7"}, {"Txt_k", "0.9"}, {"TxtMysd", "33"}})
+        Scrive(&Aperto("FrmMsverg"), box, text);
+    Preme(&Aperto("FrmMsverg"), "LblVerifiche");
+    Scrive(&Aperto("FrmVerifiche"), "TxtMysd", "22");
+    FrmScelta& s = ApreDa(main);
+    ScriveAzioni(s);
+    ASSERT_TRUE(s.Modello()->VaiA(Posto(s, "HEA 240")));
+    const RigaScelta row = InMano(s);
+    s.Prende();
+    EXPECT_EQ(Testo(&Aperto("FrmVerifiche"), "TxtMysd"), "40");
+    EXPECT_EQ(Testo(&Aperto("FrmVerifiche"), "TxtMzsd"), "5");
+    EXPECT_EQ(Testo(&Aperto("FrmPresFless"), "TxtM2_0"), "-15");
+    for (const auto& [box, text] : {std::pair{"Txt_k", "0.7"},
+                                    {"Txt_C1", "1.5"},
+                                    {"Txt_C2", "0.4"},
+                                    {"Txt_Zg", "90"},
+                                    {"Txt_L", "3"},
+                                    {"TxtMysd", "40"}})
+        EXPECT_EQ(Testo(&Aperto("FrmMsverg"), box), Locale(text)) << box;
+    ProvaUtilizzo("FrmVerifiche", row.sezione);
+    ProvaUtilizzo("FrmPresFless", row.membratura);
+    ProvaUtilizzo("FrmMsverg", row.svergolamento);
+    Scrive(&Aperto("FrmVerifiche"), "TxtMysd", "10");
+    Scrive(&main, "TxtNsd", "260");
+    EXPECT_EQ(Testo(&Aperto("FrmVerifiche"), "TxtMysd"), "10") << "the user's from now on";
+}
+
+TEST_F(FrmSceltaTest, AMemberThatIsHeldAllAlongHasNoLengthInItsDetail) {
+    FrmScelta& s = Apre();
+    ScriveAzioni(s);
+    Scrive(&s, "Txt_L", "0");
+    Finisce(s);
+    ASSERT_TRUE(s.Modello()->VaiA(Posto(s, "HEA 240")));
+    const RigaScelta row = InMano(s);
+    EXPECT_TRUE(std::isfinite(row.svergolamento));
+    SchermoSezione& main = dynamic_cast<SchermoSezione&>(*s.origine);
+    s.Prende();
+    Preme(&main, "Command2");
+    EXPECT_EQ(Testo(&Aperto("FrmMsverg"), "Txt_L"), "0");
+    ProvaUtilizzo("FrmMsverg", row.svergolamento);
+}
+
+TEST_F(FrmSceltaTest, WithoutALengthNeitherRowNorOpenDetailHasAVerdict) {
+    SchermoSezione& main = Avvia();
+    Preme(&main, "Command2");
+    Scrive(&Aperto("FrmMsverg"), "Txt_L", "7");
+    FrmScelta& s = ApreDa(main, "250", "5", "0");
+    Scrive(&s, "TxtM1_0", "40");
+    Finisce(s);
+    ASSERT_TRUE(s.Modello()->VaiA(Posto(s, "HEA 240")));
+    EXPECT_TRUE(std::isnan(InMano(s).svergolamento));
+    s.Prende();
+    EXPECT_EQ(Testo(&Aperto("FrmMsverg"), "Txt_L"), "");
+    EXPECT_EQ(Scritta(&Aperto("FrmMsverg"), "LblUtilizzo"), "");
+}
+
+TEST_F(FrmSceltaTest, ASectionOfTheUsersWithDimensionsOnlyHasWhatFollowsFromThem) {
+    FrmScelta& s = Apre();
+    ScriveSagomoUtente();
+    s.AllAttivazione(); // the workbook is another one now
+    Finisce(s);
+    ASSERT_TRUE(s.Modello()->VaiA(Posto(s, "MIO 400")));
+    const RigaScelta row = InMano(s);
+    // 2 200 14 + 372 8 + four throats of 5 mm: (4 - pi) 5^2 of round fillets to 2 5^2 of welds
+    EXPECT_NEAR(row.A, 8576, 51);
+    EXPECT_NEAR(row.g, row.A * 7850e-6, 0.01);
+    EXPECT_TRUE(row.verificato) << row.motivo;
+    s.Prende();
+    auto& main = dynamic_cast<SchermoSezione&>(Aperto("frmSaldati"));
+    EXPECT_EQ(main.TxtProf[0]->text(), "MIO 400");
+    EXPECT_NEAR(Sezione().Area, row.A, 1e-3);
+    EXPECT_NEAR(Sezione().NbzRd, row.NbzRd, 1e-6 * row.NbzRd);
+}
+
+TEST_F(FrmSceltaTest, AnotherCodeComputesAnew) {
+    FrmScelta& s = Apre();
+    ASSERT_TRUE(s.Modello()->VaiA(Posto(s, "HEA 200")));
+    const double before = InMano(s).NplRd;
+    const double factor = GammaM0;
+    Normativa = Normativa == normativaEC3 ? normativaNTC : normativaEC3;
+    ImpostaGamma();
+    ASSERT_NE(double(GammaM0), factor);
+    dynamic_cast<SchermoSezione&>(*s.origine).DatiRisultati();
+    Finisce(s);
+    EXPECT_NEAR(InMano(s).NplRd, before * factor / GammaM0, 1e-6 * before);
+}
+
+TEST_F(FrmSceltaTest, SelectedSectionsStaySelectedInAnotherOrder) {
+    FrmScelta& s = Apre();
+    auto* table = Trova<GrigliaCatalogo>(&s, "DBGrid1");
+    const auto names = [&] {
+        QStringList some;
+        for (const QModelIndex& row : table->selectionModel()->selectedRows())
+            some << row.data().toString();
+        some.sort();
+        return some;
+    };
+    ASSERT_TRUE(s.Modello()->VaiA(Posto(s, "HEA 200")));
+    for (const char* name : {"HEB 300", "IPE 400"}) {
+        const auto shown = s.Modello()->Posti();
+        const auto at = std::ranges::find(shown, Posto(s, name)) - shown.begin();
+        table->selectionModel()->select(s.Modello()->index(static_cast<int>(at), 0),
+                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+    const QStringList all{"HEA 200", "HEB 300", "IPE 400"};
+    ASSERT_EQ(names(), all);
+    emit table->ordineChiesto(0);
+    EXPECT_EQ(names(), all);
+    Scrive(&s, "TxtM1_0", "70");
+    Finisce(s);
+    EXPECT_EQ(names(), all);
+}
+
 TEST_F(FrmSceltaTest, AChannelInAPairIsTakenAsAPair) {
     FrmScelta& s = Apre("400", "3", "3");
     Preme(&s, "chkDoppi");
@@ -277,6 +427,30 @@ TEST_F(FrmSceltaTest, RowsStandSideBySide) {
     EXPECT_EQ(table->horizontalHeaderItem(1)->text(), NomeInMano(s));
     Preme(&compared, "CmdCopia");
     EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(NomeInMano(s)));
+}
+
+TEST_F(FrmSceltaTest, RowsSideBySideFollowTheForces) {
+    FrmScelta& s = Apre();
+    Preme(&s, "CmdConfronta");
+    auto* table = Trova<QTableWidget>(&Aperto("FrmConfronto"), "Tabella");
+    const auto texts = [table] {
+        QStringList all;
+        for (int row = 0; row < table->rowCount(); ++row)
+            all << table->item(row, 1)->text();
+        return all;
+    };
+    const QStringList before = texts();
+    const QString name = table->horizontalHeaderItem(1)->text();
+    Scrive(&s, "TxtNsd", "125");
+    EXPECT_EQ(table->horizontalHeaderItem(1)->text(), name);
+    EXPECT_NE(texts(), before);
+    Scrive(&s, "TxtNsd", "250");
+    EXPECT_EQ(texts(), before);
+    auto* box = Trova<QLineEdit>(&s, "Txt_L0_0");
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, "-1");
+    EXPECT_EQ(table->rowCount(), 0) << "empty, not old";
 }
 
 TEST_F(FrmSceltaTest, TheTableIsCopiedAndExported) {
@@ -369,10 +543,17 @@ TEST_F(FrmSceltaTest, ALongCatalogueIsComputedBehindTheTableWhatIsInSightFirst) 
         EXPECT_TRUE(s.Scelta().Valida(s.Modello()->Posti()[row])) << "in sight";
     const auto last = s.Modello()->rowCount() - 1;
     EXPECT_EQ(s.Modello()->TestoIntero(last, ColonnaUtilizzo()), "") << "empty, not old";
+    EXPECT_EQ(Trova<QLabel>(&s, "LblRiassunto")->text(), "");
+    EXPECT_FALSE(Trova<QLabel>(&s, "LblBarra")->text().contains("verificat"));
+    EXPECT_TRUE(s.Modello()->Leggeri().empty());
+    EXPECT_TRUE(Trova<VistaGrafico>(&s, "Grafico")->Dati().punti.empty());
+    EXPECT_FALSE(Trova<QPushButton>(&s, "CmdEsporta")->isEnabled());
     Scrive(&s, "TxtM1_0", "78"); // another key takes its place
     Finisce(s);
     EXPECT_EQ(s.Scelta().RichiestaInForza().y.M1, 78e6);
     EXPECT_NE(s.Modello()->TestoIntero(last, ColonnaUtilizzo()), "");
+    EXPECT_NE(Trova<QLabel>(&s, "LblRiassunto")->text(), "");
+    EXPECT_TRUE(Trova<QPushButton>(&s, "CmdEsporta")->isEnabled());
 }
 
 } // namespace
