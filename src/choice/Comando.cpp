@@ -120,7 +120,7 @@ int VerificaUno(const Comando& c, const Gara& gara, const Uscite& u) {
         std::ranges::find_if(gara.sagomi, [&](const SagomoInGara& s) { return Cercato(c, s); });
     if (sagomo == gara.sagomi.end())
         NessunSagomo(c);
-    if (c.richiesta.doppi && std::holds_alternative<SezioneDoppioT>(sagomo->sezione))
+    if (c.coppiaChiesta && std::holds_alternative<SezioneDoppioT>(sagomo->sezione))
         throw ErroreUso("--doppi vale per canali e angolari, non per " + sagomo->Designazione());
     const SenzaMigliaia piano;
     std::vector<std::string> messaggi = gara.mancanti;

@@ -351,6 +351,7 @@ Comando LeggeOpzioni(const std::vector<std::string>& argomenti, const std::vecto
     l.proprie = true;
     l.date.clear();
     PrendeTutte(l, argomenti);
+    l.c.coppiaChiesta = l.Ha("--doppi");
     Completa(l, conL0v || l.Ha("--L0v"));
     return l.c;
 }

@@ -28,8 +28,9 @@ struct Comando {
     std::string sagomo; ///< name of the section to be checked, or to be reported
     std::string file;   ///< joint or composite beam to be reported; empty for a section
     UsciteComando uscite;
-    std::string progetto;   ///< stands on the report
-    std::string soloSagomi; ///< first option taken that a file has no use for
+    std::string progetto;       ///< stands on the report
+    std::string soloSagomi;     ///< first option taken that a file has no use for
+    bool coppiaChiesta = false; ///< --doppi is of this very call, not of what holds for all
     std::string acciaio = "S235";
     double fy = 0; ///< another strength than the grade's [N/mm2]; 0 for none
     std::string normativa = "NTC";

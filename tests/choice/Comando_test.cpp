@@ -156,6 +156,18 @@ TEST_F(ComandoTest, AJobOverrulesWhatHoldsForAll) {
     EXPECT_EQ(tre, "{\"errore\":\"--N sta due volte\"}");
 }
 
+TEST_F(ComandoTest, APairForAllIsOneOfChannelsAndAngles) {
+    EXPECT_EQ(Esegue({"--json", "--doppi", "10"}, R"({"verifica":"HEA 200"})"
+                                                  "\n"
+                                                  R"({"verifica":"UPN 200"})"
+                                                  "\n"),
+              comandoVerificato);
+    EXPECT_TRUE(Dice("\"designazione\":\"HEA 200\"")) << uscita.str();
+    EXPECT_EQ(Esegue({"--json"}, R"({"verifica":"HEA 200","doppi":10})"
+                                 "\n"),
+              comandoErrato);
+}
+
 // The same figures as alone, in the order of the jobs.
 TEST_F(ComandoTest, AThousandJobsAreAnsweredLineByLine) {
     std::string jobs;
