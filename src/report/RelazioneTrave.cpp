@@ -1,5 +1,6 @@
 #include "report/RelazioneTrave.h"
 
+#include <cmath>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -122,8 +123,18 @@ struct Plastico {
     }
 };
 
-std::string Prodotto(double tensione, const Parte& parte) {
-    return InFormula(tensione) + " · " + InFormula(parte.A) + " · " + InFormula(parte.y);
+/// A force and its level, behind a sign that is left out in front of all others; nothing for no force.
+std::string Termine(const std::string& prima, bool meno, double forza, double y) {
+    if (forza == 0)
+        return {};
+    const char* segno = meno ? (prima.empty() ? "−" : " − ") : (prima.empty() ? "" : " + ");
+    return segno + ConSegno(InFormula(forza)) + " · " + InFormula(y);
+}
+
+std::string Termine(const std::string& prima, bool meno, double tensione, const Parte& parte) {
+    if (!(parte.A > 0))
+        return {};
+    return Termine(prima, meno, tensione, parte.A) + " · " + InFormula(parte.y);
 }
 
 /// The moment of the forces about the lower fibre of the steel.
@@ -140,10 +151,11 @@ PassoRelazione PassoMpl(const AcciaioCls& t, const Plastico& k) {
     const std::string segno = k.clsContrario ? " − " : " + ";
     p.formula = "f{yd} (A{ac} y{ac} − A{at} y{at})" + segno + "f{cd} A{cc} y{cc}" +
                 (k.sotto ? " − f{sd} A{s} y{s}" : " + F{s} y{s}");
-    const double barre = k.sotto ? -AcciaioCls::fsd() * t.As : k.Fs;
-    p.numeri = "[" + Prodotto(t.fyd(), k.compresso) + " − " + Prodotto(t.fyd(), k.teso) + segno +
-               Prodotto(AcciaioCls::fcd(), k.cls) + " + " + ConSegno(InFormula(barre)) + " · " +
-               InFormula(t.yArmatura) + "] · 10^{-6}";
+    std::string somma = Termine({}, false, t.fyd(), k.compresso);
+    somma += Termine(somma, true, t.fyd(), k.teso);
+    somma += Termine(somma, k.clsContrario, AcciaioCls::fcd(), k.cls);
+    somma += Termine(somma, false, k.sotto ? -AcciaioCls::fsd() * t.As : k.Fs, t.yArmatura);
+    p.numeri = "[" + somma + "] · 10^{-6}";
     return p;
 }
 
@@ -159,6 +171,15 @@ PassoRelazione PassoScorrimento(const AcciaioCls& t, const Plastico& k) {
             .norma = "EC4 6.6.2.2"};
 }
 
+/// Bars at their full strength have it; others bear what is missing.
+std::string FormulaBarre(const AcciaioCls& t, const Plastico& k) {
+    constexpr double scarto = 1e-6;
+    const double barre = AcciaioCls::fsd() * t.As;
+    if (std::abs(std::abs(k.Fs) - barre) > scarto * barre)
+        return {};
+    return k.Fs < 0 ? "−f{sd} A{s}" : "f{sd} A{s}";
+}
+
 void AggiungePlastici(Passi& p, const AcciaioCls& t, const EsitoTrave& esito) {
     const Plastico k(t);
     k.compresso.Aggiunge(p, "Acciaio compresso", "ac");
@@ -167,13 +188,13 @@ void AggiungePlastici(Passi& p, const AcciaioCls& t, const EsitoTrave& esito) {
     if (!k.assurdo)
         p.push_back({.descrizione = "Forza dell'armatura, di compressione se positiva",
                      .simbolo = "F{s}",
-                     .formula = "± f{sd} A{s}",
+                     .formula = FormulaBarre(t, k),
                      .valore = Cifre(N_a_kN(k.Fs)),
                      .unita = "kN"});
     p.push_back(Dato("Armatura sul lembo inferiore", "y{s}", Cifre(t.yArmatura), "mm"));
     p.push_back({.descrizione = "Asse neutro plastico, dal bordo superiore",
                  .simbolo = "y{pl}",
-                 .formula = k.assurdo ? "" : "dove f{cd} A{cc} + F{s} + f{yd} A{ac} = f{yd} A{at}",
+                 .formula = k.assurdo ? "" : "\nf{cd} A{cc} + F{s} + f{yd} A{ac} = f{yd} A{at}",
                  .valore = Cifre(t.yNeutroDaSopra()),
                  .unita = "mm",
                  .norma = "EC4 6.2.1.2"});
@@ -234,7 +255,7 @@ void AggiungeElastici(Passi& p, const AcciaioCls& t) {
     p.push_back(Dato("Armatura sul lembo inferiore", "y{s}", Cifre(t.yArmatura), "mm"));
     p.push_back({.descrizione = "Asse neutro elastico, sul lembo inferiore",
                  .simbolo = "y{N}",
-                 .formula = "dove A{a} (y{a} − y{N}) + A{s} (y{s} − y{N}) + A{cc} (y{cc} − y{N}) / n = 0",
+                 .formula = "\nA{a} (y{a} − y{N}) + A{s} (y{s} − y{N}) + A{cc} (y{cc} − y{N}) / n = 0",
                  .valore = Cifre(t.yNeutro),
                  .unita = "mm",
                  .norma = tensioni});
