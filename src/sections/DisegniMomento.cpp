@@ -60,8 +60,7 @@ void AsseMomenti(const Quadro& quadro, const CampoQuadro& campo, std::string_vie
     const double MQ = TipoDiPict(pict) == diagrammaEstremita ? 0 : contro ? -m.MQ : m.MQ;
     const double M1 = m.M1 + m.NeN;
     const double M2 = m.M2 + m.NeN;
-    const double Mm = (M1 + M2) / 2 + MQ;
-    const double M = std::max({std::abs(M1), std::abs(M2), std::abs(Mm)});
+    const double M = std::max({std::abs(M1), std::abs(M2), std::abs((M1 + M2) / 2 + MQ)});
     if (!(M > 0)) {
         tavola.Asse();
         return;
@@ -70,10 +69,11 @@ void AsseMomenti(const Quadro& quadro, const CampoQuadro& campo, std::string_vie
         return (Lineare(M1, M2, x) + MQ * (distribuito ? Parabola(x) : Triangolo(x))) / M;
     };
     tavola.Diagramma(ordinate);
-    const double dove = std::abs(Mm) >= std::abs(M1) && MQ != 0 ? 0.5 : 0;
+    const auto minore = [&](double a, double b) { return std::abs(ordinate(a)) < std::abs(ordinate(b)); };
+    const double dove = std::max({0.0, 1.0, 0.5}, minore); // of equal ones the first
     const PuntoQuadro massimo = tavola.Punto(dove, ordinate(dove));
     tavola.Segna(massimo);
-    tavola.Nome(massimo, Formato("0.0##", Nmm_a_kNm(M * std::copysign(1.0, ordinate(dove)))), 1,
+    tavola.Nome(massimo, Formato("0.0##", Nmm_a_kNm(M * ordinate(dove))), dove == 1 ? -1 : 1,
                 ordinate(dove) < 0 ? 1 : -1);
 }
 

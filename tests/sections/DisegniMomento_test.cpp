@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "drawing/SuperficieFinta.h"
+#include "frame/Numeri.h"
 #include "sections/DiagrammaMomenti.h"
 
 using namespace sagomi;
@@ -51,6 +52,36 @@ TEST_F(DisegniMomentoTest, ShapesNameTheirMoments) {
     EXPECT_EQ(superficie.Testi(), (std::vector<std::string>{"M1", "M2"}));
     Pict(pictConcentratoConcorde);
     EXPECT_EQ(superficie.Testi(), (std::vector<std::string>{"M1", "M2", "MQ"}));
+}
+
+// 60 and -50 kNm with N eN of -20: 40 at one end, -70 at the other.
+TEST_F(DisegniMomentoTest, TheMarkStandsAtTheLargestMoment) {
+    struct Caso {
+        MomentiMembratura m;
+        std::int16_t pict;
+        double dove; ///< from one end to the other
+        const char* valore;
+    };
+    const Caso casi[] = {{{60e6, -50e6, 0, -20e6}, pictEstremitaDiscordi, 1, "-70.0"},
+                         {{60e6, 30e6, 0, -20e6}, pictEstremitaConcordi, 0, "40.0"},
+                         {{60e6, 30e6, 0, 0}, pictEstremitaConcordi, 0, "60.0"},
+                         {{40e6, 20e6, 50e6, 0}, pictDistribuitoConcorde, 0.5, "80.0"},
+                         {{40e6, -10e6, 10e6, -40e6}, pictConcentratoConcorde, 1, "-50.0"}};
+    SuperficieFinta foglio{168, 76};
+    for (const Caso& c : casi) {
+        foglio.scritte.clear();
+        foglio.linee.clear();
+        DisegnoMomenti(c.m, {}, c.pict).PlottaInOggetto(&foglio, "FrmPresFless");
+        ASSERT_EQ(foglio.scritte.size(), 3U);
+        std::string valore = c.valore;
+        valore[valore.find('.')] = static_cast<char>(CarDecimale);
+        EXPECT_EQ(foglio.scritte[1].testo, valore);
+        const double inizio = foglio.linee.at(3).x1;
+        const double luce = foglio.linee.at(50).x2 - inizio;
+        // the number stands beside the mark, inwards
+        const double testo = foglio.scritte[1].x + (c.dove == 1 ? foglio.TextWidth(valore) : 0);
+        EXPECT_NEAR((testo - inizio) / luce, c.dove, 0.1) << valore;
+    }
 }
 
 TEST_F(DisegniMomentoTest, ATableHasABandForEachOfItsGroups) {
