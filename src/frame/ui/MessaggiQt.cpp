@@ -65,7 +65,7 @@ QWidget* FinestraAlLavoro() {
 }
 
 /// A box breaks its lines beyond a width of its own choice: the text is given the width of its longest line,
-/// where the desktop has it.
+/// where the desktop has it. Of a small desktop the toolkit lets a box take the whole width.
 void LasciaIntereLeRighe(QMessageBox& box) {
     constexpr int attorno = 120; // icon and margins [px]
     auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
@@ -74,7 +74,8 @@ void LasciaIntereLeRighe(QMessageBox& box) {
     int width = 0;
     for (const QString& line : box.text().split(u'\n'))
         width = std::max(width, text->fontMetrics().horizontalAdvance(line));
-    const int room = std::min(box.screen()->availableGeometry().width() - 480, 1000) - attorno;
+    const int desktop = box.screen()->availableGeometry().width();
+    const int room = (desktop <= 1024 ? desktop : std::min(desktop - 480, 1000)) - attorno;
     text->setMinimumWidth(std::min(width + 2, std::max(room, 0)));
 }
 
