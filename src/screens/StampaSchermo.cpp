@@ -1,13 +1,17 @@
 #include "screens/StampaSchermo.h"
 
+#include <QLabel>
 #include <QTableView>
 #include <QTextEdit>
+
+#include <algorithm>
 
 #include "drawing/ui/FrmPltSezione.h"
 #include "drawing/ui/ImmagineDisegno.h"
 #include "drawing/ui/ScegliDispositivo.h"
 #include "drawing/ui/StampaTesto.h"
 #include "frame/Messaggi.h"
+#include "frame/ui/Copie.h"
 #include "screens/PlottaSezioneCorrente.h"
 #include "screens/SchermoDettaglio.h"
 #include "screens/SchermoSezione.h"
@@ -16,7 +20,7 @@ namespace sagomi {
 
 namespace {
 
-constexpr int larghezzaColonna = 9; ///< of a printed table [characters]
+constexpr qsizetype minimaColonna = 9; ///< least width in a printed table [characters]
 
 bool MostraSezioni(const Schermo& schermo) {
     if (const auto* main = dynamic_cast<const SchermoSezione*>(&schermo))
@@ -36,21 +40,53 @@ Disegno MaggioreImmagine(const Schermo& schermo) {
     return largest;
 }
 
-std::vector<std::string> Righe(const QAbstractItemModel& table) {
+/// Each column as wide as its longest cell, so that no row is shifted.
+std::vector<std::string> InColonne(const QList<QStringList>& rows) {
+    QList<qsizetype> widths;
+    for (const QStringList& row : rows)
+        for (qsizetype i = 0; i < row.size(); ++i) {
+            if (i == widths.size())
+                widths << minimaColonna;
+            widths[i] = std::max(widths[i], row[i].size());
+        }
     std::vector<std::string> lines;
+    for (QStringList row : rows) {
+        for (qsizetype i = 0; i < row.size(); ++i)
+            row[i] = row[i].leftJustified(static_cast<int>(widths[i]));
+        lines.push_back(row.join(u' ').toStdString());
+    }
+    return lines;
+}
+
+std::vector<std::string> Righe(const QAbstractItemModel& table) {
+    QList<QStringList> rows;
     const auto line = [&](const auto& cell) {
         QStringList cells;
         for (int i = 0; i < table.columnCount(); ++i)
-            cells << cell(i).toString().trimmed().leftJustified(larghezzaColonna);
-        lines.push_back(cells.join(u' ').toStdString());
+            cells << cell(i).toString().trimmed();
+        rows << cells;
     };
     line([&](int i) { return table.headerData(i, Qt::Horizontal); });
     for (int row = 0; row < table.rowCount(); ++row)
         line([&](int i) { return table.index(row, i).data(); });
-    return lines;
+    return InColonne(rows);
 }
 
-/// What a screen without drawings says: its table, or its text.
+/// Entries and results, as they are copied too.
+std::vector<std::string> RigheDerivazione(const Schermo& schermo) {
+    QList<QStringList> rows{
+        {QObject::tr("Simbolo"), QObject::tr("Valore"), QObject::tr("Unità"), QObject::tr("Norma")}};
+    for (const RigaDerivazione& r : Derivazione(schermo))
+        rows.append({r.simbolo, r.valore, r.unita, r.norma});
+    return rows.size() > 1 ? InColonne(rows) : std::vector<std::string>{};
+}
+
+void AggiungeTesto(std::vector<std::string>& lines, const QString& text) {
+    for (const QString& line : text.split(u'\n'))
+        lines.push_back(line.toStdString());
+}
+
+/// What a screen without drawings says: its table, its text, its numbers, or at the least its words.
 std::vector<std::string> TestoDi(const Schermo& schermo) {
     std::vector<std::string> lines;
     for (const auto* table : schermo.findChildren<QTableView*>())
@@ -58,8 +94,13 @@ std::vector<std::string> TestoDi(const Schermo& schermo) {
             lines = Righe(*table->model());
     for (const auto* text : schermo.findChildren<QTextEdit*>())
         if (lines.empty() && text->isVisible())
-            for (const QString& line : text->toPlainText().split(u'\n'))
-                lines.push_back(line.toStdString());
+            AggiungeTesto(lines, text->toPlainText());
+    if (lines.empty())
+        lines = RigheDerivazione(schermo);
+    if (lines.empty())
+        for (const auto* label : schermo.findChildren<QLabel*>())
+            if (label->isVisible() && !label->text().isEmpty())
+                AggiungeTesto(lines, label->text());
     return lines;
 }
 
@@ -68,7 +109,7 @@ void StampaSenzaDisegni(Schermo& schermo, bool anteprima) {
     if (lines.empty())
         Avvisa("Questo schermo non ha disegni da stampare.");
     else if (anteprima)
-        Avvisa("Questo schermo non ha disegni da mostrare; Ctrl+P ne stampa il testo.");
+        AnteprimaTesto(lines, schermo.windowTitle(), &schermo);
     else
         StampaTesto(lines, schermo.windowTitle(), &schermo);
 }

@@ -129,6 +129,44 @@ TEST_F(TastiSchermiTest, CtrlPPrintsTheTableOfAScreenWithoutDrawings) {
     EXPECT_TRUE(registratore.testi.empty());
 }
 
+TEST_F(TastiSchermiTest, AScreenWithoutATablePrintsItsNumbersOrItsWords) {
+    auto& main = Avvia();
+    int asked = 0;
+    ImpostaSceltaStampante([&](QPrinter& printer, QWidget*) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(cartella.filePath(QStringLiteral("numeri%1.pdf").arg(++asked)));
+        return true;
+    });
+    for (const char* name : {"frmSaldature", "frmGamma", "FrmInform"}) {
+        NavigaSchermi::Unico().Apre(QString::fromLatin1(name), main);
+        QTest::keyClick(&Aperto(name), Qt::Key_P, Qt::ControlModifier);
+        EXPECT_TRUE(QFile::exists(cartella.filePath(QStringLiteral("numeri%1.pdf").arg(asked)))) << name;
+        Aperto(name).close();
+    }
+    EXPECT_EQ(asked, 3);
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(TastiSchermiTest, CtrlShiftPShowsThePagesOfAScreenWithoutDrawings) {
+    auto& main = Avvia();
+    for (const char* name : {"FrmRisultatiIntermedi", "frmSaldature", "FrmInform"}) {
+        NavigaSchermi::Unico().Apre(QString::fromLatin1(name), main);
+        auto& screen = Aperto(name);
+        bool shown = false;
+        QTimer::singleShot(0, &screen, [&] {
+            auto* dialog = screen.findChild<QDialog*>(QStringLiteral("AnteprimaDiStampa"));
+            ASSERT_NE(dialog, nullptr);
+            dialog->grab();
+            shown = true;
+            dialog->reject();
+        });
+        QTest::keyClick(&screen, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_TRUE(shown) << name;
+        screen.close();
+    }
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
 TEST_F(TastiSchermiTest, TabEntersThePicturesAtTheChosenOneAndArrowsGoOn) {
     auto& main = Avvia();
     NavigaSchermi::Unico().Apre("FrmPresFless", main);

@@ -1,10 +1,9 @@
 #include "drawing/ui/FrmPltSezione.h"
 
-#include <QPrintPreviewDialog>
 #include <QPrinter>
-#include <QScreen>
 
 #include "drawing/Grafica.h"
+#include "drawing/ui/AnteprimaPagine.h"
 #include "drawing/ui/ScegliDispositivo.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
@@ -92,19 +91,9 @@ void FrmPltSezione::SceltaMenu(int indice) {
 }
 
 void FrmPltSezione::AnteprimaDiStampa() {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(QString::fromStdString(disegno_.nome));
-    QPrintPreviewDialog dialog(&printer, this);
-    dialog.setObjectName(QStringLiteral("AnteprimaDiStampa"));
-    if (printer.outputFormat() !=
-        QPrinter::NativeFormat) // without a printer the toolkit has no page to set up
-        for (QAction* a : dialog.findChildren<QAction*>())
-            if (a->text() == QPrintPreviewDialog::tr("Page setup"))
-                a->setVisible(false);
-    dialog.resize(QSize(900, 720).boundedTo(screen()->availableGeometry().size() * 0.9));
-    Collega(&dialog, &QPrintPreviewDialog::paintRequested, this,
-            [this](QPrinter* page) { StampaSu(*page, disegno_, nomeChiamante_); });
-    dialog.exec();
+    AnteprimaPagine(
+        QString::fromStdString(disegno_.nome),
+        [this](QPrinter& page) { StampaSu(page, disegno_, nomeChiamante_); }, this);
 }
 
 } // namespace sagomi

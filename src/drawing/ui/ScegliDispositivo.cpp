@@ -267,6 +267,8 @@ bool StampaSu(QPrinter& stampante, const Disegno& disegno, const QString& masche
     return StampaTutte(stampante, PaginaDi(disegno, maschera));
 }
 
+bool StampaSu(QPrinter& stampante, const PaginaStampata& pagina) { return StampaTutte(stampante, pagina); }
+
 bool StampaPagine(const QString& nome, const PaginaStampata& pagina, QWidget* sopra, QString* esito) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(nome);

@@ -50,5 +50,6 @@ bool StampaPagine(const QString& nome, const PaginaStampata& pagina, QWidget* so
 /// Draws the pages of a printer that has been chosen. False, with a message, when it cannot be had or the
 /// drawing fails.
 bool StampaSu(QPrinter& stampante, const Disegno& disegno, const QString& maschera);
+bool StampaSu(QPrinter& stampante, const PaginaStampata& pagina);
 
 } // namespace sagomi

@@ -19,4 +19,8 @@ namespace sagomi {
 bool StampaTesto(const std::vector<std::string>& righe, const QString& nome, QWidget* sopra,
                  QString* esito = nullptr, double corpo = corpoElenchi);
 
+/// The preview of the same pages.
+void AnteprimaTesto(const std::vector<std::string>& righe, const QString& nome, QWidget* sopra,
+                    double corpo = corpoElenchi);
+
 } // namespace sagomi
