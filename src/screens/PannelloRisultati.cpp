@@ -10,6 +10,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "frame/ui/ColonnaDecimali.h"
 #include "frame/ui/GruppoVoci.h"
 #include "screens/NoteSezione.h"
 #include "screens/VociSezione.h"
@@ -87,6 +88,7 @@ QWidget* PannelloRisultati::CreaResistenze(const VociSchermo& voci) {
     int columns = 0;
     for (const RigaResistenze& line : voci.resistenze)
         columns = std::max(columns, PosaResistenze(*grid, line, row++));
+    AllineaDecimali(*grid);
     grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, columns);
     if (voci.note)
         for (const char* note : {"LblFibraInferiore", "LblAliDiverse"})

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "catalogue/Famiglie.h"
+#include "frame/ui/ColonnaDecimali.h"
 #include "screens/VociSezione.h"
 
 namespace sagomi {
@@ -67,6 +68,7 @@ void ValoriRiga::ImpostaSchermo(const QByteArray& nome) {
     }
     const int below = static_cast<int>(rows);
     QGridLayout* grid = InColonne(boxes, below, 4);
+    AllineaDecimali(*grid);
     grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding), below, 0);
     grid->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, grid->columnCount());
 }

@@ -61,12 +61,38 @@ TEST_F(FinestreTest, TheSectionAndItsValuesMayBeCovered) {
 
 TEST_F(FinestreTest, CaptionsAreNeverCut) {
     const QFontMetrics metrics(QFontDatabase::systemFont(QFontDatabase::TitleFont));
-    for (const char* name : {"frmGamma", "FrmMsverg", "FrmPresFless", "FrmVerifiche", "FrmClasseDoppioTU"}) {
-        const auto& window = Apre(name);
+    for (const VoceSchermo& voce : QList<VoceSchermo>(NavigaSchermi::Unico().Tavola())) {
+        if (voce.nome == u"FrmPltSezione")
+            Preme(s, "CmdPlotta"); // its title comes with its drawing
+        const auto& window = NavigaSchermi::Unico().Prende(voce.nome);
+        const std::string name = voce.nome.toStdString();
         const int desktop = window.screen()->availableGeometry().width() - 16;
         EXPECT_GE(window.minimumWidth(),
                   std::min(desktop, metrics.horizontalAdvance(window.windowTitle()) + 100))
             << name;
+    }
+}
+
+// Resistances and values of one column, for one number right of the other.
+TEST_F(FinestreTest, DecimalsOfTheMainScreenLineUp) {
+    s->show();
+    VaA(*s, "IPE 300");
+    QCoreApplication::processEvents();
+    for (const char* room : {"fraResistenze", "fraValori"}) {
+        QHash<int, QHash<int, QString>> columns; // by their right edge, their distances to the separator
+        int numbers = 0;
+        for (const auto* box : Trova<QGroupBox>(s, room)->findChildren<QLineEdit*>()) {
+            const auto at = box->text().indexOf(QChar(CarDecimale));
+            if (at < 0 || !box->isReadOnly() || !box->isVisible())
+                continue;
+            ++numbers;
+            const int tail = box->fontMetrics().horizontalAdvance(box->text().mid(at));
+            columns[box->geometry().right()].insert(box->textMargins().right() + tail, box->text());
+        }
+        EXPECT_GT(numbers, columns.size()) << room;
+        for (const auto& column : columns)
+            EXPECT_EQ(column.size(), 1)
+                << room << ": " << QStringList(column.values()).join(u' ').toStdString();
     }
 }
 

@@ -411,6 +411,7 @@ TEST_F(FrmBulloniTest, SymbolsAreTrueSubscriptsAndUnitsStandBehindThem) {
 TEST_F(FrmBulloniTest, DecimalsOfTheResistancesLineUp) {
     Apre();
     M16();
+    QCoreApplication::processEvents(); // the column is arranged before it is painted
     const auto separator = [this](const char* name) {
         const auto* box = Trova<QLineEdit>(b, name);
         const QString tail = box->text().mid(box->text().indexOf(QChar(CarDecimale)));
