@@ -7,6 +7,7 @@
 #include "fasteners/Bullone.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
+#include "frame/Unita.h"
 #include "joints/DiagrammaAlfa.h"
 #include "joints/OsservatoreProgetto.h"
 
@@ -84,7 +85,7 @@ void Giunto::sTraveColonna_Calcola() {
     sTrave_ = Radice(t());
 }
 
-void Giunto::Braccio_Calcola() { z = (t().h - t().tf) / 1000; }
+void Giunto::Braccio_Calcola() { z = mm_a_m(t().h - t().tf); }
 
 void Giunto::Derivati_Calcola() {
     m2 = d2 - gambaUtile * sqrt2 * Af;

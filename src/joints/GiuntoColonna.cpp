@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "joints/DiagrammaAlfa.h"
 #include "joints/Divisione.h"
 #include "joints/Giunto.h"
@@ -29,8 +30,8 @@ bool Diversi(double a, double b) { return Formato("0.00", a) != Formato("0.00", 
 
 double Giunto::TensioneColonna() const {
     const SezioneDoppioT& col = c();
-    const double N = Diviso(1000 * col.NSd, col.Area, "Area");
-    const double M = Diviso(1e6 * col.Mysd * col.h, 2 * col.Jy, "Jy");
+    const double N = Diviso(kN_a_N(col.NSd), col.Area, "Area");
+    const double M = Diviso(kNm_a_Nmm(col.Mysd) * col.h, 2 * col.Jy, "Jy");
     // The left joint of a cross sees the moment of the column reversed.
     const bool sinistro = TipiGiunto == "Croce_Sn" || TipiGiunto == "CroceSn";
     return sinistro ? N - M : N + M;
@@ -185,13 +186,13 @@ double Giunto::LarghezzaInstabilita() const {
 }
 
 void Giunto::NbRdAnimaColonna_Calcola() {
-    NbRd_Anima_c = c().tw * LarghezzaInstabilita() * TensioneInstabilita() / 1000;
+    NbRd_Anima_c = N_a_kN(c().tw * LarghezzaInstabilita() * TensioneInstabilita());
 }
 
 /// Both checks of the web in compression, with its buckling stress.
 void Giunto::AnimaCompressa(double instabilita) {
     FcRdAnimaColonna_Calcola();
-    NbRd_Anima_c = c().tw * LarghezzaInstabilita() * instabilita / 1000;
+    NbRd_Anima_c = N_a_kN(c().tw * LarghezzaInstabilita() * instabilita);
 }
 
 void Giunto::VplRdPannello_Calcola(double beta) {

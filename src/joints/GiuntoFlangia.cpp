@@ -2,6 +2,7 @@
 #include <stdexcept>
 
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "joints/DiagrammaAlfa.h"
 #include "joints/Divisione.h"
 #include "joints/Giunto.h"
@@ -69,8 +70,8 @@ void Giunto::FtRdAnimaTrave_Calcola() {
 void Giunto::Vrd_Calcola() {
     const double coefficiente = Classe == "10.9" ? 0.5 : 0.6;
     const double F = coefficiente * fubl * Areares / Fattori().GammaM2;
-    Vrd0 = 2 * F / 1000;
-    Vrd1 = 2 * quotaTaglio * F / 1000;
+    Vrd0 = N_a_kN(2 * F);
+    Vrd1 = N_a_kN(2 * quotaTaglio * F);
 }
 
 } // namespace sagomi

@@ -1,4 +1,5 @@
 // Forces of the rows and moment resistance, ENV 1993-1-1 annex J.
+#include "frame/Unita.h"
 #include "joints/Giunto.h"
 
 namespace sagomi {
@@ -173,11 +174,11 @@ void Giunto::BracciLeva_Calcola() {
     zEst_ = nf == 2 ? t().h + dX - 0.5 * t().tf : 0;
 }
 
-void Giunto::Momento() { MplRdGIUNTO = (zEst_ * FtRd_EffSup + zInt_ * FtRd_EffInf) / 1000; }
+void Giunto::Momento() { MplRdGIUNTO = mm_a_m(zEst_ * FtRd_EffSup + zInt_ * FtRd_EffInf); }
 
 // EC3 6.9.6.3.
 void Giunto::ClasseResistenza_Calcola() {
-    const double Mj = MplRdGIUNTO * 1e6;
+    const double Mj = kNm_a_Nmm(MplRdGIUNTO);
     const double Mb = t().McyRd;
     ResistenzaGiunto = " Giunto ";
     if (Mj >= Mb)

@@ -43,7 +43,7 @@ std::optional<double> Passo(std::int16_t tipoProgetto) {
 /// Moment that ends a search [kNm].
 std::optional<double> Obiettivo(std::int16_t tipoUscita, const SezioneDoppioT& trave) {
     if (tipoUscita == 0)
-        return 1.2 * trave.McyRd / 1e6;
+        return Nmm_a_kNm(1.2 * trave.McyRd);
     if (tipoUscita == 1)
         return Nmm_a_kNm(trave.McyRd);
     if (tipoUscita != 2) {

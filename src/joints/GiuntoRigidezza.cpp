@@ -1,6 +1,7 @@
 // Rotational stiffness and its classes, ENV 1993-1-1 annex J and 6.9.6.2.
 #include <algorithm>
 
+#include "frame/Unita.h"
 #include "joints/Divisione.h"
 #include "joints/Giunto.h"
 #include "joints/RigidezzaGiunto.h"
@@ -37,7 +38,7 @@ void Giunto::Limiti() {
     if (L_ == 0)
         return;
     const double J = t().Jy;
-    const auto limite = [&](double volte) { return volte * E_acciaio * J / (1000 * L_) / 1e6; };
+    const auto limite = [&](double volte) { return Nmm_a_kNm(volte * E_acciaio * J / m_a_mm(L_)); };
     LimiteCerniera = limite(0.5);
     LimiteRigido2 = limite(8);
     LimiteRigido1 = limite(25);
@@ -60,9 +61,9 @@ void Giunto::CoefficentiRigidezza_Calcola() {
 
 void Giunto::CoefficientiCorrettivi_Calcola() {
     mu1 = mu2 = mu3 = 1;
-    mu4 = mu5 = mu6 = Diviso(zInt_ * FtRd_EffInf, 1000 * MplRdGIUNTO, "Mj");
+    mu4 = mu5 = mu6 = Diviso(zInt_ * FtRd_EffInf, m_a_mm(MplRdGIUNTO), "Mj");
     if (nf == 2)
-        mu4_Estesa = mu5_Estesa = mu6_Estesa = Diviso(zEst_ * FtRd_EffSup, 1000 * MplRdGIUNTO, "Mj");
+        mu4_Estesa = mu5_Estesa = mu6_Estesa = Diviso(zEst_ * FtRd_EffSup, m_a_mm(MplRdGIUNTO), "Mj");
 }
 
 TerminiRigidezza Giunto::Termini(double mu) const {

@@ -1,5 +1,6 @@
 // The values of a check as data, in the order of the calculation.
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "joints/Giunto.h"
 
 namespace sagomi {
@@ -181,7 +182,7 @@ void Giunto::TracciaMomento() {
     finale.Testo("ComponenteDebole", ComponenteDebole);
     Tracciatore(Traccia, "Momento resistente", annessoJ)("MplRdGIUNTO", MplRdGIUNTO,
                                                          "kNm")("M_elastico", M_elastico, "kNm");
-    Tracciatore(Traccia, "Ala e anima della trave", "EC3 6.9.6.3")("McyRd", t().McyRd / 1e6, "kNm")
+    Tracciatore(Traccia, "Ala e anima della trave", "EC3 6.9.6.3")("McyRd", Nmm_a_kNm(t().McyRd), "kNm")
         .Testo("ResistenzaGiunto", ResistenzaGiunto);
     Tracciatore(Traccia, "Bulloni a taglio", "ENV 1993-1-1 6.5.5")("Vrd0", Vrd0, "kN")("Vrd1", Vrd1, "kN");
     passiResistenza_ = Traccia.size();

@@ -7,6 +7,7 @@
 #include "frame/Messaggi.h"
 #include "frame/Numeri.h"
 #include "frame/NumeroPulito.h"
+#include "frame/Unita.h"
 
 namespace sagomi {
 
@@ -37,7 +38,7 @@ void ImpostaGiunto(Giunto& g, const char* tipo) {
 }
 
 /// More than a tenth of the axial resistance. The action is in kN, the resistance in N.
-bool AssialeEccessivo(const SezioneDoppioT& trave) { return std::abs(trave.NSd) > 0.1 * trave.NplRd / 1000; }
+bool AssialeEccessivo(const SezioneDoppioT& trave) { return std::abs(trave.NSd) > N_a_kN(0.1 * trave.NplRd); }
 
 void Azioni(SezioneDoppioT& s, double M, double V, double N) {
     s.Mysd = M;

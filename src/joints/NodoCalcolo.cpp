@@ -3,6 +3,7 @@
 
 #include "frame/Errori.h"
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "joints/Divisione.h"
 #include "joints/Nodo.h"
 
@@ -61,8 +62,8 @@ double Nodo::BetaAnalitico() {
 }
 
 double Nodo::BetaDueTravi(double Vm) {
-    const double M1 = TraveDx->Mysd * 1000;
-    const double M2 = TraveSx->Mysd * 1000;
+    const double M1 = m_a_mm(TraveDx->Mysd); // [kN mm]
+    const double M2 = m_a_mm(TraveSx->Mysd);
     const double z1 = Braccio(*TraveDx);
     const double z2 = Braccio(*TraveSx);
     const bool sinistro = nGiunto == 2;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "frame/Numeri.h"
+#include "frame/Unita.h"
 #include "joints/Nodo.h"
 
 namespace sagomi {
@@ -142,7 +143,7 @@ void Rigidezze(Mappa& testi, const Giunto& g, bool luce) {
 void Momenti(Mappa& testi, const Giunto& g, double Mb) {
     testi["TxtMjRd"] = Cifre(g.MplRdGIUNTO);
     testi["TxtMel"] = Cifre(g.M_elastico);
-    testi["txtMrdTrave"] = Cifre(Mb / 1e6);
+    testi["txtMrdTrave"] = Cifre(Nmm_a_kNm(Mb));
     testi["TxtVrd0"] = Cifre(g.Vrd0);
     testi["TxtVrd1"] = Cifre(g.Vrd1);
     testi["ResistenzaGiunto"] = g.ResistenzaGiunto;
