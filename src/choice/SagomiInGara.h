@@ -5,12 +5,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
-#include "sections/SezioneDoppioT.h"
-#include "sections/SezioneSagomoL.h"
-#include "sections/SezioneSagomoU.h"
+#include "sections/SezioneQualsiasi.h"
 
 /// The rows that a choice is made of, read once.
 namespace sagomi {
@@ -23,7 +20,7 @@ struct SagomoInGara {
     std::string famiglia; ///< name of its sheet
     bool utente = false;  ///< one of the user's own
     double g = 0;         ///< weight [kg/m]
-    std::variant<SezioneDoppioT, SezioneSagomoU, SezioneSagomoL> sezione;
+    SezioneQualsiasi sezione;
 
     [[nodiscard]] const std::string& Designazione() const;
 };

@@ -7,11 +7,11 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 #include "choice/SagomiInGara.h"
 #include "sections/DiagrammaMomenti.h"
+#include "sections/SezioneQualsiasi.h"
 
 /// The whole catalogue checked for a set of forces, with the checks of the screens. The sections are the
 /// sweep's own, the section in use is the same before and after, and what would be told on the way is
@@ -86,7 +86,7 @@ std::vector<RigaScelta> Valuta(std::span<const SagomoInGara> sagomi, const Richi
 /// One row with the section that carries all of its results.
 struct SagomoVerificato {
     RigaScelta riga;
-    std::variant<SezioneDoppioT, SezioneSagomoU, SezioneSagomoL> sezione;
+    SezioneQualsiasi sezione;
     std::string CurvaY, CurvaZ; ///< buckling curves
 };
 

@@ -21,4 +21,10 @@ EffettiDiagramma EffettiSullaSezione(const SezioneDoppioT& sezione, int asse, Mo
 /// load acts at mid-height.
 void ApplicaDiagrammi(SezioneDoppioT& sezione, const EffettiDiagramma& y, const EffettiDiagramma& z);
 
+/// Kinds of section that take the diagrams of a member.
+template <typename S>
+concept ConDiagrammi = requires(S& s, const EffettiDiagramma& e) {
+    ApplicaDiagrammi(s, e, e);
+};
+
 } // namespace sagomi

@@ -3,7 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 #include <set>
+#include <variant>
+
+#include "sections/PressoFlessione.h"
 
 using namespace sagomi;
 
@@ -12,6 +16,16 @@ namespace {
 std::ptrdiff_t Conta(const Gara& gara, std::string_view famiglia) {
     return std::ranges::count(gara.sagomi, famiglia, &SagomoInGara::famiglia);
 }
+
+// One list of kinds: what a row holds by value the section in use refers to.
+template <typename... S>
+consteval bool StessiTipi(const std::variant<S...>*,
+                          const std::variant<std::monostate, std::shared_ptr<S>...>*) {
+    return true;
+}
+static_assert(StessiTipi(static_cast<const decltype(SagomoInGara::sezione)*>(nullptr),
+                         static_cast<const RiferimentoSezione*>(nullptr)));
+static_assert(ConDiagrammi<SezioneDoppioT> && !ConDiagrammi<SezioneSagomoU> && !ConDiagrammi<SezioneSagomoL>);
 
 // Rows of the tables: 18 IPE, 18 UPN, 114 equal angles.
 TEST(SagomiInGara, AllFamiliesAreRead) {

@@ -14,6 +14,7 @@
 #include "frame/ui/NavigaSchermi.h"
 #include "screens/ConDiagramma.h"
 #include "screens/SchermoSezione.h"
+#include "sections/PressoFlessione.h"
 
 namespace sagomi {
 
@@ -76,6 +77,10 @@ int CercaRiga(const Lettore& righe, const SagomoInGara& sagomo) {
     return -1;
 }
 
+bool PrendeDiagrammi(const SezioneQualsiasi& sezione) {
+    return std::visit([]<typename S>(const S&) { return ConDiagrammi<S>; }, sezione);
+}
+
 ValoriScelti ValoriDi(const Richiesta& r) {
     static std::uint64_t prese = 0;
     const EffettiDiagramma y = EffettiDelDiagramma(r.y, r.tipoDiagramma, r.pict);
@@ -115,7 +120,7 @@ SchermoSezione* PrendeSagomo(const SagomoInGara& sagomo, const Richiesta& richie
                sagomo.famiglia + ".");
         return nullptr;
     }
-    if (std::holds_alternative<SezioneDoppioT>(sagomo.sezione))
+    if (PrendeDiagrammi(sagomo.sezione))
         if (auto* member = dynamic_cast<ConDiagramma*>(&screens.Prende(QStringLiteral("FrmPresFless"))))
             member->ImpostaDiagramma(richiesta.y, richiesta.z, richiesta.pict);
     ImpostaAcciaio(s, acciaio);
