@@ -272,34 +272,13 @@ SagomoVerificato Verifica(const SagomoInGara& sagomo, const Richiesta& richiesta
     return esito;
 }
 
-void OrdinaPerPeso(std::vector<RigaScelta>& righe) {
-    const auto chiave = [](const RigaScelta& r) {
-        const double utilizzo = std::isnan(r.massimo) ? std::numeric_limits<double>::infinity() : r.massimo;
-        return std::tuple(!r.verificato, r.g, utilizzo, r.indice);
-    };
-    std::ranges::sort(righe, [&](const RigaScelta& a, const RigaScelta& b) { return chiave(a) < chiave(b); });
+std::tuple<bool, double, double> ChiavePeso(const RigaScelta& riga) {
+    const double utilizzo = std::isnan(riga.massimo) ? std::numeric_limits<double>::infinity() : riga.massimo;
+    return {!riga.verificato, riga.g, utilizzo};
 }
 
-std::vector<std::size_t> PiuLeggeri(const std::vector<RigaScelta>& righe,
-                                    std::span<const SagomoInGara> sagomi) {
-    std::vector<std::pair<std::string_view, std::size_t>> migliori; // families are few
-    for (std::size_t i = 0; i < righe.size(); ++i) {
-        if (!righe[i].verificato)
-            continue;
-        const std::string_view famiglia = sagomi[righe[i].indice].famiglia;
-        const auto noto =
-            std::ranges::find(migliori, famiglia, &std::pair<std::string_view, std::size_t>::first);
-        if (noto == migliori.end())
-            migliori.emplace_back(famiglia, i);
-        else if (righe[i].g < righe[noto->second].g)
-            noto->second = i;
-    }
-    std::vector<std::size_t> posti;
-    posti.reserve(migliori.size());
-    for (const auto& [famiglia, posto] : migliori)
-        posti.push_back(posto);
-    std::ranges::sort(posti);
-    return posti;
+void OrdinaPerPeso(std::vector<RigaScelta>& righe) {
+    std::ranges::sort(righe, {}, [](const RigaScelta& r) { return std::pair(ChiavePeso(r), r.indice); });
 }
 
 } // namespace sagomi

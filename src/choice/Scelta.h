@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "choice/SagomiInGara.h"
@@ -94,11 +95,10 @@ struct SagomoVerificato {
 SagomoVerificato Verifica(const SagomoInGara& sagomo, const Richiesta& richiesta,
                           std::vector<std::string>& messaggi);
 
-/// Brings rows into order: those that hold first, the lighter before the heavier, then by utilisation.
-void OrdinaPerPeso(std::vector<RigaScelta>& righe);
+/// Tells which of two rows comes first: those that hold, the lighter before the heavier, then by utilisation.
+std::tuple<bool, double, double> ChiavePeso(const RigaScelta& riga);
 
-/// The lightest row that holds of each family: places in `righe`, in their order.
-std::vector<std::size_t> PiuLeggeri(const std::vector<RigaScelta>& righe,
-                                    std::span<const SagomoInGara> sagomi);
+/// Brings rows into that order, equal ones into that of what they were made of.
+void OrdinaPerPeso(std::vector<RigaScelta>& righe);
 
 } // namespace sagomi

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <tuple>
 #include <utility>
 
 #include "frame/Numeri.h"
@@ -137,12 +136,7 @@ std::string TestoInteroScelta(const RigaScelta& riga, const SagomoInGara& sagomo
 void OrdinaScelta(std::vector<std::uint32_t>& posti, std::span<const RigaScelta> righe,
                   std::span<const SagomoInGara> sagomi, const OrdineScelta& ordine) {
     if (ordine.colonna < 0) {
-        std::ranges::sort(posti, {}, [&](std::uint32_t p) {
-            const RigaScelta& r = righe[p];
-            const double utilizzo =
-                std::isnan(r.massimo) ? std::numeric_limits<double>::infinity() : r.massimo;
-            return std::tuple(!r.verificato, r.g, utilizzo, p);
-        });
+        std::ranges::sort(posti, {}, [&](std::uint32_t p) { return std::pair(ChiavePeso(righe[p]), p); });
         return;
     }
     if (const auto valore = ColonneScelta()[static_cast<std::size_t>(ordine.colonna)].valore) {

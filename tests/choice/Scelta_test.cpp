@@ -4,8 +4,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <set>
 
 #include "Registratore.h"
+#include "choice/TabellaScelta.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Unita.h"
 
@@ -175,14 +178,33 @@ TEST_F(SceltaTest, TheLightestThatHoldsComesFirst) {
     const auto fails = std::ranges::find(righe, false, &RigaScelta::verificato);
     EXPECT_TRUE(std::ranges::is_sorted(righe.begin(), fails, {}, &RigaScelta::g));
     EXPECT_TRUE(std::none_of(fails, righe.end(), [](const RigaScelta& x) { return x.verificato; }));
-    const auto best = PiuLeggeri(righe, Sagomi());
-    ASSERT_FALSE(best.empty());
-    EXPECT_EQ(best.front(), 0U);
-    for (const std::size_t i : best)
-        for (const RigaScelta& other : righe)
-            if (other.verificato && Sagomi()[other.indice].famiglia == Sagomi()[righe[i].indice].famiglia) {
-                EXPECT_GE(other.g, righe[i].g);
-            }
+    EXPECT_TRUE(std::ranges::is_sorted(righe, {}, ChiavePeso));
+}
+
+TEST_F(SceltaTest, TheTableHasTheOrderOfTheCommandLineAndTheSameLightest) {
+    Richiesta r = Acciaio275();
+    r.y.M1 = kNm_a_Nmm(100);
+    r.LLT = 3000;
+    auto righe = Valuta(r);
+    const auto perPosto = righe; // of all rows, in their order
+    ASSERT_EQ(righe.size(), Sagomi().size());
+    OrdinaPerPeso(righe);
+    std::vector<std::uint32_t> posti(righe.size());
+    std::iota(posti.begin(), posti.end(), 0U);
+    OrdinaScelta(posti, perPosto, Sagomi(), {});
+    EXPECT_TRUE(std::ranges::equal(posti, righe, {}, {}, &RigaScelta::indice));
+    std::set<std::string> famiglie;
+    std::vector<std::uint32_t> primi; // of each family in that order
+    for (const RigaScelta& riga : righe)
+        if (riga.verificato && famiglie.insert(Sagomi()[riga.indice].famiglia).second)
+            primi.push_back(static_cast<std::uint32_t>(riga.indice));
+    const auto leggeri = PiuLeggeriFra(posti, perPosto, Sagomi());
+    ASSERT_FALSE(leggeri.empty());
+    ASSERT_EQ(leggeri.size(), primi.size());
+    for (std::size_t i = 0; i < primi.size(); ++i) {
+        EXPECT_EQ(Sagomi()[leggeri[i]].famiglia, Sagomi()[primi[i]].famiglia);
+        EXPECT_EQ(perPosto[leggeri[i]].g, perPosto[primi[i]].g);
+    }
 }
 
 TEST_F(SceltaTest, TheSectionInUseStaysAndPiecesGiveTheSame) {
