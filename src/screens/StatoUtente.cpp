@@ -24,12 +24,15 @@ QString& Cartella() {
     return folder;
 }
 
-/// nullptr where nothing is kept, or something else stands in the file's place: a pipe would be waited for.
+constexpr qint64 byteMassimi = qint64{16} << 20U;
+
+/// nullptr where nothing is kept, or something else stands in the file's place: a pipe would be waited for, a
+/// file of any length read whole.
 std::unique_ptr<QSettings> File() {
     if (Cartella().isEmpty())
         return nullptr;
     const QFileInfo file(Cartella() + QStringLiteral("/stato.ini"));
-    if (file.exists() && !file.isFile())
+    if (file.exists() && (!file.isFile() || file.size() > byteMassimi))
         return nullptr;
     return std::make_unique<QSettings>(file.filePath(), QSettings::IniFormat);
 }

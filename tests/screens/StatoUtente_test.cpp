@@ -173,4 +173,18 @@ TEST_F(StatoUtenteTest, AFileThatIsNoneOfOursChangesNothing) {
     EXPECT_TRUE(registratore.testi.empty());
 }
 
+TEST_F(StatoUtenteTest, AFileOfAnyLengthIsNeitherReadNorWritten) {
+    QFile other(utente.filePath(QStringLiteral("stato.ini")));
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.write("[recenti]\nfrmGiunti=/uno.gfl\n");
+    ASSERT_TRUE(other.resize((qint64{16} << 20U) + 1)); // without blocks on the disk
+    other.close();
+    FileRecenti().clear();
+    LeggeStatoComune();
+    EXPECT_TRUE(FileRecenti().isEmpty());
+    ScriveStato(Avvia());
+    EXPECT_EQ(other.size(), (qint64{16} << 20U) + 1);
+    EXPECT_TRUE(registratore.testi.empty());
+}
+
 } // namespace
