@@ -75,6 +75,8 @@ public:
 
     /// The selected rows, that in hand always among them, as tab-separated lines under a line of headings.
     [[nodiscard]] QString RigheSelezionate() const;
+    /// Puts them on the clipboard, as text and as a table.
+    void Copia();
 
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
@@ -100,7 +102,6 @@ protected:
 
 private:
     void CollegaIntestazioni(QHeaderView* intestazioni);
-    void Copia();
     void Tasto(QKeyEvent* event);
     bool Scorre(int tasto);
     void Cerca(const QString& testo);

@@ -12,6 +12,7 @@
 #include "choice/TabellaScelta.h"
 #include "drawing/ui/ImmagineDisegno.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/TabellaCopiata.h"
 
 namespace sagomi {
 
@@ -107,18 +108,18 @@ void FrmConfronto::RiempieTabella() {
 }
 
 void FrmConfronto::Copia() const {
-    QStringList lines;
+    QList<QStringList> lines;
     QStringList fields;
     for (int column = 0; column < tabella_->columnCount(); ++column)
         fields << tabella_->horizontalHeaderItem(column)->text();
-    lines << fields.join(u'\t');
+    lines << fields;
     for (int row = 0; row < tabella_->rowCount(); ++row) {
         fields.clear();
         for (int column = 0; column < tabella_->columnCount(); ++column)
             fields << tabella_->item(row, column)->text();
-        lines << fields.join(u'\t');
+        lines << fields;
     }
-    QGuiApplication::clipboard()->setText(lines.join(u'\n') + u'\n');
+    QGuiApplication::clipboard()->setMimeData(TabellaCopiata(windowTitle(), lines));
 }
 
 } // namespace sagomi

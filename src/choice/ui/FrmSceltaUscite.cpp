@@ -1,6 +1,4 @@
-#include <QClipboard>
 #include <QFileInfo>
-#include <QGuiApplication>
 
 #include <algorithm>
 #include <filesystem>
@@ -66,10 +64,7 @@ std::vector<std::string> Testata(const Richiesta& r) {
 
 } // namespace
 
-void FrmScelta::Copia() {
-    if (const QString rows = tabella_->RigheSelezionate(); !rows.isEmpty())
-        QGuiApplication::clipboard()->setText(rows);
-}
+void FrmScelta::Copia() { tabella_->Copia(); }
 
 // One row alone is held against the lightest of other families.
 void FrmScelta::Confronta() {

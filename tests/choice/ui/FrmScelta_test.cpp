@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QFile>
+#include <QMimeData>
 #include <QPrinter>
 #include <QProgressBar>
 #include <QSignalSpy>
@@ -427,6 +428,8 @@ TEST_F(FrmSceltaTest, RowsStandSideBySide) {
     EXPECT_EQ(table->horizontalHeaderItem(1)->text(), NomeInMano(s));
     Preme(&compared, "CmdCopia");
     EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(NomeInMano(s)));
+    EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->html().contains("<td>"));
+    EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasImage());
 }
 
 TEST_F(FrmSceltaTest, RowsSideBySideFollowTheForces) {
@@ -459,6 +462,8 @@ TEST_F(FrmSceltaTest, TheTableIsCopiedAndExported) {
     const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
     EXPECT_TRUE(lines.value(0).startsWith("sagomo\tfamiglia\tg (kg/m)"));
     EXPECT_TRUE(lines.value(1).startsWith(NomeInMano(s)));
+    EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->html().contains("<th>sagomo</th>"));
+    EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasImage());
     const QString file = QString::fromStdString((PathProgramma / "prova.csv").string());
     ImpostaSceltaFile(
         [&file](QWidget*, std::string_view, const QString&, int, const QString&) { return file; });
