@@ -101,7 +101,7 @@ void FrmScelta::AggiornaConfronto() {
 
 // The numbers as the table shows them, in columns as wide as they need.
 void FrmScelta::Stampa() {
-    constexpr double corpo = 6; // all columns on the width of a page
+    constexpr double corpo = 5.2; // all columns on the width of a page
     const auto columns = ColonneScelta().size();
     std::vector<std::vector<std::string>> rows(1);
     for (const ColonnaScelta& column : ColonneScelta())
