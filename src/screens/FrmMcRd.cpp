@@ -79,7 +79,8 @@ FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::Fr
     Collega(ui_->txtLstar, &QLineEdit::textChanged, this, [this] { Duttilita(); });
     AggiungeRelazione(*this, [this] {
         const SezioneDoppioT* s = Sezione();
-        return s == nullptr ? Relazione() : RelazioneResistenze(*s, objectName().toStdString());
+        return s == nullptr || !regole_.Applica() ? Relazione()
+                                                  : RelazioneResistenze(*s, objectName().toStdString());
     });
     DimensionaIniziale({});
 }

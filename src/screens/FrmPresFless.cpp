@@ -260,7 +260,8 @@ void FrmPresFless::PrendeMomento(int asse) {
     const QList<QLineEdit*> boxes{TxtM1_[asse], TxtM2_[asse], TxtMQ_[asse]};
     const auto typing = [](const QLineEdit* box) { return InDigitazione(box); };
     constexpr double cifreSingolo = 5e-7;
-    if (!StessaSezione() || std::ranges::any_of(boxes, typing) || std::abs(given - own) <= cifreSingolo * own)
+    if (!StessaSezione() || !std::isfinite(given) || std::ranges::any_of(boxes, typing) ||
+        std::abs(given - own) <= cifreSingolo * own)
         return;
     const TerminiInterazione t = s.TerminiMNInstab();
     const double NeN = asse == 0 ? t.y.NeN : t.z.NeN;

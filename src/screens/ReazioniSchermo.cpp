@@ -26,10 +26,12 @@ namespace {
 constexpr int cifreRisultati = 4;  ///< figures of the result boxes
 constexpr double fyMinimo = 0.001; ///< a strength not above this is no strength [N/mm2]
 
+/// Without a row there are no values, no section and no results, on this screen and on those opened from it.
 void SvuotaCampi(SchermoSezione& schermo) {
     for (QLineEdit* field : schermo.TxtProf)
         field->clear();
-    schermo.SvuotaRisultati();
+    SezioneCorrente.emplace<std::monostate>();
+    schermo.Risultati();
 }
 
 /// Pending events are let through around the reading, as the windows are being made.
@@ -123,6 +125,8 @@ void AttivaForm(SchermoSezione& schermo) {
         AggiornaCaptionNormativa(schermo);
         schermo.CaricaForm = false;
         const AggiornamentoRinviato filling(schermo); // no detail leaves anything on the section of this one
+        if (schermo.Data1->Recordset().Righe() == 0)
+            SezioneCorrente.emplace<std::monostate>(); // that of another screen is not its own
         schermo.DatiRisultati();
         ScreenAttivo = schermo.objectName().toStdString();
     });
@@ -190,10 +194,12 @@ void AcciaioCambiato(SchermoSezione& schermo) {
     const bool typed = InDigitazione(schermo.Txt_fy);
     if (!FyPossibile(fy)) {
         schermo.SvuotaValori();
-        if (!typed) {
-            Avvisa("fy deve essere > 0");
-            schermo.RimetteFy();
+        if (typed) {
+            AggiornaVisibili(schermo);
+            return;
         }
+        Avvisa("fy deve essere > 0");
+        schermo.RimetteFy();
         return;
     }
     if (!schermo.RigaInMano())

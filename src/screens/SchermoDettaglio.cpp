@@ -1,5 +1,6 @@
 #include "screens/SchermoDettaglio.h"
 
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -11,6 +12,7 @@
 #include "frame/Attesa.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
+#include "frame/Unita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Entrata.h"
 #include "frame/ui/EtichettaRisultato.h"
@@ -26,6 +28,16 @@
 namespace sagomi {
 
 namespace {
+
+/// Forces and moments, by their names.
+bool EAzione(const QString& nome) { return nome.startsWith(u"TxtN") || nome.startsWith(u"TxtM"); }
+
+/// Why an action cannot be: in N or N mm it is beyond what a section holds.
+QString MotivoAzione(const QLineEdit* box) {
+    const double value = NumeroIn(box);
+    const double inSection = box->objectName().startsWith(u"TxtN") ? kN_a_N(value) : kNm_a_Nmm(value);
+    return std::isfinite(Singolo(inSection).Stretto()) ? QString() : QObject::tr("Il numero è troppo grande");
+}
 
 /// Numbers that differ by more than the boxes show, which are filled with seven figures.
 bool Diversi(double a, double b) {
@@ -137,7 +149,7 @@ void SchermoDettaglio::PrendeDallaSezione() {
         return;
     for (const Legame& l : legami_) {
         const double given = Sezione()->*l.valore;
-        if (!sagomi::InDigitazione(l.casella) && Diversi(given, l.visto))
+        if (!sagomi::InDigitazione(l.casella) && std::isfinite(given) && Diversi(given, l.visto))
             Riempie(l.casella, given / l.unita);
     }
 }
@@ -170,14 +182,11 @@ void SchermoDettaglio::CollegaFy() {
     auto* fy = findChild<QLineEdit*>(QStringLiteral("Txt_fy"));
     if (fy == nullptr || fy->isReadOnly())
         return;
-    QList<QWidget*> all;
-    for (EtichettaRisultato* result : findChildren<EtichettaRisultato*>())
-        all << result;
     regole_.Aggiunge(
         {.caselle = {fy},
          .motivo = [fy] { return FyPossibile(NumeroIn(fy)) ? QString() : tr("fy deve essere > 0"); },
          .corregge = [this] { CopiaIntestazione(); },
-         .risultati = all + Controlli({"Lbl_Risultato", "LblUtilizzo", "LblMotivo"})});
+         .risultati = TuttiRisultati()});
     Collega(fy, &QLineEdit::textChanged, this, [this, fy] { FyCambiato(fy); });
 }
 
@@ -206,8 +215,26 @@ void SchermoDettaglio::Conclusa(QLineEdit* casella) {
 }
 
 void SchermoDettaglio::CalcolaA(const QList<QLineEdit*>& caselle) {
-    for (QLineEdit* box : caselle)
+    for (QLineEdit* box : caselle) {
         Collega(box, &QLineEdit::textChanged, this, [this] { Ricalcola(); });
+        if (EAzione(box->objectName()))
+            regole_.Aggiunge({.caselle = {box},
+                              .motivo = [box] { return MotivoAzione(box); },
+                              .risultati = TuttiRisultati()});
+    }
+}
+
+QList<QWidget*> SchermoDettaglio::TuttiRisultati() const {
+    static const QRegularExpression verdicts(QStringLiteral("^(Lbl_Risult|LblUtilizzo|LblMotivo)"));
+    QList<QWidget*> all;
+    for (EtichettaRisultato* result : findChildren<EtichettaRisultato*>())
+        all << result;
+    for (QLabel* label : findChildren<QLabel*>(verdicts))
+        if (!all.contains(label))
+            all << label;
+    if (auto* bow = findChild<QLineEdit*>(QStringLiteral("txtE0")))
+        all << bow;
+    return all;
 }
 
 QList<QWidget*> SchermoDettaglio::Controlli(std::initializer_list<const char*> nomi) const {
@@ -230,16 +257,27 @@ void SchermoDettaglio::CompletaForm(SchermoSezione& chiamante) {
     Calcola();
     RicordaSezione();
     regole_.SvuotaRisultati();
+    if (!FyPossibile(NumeroIn(chiamante.Txt_fy))) // it is being typed there
+        Svuota();
     daRipetere_ = daRipetere_ || quiet.Trattenuti();
 }
 
 void SchermoDettaglio::Ricalcola() {
-    if (inCalcolo_ || chiamante_ == nullptr || !chiamante_->RigaInMano())
+    if (inCalcolo_ || chiamante_ == nullptr)
         return;
     const QScopedValueRollback guard(inCalcolo_, true);
     CopiaIntestazione();
+    if (!chiamante_->RigaInMano()) {
+        Svuota();
+        return;
+    }
     PrendeDallaScelta();
     CompletaForm(*chiamante_);
+}
+
+void SchermoDettaglio::Svuota() {
+    for (QWidget* result : TuttiRisultati())
+        SvuotaRisultato(result);
 }
 
 void SchermoDettaglio::CopiaIntestazione() {

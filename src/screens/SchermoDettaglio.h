@@ -54,7 +54,8 @@ protected:
     /// Computes with the entries as they are and shows the results.
     virtual void Calcola() = 0;
 
-    /// A change of one of these entries computes anew.
+    /// A change of one of these entries computes anew. A force or a moment among them that no section can
+    /// hold is marked, and nothing is shown with it.
     void CalcolaA(const QList<QLineEdit*>& caselle);
 
     /// Controls by their object names, for the results of a rule; names that the form lacks are left out.
@@ -113,6 +114,10 @@ private:
     void RicordaSezione();
     [[nodiscard]] QList<QLineEdit*> CaselleDelChiamante() const;
     void RicordaChiamante();
+    /// What Calcola shows, verdicts too.
+    [[nodiscard]] QList<QWidget*> TuttiRisultati() const;
+    /// Without a row, or a strength, of the caller there is nothing to show.
+    void Svuota();
     void CollegaFy();
     void FyCambiato(QLineEdit* fy);
     void Conclusa(QLineEdit* casella);

@@ -42,6 +42,7 @@ public:
         S* section = SezioneInUso<S>();
         if (!RigaInMano() || section == nullptr) {
             SvuotaRisultati();
+            AggiornaVisibili(*this);
             return;
         }
         InizializzaConAreaEfficace(*section, this);

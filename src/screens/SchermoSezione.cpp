@@ -32,6 +32,7 @@
 #include "screens/CorpoSezione.h"
 #include "screens/MenuSezione.h"
 #include "screens/PannelloFamiglie.h"
+#include "screens/PannelloRisultati.h"
 #include "screens/PlottaSezioneCorrente.h"
 #include "screens/VociSezione.h"
 #include "sections/SezioneCorrente.h"
@@ -189,6 +190,22 @@ void SchermoSezione::CollegaRegole() {
                           .motivo = [this, i] { return Lunghezza(i) < 0 ? tr(motivoLunghezza) : QString(); },
                           .risultati = results});
     }
+    if (TxtNsd != nullptr)
+        RegolaForza();
+}
+
+void SchermoSezione::RegolaForza() {
+    QList<QWidget*> results;
+    for (const auto* panel : findChildren<PannelloRisultati*>())
+        for (QLineEdit* box : panel->findChildren<QLineEdit*>())
+            results << box;
+    regole_.Aggiunge({.caselle = {TxtNsd},
+                      .motivo =
+                          [this] {
+                              const Singolo N = kN_a_N(NumeroIn(TxtNsd));
+                              return std::isfinite(N.Stretto()) ? QString() : tr("Il numero è troppo grande");
+                          },
+                      .risultati = results});
 }
 
 void SchermoSezione::ApplicaRegole() {

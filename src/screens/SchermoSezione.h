@@ -181,6 +181,8 @@ private:
     void CollegaMenu();
     void CollegaDati();
     void CollegaRegole();
+    /// A force that no section can hold is marked, and no result stands beside it.
+    void RegolaForza();
     void RotturaCambiata();
     void CollegaTabella();
     void ApreDettaglio(const QString& nome);

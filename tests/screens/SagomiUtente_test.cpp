@@ -7,6 +7,7 @@
 
 #include "catalogue/LettoreXls.h"
 #include "catalogue/ScritturaRighe.h"
+#include "frame/ui/EtichettaRisultato.h"
 #include "screens/Comandi.h"
 #include "screens/frmSaldati.h"
 #include "screens/frmSaldatiAsimm.h"
@@ -219,6 +220,40 @@ TEST_F(SagomiUtenteTest, DifferentFlangesAreTypedBehindTheFillet) {
     EXPECT_EQ(Testo(&s, "TxtProf_0"), "A1");
     EXPECT_TRUE(s.cmdUtente[1]->isEnabled());
     EXPECT_TRUE(registratore.testi.empty());
+}
+
+TEST_F(SagomiUtenteTest, WithoutARowNothingOldStandsOnAVisibleDetail) {
+    auto& s = Simmetrici();
+    s.ChkTipoUtente->click(); // back to the rows of the program
+    Preme(&s, "CmdPlotta");
+    const auto& preview = Aperto("FrmPltSezione");
+    NavigaSchermi::Unico().Apre("FrmInstabDoppioT", s);
+    const auto& buckling = Aperto("FrmInstabDoppioT");
+    NavigaSchermi::Unico().Apre("FrmVerifiche", s);
+    const auto& check = Aperto("FrmVerifiche");
+    prove::Scrive(&check, "TxtNsd", "100");
+    ASSERT_NE(Scritta(&check, "Lbl_Risultato3_0"), "");
+    ASSERT_NE(Scritta(&buckling, "Lbl_NbRd_0"), "");
+    const auto empty = [&] {
+        for (const Schermo* detail : QList<const Schermo*>{&check, &buckling})
+            for (const auto* result : detail->findChildren<EtichettaRisultato*>())
+                EXPECT_EQ(result->text(), "")
+                    << detail->objectName().toStdString() << '.' << result->objectName().toStdString();
+        for (const char* verdict : {"Lbl_Risultato3_0", "Lbl_Risultato3_1", "Lbl_Risultato4", "LblUtilizzo"})
+            EXPECT_EQ(Scritta(&check, verdict), "") << verdict;
+        EXPECT_EQ(Testo(&check, "Txt_Prof"), "");
+    };
+    s.ChkTipoUtente->click(); // a sheet without rows
+    ASSERT_FALSE(s.RigaInMano());
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(SezioneCorrente));
+    EXPECT_EQ(preview.windowTitle(), "Plotta");
+    empty();
+    prove::Scrive(&check, "TxtNsd", "90");
+    empty();
+    s.ChkTipoUtente->click();
+    EXPECT_NE(Scritta(&check, "Lbl_Risultato3_0"), "");
+    EXPECT_NE(Scritta(&buckling, "Lbl_NbRd_0"), "");
+    EXPECT_EQ(preview.windowTitle(), "Plotta - " + s.TxtProf[0]->text());
 }
 
 TEST_F(SagomiUtenteTest, AChangeRewritesTheRowInHand) {

@@ -285,4 +285,65 @@ TEST_F(VerdettiTest, NoteStandsForFlangesThatDifferUnderALoadAwayFromTheCentroid
     EXPECT_TRUE(note->isHidden());
 }
 
+// In N or N mm, 1E300 kN is no number of single precision.
+TEST_F(VerdettiTest, AForceThatCannotBeIsMarkedAndHasNoVerdict) {
+    auto& s = Ipe500();
+    const QString reason = QStringLiteral("Il numero è troppo grande");
+    const std::initializer_list<std::pair<const char*, const char*>> verdicts = {
+        {"FrmVerifiche", "Lbl_Risultato3_0"},
+        {"FrmPresFless", "Lbl_Risultato"},
+        {"FrmMsverg", "Lbl_Risultato"}};
+    for (const auto& [name, verdict] : verdicts) {
+        const Schermo& detail = Dettaglio(s, name);
+        if (name == std::string("FrmMsverg")) {
+            Scrive(&detail, "Txt_L", "4");
+            for (const char* factor : {"Txt_k", "Txt_Kw", "Txt_C1"})
+                Scrive(&detail, factor, "1");
+        }
+        Scrive(&detail, "TxtNsd", "20");
+        for (const char* box : {"TxtNsd", "TxtMysd", "TxtMzsd", "TxtM1_0"}) {
+            auto* entry = detail.findChild<QLineEdit*>(QString::fromLatin1(box));
+            if (entry == nullptr)
+                continue;
+            const QString before = entry->text();
+            ASSERT_NE(Scritta(&detail, verdict), "") << name << '.' << box;
+            for (const char* number : {"1E300", "1E999"}) {
+                entry->setText(QString::fromLatin1(number));
+                EXPECT_EQ(Scritta(&detail, verdict), "") << name << '.' << box << ' ' << number;
+                EXPECT_TRUE(entry->toolTip().contains(reason)) << name << '.' << box << ' ' << number;
+            }
+            entry->setText(before);
+            EXPECT_NE(Scritta(&detail, verdict), "") << name << '.' << box;
+            EXPECT_FALSE(entry->toolTip().contains(reason)) << name << '.' << box;
+        }
+        const_cast<Schermo&>(detail).close();
+    }
+    s.TxtNsd->setText(QStringLiteral("1E300"));
+    EXPECT_TRUE(s.TxtNsd->toolTip().contains(reason));
+    EXPECT_EQ(Testo(&s, "TxtMcRd_0"), "");
+    s.TxtNsd->setText(QStringLiteral("20"));
+    EXPECT_FALSE(s.TxtNsd->toolTip().contains(reason));
+    EXPECT_NE(Testo(&s, "TxtMcRd_0"), "");
+}
+
+// Typed on the main screen, with details beside it.
+TEST_F(VerdettiTest, AStrengthThatIsNoneEmptiesTheVisibleDetailsToo) {
+    auto& s = Ipe500();
+    const Schermo& check = Dettaglio(s, "FrmVerifiche");
+    const Schermo& moment = Dettaglio(s, "FrmMcRd");
+    Scrive(&check, "TxtNsd", "20");
+    s.activateWindow();
+    s.Txt_fy->setFocus();
+    s.Txt_fy->selectAll();
+    QTest::keyClick(s.Txt_fy, Qt::Key_0);
+    EXPECT_EQ(Testo(&s, "TxtMcRd_0"), "");
+    EXPECT_EQ(Scritta(&check, "Lbl_Risultato3_0"), "");
+    EXPECT_EQ(Scritta(&moment, "Lbl_McRd_0"), "");
+    QTest::keyClick(s.Txt_fy, Qt::Key_Backspace);
+    QTest::keyClicks(s.Txt_fy, QStringLiteral("355"));
+    EXPECT_EQ(Scritta(&check, "Lbl_Risultato3_0"), "OK");
+    // 2194 cm3 of IPE 500
+    EXPECT_NEAR(Numero(&moment, "Lbl_McRd_0"), 2194 * 0.355 / GammaM0.Stretto(), 1);
+}
+
 } // namespace
