@@ -6,6 +6,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export HOME=$work/casa XDG_DATA_HOME=$work/casa/dati XDG_CONFIG_HOME=$work/casa/config
 mkdir -p "$HOME"
+unset QT_QPA_PLATFORM # real windows are looked for
 bad=0
 fail() {
   echo "$*" >&2

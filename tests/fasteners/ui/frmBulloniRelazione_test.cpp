@@ -2,6 +2,7 @@
 #include <QFile>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
 
@@ -38,7 +39,8 @@ protected:
     }
 
     MetaRelazione meta = MetaRelazione::Pdf;
-    QString file = QString::fromStdString(testing::TempDir()) + "frmBulloniRelazione_test.pdf";
+    QTemporaryDir prova;
+    QString file = prova.filePath("o.pdf");
 };
 
 TEST_F(FrmBulloniRelazioneTest, HasAVerdictWhereTheScreenHasOne) {
