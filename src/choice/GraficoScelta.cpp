@@ -187,8 +187,9 @@ private:
         const std::size_t righe = (d_.famiglie.size() + colonne - 1) / colonne;
         const double larga = LarghezzaLegenda(d_, riga_);
         for (std::size_t i = 0; i < d_.famiglie.size(); ++i) {
+            const std::size_t colonna = i / righe;
             const PuntoQuadro dove{s_.campo.Destra() + (1.2 + lato) * riga_ +
-                                       larga * static_cast<double>(i / righe),
+                                       larga * static_cast<double>(colonna),
                                    q_.Tutto().alto + (0.7 + 1.15 * static_cast<double>(i % righe)) * riga_};
             const auto famiglia = static_cast<std::uint16_t>(i);
             PennaPlt(PennaDi(famiglia));

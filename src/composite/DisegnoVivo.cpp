@@ -31,7 +31,7 @@ private:
 
 /// A copy with a section of its own, checked in silence; without results where that cannot be.
 std::shared_ptr<AcciaioCls> Provata(const AcciaioCls& trave) {
-    const auto copy = std::make_shared<AcciaioCls>(trave);
+    auto copy = std::make_shared<AcciaioCls>(trave);
     copy->Sezione = std::make_shared<SezioneDoppioT>(*trave.Sezione);
     const MessaggiTaciuti quiet;
     const SezioneInForza own(copy->Sezione);

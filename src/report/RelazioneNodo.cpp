@@ -207,7 +207,7 @@ void AggiungePassi(Relazione& r, const Giunto& giunto, const std::string& lato) 
     std::string_view componente;
     for (const PassoGiunto& p : PassiDi(giunto)) {
         if (p.nome == "TipoMessaggio" ||
-            (!p.testo.empty() && p.testo.find_first_not_of(" ") == std::string::npos))
+            (!p.testo.empty() && p.testo.find_first_not_of(' ') == std::string::npos))
             continue;
         PassoRelazione passo = PassoDi(p, rtf);
         if (std::exchange(componente, p.componente) != p.componente) {
