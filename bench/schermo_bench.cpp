@@ -86,7 +86,7 @@ FrmScelta& Scelta() {
     NavigaSchermi::Unico().Apre(QStringLiteral("FrmScelta"), Schermo());
     auto& screen = NavigaSchermi::Unico().Prende<FrmScelta>();
     screen.findChild<QLineEdit*>(QStringLiteral("TxtM1_0"))->setText(QStringLiteral("50"));
-    QTest::qWaitFor([&screen] { return screen.Scelta().Finita() && screen.Modello()->rowCount() > 0; });
+    (void)QTest::qWaitFor([&screen] { return screen.Scelta().Finita() && screen.Modello()->rowCount() > 0; });
     return screen;
 }
 
