@@ -24,15 +24,13 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
-#include <numbers>
 
 #include "Registratore.h"
 #include "frame/GeneraleSagomi.h"
-#include "joints/Sezioni.h"
+#include "joints/GiuntoInglese.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
-using std::numbers::sqrt2;
 
 namespace {
 
@@ -41,34 +39,18 @@ constexpr double fy = 265; ///< of column and plate, thicker than 16 mm [N/mm2]
 
 class EsempioPubblicato : public testing::Test {
 protected:
-    EsempioPubblicato() {
-        RipristinaGenerale();
-        GammaM0 = 1;
-        GammaM1 = 1;
-        const Sezione trave = Laminato("UB 533x210x92", 533.1, 209.3, 10.1, 15.6, 12.7, 11700, 552000000);
-        const Sezione colonna = Laminato("UC 254x254x107", 266.7, 258.8, 12.8, 20.5, 12.7, 13600, 175000000);
-        trave->fy = colonna->fy = fy;
-        trave->McyRd = 2360000 * 275.0;
-        g.PuntatoreSezioni(trave, colonna);
-        g.sTraveColonna_Calcola();
-        g.IndiceBullone(9);
-        g.nf = 2;
-        g.tf = 25;
-        g.bf = 250;
-        g.ef = 75;
-        g.d2 = 100 - 40 - 15.6;
-        g.ex = 50;
-        g.L = 90;
-        g.u = 670 - 533.1 - 90;
-        g.Af = 12 / sqrt2;
-        g.aw = 8 / sqrt2;
-        g.Derivati_Calcola();
-        g.Mrd_Giunto_Calcola();
-    }
-    ~EsempioPubblicato() override { RipristinaGenerale(); }
-
-    Giunto g;
+    /// The factors of the example, before its joint is made.
+    struct Fattori {
+        Fattori() {
+            RipristinaGenerale();
+            GammaM0 = 1;
+            GammaM1 = 1;
+        }
+        ~Fattori() { RipristinaGenerale(); }
+    } fattori;
     Registratore boxes;
+    GiuntoInglese esempio;
+    Giunto& g = esempio.g;
     double Ft = 0.9 * 800 * 353 / 1250; ///< of a bolt [kN]
     double m = (100 - 12.8) / 2 - 0.8 * 12.7, e = (258.8 - 100) / 2, n = 1.25 * m;
 };

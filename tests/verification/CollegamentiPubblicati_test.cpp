@@ -2,14 +2,15 @@
 #include <cmath>
 #include <numbers>
 
-#include "GiuntoInglese.h"
 #include "Profili.h"
 #include "Verbale.h"
 #include "fasteners/Bullone.h"
 #include "fasteners/Saldatura.h"
+#include "joints/GiuntoInglese.h"
 
 using namespace sagomi;
 using namespace sagomi::verifica;
+using sagomi::prove::GiuntoInglese;
 
 namespace {
 

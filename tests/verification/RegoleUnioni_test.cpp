@@ -3,15 +3,16 @@
 #include <cmath>
 #include <numbers>
 
-#include "GiuntoInglese.h"
 #include "Profili.h"
 #include "Verbale.h"
 #include "fasteners/Bullone.h"
 #include "fasteners/Saldatura.h"
+#include "joints/GiuntoInglese.h"
 #include "sections/Eurocod3.h"
 
 using namespace sagomi;
 using namespace sagomi::verifica;
+using sagomi::prove::GiuntoInglese;
 
 namespace {
 
