@@ -6,10 +6,11 @@
 
 namespace sagomi {
 
-/// The style in force, whose frames of line edits and group boxes are kept where it is Fusion. They are the
-/// dearest things that it paints: round corners with antialiasing, a picture stretched over the whole group.
-/// A frame is painted by the style once, narrow, and then put together of its ends and of what runs between
-/// them; on the same pixels.
+/// The style in force, with cheaper frames where it is Fusion, whose frames are the dearest things that it
+/// paints. Line edits have round corners with antialiasing: the style paints such a frame once, narrow, and
+/// it is then put together of its ends and of what runs between them; on the same pixels. The frame of a
+/// group is a picture stretched over the whole group, for which plugins are loaded: here it is a thin line of
+/// one colour.
 class StileCornici : public QProxyStyle {
     Q_OBJECT
 public:
@@ -31,10 +32,12 @@ private:
         bool intera = false; ///< between its ends each row has one colour
     };
 
-    const Cornice& CorniceDi(PrimitiveElement elemento, const QStyleOption& opzione, const QPainter& pittore,
+    /// Both ask the style as PE_FrameLineEdit.
+    const Cornice& CorniceDi(const QStyleOption& opzione, const QPainter& pittore,
                              const QWidget* widget) const;
-    Cornice Prepara(PrimitiveElement elemento, const QStyleOption& opzione, const QPainter& pittore,
-                    const QWidget* widget) const;
+    Cornice Prepara(const QStyleOption& opzione, const QPainter& pittore, const QWidget* widget) const;
+    /// Around the contents of a group: the title stands above it.
+    void DipingeGruppo(const QStyleOption& opzione, QPainter& pittore, const QWidget* widget) const;
 
     mutable QHash<QByteArray, Cornice> cornici_;
 };

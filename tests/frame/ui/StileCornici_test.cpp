@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QImage>
 #include <QPainter>
+#include <QRegion>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -74,15 +75,54 @@ TEST_P(StileCorniciTest, FramesOfEntriesLookAsTheStylePaintsThem) {
             }
 }
 
-TEST_P(StileCorniciTest, FramesOfGroupsLookAsTheStylePaintsThem) {
+/// The device pixels that a frame has painted on a ground of the window's colour.
+QRegion Dipinti(const QImage& image, const QColor& ground) {
+    QRegion painted;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y) != ground)
+                painted += QRect(x, y, 1, 1);
+    return painted;
+}
+
+// The style's own frame is a picture of 6 + 6 pixels around its middle whose outermost column and row are
+// empty.
+TEST_P(StileCorniciTest, FramesOfGroupsStandWhereTheStylePaintsThem) {
+    const int ratio = std::get<0>(GetParam());
     for (const char* title : {"", "Resistenze"}) {
         QGroupBox group(title);
-        for (const QSize& size : {QSize(300, 150), QSize(90, 61), QSize(40, 40)}) {
-            QStyleOptionFrame option;
-            option.initFrom(&group);
-            option.rect = QRect(QPoint(1, 4), size);
-            EXPECT_LE(Scarto(QStyle::PE_FrameGroupBox, option, &group), 2) << title << size.width();
-        }
+        QStyleOptionFrame option;
+        option.initFrom(&group);
+        option.palette.setColor(QPalette::Base, option.palette.window().color());
+        option.rect = QRect(1, 4, 90, 61);
+        const QColor ground = option.palette.window().color();
+        const QRect ours =
+            Dipinti(Dipinge(&own, QStyle::PE_FrameGroupBox, option, &group), ground).boundingRect();
+        const QRect theirs =
+            Dipinti(Dipinge(plain.get(), QStyle::PE_FrameGroupBox, option, &group), ground).boundingRect();
+        EXPECT_LE(std::abs(ours.top() - theirs.top()), ratio) << title;
+        EXPECT_LE(std::abs(ours.left() - theirs.left()), ratio);
+        EXPECT_EQ(ours.right(), theirs.right());
+        EXPECT_EQ(ours.bottom(), theirs.bottom());
+    }
+}
+
+// 15 % of the way from 239 to 0 and from 45 to 255: 239 - 35, 45 + 31.
+TEST_P(StileCorniciTest, TheFrameOfAGroupIsOneLineBetweenGroundAndText) {
+    for (const auto& [window, text, line] : {std::tuple(239, 0, 204), std::tuple(45, 255, 76)}) {
+        QGroupBox group("N");
+        QStyleOptionFrame option;
+        option.initFrom(&group);
+        option.palette.setColor(QPalette::Base, QColor(window, window, window));
+        option.palette.setColor(QPalette::Window, QColor(window, window, window));
+        option.palette.setColor(QPalette::WindowText, QColor(text, text, text));
+        option.rect = QRect(1, 4, 90, 61);
+        const QImage image = Dipinge(&own, QStyle::PE_FrameGroupBox, option, &group);
+        const int ratio = std::get<0>(GetParam());
+        const int bottom = (4 + 61 - 1) * ratio;
+        EXPECT_EQ(image.pixelColor(40 * ratio, bottom), QColor(line, line, line)) << window;
+        EXPECT_EQ(image.pixelColor(40 * ratio, bottom - 1), QColor(window, window, window));
+        EXPECT_EQ(image.pixelColor(1 * ratio, bottom), QColor(window, window, window)); // a corner
     }
 }
 
