@@ -6,6 +6,8 @@
 
 #include <utility>
 
+#include "catalogue/ui/Intestazioni.h"
+
 namespace sagomi {
 
 ColonnaFerma::ColonnaFerma(QTableView& griglia, Comando seleziona)
@@ -27,7 +29,7 @@ ColonnaFerma::ColonnaFerma(QTableView& griglia, Comando seleziona)
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setMinimumSectionSize(1);
-    horizontalHeader()->setHighlightSections(false);
+    setHorizontalHeader(new Intestazioni(this));
     hide();
 }
 

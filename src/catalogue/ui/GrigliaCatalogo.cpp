@@ -16,6 +16,7 @@
 #include "catalogue/ui/ColonnaFerma.h"
 #include "catalogue/ui/DelegatoNumeri.h"
 #include "catalogue/ui/EtichettaRicerca.h"
+#include "catalogue/ui/Intestazioni.h"
 #include "catalogue/ui/LettoreDati.h"
 #include "frame/ui/Protetto.h"
 #include "frame/ui/TabellaCopiata.h"
@@ -72,13 +73,12 @@ GrigliaCatalogo::GrigliaCatalogo(QWidget* parent) : QTableView(parent) {
     setTabKeyNavigation(false);
     setWordWrap(false);
     setHorizontalScrollMode(ScrollPerPixel);
+    setHorizontalHeader(new Intestazioni(this));
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     altezzaRiga_ = fontMetrics().height() + 5;
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(altezzaRiga_);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsMovable(false);
     CollegaIntestazioni(horizontalHeader());
     horizontalHeader()->viewport()->installEventFilter(this);
     setContextMenuPolicy(Qt::ActionsContextMenu);
@@ -104,7 +104,6 @@ void GrigliaCatalogo::CollegaIntestazioni(QHeaderView* intestazioni) {
     // A column is nothing to select.
     disconnect(intestazioni, SIGNAL(sectionPressed(int)), nullptr, nullptr);
     disconnect(intestazioni, SIGNAL(sectionEntered(int)), nullptr, nullptr);
-    intestazioni->setSectionsClickable(true);
     ::sagomi::Collega(intestazioni, &QHeaderView::sectionClicked, this,
                       [this](int column) { emit ordineChiesto(column); });
 }

@@ -222,6 +222,16 @@ TEST_F(GrigliaCatalogoTest, ColumnsTakeTheWidestOfAllCells) {
     }
 }
 
+// The toolkit's own headings of the same model, which measure a bold face, are as high.
+TEST_F(GrigliaCatalogoTest, HeadingsAreAsHighAsThoseOfTheToolkit) {
+    QTableView plain;
+    plain.setFont(griglia.font());
+    plain.setModel(griglia.model());
+    EXPECT_EQ(griglia.horizontalHeader()->sizeHint().height(), plain.horizontalHeader()->sizeHint().height());
+    EXPECT_FALSE(griglia.horizontalHeader()->highlightSections());
+    EXPECT_TRUE(griglia.horizontalHeader()->sectionsClickable());
+}
+
 TEST_F(GrigliaCatalogoTest, FindsWhatAScanOfAllRowsFinds) {
     Mostra({"HEA", "IPE", "W"});
     const auto folded = [](QString text) { return text.toLower().remove(u' '); };
