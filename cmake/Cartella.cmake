@@ -1,7 +1,8 @@
-# The folder that holds all that the program needs: installed as the component "cartella". The program looks for its
-# libraries in lib beside it, so what is copied is the one of the build, whose path that is; see src/CMakeLists.txt.
+# The folder that holds all that the program needs: installed as the component "cartella". Its programs look for their
+# libraries in lib beside them; see src/CMakeLists.txt.
 
-install(PROGRAMS $<TARGET_FILE:sagomi> $<TARGET_FILE:sagomi-server> DESTINATION . COMPONENT cartella EXCLUDE_FROM_ALL)
+install(PROGRAMS $<TARGET_FILE:sagomi-cartella> $<TARGET_FILE:sagomi-server-cartella> DESTINATION .
+        COMPONENT cartella EXCLUDE_FROM_ALL)
 # CMake ends the path of a build with an empty one, which would mean the current folder.
 install(CODE [[
   foreach(p sagomi sagomi-server)

@@ -35,6 +35,17 @@ macro(sagomi_modulo prefix module)
                "pkg_check_modules(${prefix} REQUIRED IMPORTED_TARGET ${module})\n")
 endmacro()
 
+# sagomi_archivio(<variable> <file> <otherwise>): the archive of a library that only this program needs, or what stands
+# for the shared one where there is none. An archive spares the start the search for the library and for its symbols.
+macro(sagomi_archivio variable file otherwise)
+  find_library(${variable}_FILE ${file})
+  mark_as_advanced(${variable}_FILE)
+  set(${variable} ${otherwise})
+  if(${variable}_FILE)
+    set(${variable} ${${variable}_FILE})
+  endif()
+endmacro()
+
 # sagomi_meccanica(<folder> SOURCES ... LINK ...): a layer of plain C++, without Qt.
 function(sagomi_meccanica folder)
   cmake_parse_arguments(A "" "" "SOURCES;LINK;LINK_PRIVATE" ${ARGN})
