@@ -67,7 +67,7 @@ std::string ContenitoreOle(std::string_view nome, const std::vector<std::uint8_t
     Riuscito(gsf_output_close(GSF_OUTPUT(contenitore.get())) != FALSE);
     const guint8* byte = gsf_output_memory_get_bytes(GSF_OUTPUT_MEMORY(memoria.get()));
     Riuscito(byte != nullptr);
-    return {byte, byte + gsf_output_size(memoria.get())};
+    return {reinterpret_cast<const char*>(byte), static_cast<std::size_t>(gsf_output_size(memoria.get()))};
 }
 
 namespace {

@@ -201,17 +201,16 @@ private:
     }
 
     void UnaCella(std::size_t r, std::size_t c, const Cella& cella) {
-        Ottetti o;
-        o.U16(Num(r)).U16(Num(c)).U16(Num(StileCella(cella, intestata_ && r == 0, colonne_[c])));
+        const PostoBiff posto{Num(r), Num(c), Num(StileCella(cella, intestata_ && r == 0, colonne_[c]))};
         if (const auto* testo = std::get_if<std::string>(&cella.valore)) {
-            flusso_.Record(Biff::LabelSst, o.U32(stringhe_.Indice(*testo)));
+            flusso_.Cella(Biff::LabelSst, posto, stringhe_.Indice(*testo));
             return;
         }
         const double numero = std::get<double>(cella.valore);
         if (const auto rk = CodificaRk(numero))
-            flusso_.Record(Biff::Rk, o.U32(*rk));
+            flusso_.Cella(Biff::Rk, posto, *rk);
         else
-            flusso_.Record(Biff::Number, o.F64(numero));
+            flusso_.Cella(Biff::Number, posto, numero);
     }
 
     void Vista(bool attivo) {

@@ -72,7 +72,8 @@ void AggiungeUtf8(std::string& utf8, char32_t c) {
 
 /// An integer that 30 bits with sign hold. A negative zero is none: its sign would be lost.
 bool InteroDaRk(double v) {
-    return std::trunc(v) == v && v >= -536870912.0 && v <= 536870911.0 && !(v == 0 && std::signbit(v));
+    return v >= -536870912.0 && v <= 536870911.0 && static_cast<double>(static_cast<std::int32_t>(v)) == v &&
+           !(v == 0 && std::signbit(v));
 }
 
 std::uint32_t RkIntero(double v, unsigned centesimi) {
@@ -86,6 +87,24 @@ std::uint32_t RkReale(double v, unsigned centesimi) {
     return static_cast<std::uint32_t>(std::bit_cast<std::uint64_t>(v) >> 32U) | centesimi;
 }
 
+/// Puts n bytes of a number down, the low one first; returns the place behind them.
+template <std::size_t n> std::uint8_t* Mette(std::uint8_t* dove, std::uint64_t v) {
+    for (std::size_t i = 0; i < n; ++i)
+        dove[i] = static_cast<std::uint8_t>(v >> (8 * i));
+    return dove + n;
+}
+
+/// Makes room for n more bytes; returns where they begin.
+std::uint8_t* Allunga(std::vector<std::uint8_t>& dati, std::size_t n) {
+    const std::size_t da = dati.size();
+    dati.resize(da + n);
+    return dati.data() + da;
+}
+
+std::uint8_t* MetteTesta(std::uint8_t* dove, Biff genere, std::size_t lunghezza) {
+    return Mette<2>(Mette<2>(dove, static_cast<std::uint16_t>(genere)), lunghezza);
+}
+
 } // namespace
 
 Ottetti& Ottetti::U8(unsigned v) {
@@ -93,13 +112,19 @@ Ottetti& Ottetti::U8(unsigned v) {
     return *this;
 }
 
-Ottetti& Ottetti::U16(unsigned v) { return U8(v).U8(v >> 8U); }
+Ottetti& Ottetti::U16(unsigned v) {
+    Mette<2>(Allunga(dati_, 2), v);
+    return *this;
+}
 
-Ottetti& Ottetti::U32(std::uint32_t v) { return U16(v).U16(v >> 16U); }
+Ottetti& Ottetti::U32(std::uint32_t v) {
+    Mette<4>(Allunga(dati_, 4), v);
+    return *this;
+}
 
 Ottetti& Ottetti::F64(double v) {
-    const auto bit = std::bit_cast<std::uint64_t>(v);
-    return U32(static_cast<std::uint32_t>(bit)).U32(static_cast<std::uint32_t>(bit >> 32U));
+    Mette<8>(Allunga(dati_, 8), std::bit_cast<std::uint64_t>(v));
+    return *this;
 }
 
 Ottetti& Ottetti::Testo(std::u16string_view t, std::size_t da, std::size_t n, bool stretto) {
@@ -116,11 +141,24 @@ std::uint32_t FlussoBiff::Record(Biff genere, const Ottetti& corpo) {
     if (corpo.size() > massimoRecord)
         throw std::length_error("record BIFF troppo lungo");
     const std::uint32_t posizione = Posizione();
-    const Ottetti testa =
-        Ottetti().U16(static_cast<unsigned>(genere)).U16(static_cast<unsigned>(corpo.size()));
-    dati_.insert(dati_.end(), testa.dati().begin(), testa.dati().end());
+    MetteTesta(Allunga(dati_, testaRecord), genere, corpo.size());
     dati_.insert(dati_.end(), corpo.dati().begin(), corpo.dati().end());
     return posizione;
+}
+
+template <std::size_t n> void FlussoBiff::CellaDi(Biff genere, const PostoBiff& posto, std::uint64_t valore) {
+    constexpr std::size_t corpo = 6 + n;
+    std::uint8_t* dove = MetteTesta(Allunga(dati_, testaRecord + corpo), genere, corpo);
+    dove = Mette<2>(Mette<2>(Mette<2>(dove, posto.riga), posto.colonna), posto.stile);
+    Mette<n>(dove, valore);
+}
+
+void FlussoBiff::Cella(Biff genere, const PostoBiff& posto, std::uint32_t valore) {
+    CellaDi<4>(genere, posto, valore);
+}
+
+void FlussoBiff::Cella(Biff genere, const PostoBiff& posto, double valore) {
+    CellaDi<8>(genere, posto, std::bit_cast<std::uint64_t>(valore));
 }
 
 void FlussoBiff::Corregge(std::uint32_t posizione, std::uint32_t valore) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace sagomi {
@@ -72,6 +73,8 @@ inline constexpr std::size_t testaRecord = 4; ///< kind and length, 16 bits each
 /// Bytes in the order of the format, the low one first.
 class Ottetti {
 public:
+    Ottetti() { dati_.reserve(32); } // most records fit
+
     Ottetti& U8(unsigned v);
     Ottetti& U16(unsigned v);
     Ottetti& U32(std::uint32_t v);
@@ -86,24 +89,40 @@ private:
     std::vector<std::uint8_t> dati_;
 };
 
+/// Where a cell stands, counted from 0, and the number of its style.
+struct PostoBiff {
+    unsigned riga, colonna, stile;
+};
+
 /// The "Workbook" stream: records one behind the other.
 class FlussoBiff {
 public:
+    /// Makes room for so many bytes at once.
+    void Riserva(std::size_t byte) { dati_.reserve(byte); }
+
     /// Appends a record; returns its position in the stream. More than massimoRecord bytes throw
     /// std::length_error.
     std::uint32_t Record(Biff genere, const Ottetti& corpo = {});
+
+    /// Appends the record of a cell, which are most of a workbook: its place, then the value in 4 bytes (Rk,
+    /// LabelSst) or in 8 (Number).
+    void Cella(Biff genere, const PostoBiff& posto, std::uint32_t valore);
+    void Cella(Biff genere, const PostoBiff& posto, double valore);
 
     /// Overwrites four bytes that were written before their value was known.
     void Corregge(std::uint32_t posizione, std::uint32_t valore);
 
     [[nodiscard]] std::uint32_t Posizione() const { return static_cast<std::uint32_t>(dati_.size()); }
-    [[nodiscard]] const std::vector<std::uint8_t>& dati() const { return dati_; }
+    [[nodiscard]] const std::vector<std::uint8_t>& dati() const& { return dati_; }
+    [[nodiscard]] std::vector<std::uint8_t> dati() && { return std::move(dati_); }
 
     /// Fills up with zeros to a length: a stream below 4096 bytes would be kept in the small sectors of the
     /// container, which some readers do not follow.
     void AllungaA(std::size_t lunghezza);
 
 private:
+    template <std::size_t n> void CellaDi(Biff genere, const PostoBiff& posto, std::uint64_t valore);
+
     std::vector<std::uint8_t> dati_;
 };
 

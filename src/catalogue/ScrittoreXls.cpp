@@ -7,6 +7,7 @@
 #include <string>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 #include "catalogue/ContenitoreOle.h"
 #include "catalogue/ErroreCatalogo.h"
@@ -86,6 +87,16 @@ std::uint32_t ScriveVoceFoglio(FlussoBiff& flusso, const std::string& nome) {
     return flusso.Record(Biff::BoundSheet, o) + static_cast<std::uint32_t>(testaRecord);
 }
 
+/// Bytes that the cells take at most, beyond heads, rows and texts, which are little.
+std::size_t ByteCelle(const CartellaDati& cartella) {
+    constexpr std::size_t massimoCella = testaRecord + 14;
+    std::size_t celle = 0;
+    for (const Foglio& foglio : cartella.fogli)
+        for (const auto& riga : foglio.righe)
+            celle += riga.size() + 2; // its own record
+    return celle * massimoCella;
+}
+
 /// Why a file could not be written, as far as can be told afterwards.
 std::string CausaScrittura(const std::filesystem::path& file) {
     std::error_code errore;
@@ -106,6 +117,7 @@ std::vector<std::uint8_t> ComponeBiff(const CartellaDati& cartella) {
     Verifica(cartella);
     const TabellaStringhe stringhe = RaccoglieStringhe(cartella);
     FlussoBiff flusso;
+    flusso.Riserva(ByteCelle(cartella));
     ScriveTesta(flusso);
     std::vector<std::uint32_t> posti;
     for (const Foglio& foglio : cartella.fogli)
@@ -116,7 +128,7 @@ std::vector<std::uint8_t> ComponeBiff(const CartellaDati& cartella) {
     for (std::size_t i = 0; i < cartella.fogli.size(); ++i)
         flusso.Corregge(posti[i], ScriveFoglio(flusso, cartella.fogli[i], stringhe, i == 0));
     flusso.AllungaA(minimoFlusso);
-    return flusso.dati();
+    return std::move(flusso).dati();
 }
 
 void ScriveXls(const CartellaDati& cartella, const std::filesystem::path& file,

@@ -68,16 +68,42 @@ Xf XfIntestazione() {
 /// Number formats of the cell styles from Decimali0 on: built in below 164, the others written here.
 constexpr std::array<unsigned, 8> formatiNumerici = {1, 164, 2, 165, 166, 14, 22, 21};
 
-std::string TestoCorto(double v) {
-    std::array<char, 400> buffer{};
-    const auto fine =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), v, std::chars_format::fixed);
-    return {buffer.data(), fine.ptr};
+/// How many characters a number has in its shortest form: up to the point, the sign included, and behind it.
+struct Cifre {
+    std::size_t intere = 0, decimali = 0;
+
+    [[nodiscard]] std::size_t Tutte() const { return intere + (decimali > 0 ? 1 + decimali : 0); }
+};
+
+std::size_t CifreIntere(std::uint64_t n) {
+    std::size_t cifre = 1;
+    for (; n >= 10; n /= 10)
+        ++cifre;
+    return cifre;
 }
 
-std::size_t Decimali(const std::string& testo) {
+/// Counted in the text, which any number has.
+Cifre CifreDelTesto(double v) {
+    std::array<char, 400> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
+    const auto fine =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), v, std::chars_format::fixed);
+    const std::string_view testo(buffer.data(), static_cast<std::size_t>(fine.ptr - buffer.data()));
     const std::size_t punto = testo.find('.');
-    return punto == std::string::npos ? 0 : testo.size() - punto - 1;
+    return punto == std::string_view::npos ? Cifre{testo.size(), 0} : Cifre{punto, testo.size() - punto - 1};
+}
+
+/// The numbers of tables have few decimals. One that is the nearest to a decimal number of at most 15 figures
+/// has that one as its shortest form, so the text need not be made.
+Cifre CifreDi(double v) {
+    constexpr std::array<double, 5> potenze = {1, 10, 100, 1000, 10000};
+    const double a = std::abs(v);
+    if (a < 1e11)
+        for (std::size_t k = 0; k < potenze.size(); ++k) {
+            const auto n = static_cast<std::uint64_t>(a * potenze[k] + 0.5);
+            if (static_cast<double>(n) / potenze[k] == a)
+                return {CifreIntere(static_cast<std::uint64_t>(a)) + (std::signbit(v) ? 1U : 0U), k};
+        }
+    return CifreDelTesto(v);
 }
 
 /// The columns whose numbers lie within a few powers of ten, told by the unit in the heading.
@@ -86,44 +112,61 @@ bool UnitaUniforme(std::string_view intestazione) {
                                [&](std::string_view unita) { return intestazione.ends_with(unita); });
 }
 
-std::size_t Caratteri(const Cella& cella, std::size_t decimali) {
-    if (const auto* testo = std::get_if<std::string>(&cella.valore))
-        return Utf16DaUtf8(*testo).size();
-    const auto* numero = std::get_if<double>(&cella.valore);
-    if (numero == nullptr || !std::isfinite(*numero))
-        return 0;
-    if (cella.genere != GenereNumero::Semplice)
-        return 16;
-    const std::string testo = TestoCorto(*numero);
-    const std::size_t suoi = Decimali(testo);
-    return suoi >= decimali ? testo.size() : testo.size() + decimali - suoi + (suoi == 0 ? 1 : 0);
+std::size_t CaratteriUtf16(const std::string& testo) {
+    const bool ascii = std::ranges::all_of(testo, [](unsigned char c) { return c < 0x80; });
+    return ascii ? testo.size() : Utf16DaUtf8(testo).size();
 }
 
-std::size_t DecimaliColonna(const Foglio& foglio, std::size_t colonna) {
-    std::size_t decimali = 0;
-    for (std::size_t r = 1; r < foglio.righe.size(); ++r)
-        if (const auto* v = std::get_if<double>(&foglio.Legge(r, colonna)); v != nullptr && std::isfinite(*v))
-            decimali = std::max(decimali, Decimali(TestoCorto(*v)));
-    return decimali;
-}
+/// What the cells of a column ask for.
+struct MisureColonna {
+    std::size_t altro = 0;    ///< characters of texts and dates
+    std::size_t numeri = 0;   ///< characters of plain numbers as they come
+    std::size_t intere = 0;   ///< the same, up to the point
+    std::size_t decimali = 0; ///< of all numbers below the first row
 
-ColonnaXls Colonna(const Foglio& foglio, std::size_t colonna, bool intestata) {
-    const auto* titolo = std::get_if<std::string>(&foglio.Legge(0, colonna));
-    std::size_t decimali = 0;
-    ColonnaXls aspetto;
-    if (intestata && titolo != nullptr && UnitaUniforme(*titolo)) {
-        decimali = DecimaliColonna(foglio, colonna);
-        if (decimali <= decimaliMassimi)
-            aspetto.numeri = static_cast<StileXls>(static_cast<unsigned>(StileXls::Decimali0) + decimali);
-        else
-            decimali = 0;
+    void Aggiunge(const Cella& cella, bool inTesta, bool intestata) {
+        if (const auto* testo = std::get_if<std::string>(&cella.valore)) {
+            const std::size_t grassetto = inTesta && intestata ? 1 : 0; // which is wider
+            altro = std::max(altro, CaratteriUtf16(*testo) + grassetto);
+        } else if (const auto* v = std::get_if<double>(&cella.valore); v != nullptr && std::isfinite(*v)) {
+            Numero(CifreDi(*v), cella.genere == GenereNumero::Semplice, inTesta);
+        }
     }
-    std::size_t caratteri = 0;
-    for (std::size_t r = 0; r < foglio.righe.size(); ++r)
-        if (colonna < foglio.righe[r].size())
-            caratteri = std::max(caratteri, Caratteri(foglio.righe[r][colonna], decimali) +
-                                                (r == 0 && intestata ? 1 : 0)); // bold is wider
-    aspetto.larghezza = static_cast<unsigned>(std::clamp<std::size_t>(caratteri + 2, 8, 60) * 256);
+
+private:
+    void Numero(const Cifre& cifre, bool semplice, bool inTesta) {
+        constexpr std::size_t dataEOra = 16;
+        if (!inTesta)
+            decimali = std::max(decimali, cifre.decimali);
+        altro = semplice ? altro : std::max(altro, dataEOra);
+        numeri = semplice ? std::max(numeri, cifre.Tutte()) : numeri;
+        intere = semplice ? std::max(intere, cifre.intere) : intere;
+    }
+};
+
+/// One way through the sheet as it lies in memory.
+std::vector<MisureColonna> Misure(const Foglio& foglio, bool intestata) {
+    std::vector<MisureColonna> misure;
+    for (std::size_t r = 0; r < foglio.righe.size(); ++r) {
+        const auto& riga = foglio.righe[r];
+        misure.resize(std::max(misure.size(), riga.size()));
+        for (std::size_t c = 0; c < riga.size(); ++c)
+            misure[c].Aggiunge(riga[c], r == 0, intestata);
+    }
+    return misure;
+}
+
+ColonnaXls Colonna(const MisureColonna& misure, const Valore& titolo, bool intestata) {
+    const auto* unita = std::get_if<std::string>(&titolo);
+    ColonnaXls aspetto;
+    std::size_t numeri = misure.numeri;
+    if (intestata && unita != nullptr && UnitaUniforme(*unita) && misure.decimali <= decimaliMassimi) {
+        aspetto.numeri = static_cast<StileXls>(static_cast<unsigned>(StileXls::Decimali0) + misure.decimali);
+        if (misure.decimali > 0 && misure.intere > 0)
+            numeri = misure.intere + 1 + misure.decimali;
+    }
+    const std::size_t caratteri = std::max(misure.altro, numeri) + 2;
+    aspetto.larghezza = static_cast<unsigned>(std::clamp<std::size_t>(caratteri, 8, 60) * 256);
     return aspetto;
 }
 
@@ -154,14 +197,12 @@ bool HaIntestazione(const Foglio& foglio) {
 }
 
 std::vector<ColonnaXls> Colonne(const Foglio& foglio) {
-    std::size_t n = 0;
-    for (const auto& riga : foglio.righe)
-        n = std::max(n, riga.size());
     const bool intestata = HaIntestazione(foglio);
+    const std::vector<MisureColonna> misure = Misure(foglio, intestata);
     std::vector<ColonnaXls> colonne;
-    colonne.reserve(n);
-    for (std::size_t c = 0; c < n; ++c)
-        colonne.push_back(Colonna(foglio, c, intestata));
+    colonne.reserve(misure.size());
+    for (std::size_t c = 0; c < misure.size(); ++c)
+        colonne.push_back(Colonna(misure[c], foglio.Legge(0, c), intestata));
     return colonne;
 }
 

@@ -71,12 +71,14 @@ std::size_t PassoIndice(std::size_t unici) { return std::max<std::size_t>(8, uni
 
 void TabellaStringhe::Raccoglie(const std::string& testo) {
     ++usi_;
-    if (indici_.contains(testo))
+    const auto [voce, nuova] = indici_.try_emplace(testo, static_cast<std::uint32_t>(testi_.size()));
+    if (!nuova)
         return;
     std::u16string u = Utf16DaUtf8(testo);
-    if (u.size() > massimoTesto)
+    if (u.size() > massimoTesto) {
+        indici_.erase(voce);
         throw std::length_error("testo di " + std::to_string(u.size()) + " caratteri");
-    indici_.emplace(testo, static_cast<std::uint32_t>(testi_.size()));
+    }
     testi_.push_back(std::move(u));
 }
 

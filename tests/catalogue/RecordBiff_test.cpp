@@ -1,8 +1,10 @@
 #include "catalogue/RecordBiff.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <limits>
+#include <span>
 
 #include <gtest/gtest.h>
 
@@ -46,6 +48,17 @@ TEST(Utf8DaUtf16, BackAndForth) {
         EXPECT_EQ(Utf8DaUtf16(Utf16DaUtf8(s)), s);
     EXPECT_EQ(Utf8DaUtf16(std::u16string{u'a', char16_t(0xD800), u'b'}), "a\uFFFDb");
     EXPECT_EQ(Utf8DaUtf16(std::u16string{char16_t(0xDC00), char16_t(0xD800)}), "\uFFFD\uFFFD");
+}
+
+TEST(FlussoBiff, CellsAsTheirRecordsByteForByte) {
+    FlussoBiff celle, record;
+    celle.Cella(Biff::Rk, {65535, 255, 17}, 0x12345678U);
+    celle.Cella(Biff::Number, {1, 2, 3}, -0.1);
+    record.Record(Biff::Rk, Ottetti().U16(65535).U16(255).U16(17).U32(0x12345678));
+    record.Record(Biff::Number, Ottetti().U16(1).U16(2).U16(3).F64(-0.1));
+    EXPECT_EQ(celle.dati(), record.dati());
+    const Byte rk{0x7E, 0x02, 10, 0, 0xFF, 0xFF, 255, 0, 17, 0, 0x78, 0x56, 0x34, 0x12};
+    EXPECT_TRUE(std::ranges::equal(std::span(celle.dati()).first(rk.size()), rk));
 }
 
 TEST(EntraInUnByte, UpToLatin1) {

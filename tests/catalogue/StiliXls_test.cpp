@@ -1,6 +1,11 @@
 #include "catalogue/StiliXls.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
 #include <limits>
+#include <random>
 
 #include <gtest/gtest.h>
 
@@ -52,6 +57,34 @@ TEST(Colonne, WideEnoughForWhatIsShown) {
     EXPECT_EQ(colonne.at(1).larghezza, 8U * 256U);         // never narrower
     EXPECT_EQ(Colonne(FoglioDi("x", {{S(500, 'x')}})).at(0).larghezza, 60U * 256U);
     EXPECT_TRUE(Colonne(Foglio{"x", {}}).empty());
+}
+
+/// Characters of the shortest text of a number, which the library makes.
+std::size_t CaratteriDi(double v) {
+    std::array<char, 400> testo{};
+    const auto fine = std::to_chars(testo.data(), testo.data() + testo.size(), v, std::chars_format::fixed);
+    return static_cast<std::size_t>(fine.ptr - testo.data());
+}
+
+TEST(Colonne, NumbersAreAsWideAsTheirShortestText) {
+    std::mt19937 caso(1);
+    std::vector<double> numeri{-0.0, 0.07, 0.1 + 0.2, 1e11, 99999999999.5, 1e22, 5e-324, 1.00005};
+    for (int i = 0; i < 4000; ++i) {
+        const double v = caso() % 2'000'000'000 / std::pow(10, caso() % 8);
+        numeri.insert(numeri.end(), {v, -v, std::nextafter(v, 0), v / 8});
+    }
+    for (const double v : numeri) {
+        const std::size_t attesi = std::clamp<std::size_t>(CaratteriDi(v) + 2, 8, 60) * 256;
+        EXPECT_EQ(Colonne(FoglioDi("x", {{v}})).at(0).larghezza, attesi) << v;
+    }
+}
+
+TEST(Colonne, DatesAndTextsInAColumnOfNumbers) {
+    Foglio f = FoglioDi("x", {{S("h (mm)")}, {1.5}, {S("perch\u00E9 no")}, {40000.25}});
+    EXPECT_EQ(Colonne(f).at(0).larghezza, (9U + 2U) * 256U); // the text; 40000.25 takes 8
+    f.righe[3][0].genere = GenereNumero::DataOra;
+    EXPECT_EQ(Colonne(f).at(0).larghezza, (16U + 2U) * 256U);
+    EXPECT_EQ(Colonne(f).at(0).numeri, static_cast<StileXls>(19)); // its decimals count
 }
 
 TEST(StileCella, HeadingNumbersDatesTexts) {
