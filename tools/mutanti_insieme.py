@@ -12,13 +12,44 @@ import re
 HEADER = """#pragma once
 #include <cstdlib>
 inline int sagomi_mutante_scelto = -2;
+inline bool sagomi_mutanti_visti[65536];
 inline bool sagomi_mutante(int numero) {
     if (sagomi_mutante_scelto == -2) {
         const char* scelto = std::getenv("SAGOMI_MUTANTE");
         sagomi_mutante_scelto = scelto ? std::atoi(scelto) : -1;
     }
+    sagomi_mutanti_visti[numero] = true;
     return numero == sagomi_mutante_scelto;
 }
+"""
+
+# Stands in a test program: writes which mutants each test comes by, and its time [ms]; first those before any test.
+LISTENER = """#include <fstream>
+#include <gtest/gtest.h>
+#include "{header}"
+namespace {
+struct SagomiVisti : testing::EmptyTestEventListener {
+    std::ofstream file{std::getenv("SAGOMI_MUTANTI_VISTI")};
+    void Scrive(const std::string& prova, long long tempo) {
+        file << prova << '\\t' << tempo << '\\t';
+        for (int i = 0; i < 65536; ++i) {
+            if (sagomi_mutanti_visti[i])
+                file << i << ' ';
+            sagomi_mutanti_visti[i] = false;
+        }
+        file << std::endl;
+    }
+    void OnTestProgramStart(const testing::UnitTest&) override { Scrive("-", 0); }
+    void OnTestEnd(const testing::TestInfo& t) override {
+        Scrive(std::string(t.test_suite_name()) + "." + t.name(), t.result()->elapsed_time());
+    }
+};
+const bool sagomi_visti = [] {
+    if (std::getenv("SAGOMI_MUTANTI_VISTI"))
+        testing::UnitTest::GetInstance()->listeners().Append(new SagomiVisti);
+    return true;
+}();
+} // namespace
 """
 FIRST_LINES = '#include "{header}"\n#line 1\n'
 
