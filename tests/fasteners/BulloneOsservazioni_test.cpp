@@ -108,6 +108,17 @@ TEST(BulloneOsservazioniTest, TouchesNeitherResistanceNorMessages) {
         EXPECT_EQ(b.Messaggio(i), "");
 }
 
+// 12 · 12.54 = 150.48 is the greater one: it holds, not 150.
+TEST(BulloneOsservazioniTest, TheGreaterOfTwoLimitsHoldsFromItsFirstTenth) {
+    Bullone b = M20();
+    b.t = 12.54;
+    b.e1 = 150.25;
+    b.RifollamentoCalcola();
+    EXPECT_EQ(Osservazioni(b).find("#6.5.1.4. (2)"), std::string::npos);
+    b.e1 = 150.5;
+    EXPECT_NE(Osservazioni(b).find("#6.5.1.4. (2)"), std::string::npos);
+}
+
 TEST(BulloneOsservazioniTest, NegativeThicknessCountsAsNone) {
     Bullone b = M20();
     b.t = -3;

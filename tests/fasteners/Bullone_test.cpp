@@ -225,6 +225,22 @@ INSTANTIATE_TEST_SUITE_P(Fori, GiocoTest, testing::Values(
     [](const auto& i) { return std::string(i.param.nome); });
 // clang-format on
 
+// Table 6.5.3 and 6.5.5 (8): the shank bears 0.6 in any class and hole, so does the thread of 8.8.
+TEST_F(BulloneTest, FactorsOfTheShearResistanceAreThoseOfTheThread) {
+    EXPECT_EQ(Fatto(12, 10.9).alfaV(), 0.5);
+    EXPECT_EQ(Fatto(12, 10.9, true).alfaV(), 0.6);
+    EXPECT_EQ(Fatto(12, 8.8).alfaV(), 0.6);
+    const auto gioco = [](double classe, bool gambo, double foro) {
+        Bullone b = Fatto(12, classe, gambo);
+        b.do_ = foro;
+        return b.FattoreGioco();
+    };
+    EXPECT_EQ(gioco(10.9, false, 14), 0.85);
+    EXPECT_EQ(gioco(10.9, false, 13), 1) << "the standard hole";
+    EXPECT_EQ(gioco(10.9, true, 14), 1);
+    EXPECT_EQ(gioco(8.8, false, 14), 1);
+}
+
 TEST_F(BulloneTest, UnknownClassIsToldAndKeepsTheOldThreadResistance) {
     Bullone b = Fatto(16, 8.8);
     b.Classe(12.9);
@@ -283,6 +299,9 @@ TEST_F(BulloneTest, BearingWithFullDistances) {
     Bullone b = InPiastra(20, 8.8, 3, 3.75, 1.5, 3);
     b.RifollamentoCalcola();
     EXPECT_FLOAT_EQ(b.FbRd.Stretto(), 144000.F) << "e2 = 1.5 do and p2 = 3 do reduce nothing";
+    b = InPiastra(20, 8.8, 3, 3.75, 1.9, 3.9);
+    b.RifollamentoCalcola();
+    EXPECT_FLOAT_EQ(b.FbRd.Stretto(), 144000.F) << "more adds nothing";
 }
 
 TEST_F(BulloneTest, TwoTransverseReductions) {

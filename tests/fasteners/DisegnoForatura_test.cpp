@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "drawing/SuperficieFinta.h"
 
@@ -14,6 +16,19 @@ namespace {
 
 constexpr ForaturaDisegnata foratura{20, 22, 45, 70, 35, 60};
 
+/// Writes the filled areas down too.
+class ConAree : public SuperficieFinta {
+public:
+    using SuperficieFinta::SuperficieFinta;
+    void Fill(std::span<const double> x, std::span<const double> y, Fondo fondo) override {
+        if (fondo != Fondo::Tenue)
+            return;
+        for (std::size_t i = 0; i < x.size(); ++i)
+            piastra.emplace_back(x[i], y[i]);
+    }
+    std::vector<std::pair<double, double>> piastra;
+};
+
 /// What was drawn, measured against the distances it is drawn from: the holes give scale and place.
 class DisegnoForaturaTest : public testing::Test {
 protected:
@@ -21,7 +36,13 @@ protected:
         superficie.linee.clear();
         superficie.scritte.clear();
         superficie.cerchi.clear();
+        superficie.piastra.clear();
         DisegnoForatura(f).PlottaInOggetto(&superficie, "frmBulloni");
+    }
+    /// Height of a line of text.
+    [[nodiscard]] double Riga() const {
+        const RigaTesto r = SuperficieFinta(400, 300).TextLine();
+        return r.sopra + r.sotto;
     }
     void Misura(const ForaturaDisegnata& f) {
         ASSERT_FALSE(superficie.cerchi.empty());
@@ -56,7 +77,7 @@ protected:
         return {};
     }
 
-    SuperficieFinta superficie{400, 300};
+    ConAree superficie{400, 300};
     SuUscita uscita{&superficie};
     double x1 = 0, x2 = 0; ///< centres of the holes
     double y1 = 0, y2 = 0; ///< below, above
@@ -113,6 +134,66 @@ TEST_F(DisegnoForaturaTest, BrokenSideSwingsEvenlyAboutItsMiddle) {
     EXPECT_NEAR(prima[23].y2, basso, 1e-9);
 }
 
+// A cubic whose middle points lie s aside swings by 3ut(u - t)s: sqrt(3)/6 s at the most, s being 0.35 of a
+// line.
+TEST_F(DisegnoForaturaTest, BrokenSideSwingsByATenthOfALine) {
+    Disegna(foratura);
+    Misura(foratura);
+    const double rotto = x1 - 28 * scala;
+    double oltre = 0;
+    for (const auto& [x, y] : superficie.piastra)
+        if (x < x1)
+            oltre = std::max(oltre, x - rotto);
+    EXPECT_NEAR(oltre, std::sqrt(3) / 6 * 0.35 * Riga(), 1e-3 * Riga());
+}
+
+// Four corners, and the 23 points where the 24 chords of the broken side meet.
+TEST_F(DisegnoForaturaTest, PlateIsFilledUpToItsBrokenSide) {
+    Disegna(foratura);
+    Misura(foratura);
+    ASSERT_EQ(superficie.piastra.size(), 27U);
+    for (std::size_t i = 4; i + 1 < 27; ++i) {
+        const auto& [xa, ya] = superficie.piastra[i];
+        const auto& [xb, yb] = superficie.piastra[i + 1];
+        EXPECT_TRUE(HaLinea(xa, ya, xb, yb)) << i;
+    }
+    const double alto = y2 - 35 * scala;
+    EXPECT_TRUE(HaLinea(x1 - 28 * scala, alto, superficie.piastra[4].first, superficie.piastra[4].second));
+}
+
+TEST_F(DisegnoForaturaTest, LoadRunsHalfWayBetweenTheRowsUpToItsHead) {
+    Disegna(foratura);
+    Misura(foratura);
+    const double mezzo = (y1 + y2) / 2;
+    EXPECT_TRUE(HaLinea(x1, mezzo, x2 - 6, mezzo));
+}
+
+// 4 units are left free at the left and above; names take 2.2 lines at the right and 1.9 below.
+TEST_F(DisegnoForaturaTest, PlateFillsWhatItsNamesLeave) {
+    const double destra = 400 - 2.2 * Riga();
+    const double fondo = 300 - 1.9 * Riga();
+    const ForaturaDisegnata largo{20, 22, 200, 70, 35, 60};
+    Disegna(largo);
+    Misura(largo);
+    EXPECT_NEAR(x1 - 28 * scala, 4, 1e-6);
+    EXPECT_NEAR(x2 + 200 * scala, destra, 1e-6);
+    EXPECT_NEAR((y1 + y2) / 2, (4 + fondo) / 2, 1e-6);
+    const ForaturaDisegnata alto{20, 22, 45, 70, 300, 200};
+    Disegna(alto);
+    Misura(alto);
+    EXPECT_NEAR(y2 - 300 * scala, 4, 1e-6);
+    EXPECT_NEAR(y1 + 300 * scala, fondo, 1e-6);
+    EXPECT_NEAR(((x1 - 28 * scala) + (x2 + 45 * scala)) / 2, (4 + destra) / 2, 1e-6);
+}
+
+// The first row stands a hole off the broken side where that is more than 0.4 of the pitch.
+TEST_F(DisegnoForaturaTest, ANarrowPitchKeepsAHoleFromTheBrokenSide) {
+    const ForaturaDisegnata f{20, 22, 45, 50, 35, 60};
+    Disegna(f);
+    Misura(f);
+    EXPECT_TRUE(HaLinea(x1 - 22 * scala, y1 + 35 * scala, x2 + 45 * scala, y1 + 35 * scala));
+}
+
 TEST_F(DisegnoForaturaTest, NamesStandAtTheMiddleOfWhatTheyName) {
     Disegna(foratura);
     Misura(foratura);
@@ -150,6 +231,9 @@ TEST_F(DisegnoForaturaTest, DimensionLinesRunBetweenWhatTheyMeasure) {
     EXPECT_TRUE(orizzontale(x2, fine, basso));
     EXPECT_TRUE(verticale(y1, basso, fine));
     EXPECT_TRUE(verticale(y2, y1, fine));
+    EXPECT_TRUE(HaLinea(x1, basso + 0.7 * Riga(), x2, basso + 0.7 * Riga()));
+    EXPECT_TRUE(HaLinea(fine + 0.7 * Riga(), y1, fine + 0.7 * Riga(), y2));
+    EXPECT_NEAR(Nome("p2").first - 0.3 * 2 * 10, fine + (0.7 + 0.35) * Riga(), 1e-6) << "letters of 10 units";
 }
 
 TEST_F(DisegnoForaturaTest, NothingLeavesTheSurface) {
@@ -171,6 +255,17 @@ TEST_F(DisegnoForaturaTest, ADistanceThatIsNotAboveZeroClearsIt) {
     ForaturaDisegnata f = foratura;
     f.p2 = 0;
     EXPECT_FALSE(DisegnoForatura(f).PlottaInOggetto);
+    f.p2 = 0.5;
+    EXPECT_TRUE(DisegnoForatura(f).PlottaInOggetto);
+}
+
+// What the windows are laid out by [pixels].
+TEST_F(DisegnoForaturaTest, SizesOfThePicture) {
+    const Disegno disegno = DisegnoForatura(foratura);
+    EXPECT_EQ(disegno.misura.larghezza, 260);
+    EXPECT_EQ(disegno.misura.altezza, 150);
+    EXPECT_EQ(disegno.minima.larghezza, 180);
+    EXPECT_EQ(disegno.minima.altezza, 130);
 }
 
 } // namespace

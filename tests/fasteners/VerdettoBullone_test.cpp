@@ -29,6 +29,7 @@ TEST(VerdettoBullone, SumGovernsWhereNoForceAloneIsMore) {
     EXPECT_EQ(v.governa, TermineBullone::Taglio);
     EXPECT_EQ(v.Motivo(), "");
     EXPECT_EQ(Giudica(Con(5, 56)).governa, TermineBullone::Trazione);
+    EXPECT_EQ(Giudica(Con(25, 56)).governa, TermineBullone::Taglio) << "1/2 and 1/2: shear is named";
 }
 
 // 100/112 = 0.893 passes in the sum; 100/80 does not.
@@ -49,6 +50,12 @@ TEST(VerdettoBullone, ShearIsHeldAgainstThePlateWhereOneIsGiven) {
     EXPECT_EQ(v.governa, TermineBullone::Rifollamento);
     EXPECT_EQ(v.Motivo(), "Fv,Sd = 45.0 kN supera da sola Fb,Rd = 40.0 kN");
     EXPECT_EQ(Giudica(Con(40, 0, 10)).Motivo(), "");
+    EXPECT_EQ(Giudica(Con(45, 0, 0.5)).utilizzo, 1.125) << "however thin";
+    Bullone senza = Con(45, 0, 10);
+    senza.fu = 0;
+    EXPECT_EQ(Giudica(senza).utilizzo, 0.9) << "a plate without a strength is none";
+    senza.fu = 0.5;
+    EXPECT_EQ(Giudica(senza).utilizzo, 1.125);
 }
 
 TEST(VerdettoBullone, BothReasonsStandInOneLine) {
@@ -73,6 +80,18 @@ TEST(VerdettoBullone, WithoutForceNothingGovernsAndWithoutResistanceNothingIsJud
     Bullone b = Con(10, 0);
     b.FtRd = 0;
     EXPECT_TRUE(std::isnan(Giudica(b).utilizzo));
+    b = Con(0, 10);
+    b.FvRd = 0;
+    EXPECT_TRUE(std::isnan(Giudica(b).utilizzo));
+}
+
+// 0.125/0.5 + 0.175/(1.4 · 0.5) = 0.5, and 0.175/0.5 is less.
+TEST(VerdettoBullone, ResistancesBelowANewtonAreJudged) {
+    Bullone b;
+    b.FvRd = b.FtRd = 0.5;
+    b.FvSd = 0.125;
+    b.FtSd = 0.175;
+    EXPECT_NEAR(Giudica(b).utilizzo, 0.5, 1e-7);
 }
 
 TEST(VerdettoBullone, ResistancesThatAreNoneGiveNoVerdict) {
