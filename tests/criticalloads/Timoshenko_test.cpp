@@ -204,6 +204,9 @@ TEST_F(TimoshenkoIpe200, CriticalMomentOfACantilever) {
     // a/L root(E Iz/C) = 0.025 · root(2.9904e11 / 5.63768e9) = 0.025 · 7.28308
     EXPECT_NEAR(*t.McrMensola(0, 0) / 1e6, 4.013 * (1 - 0.025 * 7.28308) * K * 4000 / 1e6, 0.005);
     EXPECT_NEAR(*t.McrMensola(0, 2) / 1e6, 4.013 * (1 + 0.025 * 7.28308) * K * 4000 / 1e6, 0.005);
+    // 1.74 of it at mid-span of a beam, whose moment is P L / 4
+    EXPECT_NEAR(*t.McrAppoggiata(0, 0) / 1e6, 16.94 * (1 - 1.74 * 0.025 * 7.28308) * K * 1000 / 1e6, 0.005);
+    EXPECT_NEAR(*t.McrAppoggiata(0, 2) / 1e6, 16.94 * (1 + 1.74 * 0.025 * 7.28308) * K * 1000 / 1e6, 0.005);
 }
 
 TEST_F(TimoshenkoIpe200, DistributedLoadLeftOnACantileverWithWarpingIsHalvedAllTheSame) {
@@ -244,6 +247,13 @@ TEST_F(TimoshenkoIpe200, ALengthThatIsNoneIsRefused) {
         EXPECT_EQ(registratore.testi, (Testi{"L deve essere > 0", "L deve essere > 0"}));
         EXPECT_EQ(registratore.messaggi[0].icona, Icona::Stop);
     }
+}
+
+TEST_F(TimoshenkoIpe200, ALengthBelowAMillimetreIsOne) {
+    t.L = 0.5;
+    EXPECT_TRUE(t.McrAppoggiata(0, 1));
+    EXPECT_TRUE(t.McrMensola(0, 1));
+    EXPECT_TRUE(registratore.testi.empty());
 }
 
 TEST_F(TimoshenkoIpe200, NoStiffnessAtAllGivesNoNumber) {
