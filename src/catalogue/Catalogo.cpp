@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <exception>
+#include <functional>
+#include <map>
 #include <new>
 #include <set>
 #include <sqlite3.h>
@@ -11,6 +13,7 @@
 #include "catalogue/CartellaXls.h"
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/Famiglie.h"
+#include "catalogue/FogliInteri.h"
 #include "catalogue/LimitiXls.h"
 #include "catalogue/Minuscole.h"
 #include "catalogue/TabellaFoglio.h"
@@ -140,11 +143,32 @@ int ContaPassi(void* restano) { return --*static_cast<int*>(restano) < 0 ? 1 : 0
 
 /// What lives as long as the tables do.
 struct Catalogo::Stato {
-    explicit Stato(const std::filesystem::path& file) : cartella(file) {}
+    explicit Stato(const std::filesystem::path& file) : cartella(file), letti(cartella.Fogli()) {}
+
+    /// A sheet, read when it is first asked for.
+    const std::shared_ptr<const FoglioLetto>& Legge(std::size_t i) {
+        if (!letti[i])
+            letti[i] = std::make_shared<const FoglioLetto>(cartella.Legge(i));
+        return letti[i];
+    }
+
+    /// The sheet of a table; null where there is none or it cannot be read.
+    std::shared_ptr<const FoglioLetto> Trova(std::string_view tabella) {
+        const auto trovata = tabelle.find(tabella);
+        if (trovata == tabelle.end())
+            return nullptr;
+        try {
+            return Legge(trovata->second);
+        } catch (const std::exception&) {
+            return nullptr;
+        }
+    }
 
     CartellaXls cartella;
-    std::string causa; ///< why a sheet could not be read
-    int restano = 0;   ///< steps of the query in hand, in lots
+    std::vector<std::shared_ptr<const FoglioLetto>> letti;
+    std::map<std::string, std::size_t, std::less<>> tabelle; ///< and their sheets
+    std::string causa;                                       ///< why a sheet could not be read
+    int restano = 0;                                         ///< steps of the query in hand, in lots
 };
 
 void Catalogo::Chiude::operator()(sqlite3* db) const { sqlite3_close(db); }
@@ -190,9 +214,11 @@ void Catalogo::ApreTabelle() {
     std::set<std::string> nomi;
     for (std::size_t i = 0; i < stato_->cartella.Fogli(); ++i) {
         const std::string nome = NomeTabella(stato_->cartella.Nome(i));
-        if (nome.find('\0') == std::string::npos && nomi.insert(Minuscole(nome)).second)
-            AggiungeTabella(
-                db, nome, [stato = stato_.get(), i] { return stato->cartella.Legge(i); }, stato_->causa);
+        if (nome.find('\0') != std::string::npos || !nomi.insert(Minuscole(nome)).second)
+            continue;
+        stato_->tabelle.emplace(nome, i);
+        AggiungeTabella(
+            db, nome, [stato = stato_.get(), i] { return stato->Legge(i); }, stato_->causa);
     }
 }
 
@@ -202,7 +228,9 @@ EsitoQuery Catalogo::Esegue(std::string_view query) const {
     stato_->restano = massimiLotti;
     sqlite3_progress_handler(db_.get(), passiPerLotto, ContaPassi, &stato_->restano);
     try {
-        return Raccoglie(query);
+        auto diretto =
+            RigheDiFogli(query, [this](std::string_view tabella) { return stato_->Trova(tabella); });
+        return diretto ? *std::move(diretto) : Raccoglie(query);
     } catch (const ErroreCatalogo& e) {
         const bool nelFoglio = !stato_->causa.empty();
         throw ErroreLettura(file_, nelFoglio ? stato_->causa : InItaliano(e.what(), e.Numero()));

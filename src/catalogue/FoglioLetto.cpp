@@ -37,14 +37,9 @@ void FoglioLetto::Termina() {
     inizi_.push_back(static_cast<std::uint32_t>(celle_.size()));
 }
 
-const CellaLetta* FoglioLetto::Cella(std::size_t i, std::size_t colonna) const {
-    const CellaLetta* da = celle_.data() + inizi_[i];
-    const CellaLetta* a = celle_.data() + inizi_[i + 1];
-    if (colonna < static_cast<std::size_t>(a - da) && da[colonna].colonna == colonna)
-        return da + colonna; // a row without holes
-    const CellaLetta* trovata =
-        std::lower_bound(da, a, colonna, [](const CellaLetta& c, std::size_t k) { return c.colonna < k; });
-    return trovata != a && trovata->colonna == colonna ? trovata : nullptr;
+const CellaLetta* FoglioLetto::Cerca(std::span<const CellaLetta> riga, std::size_t colonna) {
+    const auto trovata = std::ranges::lower_bound(riga, colonna, {}, &CellaLetta::colonna);
+    return trovata != riga.end() && trovata->colonna == colonna ? &*trovata : nullptr;
 }
 
 Valore FoglioLetto::ValoreDi(const CellaLetta* cella) const {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -67,8 +68,18 @@ public:
     [[nodiscard]] std::size_t Colonne() const { return colonne_; }
     [[nodiscard]] std::size_t Celle() const { return celle_.size(); }
 
+    /// The cells of the i-th row with a value, from left to right.
+    [[nodiscard]] std::span<const CellaLetta> Riga(std::size_t i) const {
+        return std::span(celle_).subspan(inizi_[i], inizi_[i + 1] - inizi_[i]);
+    }
+
     /// A cell of the i-th row with a value; null where there is nothing.
-    [[nodiscard]] const CellaLetta* Cella(std::size_t i, std::size_t colonna) const;
+    [[nodiscard]] const CellaLetta* Cella(std::size_t i, std::size_t colonna) const {
+        const std::span<const CellaLetta> riga = Riga(i);
+        if (colonna < riga.size() && riga[colonna].colonna == colonna)
+            return &riga[colonna]; // a row without holes
+        return Cerca(riga, colonna);
+    }
 
     /// The text of a cell that holds one.
     [[nodiscard]] std::string_view Testo(const CellaLetta& cella) const {
@@ -80,6 +91,8 @@ public:
     [[nodiscard]] Valore ValoreDi(const CellaLetta* cella) const;
 
 private:
+    static const CellaLetta* Cerca(std::span<const CellaLetta> riga, std::size_t colonna);
+
     std::shared_ptr<const TestiLetti> comuni_;
     TestiLetti propri_;
     std::vector<CellaLetta> celle_;

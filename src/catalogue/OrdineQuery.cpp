@@ -1,5 +1,7 @@
 #include "catalogue/OrdineQuery.h"
 
+#include <utility>
+
 #include "catalogue/Famiglie.h"
 #include "catalogue/TabellaFoglio.h"
 
@@ -49,23 +51,32 @@ std::string OrdinaPer(std::string_view query, std::string_view colonna) {
            (closes ? TraVirgolette(name) : "[" + name + "]");
 }
 
-std::optional<QueryOrdinata> SeparaOrdine(std::string_view query) {
+std::optional<QueryFogli> SeparaFogli(std::string_view query) {
     constexpr std::string_view tutto = "SELECT * FROM ";
     std::string_view resto = query;
-    int fogli = 0;
+    QueryFogli fogli;
     do {
-        if (!Toglie(resto, tutto) || ToglieNome(resto).empty())
+        if (!Toglie(resto, tutto))
             return std::nullopt;
-        ++fogli;
+        fogli.tabelle.push_back(ToglieNome(resto));
+        if (fogli.tabelle.back().empty())
+            return std::nullopt;
     } while (Toglie(resto, " UNION "));
-    const std::string_view righe = query.substr(0, query.size() - resto.size());
-    if (!Toglie(resto, ordina))
+    fogli.righe = query.substr(0, query.size() - resto.size());
+    if (Toglie(resto, ordina)) {
+        fogli.colonna = ToglieNome(resto);
+        Toglie(resto, " ASC");
+        if (fogli.colonna.empty())
+            return std::nullopt;
+    }
+    return resto.empty() ? std::optional(std::move(fogli)) : std::nullopt;
+}
+
+std::optional<QueryOrdinata> SeparaOrdine(std::string_view query) {
+    const auto fogli = SeparaFogli(query);
+    if (!fogli || fogli->colonna.empty())
         return std::nullopt;
-    const std::string_view colonna = ToglieNome(resto);
-    Toglie(resto, " ASC");
-    if (colonna.empty() || !resto.empty())
-        return std::nullopt;
-    return QueryOrdinata{righe, colonna, fogli > 1};
+    return QueryOrdinata{fogli->righe, fogli->colonna, fogli->tabelle.size() > 1};
 }
 
 bool NominaFoglio(std::string_view query, std::string_view foglio) {

@@ -122,7 +122,7 @@ private:
 
 /// What a table is made of, and where its failure goes.
 struct Fonte {
-    std::function<FoglioLetto()> legge;
+    std::function<std::shared_ptr<const FoglioLetto>()> legge;
     std::string& causa;
 };
 
@@ -130,26 +130,27 @@ using Righe = std::shared_ptr<const std::vector<std::uint32_t>>;
 
 /// A sheet as SQLite's table.
 struct Tabella : sqlite3_vtab {
-    explicit Tabella(FoglioLetto letto) : sqlite3_vtab{}, foglio(std::move(letto)) {}
+    explicit Tabella(std::shared_ptr<const FoglioLetto> foglio)
+        : sqlite3_vtab{}, foglio_(std::move(foglio)) {}
+
+    [[nodiscard]] const FoglioLetto& Foglio() const { return *foglio_; }
 
     /// The rows below the headings in the order of these keys; the last order is kept.
     Righe InOrdine(const std::string& chiavi) {
         if (righe_ && chiavi == chiavi_)
             return righe_;
-        const bool conTitoli = foglio.Righe() > 0 && foglio.NumeroRiga(0) == 0;
         std::vector<std::uint32_t> righe;
-        righe.reserve(foglio.Righe());
-        for (std::size_t i = conTitoli ? 1 : 0; i < foglio.Righe(); ++i)
+        righe.reserve(Foglio().Righe());
+        for (std::size_t i = PrimaRecord(Foglio()); i < Foglio().Righe(); ++i)
             righe.push_back(static_cast<std::uint32_t>(i));
-        Ordinamento(foglio, ChiaviDa(chiavi)).Ordina(righe);
+        Ordinamento(Foglio(), ChiaviDa(chiavi)).Ordina(righe);
         righe_ = std::make_shared<const std::vector<std::uint32_t>>(std::move(righe));
         chiavi_ = chiavi;
         return righe_;
     }
 
-    FoglioLetto foglio;
-
 private:
+    std::shared_ptr<const FoglioLetto> foglio_;
     std::string chiavi_;
     Righe righe_;
 };
@@ -170,7 +171,7 @@ int Apre(sqlite3* db, void* fonte, int /*argc*/, const char* const* /*argv*/, sq
     const Fonte& f = *static_cast<const Fonte*>(fonte);
     try {
         auto nuova = std::make_unique<Tabella>(f.legge());
-        const std::string campi = "CREATE TABLE x(" + Elenco(NomiCampi(nuova->foglio)) + ")";
+        const std::string campi = "CREATE TABLE x(" + Elenco(NomiCampi(nuova->Foglio())) + ")";
         const int esito = sqlite3_declare_vtab(db, campi.c_str());
         if (esito == SQLITE_OK)
             *tabella = nuova.release();
@@ -191,7 +192,7 @@ int Chiude(sqlite3_vtab* t) {
 
 /// No condition is used, each order is.
 int Progetta(sqlite3_vtab* t, sqlite3_index_info* piano) {
-    const auto righe = static_cast<sqlite3_int64>(Di(t).foglio.Righe());
+    const auto righe = static_cast<sqlite3_int64>(Di(t).Foglio().Righe());
     piano->estimatedRows = righe;
     piano->estimatedCost = static_cast<double>(righe) + 1;
     if (piano->nOrderBy == 0)
@@ -231,7 +232,7 @@ int Prosegue(sqlite3_vtab_cursor* c) {
 int Finita(sqlite3_vtab_cursor* c) { return Di(c).posto >= Di(c).righe->size() ? 1 : 0; }
 
 int Campo(sqlite3_vtab_cursor* c, sqlite3_context* esito, int colonna) {
-    const FoglioLetto& foglio = Di(c->pVtab).foglio;
+    const FoglioLetto& foglio = Di(c->pVtab).Foglio();
     const CellaLetta* cella = foglio.Cella(Di(c).Riga(), static_cast<std::size_t>(colonna));
     if (cella == nullptr) {
         sqlite3_result_null(esito);
@@ -245,7 +246,7 @@ int Campo(sqlite3_vtab_cursor* c, sqlite3_context* esito, int colonna) {
 }
 
 int NumeroRiga(sqlite3_vtab_cursor* c, sqlite3_int64* riga) {
-    *riga = static_cast<sqlite3_int64>(Di(c->pVtab).foglio.NumeroRiga(Di(c).Riga())) + 1;
+    *riga = static_cast<sqlite3_int64>(Di(c->pVtab).Foglio().NumeroRiga(Di(c).Riga())) + 1;
     return SQLITE_OK;
 }
 
@@ -269,15 +270,19 @@ constexpr sqlite3_module moduloFoglio = ModuloFoglio();
 
 } // namespace
 
-void AggiungeTabella(sqlite3* db, const std::string& tabella, std::function<FoglioLetto()> legge,
-                     std::string& causa) {
+void AggiungeTabella(sqlite3* db, const std::string& tabella,
+                     std::function<std::shared_ptr<const FoglioLetto>()> legge, std::string& causa) {
     auto fonte = std::make_unique<Fonte>(Fonte{std::move(legge), causa});
     sqlite3_create_module_v2(db, tabella.c_str(), &moduloFoglio, fonte.release(),
                              [](void* f) { delete static_cast<Fonte*>(f); });
 }
 
+std::size_t PrimaRecord(const FoglioLetto& foglio) {
+    return foglio.Righe() > 0 && foglio.NumeroRiga(0) == 0 ? 1 : 0;
+}
+
 std::vector<std::string> NomiCampi(const FoglioLetto& foglio) {
-    const bool conTitoli = foglio.Righe() > 0 && foglio.NumeroRiga(0) == 0;
+    const bool conTitoli = PrimaRecord(foglio) > 0;
     std::vector<std::string> nomi;
     std::set<std::string> usati;
     const std::size_t n = std::max<std::size_t>(foglio.Colonne(), 1);

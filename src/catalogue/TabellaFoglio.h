@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,8 +20,11 @@ namespace sagomi {
 /// @param tabella  name of the table, found without regard to capitals
 /// @param legge    reads the sheet; what it throws makes the query fail
 /// @param causa    gets the text of what it threw
-void AggiungeTabella(sqlite3* db, const std::string& tabella, std::function<FoglioLetto()> legge,
-                     std::string& causa);
+void AggiungeTabella(sqlite3* db, const std::string& tabella,
+                     std::function<std::shared_ptr<const FoglioLetto>()> legge, std::string& causa);
+
+/// The first row of a sheet that is a record: behind the headings, where it has some.
+std::size_t PrimaRecord(const FoglioLetto& foglio);
 
 /// Names of the fields: the headings, F and the number of the column where there is none, a number behind a
 /// name that has been before. At least one.

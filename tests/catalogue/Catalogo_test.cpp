@@ -166,6 +166,38 @@ TEST_F(CatalogoTest, RowsComeInTheOrderThatSqliteWouldGive) {
               c->Esegue("SELECT * FROM [x$] ORDER BY +a COLLATE NOCASE, +_rowid_").righe);
 }
 
+/// Whole sheets do not go through SQLite. With a condition that always holds the same query does.
+TEST_F(CatalogoTest, WholeSheetsComeAsSqliteGivesThem) {
+    const std::vector<Valore> valori = {3.0, S("b"), {}, -1.5, S("B"), S("bb"), 0.0, -0.0, S("\u00E8")};
+    std::vector<Foglio> fogli;
+    for (std::size_t f = 0; f < 3; ++f) {
+        Foglio& foglio = fogli.emplace_back(
+            FoglioDi("foglio " + std::to_string(f), {{S("a"), S(f == 0 ? "b" : "B "), {}}}));
+        for (std::size_t i = 0; i < 80; ++i) // some rows are empty, some equal, also to those of other sheets
+            for (std::size_t c = 0; c < 3; ++c)
+                foglio.Scrive(i + 1 + i / 20, c, valori[(i * (7 - c) / (c + 1) + f * c) % valori.size()]);
+    }
+    fogli.push_back(FoglioDi("largo", {{S("a"), S("b"), S("c"), S("d")}, {1.0, 2.0, 3.0, 4.0}}));
+    const auto c = Con(fogli);
+    const S uno = "SELECT * FROM ['foglio 0'$]";
+    const S tre = uno + " UNION SELECT * FROM ['foglio 2'$] UNION SELECT * FROM ['foglio 1'$]";
+    for (const S& query :
+         {uno, uno + " ORDER BY [b]", uno + " ORDER BY [F3] ASC", tre + " ORDER BY [a]",
+          tre + " ORDER BY [b] ASC", tre + " ORDER BY [F3]", tre, uno + " UNION " + uno + " ORDER BY [a]"}) {
+        S suo = query; // "WHERE 1" behind each sheet
+        for (std::size_t i = suo.find("$]"); i != S::npos; i = suo.find("$]", i + 2))
+            suo.insert(i + 2, " WHERE 1");
+        const EsitoQuery nostro = c->Esegue(query);
+        const EsitoQuery atteso = c->Esegue(suo);
+        EXPECT_EQ(nostro.campi, atteso.campi) << query;
+        EXPECT_EQ(nostro.righe, atteso.righe) << query;
+        EXPECT_GT(nostro.righe.size(), 20U) << query;
+    }
+    EXPECT_THAT(Errore(*c, (uno + " ORDER BY [manca]").c_str()), HasSubstr("manca la colonna \"manca\""));
+    EXPECT_THAT(Errore(*c, (uno + " UNION SELECT * FROM [largo$] ORDER BY [a]").c_str()),
+                HasSubstr("non hanno le stesse colonne"));
+}
+
 TEST_F(CatalogoTest, ConditionsAndJoins) {
     const auto c = Con({FoglioDi("x", {{S("a"), S("b")}, {1.0, S("u")}, {2.0, S("v")}, {3.0, {}}}),
                         FoglioDi("y", {{S("a"), S("c")}, {3.0, 30.0}, {1.0, 10.0}})});

@@ -48,6 +48,21 @@ TEST(OrdineQuery, LeavesEveryOtherFormAlone) {
         EXPECT_FALSE(SeparaOrdine(query)) << query;
 }
 
+TEST(OrdineQuery, TellsTheTablesOfWholeSheetsAlsoWithoutAnOrder) {
+    const auto one = SeparaFogli("SELECT * FROM ['L Uguali'$]");
+    ASSERT_TRUE(one);
+    EXPECT_EQ(one->tabelle, std::vector<std::string_view>{"'L Uguali'$"});
+    EXPECT_EQ(one->colonna, "");
+    const auto two = SeparaFogli(R"(SELECT * FROM [HEA$] UNION SELECT * FROM "IPE$" ORDER BY [h] ASC)");
+    ASSERT_TRUE(two);
+    EXPECT_EQ(two->tabelle, (std::vector<std::string_view>{"HEA$", "IPE$"}));
+    EXPECT_EQ(two->colonna, "h");
+    for (const char* query :
+         {"", "SELECT * FROM IPE$", "SELECT * FROM [IPE$];", "SELECT * FROM [IPE$] LIMIT 1",
+          "SELECT * FROM [IPE$] UNION ", "SELECT * FROM [IPE$] ORDER BY "})
+        EXPECT_FALSE(SeparaFogli(query)) << query;
+}
+
 TEST(OrdineQuery, KnowsTheSheetsOfAQuery) {
     const std::string query = ComponeQuery("frmDoppioT", {"HEAA", "IPE"}, 1);
     EXPECT_TRUE(NominaFoglio(query, "HEAA"));
