@@ -1,14 +1,10 @@
-// Saves files of every kind as the program does, for the script beside:
-//   salva KIND FILE N      one file, the number N in it
-//   salva KIND FILE N ...  one after the other from N on, until it is killed; says the number of each that is
-//   done
+// Saves the files of the mechanics as the program does, for the script beside:
+//   salva KIND FILE N [...]
 
-#include <cstdio>
-#include <functional>
-#include <map>
 #include <memory>
 #include <string>
 
+#include "Salvataggi.h"
 #include "composite/AcciaioCls.h"
 #include "drawing/Dxf.h"
 #include "drawing/Grafica.h"
@@ -97,23 +93,14 @@ bool SalvaSvg(const Percorso& file, int numero) {
     return ScriveAtomico(file, figura.Documento());
 }
 
-const std::map<std::string, std::function<bool(const Percorso&, int)>> specie{
-    {"ini", SalvaImpostazioni}, {"sco", SalvaTrave}, {"gfl", SalvaNodo},
-    {"txt", SalvaRelazione},    {"dxf", SalvaDxf},   {"svg", SalvaSvg}};
-
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 4 || !specie.contains(argv[1]))
-        return 2;
-    const auto& salva = specie.at(argv[1]);
-    const bool senzaFine = argc > 4;
-    int numero = std::stoi(argv[3]);
-    do {
-        if (!salva(argv[2], numero))
-            return 1;
-        std::printf("%d\n", numero++);
-        std::fflush(stdout);
-    } while (senzaFine);
-    return 0;
+    return prove::Salvataggi({{"ini", SalvaImpostazioni},
+                              {"sco", SalvaTrave},
+                              {"gfl", SalvaNodo},
+                              {"txt", SalvaRelazione},
+                              {"dxf", SalvaDxf},
+                              {"svg", SalvaSvg}},
+                             argc, argv);
 }
