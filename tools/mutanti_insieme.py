@@ -112,8 +112,9 @@ def left_end(code, other, i):
     return None
 
 
-def right_end(code, other, i):
-    """Where the expression ends; None when something is assigned to it."""
+def right_end(code, other, i, assigned):
+    """Where the expression ends; None when something is assigned to it. What is assigned may be a choice."""
+    choices = 0
     while i < len(code):
         c = code[i]
         comparison = COMPARISON.match(code, i)
@@ -121,12 +122,13 @@ def right_end(code, other, i):
             if i not in other:
                 return None
             i = other[i] + 1
-        elif c in ")]};,?":
-            return i
-        elif c == ":":
-            if code[i + 1] != ":":
-                return i
+        elif c == ":" and code[i + 1] == ":":
             i += 2
+        elif c == "?" and assigned or c == ":" and choices:
+            choices += 1 if c == "?" else -1
+            i += 1
+        elif c in ")]};,?:":
+            return i
         elif comparison:
             i = comparison.end()
         elif c == "=":
@@ -153,7 +155,8 @@ class Source:
 
     def adds(self, number, start, end, new):
         """False when this mutant has to be built alone."""
-        left, right = left_end(self.code, self.other, start), right_end(self.code, self.other, end)
+        assigned = self.code[start:end] in ("+=", "-=", "*=", "/=")
+        left, right = left_end(self.code, self.other, start), right_end(self.code, self.other, end, assigned)
         if left is None or right is None or 'R"' in self.text[left:right]:
             return False
         left += len(self.bare[left:right]) - len(self.bare[left:right].lstrip())

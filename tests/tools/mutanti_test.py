@@ -26,6 +26,7 @@ double Passi(double x) {
     else y -= x / 4;
     for (int i = 0; i < 5; ++i) {
         y *= 1.5;
+        z += y > 3 ? 0.5 : x > 1 ? y - 2 : 4;
         z = z + (i > 2 ? y : 0.25) +
             i * 3;
     }
