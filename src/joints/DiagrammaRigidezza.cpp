@@ -247,4 +247,12 @@ Disegno DiagrammaRigidezza(const Giunto& giunto) {
     return disegno;
 }
 
+std::vector<std::pair<double, double>> PuntiMomentoRotazione(const Giunto& giunto) {
+    constexpr double mrad = 1000;
+    std::vector<std::pair<double, double>> punti = CurvaGiunto(giunto).salita;
+    for (auto& [phi, M] : punti)
+        phi *= mrad;
+    return punti;
+}
+
 } // namespace sagomi

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "drawing/Disegno.h"
 
 namespace sagomi {
@@ -11,5 +14,9 @@ class Giunto;
 /// 6.9.6.2, and the acting moment. A joint that is not Acquisito gives a line of text; a beam without span
 /// has no limits, which is told. Values are taken now.
 Disegno DiagrammaRigidezza(const Giunto& giunto);
+
+/// The points of that line up to Mj,Rd, from the origin: rotation [mrad], moment [kNm]. Empty for a joint
+/// that is not Acquisito or has no stiffness.
+std::vector<std::pair<double, double>> PuntiMomentoRotazione(const Giunto& giunto);
 
 } // namespace sagomi

@@ -11,7 +11,7 @@
 #include "drawing/ui/ScegliDispositivo.h"
 #include "drawing/ui/StampaTesto.h"
 #include "frame/Messaggi.h"
-#include "frame/ui/Copie.h"
+#include "frame/ui/StanzaCopiata.h"
 #include "screens/PlottaSezioneCorrente.h"
 #include "screens/SchermoDettaglio.h"
 #include "screens/SchermoSezione.h"
@@ -74,10 +74,7 @@ std::vector<std::string> Righe(const QAbstractItemModel& table) {
 
 /// Entries and results, as they are copied too.
 std::vector<std::string> RigheDerivazione(const Schermo& schermo) {
-    QList<QStringList> rows{
-        {QObject::tr("Simbolo"), QObject::tr("Valore"), QObject::tr("Unità"), QObject::tr("Norma")}};
-    for (const RigaDerivazione& r : Derivazione(schermo))
-        rows.append({r.simbolo, r.valore, r.unita, r.norma});
+    const QList<QStringList> rows = RigheStanza(schermo);
     return rows.size() > 1 ? InColonne(rows) : std::vector<std::string>{};
 }
 

@@ -71,6 +71,18 @@ TEST_F(DiagrammaRigidezzaTest, TheLineRunsThroughTheComputedPoints) {
         })) << limite;
 }
 
+TEST_F(DiagrammaRigidezzaTest, ThePointsAreThoseOfTheLine) {
+    const auto punti = PuntiMomentoRotazione(g());
+    ASSERT_GT(punti.size(), 3U);
+    EXPECT_EQ(punti.front(), std::make_pair(0.0, 0.0));
+    EXPECT_DOUBLE_EQ(punti[1].second, g().M_elastico);
+    EXPECT_DOUBLE_EQ(punti[1].first, 1000 * g().M_elastico / g().Sj_Mela);
+    EXPECT_DOUBLE_EQ(punti.back().second, g().MplRdGIUNTO);
+    EXPECT_DOUBLE_EQ(punti.back().first, 1000 * g().MplRdGIUNTO / g().Sj_MjRd);
+    g().Acquisito = false;
+    EXPECT_TRUE(PuntiMomentoRotazione(g()).empty());
+}
+
 TEST_F(DiagrammaRigidezzaTest, AxesAndLimitsHaveTheirNames) {
     const auto testi = Disegnato(g()).Testi();
     for (const char* nome : {"rotazione [mrad]", "M [kNm]", "rigido (non controv.)", "rigido (controv.)",

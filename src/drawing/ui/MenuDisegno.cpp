@@ -1,12 +1,16 @@
 #include "drawing/ui/MenuDisegno.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QMenu>
+#include <QMimeData>
 
 #include <utility>
 
 #include "drawing/ui/FrmPltSezione.h"
 #include "drawing/ui/ScegliDispositivo.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/StanzaCopiata.h"
 
 namespace sagomi {
 
@@ -28,6 +32,12 @@ std::unique_ptr<QMenu> MenuDisegno(QWidget& widget, const Disegno& disegno) {
         Collega(action, &QAction::triggered, &widget, [choice = choice, disegno, screen, &widget] {
             ScegliDispositivo(choice, QString::fromStdString(disegno.nome), disegno, screen, &widget);
         });
+    }
+    if (widget.property(proprietaTabella).isValid()) {
+        QAction* table = menu->addAction(QStringLiteral("Copia i &valori come tabella"));
+        table->setObjectName(QStringLiteral("mnuCopiaTabella"));
+        Collega(table, &QAction::triggered, &widget,
+                [&widget] { QApplication::clipboard()->setMimeData(StanzaCopiata(widget)); });
     }
     if (auto* caller = qobject_cast<Schermo*>(widget.window())) {
         menu->addSeparator();

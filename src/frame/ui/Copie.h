@@ -1,30 +1,20 @@
 #pragma once
 
-#include <QList>
 #include <QObject>
 
 #include <functional>
 
-class QMimeData;
+#include "frame/ui/StanzaCopiata.h"
+
+class QKeyEvent;
 class QWidget;
 
 namespace sagomi {
 
-/// A line of a derivation as it is copied.
-struct RigaDerivazione {
-    QString simbolo, valore, unita, norma;
-};
-
-/// What a screen shows, entries and results in the order of reading: the symbol and the unit come from the
-/// accessible name, the clause from the tool-tip. What is hidden or empty is left out.
-QList<RigaDerivazione> Derivazione(const QWidget& schermo);
-
-/// The same as a table for the clipboard: text with tabs, HTML and a picture. The caller takes it over.
-QMimeData* DerivazioneCopiata(const QWidget& schermo);
-
 /// The manners of copying of a screen: a double click takes the whole number of a result, without blanks;
-/// Ctrl+C with nothing selected copies the derivation of a screen that was opened from another, in a table
-/// its rows with their heads.
+/// Ctrl+C with nothing selected copies the derivation of a screen that was opened from another, the room of
+/// the control in any other, in a table its rows with their heads; Ctrl+Shift+C the whole screen. The context
+/// menu of every room says what it copies.
 class Copie : public QObject {
     Q_OBJECT
 public:
@@ -37,6 +27,8 @@ protected:
 
 private:
     [[nodiscard]] bool Filtra(QObject* object, QEvent* event) const;
+    [[nodiscard]] bool Tasto(QObject* object, const QKeyEvent& event) const;
+    [[nodiscard]] const QWidget& DaCopiare(const QWidget* controllo) const;
 
     QWidget* schermo_;
     std::function<bool()> dettaglio_;

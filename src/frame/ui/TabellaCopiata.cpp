@@ -47,12 +47,19 @@ QImage Figura(QString html) {
     return picture;
 }
 
+/// A line of text; a cell of several lines stands in one.
+QString RigaTesto(QStringList cells) {
+    for (QString& c : cells)
+        c.replace(u'\n', u' ').replace(u'\t', u' ');
+    return cells.join(u'\t') + u'\n';
+}
+
 } // namespace
 
 QMimeData* TabellaCopiata(const QString& titolo, const QList<QStringList>& righe) {
     QString text;
     for (const QStringList& row : righe)
-        text += row.join(u'\t') + u'\n';
+        text += RigaTesto(row);
     const QString html = Html(titolo, righe);
     auto* data = new QMimeData;
     data->setText(text);

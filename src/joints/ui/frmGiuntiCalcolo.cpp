@@ -17,6 +17,7 @@
 #include "frame/ui/Esito.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/StanzaCopiata.h"
 #include "joints/ConsigliGiunto.h"
 #include "joints/DiagrammaRigidezza.h"
 #include "joints/LimitiGiunto.h"
@@ -87,6 +88,15 @@ private:
 
 QString Numero(double value, int digits = 4) {
     return QString::fromStdString(FormatoCifre(digits, value)).trimmed();
+}
+
+/// The points of the diagram, to be copied; nothing where it has none.
+QVariant TabellaMomentoRotazione(const Giunto& giunto) {
+    QList<QStringList> rows{
+        {QStringLiteral("Punto"), QStringLiteral("Rotazione [mrad]"), QStringLiteral("Momento [kNm]")}};
+    for (const auto& [phi, M] : PuntiMomentoRotazione(giunto))
+        rows << QStringList{QString::number(rows.size()), Numero(phi), Numero(M)};
+    return rows.size() > 1 ? QVariant::fromValue(rows) : QVariant();
 }
 
 /// The mark of the group of a component, which also tells them apart in print.
@@ -306,6 +316,7 @@ void frmGiunti::ScriviDatiInForm() {
     MostraUtilizzi();
     MostraStato();
     diagramma_->Mostra(DiagrammaRigidezza(g));
+    diagramma_->setProperty(proprietaTabella, TabellaMomentoRotazione(g));
     ui_->CmdRisultati->setEnabled(g.RisultatiIntermedi_Estrai().n() > 0);
     AggiornaVisibili();
 }
