@@ -187,6 +187,9 @@ public:
     /// without a height of ribs.
     void CalcolaPrd();
 
+    /// Secant modulus of the concrete that CalcolaPrd took [N/mm2], ENV 1992-1-1 3.1.2.5.2.
+    [[nodiscard]] double ModuloCalcestruzzo() const { return Ecm; }
+
     /// Studs for full connection: nConnCalc = Vl/PRd of half the beam, nConnettori of both halves, each
     /// rounded up; then the spacing, by Nr. More than 16 bits hold are told in MessaggioPioli, and there are
     /// 0.

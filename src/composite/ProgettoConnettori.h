@@ -7,6 +7,9 @@ namespace sagomi {
 
 class AcciaioCls;
 
+inline constexpr double fuPioloIniziale = 450; ///< where a beam has no strength of its studs [N/mm2]
+inline constexpr double GammaVIniziale = 1.25; ///< where it has no partial factor of them, EC4 2.3.3.2
+
 /// Studs of half a beam, or whatever n counts, for partial connection: n (|Msd| - Ma)/(MplRd - Ma), along the
 /// straight line from the steel alone to full connection, EC4 6.2.1.2. 0 where the steel carries Msd alone;
 /// empty where MplRd is not above Ma, or Msd above MplRd.

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "composite/AcciaioCls.h"
@@ -12,6 +13,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "geometry/Poligono.h"
 #include "report/CapitoliSagomo.h"
+#include "report/CapitoloConnettori.h"
 #include "report/Figure.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneInForza.h"
@@ -331,6 +333,9 @@ Relazione RelazioneTrave(const AcciaioCls& trave, const EsitoTrave& esito) {
     r.capitoli.push_back(CapitoloSoletta(trave));
     r.capitoli.push_back(CapitoloMateriali(trave));
     r.capitoli.push_back(CapitoloVerifica(trave, esito));
+    if (esito.validi)
+        if (auto pioli = CapitoloConnettori(trave))
+            r.capitoli.push_back(std::move(*pioli));
     return r;
 }
 

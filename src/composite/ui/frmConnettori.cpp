@@ -41,8 +41,8 @@ struct DatoPiolo {
     double inizio; ///< 0: empty
 };
 constexpr std::array<DatoPiolo, 4> dati{{{&AcciaioCls::hPiolo, 100},
-                                         {&AcciaioCls::fu, 450},
-                                         {&AcciaioCls::GammaV, 1.25},
+                                         {&AcciaioCls::fu, fuPioloIniziale},
+                                         {&AcciaioCls::GammaV, GammaVIniziale},
                                          {&AcciaioCls::Luce, 0}}};
 constexpr const char* diametroIniziale = "19";
 
