@@ -83,7 +83,9 @@ void ScriveTesto(const DocumentoLetto& documento, const std::filesystem::path& f
     const std::int16_t nFile = ApreFile(file, "S");
     if (nFile == 0)
         throw std::runtime_error(AvvisoNonScritto(file));
-    if (!documento.scriveRighe(nFile)) {
+    const std::string& progetto = documento.relazione.progetto; // the lines on paper have no place for it
+    const bool conTesta = progetto.empty() || ScriveRiga(nFile, "   PROGETTO: " + progetto);
+    if (!conTesta || !documento.scriveRighe(nFile)) {
         AbbandonaFile(nFile);
         throw std::runtime_error(AvvisoNonScritto(file));
     }

@@ -76,6 +76,15 @@ TEST_F(FileRelazioneTest, AJointGivesTheLinesOfItsPrintedReport) {
     }
 }
 
+TEST_F(FileRelazioneTest, TheProjectStandsAboveAJointToo) {
+    const std::string file = Salvato(1);
+    Esegue({file, "--relazione", Via("senza.txt")});
+    EXPECT_NE(Esegue({file, "--progetto", "Capannone A, è prova", "--relazione", Via("con.txt")}),
+              comandoErrato)
+        << errori.str();
+    EXPECT_EQ(Letto("con.txt"), "   PROGETTO: Capannone A, \xE8 prova\r\n" + Letto("senza.txt"));
+}
+
 TEST_F(FileRelazioneTest, AJointThatHoldsEndsWithZeroOneThatWasNotComputedWithOne) {
     EXPECT_EQ(Esegue({Salvato(1, false), "--relazione", Via("o.txt")}), comandoNonVerificato);
     EXPECT_NE(Letto("o.txt").find("non calcolato"), std::string::npos);
