@@ -6,6 +6,7 @@
 #include "frame/Acciaio.h"
 #include "frame/GeneraleSagomi.h"
 #include "report/Figure.h"
+#include "report/PassiSagomo.h"
 #include "sections/Eurocod3.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneSagomoL.h"
@@ -15,8 +16,6 @@
 namespace sagomi {
 
 namespace {
-
-constexpr const char* tabellaClassi = "ENV 1993-1-1 tab. 5.3.1";
 
 using Passi = std::vector<PassoRelazione>;
 
@@ -74,41 +73,6 @@ template <typename S> void AggiungePlastiche(Passi& p, const S& s) {
 template <typename S> void AggiungeCoppia(Passi& p, const S& s) {
     if (s.Doppi)
         p.push_back(Dato("Due sagomi alla distanza", "d", Piano(s.dDoppi), "mm"));
-}
-
-std::string Limiti(const std::string& da, const std::string& a) {
-    const auto testo = [](const std::string& limite) { return limite == limiteInfinito ? "∞" : limite; };
-    return da.empty() ? std::string() : " (limiti " + testo(da) + " - " + testo(a) + " ε)";
-}
-
-/// A plate: its slenderness against the limits of its class.
-PassoRelazione Piatto(const std::string& descrizione, const char* simbolo, const std::string& numeri,
-                      double snellezza, int classe, const std::string& limiti) {
-    return {.descrizione = descrizione + ": classe " + std::to_string(classe) + limiti,
-            .simbolo = std::string(simbolo) + " / ε",
-            .numeri = numeri,
-            .valore = Rapporto(snellezza),
-            .norma = tabellaClassi};
-}
-
-PassoRelazione Classe(const char* descrizione, int classe, const char* norma = tabellaClassi) {
-    return Dato(descrizione, "classe", std::to_string(classe), "", norma);
-}
-
-/// W fy over the factor of the class, ENV 1993-1-1 5.4.5.
-PassoRelazione Momento(bool y, int classe, double Wpl, double Wel, double Weff, Singolo fy, double MRd) {
-    const std::string asse = y ? "y" : "z";
-    const double W = classe < 3 ? Wpl : classe == 3 ? Wel : Weff;
-    const std::string gamma = classe > 3 ? "γ{M1}" : "γ{M0}";
-    const std::string modulo = classe < 3 ? "pl," : classe == 3 ? "el," : "eff,";
-    return {.descrizione = "Momento resistente intorno a " + asse + "-" + asse,
-            .simbolo = "M{c," + asse + ",Rd}",
-            .formula = "W{" + modulo + asse + "} f{y} / " + gamma,
-            .numeri =
-                Intero(W) + " · " + Piano(fy) + " / " + Piano(classe > 3 ? GammaM1 : GammaM0) + " · 10^{-6}",
-            .valore = KiloMetri(MRd),
-            .unita = "kNm",
-            .norma = "ENV 1993-1-1 5.4.5"};
 }
 
 /// Classes 1 and 2: the moments that the axial force leaves, EC3 6.2.9.1 (5) and (6).
@@ -295,12 +259,7 @@ CapitoloRelazione CapitoloClassi(const SezioneDoppioT& s) {
     const std::string epsilon = Rapporto(Epsilon(s.fy));
     const std::string web = Piano(Singolo(s.d)) + " / (" + Piano(s.tw) + " · " + epsilon + ")";
     const std::string ala = Piano(Singolo(s.c)) + " / (" + Piano(s.tf) + " · " + epsilon + ")";
-    c.passi = {{.descrizione = "Coefficiente dell'acciaio",
-                .simbolo = "ε",
-                .formula = "√(235 / f{y})",
-                .numeri = "√(235 / " + Piano(s.fy) + ")",
-                .valore = epsilon,
-                .norma = tabellaClassi},
+    c.passi = {PassoEpsilon(s.fy),
                Piatto("Anima, compressione", "d / t{w}", web, s.SnellWeb(), s.ClasseWebC,
                       Limiti(s.Limite0WebC, s.Limite1WebC)),
                Piatto("Anima, flessione", "d / t{w}", web, s.SnellWeb(), s.ClasseWebF,
@@ -334,16 +293,9 @@ CapitoloRelazione CapitoloResistenze(const SezioneDoppioT& s) {
                            .formula = "A{eff} / A",
                            .valore = Rapporto(betaA),
                            .norma = "ENV 1993-1-1 5.5.1.1"});
-    c.passi.push_back({.descrizione = "Resistenza a forza assiale",
-                       .simbolo = "N{pl,Rd}",
-                       .formula = s.ClasseCompressione > 3 ? "β{A} A f{y} / γ{M0}" : "A f{y} / γ{M0}",
-                       .numeri = (s.ClasseCompressione > 3 ? Rapporto(betaA) + " · " : std::string()) +
-                                 Intero(s.Area) + " · " + Piano(s.fy) + " / " + Piano(GammaM0) + " · 10^{-3}",
-                       .valore = Kilo(s.NplRd),
-                       .unita = "kN",
-                       .norma = "ENV 1993-1-1 5.4.4"});
-    c.passi.push_back(Momento(true, s.ClasseFlessioneY, s.Wply, s.Wely, s.WyEff, s.fy, s.McyRd));
-    c.passi.push_back(Momento(false, s.ClasseFlessioneZ, s.Wplz, s.Welz, s.WzEff, s.fy, s.MczRd));
+    c.passi.push_back(PassoNplRd(s.ClasseCompressione, betaA, s.Area, s.fy, s.NplRd));
+    c.passi.push_back(PassoMomento(true, s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}, s.fy, s.McyRd));
+    c.passi.push_back(PassoMomento(false, s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}, s.fy, s.MczRd));
     c.passi.push_back(TaglioAnima(s));
     c.passi.push_back(TaglioAli(s));
     return c;

@@ -2,6 +2,7 @@
 
 #include "drawing/Grafica.h"
 #include "report/CapitoliSagomo.h"
+#include "sections/Duttilita.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneSagomoL.h"
 #include "sections/SezioneSagomoU.h"
@@ -16,6 +17,15 @@ template <typename S> Relazione Testa(const std::string& titolo, const S& s, con
     r.disegno = {s.Designation, [tenuta = s](Superficie* oggetto, std::string_view schermo) {
                      tenuta.PlottaSezione(oggetto, schermo, Dispositivo);
                  }};
+    return r;
+}
+
+template <typename S>
+Relazione Resistenze(const S& s, const std::string& maschera, const RichiestaDuttilita& duttilita) {
+    Relazione r = Testa("Momento resistente", s, maschera);
+    r.capitoli = {CapitoloDati(s), CapitoloClassi(s), CapitoloResistenze(s)};
+    if (duttilita.Lstar > 0)
+        r.capitoli.push_back(CapitoloDuttilita({s.h, s.b, s.tw, s.tf, s.Area, s.fy, s.fu}, duttilita));
     return r;
 }
 
@@ -64,10 +74,14 @@ Relazione RelazioneSvergolamento(const SezioneDoppioT& s, const std::string& mas
     return r;
 }
 
-Relazione RelazioneResistenze(const SezioneDoppioT& s, const std::string& maschera) {
-    Relazione r = Testa("Momento resistente", s, maschera);
-    r.capitoli = {CapitoloDati(s), CapitoloClassi(s), CapitoloResistenze(s)};
-    return r;
+Relazione RelazioneResistenze(const SezioneDoppioT& s, const std::string& maschera,
+                              const RichiestaDuttilita& duttilita) {
+    return Resistenze(s, maschera, duttilita);
+}
+
+Relazione RelazioneResistenze(const SezioneSagomoU& s, const std::string& maschera,
+                              const RichiestaDuttilita& duttilita) {
+    return Resistenze(s, maschera, duttilita);
 }
 
 } // namespace sagomi

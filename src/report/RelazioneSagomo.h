@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "report/CapitoliMomento.h"
 #include "report/CapitoliStabilita.h"
 #include "report/Relazione.h"
 
@@ -34,7 +35,10 @@ Relazione RelazioneMembratura(const SezioneDoppioT& s, const CurveInstabilita& c
 /// Lateral-torsional buckling.
 Relazione RelazioneSvergolamento(const SezioneDoppioT& s, const std::string& maschera);
 
-/// What the section bears in bending.
-Relazione RelazioneResistenze(const SezioneDoppioT& s, const std::string& maschera);
+/// What the section bears in bending, with the ductility parameter where a shear length is given.
+Relazione RelazioneResistenze(const SezioneDoppioT& s, const std::string& maschera,
+                              const RichiestaDuttilita& duttilita = {});
+Relazione RelazioneResistenze(const SezioneSagomoU& s, const std::string& maschera,
+                              const RichiestaDuttilita& duttilita = {});
 
 } // namespace sagomi

@@ -77,15 +77,21 @@ FrmMcRd::FrmMcRd() : SchermoDettaglio(QStringLiteral("FrmMcRd")), ui_(new Ui::Fr
                       }});
     CalcolaA({ui_->TxtNsd});
     Collega(ui_->txtLstar, &QLineEdit::textChanged, this, [this] { Duttilita(); });
-    AggiungeRelazione(*this, [this] {
-        const SezioneDoppioT* s = Sezione();
-        return s == nullptr || !regole_.Applica() ? Relazione()
-                                                  : RelazioneResistenze(*s, objectName().toStdString());
-    });
+    AggiungeRelazione(*this, [this] { return DaRiportare(); });
     DimensionaIniziale({});
 }
 
 FrmMcRd::~FrmMcRd() = default;
+
+Relazione FrmMcRd::DaRiportare() {
+    Relazione report;
+    if (regole_.Applica())
+        SullaSezioneInUso([&](const ConMomenti auto& s) {
+            report = RelazioneResistenze(s, objectName().toStdString(),
+                                         {kN_a_N(NumeroIn(ui_->TxtNsd)), NumeroIn(ui_->txtLstar)});
+        });
+    return report;
+}
 
 void FrmMcRd::RiempieDati() {
     SullaSezioneInUso([this](const ConMomenti auto& s) { Riempie(ui_->TxtNsd, N_a_kN(s.NSd)); });

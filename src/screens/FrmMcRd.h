@@ -12,6 +12,8 @@ class FrmMcRd;
 
 namespace sagomi {
 
+struct Relazione;
+
 /// How the bending resistances of a double-T or channel come about, EC3 6.2.5, and the ductility parameter of
 /// the section under axial force, Ordinanza 3274-2003 6.5.3.1.
 class FrmMcRd : public SchermoDettaglio {
@@ -34,6 +36,7 @@ protected:
 
 private:
     void Duttilita();
+    [[nodiscard]] Relazione DaRiportare();
 
     std::unique_ptr<Ui::FrmMcRd> ui_;
     QLabel* nota_ = nullptr; ///< what the lower fibre bears, where that is less

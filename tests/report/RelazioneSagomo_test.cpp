@@ -6,6 +6,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "report/Passi.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneSagomoU.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -114,6 +115,69 @@ TEST_F(RelazioneSagomoTest, NumbersPutInGiveTheValues) {
     s.InizializzaSezione();
     Calcola();
     ProvaNumeri(RelazioneSvergolamento(s, ""));
+}
+
+class RelazioneCanaleTest : public testing::Test {
+protected:
+    void TearDown() override { RipristinaGenerale(); }
+    /// UPN 200 of S235, alone or back to back; values of the table of the catalogue.
+    static SezioneSagomoU Canale(bool doppi) {
+        SezioneSagomoU u;
+        const double quanti = doppi ? 2 : 1;
+        u.Designation = "UPN 200";
+        u.fy = 235;
+        u.fu = 360;
+        u.h = 200;
+        u.b = 75;
+        u.tw = 8.5;
+        u.tf = 11.5;
+        u.r1 = 11.5;
+        u.r2 = 6;
+        u.pendenza = 6;
+        u.Doppi = doppi;
+        u.dDoppi = 10;
+        u.Area = quanti * 3220;
+        u.Jy = quanti * 19.1e6;
+        u.Jz = quanti * 1.48e6;
+        u.iY = 77;
+        u.Iz = 21.4;
+        u.Wely = quanti * 191e3;
+        u.Welz = quanti * 27e3;
+        u.Wply = quanti * 228e3;
+        u.Wplz = quanti * 51.8e3;
+        u.InizializzaSezione();
+        return u;
+    }
+
+    Registratore quiet;
+};
+
+// By hand, gamma M0 1.05: 228000 x 235 / 1.05 = 51.029 kNm; Av = 3220 - 2 75 11.5 + (8.5 + 11.5) 11.5 = 1725
+// mm2, x 235 / (1.73205 x 1.05) = 222.898 kN; flanges 1725 mm2, the same.
+TEST_F(RelazioneCanaleTest, AChannelHasItsMomentsAndShears) {
+    const Relazione r = RelazioneResistenze(Canale(false), "FrmMcRd");
+    ProvaNumeri(r);
+    EXPECT_EQ(r.oggetto, "UPN 200");
+    EXPECT_EQ(Passo(r, "M{c,y,Rd}").valore, "51.029");
+    EXPECT_EQ(Passo(r, "V{pl,z,Rd}").valore, "222.898");
+    EXPECT_EQ(Passo(r, "V{pl,y,Rd}").valore, "222.898");
+    EXPECT_FALSE(Ha(r, "s")) << "no shear length, no ductility";
+}
+
+TEST_F(RelazioneCanaleTest, APairBearsTwiceAsMuch) {
+    const Relazione r = RelazioneResistenze(Canale(true), "FrmMcRd");
+    ProvaNumeri(r);
+    EXPECT_EQ(Passo(r, "M{c,y,Rd}").valore, "102.057");
+    EXPECT_EQ(Passo(r, "V{pl,z,Rd}").valore, "445.797");
+}
+
+// By hand, N 0: lambda f = 75 / 23 sqrt(235 / 210000) = 0.10908; dwe = 177 / 2 = 88.5, lambda w = 88.5 / 8.5
+// x 0.033452 = 0.34830; s = 1 / (0.695 + 0.019418 + 0.0075214 - 0.602 x 75 / 2000) = 1 / 0.699364 = 1.4299.
+TEST_F(RelazioneCanaleTest, AShearLengthGivesTheDuctility) {
+    const Relazione r = RelazioneResistenze(Canale(false), "FrmMcRd", {0, 2000});
+    ProvaNumeri(r);
+    EXPECT_EQ(Passo(r, "s").valore, "1.4299");
+    EXPECT_EQ(Passo(r, "s{max}").valore, "1.25");
 }
 
 } // namespace

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+
+#include "frame/Singolo.h"
+#include "report/Relazione.h"
+
+/// Steps that the reports of several kinds of sections share.
+namespace sagomi {
+
+inline constexpr const char* tabellaClassi = "ENV 1993-1-1 tab. 5.3.1";
+
+/// The limits of a class as they stand behind it; nothing where the first one is not given.
+std::string Limiti(const std::string& da, const std::string& a);
+
+/// A plate: its slenderness against the limits of its class.
+PassoRelazione Piatto(const std::string& descrizione, const char* simbolo, const std::string& numeri,
+                      double snellezza, int classe, const std::string& limiti);
+
+PassoRelazione Classe(const char* descrizione, int classe, const char* norma = tabellaClassi);
+
+/// The step to the factor of the steel, of a yield strength [N/mm2].
+PassoRelazione PassoEpsilon(Singolo fy);
+
+/// Axial resistance [N] of a section whose area counts as betaA of it.
+PassoRelazione PassoNplRd(int classe, double betaA, double area, Singolo fy, double NplRd);
+
+/// The three moduli of an axis [mm3].
+struct ModuliAsse {
+    double plastico, elastico, efficace;
+};
+
+/// W fy over the factor of the class, ENV 1993-1-1 5.4.5; a modulus or a moment [N mm] that is no number
+/// leaves its place empty.
+PassoRelazione PassoMomento(bool y, int classe, const ModuliAsse& W, Singolo fy, double MRd);
+
+} // namespace sagomi
