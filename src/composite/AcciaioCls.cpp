@@ -49,8 +49,12 @@ bool AcciaioCls::InizializzaAcciaioCls() {
         return false;
     }
     CorreggeGrecata();
-    if (std::holds_alternative<std::shared_ptr<SezioneDoppioT>>(SezioneCorrente))
-        Sezione = std::get<std::shared_ptr<SezioneDoppioT>>(SezioneCorrente);
+    std::visit(
+        [this](const auto& inUso) { // of another kind the beam keeps its own
+            if constexpr (requires { Sezione = inUso; })
+                Sezione = inUso;
+        },
+        SezioneCorrente);
     if (!Sezione || !Sezione->SezioneGenericaCorrente)
         return false;
     SolettaOggettoCrea();
