@@ -105,6 +105,7 @@ public:
         Legenda();
         Lontani();
         Scelto();
+        Avviso();
     }
 
 private:
@@ -233,6 +234,12 @@ private:
         q_.Testo(testo, d_.nomeScelto, destra ? Allinea::Sinistra : Allinea::Destra, Posa::Mezzo);
     }
 
+    void Avviso() const {
+        q_.Fine();
+        q_.Testo({s_.campo.sinistra + s_.campo.larghezza / 2, s_.campo.alto + s_.campo.altezza / 2},
+                 d_.avviso, Allinea::Centro, Posa::Mezzo);
+    }
+
     const Quadro& q_;
     const DatiGrafico& d_;
     double riga_;
@@ -287,6 +294,8 @@ DatiGrafico DatiGraficoDi(std::span<const std::uint32_t> posti, std::span<const 
         if (riga != nullptr)
             dati.leggeri.push_back(punto);
     dati.fronte = FronteLeggeri(dati.punti);
+    if (std::ranges::any_of(posti, [&](std::uint32_t p) { return righe[p].SenzaVerdetto(); }))
+        dati.avviso = "Scrivere NSd, My o Mz: qui compare l'utilizzo di ogni sagomo";
     return dati;
 }
 

@@ -30,9 +30,11 @@ struct DatiGrafico {
     std::vector<std::uint32_t> leggeri;  ///< of `punti`: the lightest that holds of each family
     std::optional<std::uint32_t> scelto; ///< of `punti`: the row in hand
     std::string nomeScelto;
+    std::string avviso; ///< what is written between the axes where there are no marks
 };
 
-/// The points of rows, their front and the lightest of each family. Rows without a verdict have no mark.
+/// The points of rows, their front and the lightest of each family. Rows without a verdict have no
+/// mark; where nothing acts, that is said.
 DatiGrafico DatiGraficoDi(std::span<const std::uint32_t> posti, std::span<const RigaScelta> righe,
                           std::span<const SagomoInGara> sagomi);
 

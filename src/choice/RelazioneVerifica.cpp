@@ -28,11 +28,13 @@ void AggiungeCapitoli(Relazione& relazione, const SezioneDoppioT& s, const Sagom
     c.push_back(CapitoloMomenti(r.y, r.z, r.tipoDiagramma, r.pict));
     c.push_back(CapitoloClassi(sezione));
     c.push_back(CapitoloResistenze(s));
-    c.push_back(CapitoloSezione(sezione));
+    if (!e.riga.SenzaVerdetto())
+        c.push_back(CapitoloSezione(sezione));
     c.push_back(CapitoloInstabilita(s, {e.CurvaY, e.CurvaZ}));
-    c.push_back(CapitoloMembratura(s));
+    if (!e.riga.SenzaVerdetto())
+        c.push_back(CapitoloMembratura(s));
     if (r.LLT || r.L0z > 0)
-        c.push_back(CapitoloSvergolamento(s));
+        c.push_back(e.riga.SenzaVerdetto() ? CapitoloMomentoCritico(s) : CapitoloSvergolamento(s));
 }
 
 CapitoloRelazione CapitoloForza(const SagomoVerificato& e, const Richiesta& r) {
@@ -53,7 +55,8 @@ template <typename S>
 void AggiungeCapitoli(Relazione& relazione, const S& s, const SagomoVerificato& e, const Richiesta& r) {
     relazione.capitoli.push_back(CapitoloDati(s));
     relazione.capitoli.push_back(CapitoloInstabilita(s, {e.CurvaY, e.CurvaZ}));
-    relazione.capitoli.push_back(CapitoloForza(e, r));
+    if (!e.riga.SenzaVerdetto())
+        relazione.capitoli.push_back(CapitoloForza(e, r));
 }
 
 } // namespace

@@ -64,6 +64,19 @@ bool Ammesso(const SagomoInGara& sagomo, const Ingombro& i, const Filtri& f) {
            !(f.gMinimo && i.g < *f.gMinimo);
 }
 
+bool HaMomenti(const Richiesta& r) {
+    const auto qualcuno = [](const MomentiMembratura& m) { return m.M1 != 0 || m.M2 != 0 || m.MQ != 0; };
+    return qualcuno(r.y) || qualcuno(r.z);
+}
+
+/// Where nothing acts the checks would all say 0: they say nothing.
+void ToglieVerifiche(RigaScelta& riga) {
+    riga.sezione = riga.membratura = riga.svergolamento = riga.massimo = RigaScelta::nessuno;
+    riga.governa = VerificaScelta::Nessuna;
+    riga.verificato = true;
+    riga.motivo.clear();
+}
+
 /// What a check has said goes into the row; one that was asked for and has no number does not hold. The
 /// reason is that of the check that governs, or, where every number holds, of the one without a verdict.
 void Accoglie(RigaScelta& riga, VerificaScelta verifica, double RigaScelta::*valore, const Verdetto& v) {
@@ -139,11 +152,6 @@ void Calcola(SezioneDoppioT& s, const Richiesta& r, RigaScelta& riga) {
     VerificaSvergolamento(s, r, riga);
 }
 
-bool HaMomenti(const Richiesta& r) {
-    const auto qualcuno = [](const MomentiMembratura& m) { return m.M1 != 0 || m.M2 != 0 || m.MQ != 0; };
-    return qualcuno(r.y) || qualcuno(r.z);
-}
-
 /// Channels and angles are checked under the axial force alone.
 /// @param NbRd  the smallest resistance to buckling [N]
 void VerificaAssiale(const Richiesta& r, double NbRd, RigaScelta& riga) {
@@ -199,6 +207,8 @@ RigaScelta RigaDi(std::size_t indice, const Ingombro& i, S& sezione, const Richi
     riga.b = i.b;
     riga.verificato = true;
     Calcola(sezione, r, riga);
+    if (SenzaAzioni(r))
+        ToglieVerifiche(riga);
     return riga;
 }
 
@@ -232,6 +242,8 @@ std::string_view NomeVerifica(VerificaScelta verifica) {
         return "";
     }
 }
+
+bool SenzaAzioni(const Richiesta& richiesta) { return richiesta.NSd == 0 && !HaMomenti(richiesta); }
 
 std::vector<RigaScelta> Valuta(std::span<const SagomoInGara> sagomi, const Richiesta& richiesta,
                                const Filtri& filtri, std::vector<std::string>& messaggi) {

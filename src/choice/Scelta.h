@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -41,6 +42,9 @@ struct Richiesta {
     bool accostati = false; ///< channels by their flange tips, angles by their short legs
 };
 
+/// Neither a force nor a moment acts: there is nothing to be checked.
+bool SenzaAzioni(const Richiesta& richiesta);
+
 /// Which rows take part; a limit that is not given holds none back.
 struct Filtri {
     std::optional<double> hMassima, bMassima; ///< outer measures [mm]
@@ -75,8 +79,12 @@ struct RigaScelta {
 
     double massimo = nessuno; ///< the greatest of them
     VerificaScelta governa = VerificaScelta::Nessuna;
-    bool verificato = false; ///< each check that was asked for has a verdict and passes
+    bool verificato = false; ///< each check that was asked for has a verdict and passes; none was, so too
     std::string motivo = {}; ///< in Italian, why it fails or has no verdict where the numbers do not tell
+
+    /// Nothing acts, so nothing was checked: resistances alone, no verdict. It counts as verified, for
+    /// nothing fails.
+    [[nodiscard]] bool SenzaVerdetto() const { return verificato && std::isnan(massimo); }
 };
 
 /// Checks some of the rows. A long catalogue is done piece by piece.

@@ -100,6 +100,8 @@ const std::vector<ColonnaScelta>& ColonneScelta() {
 int ColonnaUtilizzo() { return static_cast<int>(ColonneScelta().size()) - 1; }
 
 std::string TestoUtilizzo(const RigaScelta& riga) {
+    if (riga.SenzaVerdetto())
+        return {};
     if (std::isnan(riga.massimo) || (!riga.verificato && riga.massimo <= 1)) // a check has no verdict
         return riga.motivo.empty() ? "-" : riga.motivo;
     constexpr double troppo = 99.99; // beyond it the number says no more
@@ -155,7 +157,7 @@ std::vector<std::uint32_t> PiuLeggeriFra(std::span<const std::uint32_t> posti,
                                          std::span<const SagomoInGara> sagomi) {
     std::vector<std::pair<std::string_view, std::uint32_t>> migliori; // families are few
     for (const std::uint32_t p : posti) {
-        if (!righe[p].verificato)
+        if (!righe[p].verificato || righe[p].SenzaVerdetto())
             continue;
         const std::string_view famiglia = sagomi[p].famiglia;
         const auto noto = std::ranges::find(migliori, famiglia, [](const auto& m) { return m.first; });

@@ -33,7 +33,7 @@ int ColonnaUtilizzo();
 std::string TestoScelta(const RigaScelta& riga, const SagomoInGara& sagomo, int colonna);
 
 /// "OK  92 %  svergolamento"; without a verdict the reason why there is none, or a dash; so too where the
-/// numbers of the others hold.
+/// numbers of the others hold. Empty where nothing acts.
 std::string TestoUtilizzo(const RigaScelta& riga);
 
 /// The same field with all its figures.
@@ -50,7 +50,8 @@ struct OrdineScelta {
 void OrdinaScelta(std::vector<std::uint32_t>& posti, std::span<const RigaScelta> righe,
                   std::span<const SagomoInGara> sagomi, const OrdineScelta& ordine);
 
-/// The lightest row that holds of each family, of equally heavy ones the first: places among those given.
+/// The lightest row that holds of each family, of equally heavy ones the first: places among those given;
+/// none where nothing acts.
 std::vector<std::uint32_t> PiuLeggeriFra(std::span<const std::uint32_t> posti,
                                          std::span<const RigaScelta> righe,
                                          std::span<const SagomoInGara> sagomi);

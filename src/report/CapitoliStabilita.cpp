@@ -273,6 +273,14 @@ CapitoloRelazione CapitoloMembratura(const SezioneDoppioT& s) {
     return c;
 }
 
+CapitoloRelazione CapitoloMomentoCritico(const SezioneDoppioT& s) {
+    CapitoloRelazione c{.titolo = "Resistenza allo svergolamento"};
+    AggiungeMcr(c.passi, s);
+    AggiungeMbRd(c.passi, s);
+    AdattaDecimali(c);
+    return c;
+}
+
 CapitoloRelazione CapitoloSvergolamento(const SezioneDoppioT& s, bool conAsseZ) {
     CapitoloRelazione c{.titolo = "Verifica allo svergolamento"};
     AggiungeMcr(c.passi, s);

@@ -31,6 +31,10 @@ CapitoloRelazione CapitoloMomenti(const MomentiMembratura& y, const MomentiMembr
 /// Axial force and bending with flexural buckling, ENV 1993-1-1 5.5.4.
 CapitoloRelazione CapitoloMembratura(const SezioneDoppioT& s);
 
+/// Critical moment and resistance to lateral-torsional buckling, without a check. McrFunz and MbRdSub have
+/// run.
+CapitoloRelazione CapitoloMomentoCritico(const SezioneDoppioT& s);
+
 /// Critical moment, resistance and check of lateral-torsional buckling. McrFunz and MbRdSub have run. Where
 /// k or kw leave no critical moment there is no verdict.
 /// @param conAsseZ  with the steps to kz, for a report without CapitoloMembratura

@@ -71,6 +71,20 @@ TEST(GraficoSceltaTest, RowsWithoutAVerdictHaveNoMark) {
     EXPECT_EQ(d.punti[d.leggeri[0]].posto, 0U);
 }
 
+TEST(GraficoSceltaTest, WhereNothingActsTheAxesSayWhatIsMissing) {
+    std::vector<SagomoInGara> sagomi(1);
+    std::vector<RigaScelta> righe(1);
+    righe[0].verificato = true;
+    const DatiGrafico d = DatiGraficoDi(Posti{0}, righe, sagomi);
+    EXPECT_TRUE(d.punti.empty());
+    EXPECT_FALSE(d.avviso.empty());
+    righe[0].massimo = 0.5;
+    EXPECT_TRUE(DatiGraficoDi(Posti{0}, righe, sagomi).avviso.empty());
+    righe[0].massimo = RigaScelta::nessuno;
+    righe[0].verificato = false; // a moment that nothing checks
+    EXPECT_TRUE(DatiGraficoDi(Posti{0}, righe, sagomi).avviso.empty());
+}
+
 std::string Svg(const Disegno& drawing) {
     const StatoUscita back;
     SuperficieSvg surface;

@@ -118,6 +118,31 @@ TEST_F(SceltaTest, WithoutALengthThereIsNoLateralTorsionalBuckling) {
     EXPECT_FALSE(std::isnan(Riga(r, "IPE 200").svergolamento)) << "restraints hold against both, as a rule";
 }
 
+TEST_F(SceltaTest, WithoutForcesThereAreResistancesAlone) {
+    Richiesta r = Acciaio275();
+    r.L0y = r.L0z = 3000;
+    EXPECT_TRUE(SenzaAzioni(r));
+    for (const char* name : {"IPE 200", "UPN 200", "L 100x100x10"}) {
+        const RigaScelta row = Riga(r, name);
+        EXPECT_TRUE(row.SenzaVerdetto()) << name;
+        EXPECT_GT(row.NbyRd, 0) << name;
+        for (const double check : {row.sezione, row.membratura, row.svergolamento})
+            EXPECT_TRUE(std::isnan(check)) << name;
+        EXPECT_EQ(row.governa, VerificaScelta::Nessuna);
+    }
+    EXPECT_GT(Riga(r, "IPE 200").MbRd, 0);
+    auto all = Valuta(r);
+    OrdinaPerPeso(all);
+    EXPECT_TRUE(std::ranges::is_sorted(all, {}, &RigaScelta::g));
+    r.NSd = -1;
+    EXPECT_FALSE(Riga(r, "IPE 200").SenzaVerdetto()) << "a pull";
+    r.NSd = 0;
+    r.z.M1 = 1;
+    EXPECT_FALSE(SenzaAzioni(r));
+    EXPECT_FALSE(Riga(r, "IPE 200").SenzaVerdetto());
+    EXPECT_FALSE(Riga(r, "UPN 200").verificato);
+}
+
 TEST_F(SceltaTest, EndFactorsOfZeroGiveNoVerdict) {
     Richiesta r = Acciaio275();
     r.y.M1 = kNm_a_Nmm(10);

@@ -73,6 +73,17 @@ TEST_F(TabellaSceltaTest, AUtilisationHasItsVerdictAndWhatGoverns) {
     EXPECT_EQ(TestoUtilizzo(none), "NO  150 %  svergolamento");
 }
 
+TEST_F(TabellaSceltaTest, WhereNothingActsThereIsNoVerdictAndNoLightest) {
+    for (RigaScelta& r : righe) {
+        r.massimo = RigaScelta::nessuno;
+        r.verificato = true;
+    }
+    EXPECT_TRUE(righe[0].SenzaVerdetto());
+    EXPECT_EQ(TestoUtilizzo(righe[0]), "");
+    EXPECT_EQ(Ordinati({}), (Posti{1, 0, 2, 3})) << "by weight";
+    EXPECT_TRUE(PiuLeggeriFra(posti, righe, sagomi).empty());
+}
+
 TEST_F(TabellaSceltaTest, FieldsAreInTheUnitsOfTheirHeadings) {
     RigaScelta r;
     r.NplRd = 1234567; // N

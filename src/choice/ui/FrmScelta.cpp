@@ -472,11 +472,11 @@ void FrmScelta::MostraRiassunto() {
                    .arg(QString::fromStdString(scelta_.Sagomi()[best].Designazione()),
                         QString::fromStdString(Formato("#,##0.0", rows[best].g)),
                         QString::fromStdString(Formato("0", rows[best].massimo * 100)));
-    } else if (valid)
+    } else if (valid && !SenzaAzioni(scelta_.RichiestaInForza()))
         text = tr("Nessun sagomo è verificato");
     riassunto_->setText(text);
     QString told = Conta(double(places.size()), "sagomo", "sagomi");
-    if (valid)
+    if (valid && !SenzaAzioni(scelta_.RichiestaInForza()))
         told += QStringLiteral(", ") + Conta(double(some), "verificato", "verificati");
     told += QStringLiteral(" · ") + QString::fromStdString(NomeNormativa());
     QStringList notes;

@@ -125,6 +125,32 @@ TEST_F(FrmSceltaTest, F4OpensItWithTheEntriesOfItsCaller) {
     EXPECT_EQ(Testo(&s, "TxtNsd"), "300") << "and follows them";
 }
 
+TEST_F(FrmSceltaTest, WithNothingTypedThereAreResistancesAlone) {
+    FrmScelta& s = Apre("", "3", "3");
+    const auto column = [](const char* heading) {
+        const auto at = std::ranges::find(ColonneScelta(), std::string_view(heading), &ColonnaScelta::titolo);
+        return static_cast<int>(at - ColonneScelta().begin());
+    };
+    EXPECT_NE(s.Modello()->TestoIntero(0, column("Nbz,Rd (kN)")), "");
+    for (int c = column("sez."); c <= ColonnaUtilizzo(); ++c)
+        EXPECT_EQ(s.Modello()->TestoIntero(0, c), "") << c;
+    EXPECT_TRUE(
+        std::isnan(s.Modello()->data(s.Modello()->index(0, 0), ModelloScelta::ruoloUtilizzo).toDouble()));
+    EXPECT_TRUE(std::ranges::is_sorted(s.Modello()->Posti(), {},
+                                       [&s](std::uint32_t p) { return s.Scelta().Riga(p).g; }));
+    EXPECT_TRUE(s.Modello()->Leggeri().empty());
+    EXPECT_EQ(Trova<QLabel>(&s, "LblRiassunto")->text(), "");
+    EXPECT_FALSE(Trova<QLabel>(&s, "LblBarra")->text().contains("verificat"));
+    const auto& chart = Trova<VistaGrafico>(&s, "Grafico")->Dati();
+    EXPECT_TRUE(chart.punti.empty());
+    EXPECT_FALSE(chart.avviso.empty());
+    Scrive(&s, "TxtNsd", "100");
+    Finisce(s);
+    EXPECT_NE(s.Modello()->TestoIntero(0, ColonnaUtilizzo()), "");
+    EXPECT_FALSE(Trova<VistaGrafico>(&s, "Grafico")->Dati().punti.empty());
+    EXPECT_NE(Trova<QLabel>(&s, "LblRiassunto")->text(), "");
+}
+
 TEST_F(FrmSceltaTest, EveryMainScreenHasTheEntry) {
     SchermoSezione& main = Avvia();
     for (const char* name : {"frmSaldati", "frmSaldatiAsimm", "frmSagomiU", "frmSagomiL"}) {
