@@ -3,12 +3,13 @@ _sagomi() {
   local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD - 1]}
   case $prev in
     --acciaio) mapfile -t COMPREPLY < <(compgen -W "S235 S275 S355" -- "$cur") ;;
-    --normativa) mapfile -t COMPREPLY < <(compgen -W "NTC EC3" -- "$cur") ;;
+    --normativa) mapfile -t COMPREPLY < <(compgen -W "NTC EC3 Altro" -- "$cur") ;;
     --cartella) mapfile -t COMPREPLY < <(compgen -d -- "$cur") ;;
     --diagramma) mapfile -t COMPREPLY < <(compgen -W "1 2 3 4 5 6" -- "$cur") ;;
     --relazione | --pdf | --dxf) mapfile -t COMPREPLY < <(compgen -f -- "$cur") ;;
     *) mapfile -t COMPREPLY < <(compgen -W "--help --version --verifica --scelta --N --My --My2 --MyQ --Mz --Mz2
-         --MzQ --diagramma --L0y --L0z --L0v --L --k --Kw --C1 --C2 --C3 --za --acciaio --fy --normativa --famiglie
+         --MzQ --diagramma --L0y --L0z --L0v --L --k --Kw --C1 --C2 --C3 --za --acciaio --fy --fu --normativa --GammaM0
+         --GammaM1 --famiglie
          --hmax --bmax --gmin --gmax --verificati --doppi --accostati --cartella --json --csv --relazione --pdf --dxf --progetto" -- "$cur")
        [[ $cur == -* ]] || mapfile -t COMPREPLY < <(compgen -f -- "$cur") ;;
   esac

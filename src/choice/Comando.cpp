@@ -15,6 +15,8 @@
 #include "frame/Cartelle.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/VersioneProgramma.h"
+#include "sections/PressoFlessione.h"
+#include "sections/SezioneDoppia.h"
 
 namespace sagomi {
 
@@ -37,7 +39,8 @@ Azioni e lunghezze (numeri col punto decimale):
   --L m                   distanza fra i vincoli torsionali (se manca L0z)
   --k --Kw --C1 --C2 --C3 --za mm   dati del momento critico; C1 se manca è quello del diagramma
 Materiale e norma:
-  --acciaio S235|S275|S355  --fy N/mm2  --normativa NTC|EC3
+  --acciaio S235|S275|S355  --fy N/mm2 --fu N/mm2 (se mancano quelle dell'acciaio)
+  --normativa NTC|EC3, o Altro con --GammaM0 e --GammaM1
 Sagomi:
   --famiglie IPE,HEA      solo queste famiglie
   --hmax mm --bmax mm --gmin kg/m --gmax kg/m   limiti, con --scelta
@@ -47,11 +50,12 @@ Cartella:
   --cartella DIR          lavora in DIR (impostazioni, Sagomi.xls, SagomiUtente.xls), anche con le finestre
 Risposta:
   --json, --csv           per altri programmi
-  --json da solo          legge lavori, uno per riga ({"verifica":"HEA 200","N":400}), e risponde a ciascuno
+  --json da solo          legge lavori, uno per riga ({"verifica":"HEA 200","N":400}), e risponde a ciascuno;
+                          "richiesta" di una risposta è un lavoro
 Relazione, anche con --verifica:
   --relazione file --pdf file --dxf file   testo, PDF, disegno: uno o più
   --progetto "testo"      nome del progetto, in testa alla relazione
-Stato di uscita: 0 verificato, 1 non verificato, 2 uso errato.
+Stato di uscita: 0 verificato (senza azioni niente da verificare), 1 non verificato, 2 uso errato.
 )";
 
 using TrovaCartella = std::function<std::filesystem::path()>;
@@ -115,13 +119,27 @@ void ScriveRelazione(const Comando& c, DocumentoLetto documento, const std::vect
                          : "nessun sagomo si chiama \"" + c.sagomo + '"');
 }
 
+/// What was asked for in this very call shall mean something for the kind of section.
+void ControllaGenere(const Comando& c, const SagomoInGara& sagomo) {
+    const auto rifiuta = [&sagomo](const std::string& opzione, const char* per) {
+        throw ErroreUso(opzione + " vale per " + per + ", non per " + sagomo.Designazione());
+    };
+    std::visit(
+        [&]<typename S>(const S&) {
+            if (c.coppiaChiesta && !ConCoppia<S>)
+                rifiuta("--doppi", "canali e angolari");
+            if (!c.soloSvergolamento.empty() && !ConDiagrammi<S>)
+                rifiuta(c.soloSvergolamento, "lo svergolamento dei doppi T");
+        },
+        sagomo.sezione);
+}
+
 int VerificaUno(const Comando& c, const Gara& gara, const Uscite& u) {
     const auto sagomo =
         std::ranges::find_if(gara.sagomi, [&](const SagomoInGara& s) { return Cercato(c, s); });
     if (sagomo == gara.sagomi.end())
         NessunSagomo(c);
-    if (c.coppiaChiesta && std::holds_alternative<SezioneDoppioT>(sagomo->sezione))
-        throw ErroreUso("--doppi vale per canali e angolari, non per " + sagomo->Designazione());
+    ControllaGenere(c, *sagomo);
     const SenzaMigliaia piano;
     std::vector<std::string> messaggi = gara.mancanti;
     const SagomoVerificato esito = Verifica(*sagomo, c.richiesta, messaggi);

@@ -36,7 +36,8 @@ void Aggiunge(std::vector<std::string>& argomenti, const Istruzione& s) {
         return;
     if (tipo == "object")
         NonOggetto();
-    argomenti.push_back("--" + Testo(s, 0));
+    const std::string chiave = Testo(s, 0);
+    argomenti.push_back(chiave == "My1" || chiave == "Mz1" ? "--" + chiave.substr(0, 2) : "--" + chiave);
     if (tipo != "true")
         argomenti.push_back(Testo(s, 2));
 }

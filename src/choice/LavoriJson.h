@@ -9,7 +9,8 @@ struct sqlite3;
 namespace sagomi {
 
 /// Reads jobs, each a flat JSON object: the names are those of the options without their dashes, true stands
-/// for an option without value, a list for names with commas between; what is false or null is left out.
+/// for an option without value, a list for names with commas between; what is false or null is left out. My1
+/// and Mz1 stand for My and Mz.
 class LavoriJson {
 public:
     LavoriJson();

@@ -6,7 +6,9 @@
 #include <iterator>
 #include <span>
 #include <string_view>
+#include <utility>
 
+#include "choice/OpzioniToolkit.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Unita.h"
 
@@ -112,6 +114,9 @@ constexpr OpzioneNumero numeri[] = {
     {"--C3",    -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.c3 = v; }},
     {"--za",    -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.za = v; }},
     {"--fy",    0.01, qualsiasi, [](Comando& c, double v) { c.fy = v; }},
+    {"--fu",    0.01, qualsiasi, [](Comando& c, double v) { c.fu = v; }},
+    {"--GammaM0", 0.01, 100, [](Comando& c, double v) { c.GammaM0 = v; }},
+    {"--GammaM1", 0.01, 100, [](Comando& c, double v) { c.GammaM1 = v; }},
     {"--doppi", 0, qualsiasi, [](Comando& c, double v) { c.richiesta.doppi = true; c.richiesta.dDoppi = v; }},
     {"--hmax",  0, qualsiasi, [](Comando& c, double v) { c.filtri.hMassima = v; }},
     {"--bmax",  0, qualsiasi, [](Comando& c, double v) { c.filtri.bMassima = v; }},
@@ -154,42 +159,58 @@ bool SoloDiScelta(std::string_view nome) {
     return std::ranges::find(sole, nome) != std::end(sole);
 }
 
-/// Options of the toolkit, which it takes with one dash or two.
-bool EDelToolkit(std::string_view argomento) {
-    constexpr std::string_view nomi[] = {"style",
-                                         "stylesheet",
-                                         "widgetcount",
-                                         "platform",
-                                         "platformpluginpath",
-                                         "platformtheme",
-                                         "plugin",
-                                         "qwindowtitle",
-                                         "qwindowicon",
-                                         "qwindowgeometry",
-                                         "session",
-                                         "desktopFileName",
-                                         "display",
-                                         "geometry",
-                                         "title",
-                                         "icon",
-                                         "name",
-                                         "reverse",
-                                         "qmljsdebugger",
-                                         "testability",
-                                         "nograb",
-                                         "dograb",
-                                         "sync",
-                                         "visual",
-                                         "fontengine"};
-    argomento.remove_prefix(std::min(argomento.find_first_not_of('-'), argomento.size()));
-    return std::ranges::find(nomi, argomento.substr(0, argomento.find('='))) != std::end(nomi);
+bool DelloSvergolamento(std::string_view nome) {
+    constexpr std::string_view sue[] = {"--L", "--k", "--Kw", "--C1", "--C2", "--C3", "--za"};
+    return std::ranges::find(sue, nome) != std::end(sue);
 }
 
-/// The windows take files and options of the toolkit alone.
+/// How many letters have to be changed, put in or left out to make one word of the other.
+std::size_t Distanza(std::string_view a, std::string_view b) {
+    std::vector<std::size_t> riga(b.size() + 1);
+    for (std::size_t j = 0; j < riga.size(); ++j)
+        riga[j] = j;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t obliquo = std::exchange(riga[0], i);
+        for (std::size_t j = 1; j < riga.size(); ++j) {
+            const std::size_t cambiata = obliquo + (a[i - 1] == b[j - 1] ? 0 : 1);
+            obliquo = riga[j];
+            riga[j] = std::min({cambiata, riga[j] + 1, riga[j - 1] + 1});
+        }
+    }
+    return riga.back();
+}
+
+/// Refuses what is no option, with the one that was probably meant, or what is expected.
+[[noreturn]] void NonOpzione(const std::string& nome) {
+    constexpr std::size_t simile = 2; // letters
+    std::string_view vicina;
+    std::size_t minima = simile + 1;
+    const auto prova = [&](std::string_view nostra) {
+        if (const std::size_t d = nostra.size() > 2 + simile ? Distanza(nome, nostra) : minima; d < minima) {
+            minima = d;
+            vicina = nostra;
+        }
+    };
+    for (const auto& i : interruttori)
+        prova(i.first);
+    for (const OpzioneTesto& t : testi)
+        prova(t.nome);
+    for (const OpzioneNumero& n : numeri)
+        prova(n.nome);
+    throw ErroreUso('"' + nome + "\" non è un'opzione: " +
+                    (vicina.empty() ? "si attende un file Gfl o Sco, --verifica o --scelta"
+                                    : "forse " + std::string(vicina)));
+}
+
+/// The windows take files and options of the toolkit alone; what stands behind one of these is its value.
 void ControllaFinestre(const std::vector<std::string>& argomenti) {
-    for (const std::string& argomento : argomenti)
-        if (argomento.starts_with("--") && !EDelToolkit(argomento))
-            throw ErroreUso("\"" + argomento + "\" non è un'opzione");
+    for (std::size_t i = 0; i < argomenti.size(); ++i) {
+        const std::string& argomento = argomenti[i];
+        if (const auto valori = ValoriNelToolkit(argomento))
+            i += *valori;
+        else if (argomento.starts_with('-'))
+            NonOpzione(argomento);
+    }
 }
 
 /// A name without dashes: one file or section.
@@ -208,6 +229,8 @@ void Annota(Lettura& l, const std::string& nome) {
     l.date.push_back(nome);
     if (l.proprie && l.soloScelta.empty() && SoloDiScelta(nome))
         l.soloScelta = nome;
+    if (l.proprie && l.c.soloSvergolamento.empty() && DelloSvergolamento(nome))
+        l.c.soloSvergolamento = nome;
 }
 
 /// Takes one option, with its value where it has one.
@@ -219,7 +242,7 @@ std::size_t Prende(Lettura& l, std::span<const std::string> argomenti) {
     const auto* numero = std::ranges::find(numeri, nome, &OpzioneNumero::nome);
     const bool conValore = testo != std::end(testi) || numero != std::end(numeri);
     if (interruttore == std::end(interruttori) && !conValore)
-        throw ErroreUso("\"" + nome + "\" non è un'opzione");
+        NonOpzione(nome);
     if (conValore && argomenti.size() < 2)
         throw ErroreUso(nome + " vuole un valore");
     Annota(l, nome);
@@ -317,6 +340,32 @@ void ControllaIgnorate(const Lettura& l) {
         throw ErroreUso(l.soloScelta + " va con --scelta: un sagomo solo non si sceglie");
 }
 
+/// A code has its own factors; those of another one are given.
+void ControllaFattore(const Comando& c, const char* opzione, double dato, double inVigore) {
+    constexpr double tolleranza = 5e-5; // four decimals
+    if (dato > 0 && std::abs(dato - inVigore) > tolleranza)
+        throw ErroreUso(std::string(opzione) + " vale con --normativa Altro: " + c.normativa + " ha il suo");
+}
+
+void NormaInVigore(const Comando& c) {
+    if (c.normativa == "Altro") {
+        if (!(c.GammaM0 > 0 && c.GammaM1 > 0))
+            throw ErroreUso("--normativa Altro vuole --GammaM0 e --GammaM1");
+        Normativa = normativaAltro;
+        GammaM0Altro = c.GammaM0;
+        GammaM1Altro = c.GammaM1;
+        ImpostaGamma();
+        return;
+    }
+    if (c.normativa != "NTC" && c.normativa != "EC3")
+        throw ErroreUso("--normativa vuole NTC o EC3, o Altro con --GammaM0 e --GammaM1, non \"" +
+                        c.normativa + "\"");
+    Normativa = c.normativa == "EC3" ? normativaEC3 : normativaNTC;
+    ImpostaGamma();
+    ControllaFattore(c, "--GammaM0", c.GammaM0, GammaM0);
+    ControllaFattore(c, "--GammaM1", c.GammaM1, GammaM1);
+}
+
 /// What follows from the options together.
 void Completa(Lettura& l, bool conL0v) {
     Comando& c = l.c;
@@ -369,15 +418,12 @@ std::optional<std::filesystem::path> PrendeCartella(std::vector<std::string>& ar
 }
 
 void MetteInVigore(Comando& c) {
-    if (c.normativa != "NTC" && c.normativa != "EC3")
-        throw ErroreUso("--normativa vuole NTC o EC3, non \"" + c.normativa + "\"");
-    Normativa = c.normativa == "EC3" ? normativaEC3 : normativaNTC;
-    ImpostaGamma();
+    NormaInVigore(c);
     for (int i = 1; i <= NumAcciai; ++i)
         if (ENomeDi(c.acciaio, NomeAcciaio[i])) {
             c.richiesta.TipoAcciaio = NomeAcciaio[i];
             c.richiesta.fy = c.fy > 0 ? c.fy : double(fyAcciaio[i]);
-            c.richiesta.fu = fuAcciaio[i];
+            c.richiesta.fu = c.fu > 0 ? c.fu : double(fuAcciaio[i]);
             return;
         }
     throw ErroreUso("--acciaio vuole " + NomiAcciai() + ", non \"" + c.acciaio + "\"");

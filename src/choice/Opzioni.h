@@ -28,13 +28,15 @@ struct Comando {
     std::string sagomo; ///< name of the section to be checked, or to be reported
     std::string file;   ///< joint or composite beam to be reported; empty for a section
     UsciteComando uscite;
-    std::string progetto;       ///< stands on the report
-    std::string soloSagomi;     ///< first option taken that a file has no use for
-    bool coppiaChiesta = false; ///< --doppi is of this very call, not of what holds for all
+    std::string progetto;          ///< stands on the report
+    std::string soloSagomi;        ///< first option taken that a file has no use for
+    std::string soloSvergolamento; ///< first option of this very call that is of double-Ts alone
+    bool coppiaChiesta = false;    ///< --doppi is of this very call, not of what holds for all
     std::string acciaio = "S235";
-    double fy = 0; ///< another strength than the grade's [N/mm2]; 0 for none
+    double fy = 0, fu = 0; ///< other strengths than the grade's [N/mm2]; 0 for none
     std::string normativa = "NTC";
-    Richiesta richiesta; ///< L0v, where it is not given, the greater of L0y and L0z
+    double GammaM0 = 0, GammaM1 = 0; ///< partial factors of "Altro", or those of the code; 0 where not given
+    Richiesta richiesta;             ///< L0v, where it is not given, the greater of L0y and L0z
     Filtri filtri;
 };
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <ostream>
 #include <string_view>
+#include <utility>
 #include <variant>
 
 #include "choice/RelazioneVerifica.h"
@@ -157,15 +158,38 @@ void ScriveCsv(std::ostream& u, const std::vector<Valori>& righe) {
     }
 }
 
+/// What was asked for as a job that asks for the same.
+Valori LavoroDi(const Comando& c, const SagomoInGara& sagomo) {
+    Valori v = ValoriRichiesta(c.richiesta, &sagomo.sezione);
+    v.insert(v.begin(),
+             {{"verifica", "sagomo", sagomo.Designazione()}, {"famiglie", "famiglia", sagomo.famiglia}});
+    return v;
+}
+
+Valori LavoroDi(const Comando& c) {
+    Valori v = ValoriRichiesta(c.richiesta);
+    v.insert(v.begin(), {"scelta", "scelta", true});
+    std::string famiglie;
+    for (const std::string& nome : c.filtri.famiglie)
+        famiglie += (famiglie.empty() ? "" : ",") + nome;
+    if (!famiglie.empty())
+        v.push_back({"famiglie", "famiglie", famiglie});
+    const Filtri& f = c.filtri;
+    for (const auto& [chiave, limite] :
+         {std::pair{"hmax", f.hMassima}, {"bmax", f.bMassima}, {"gmin", f.gMinimo}, {"gmax", f.gMassimo}})
+        v.push_back({chiave, chiave, limite.value_or(RigaScelta::nessuno), "", "", Cifre::Date});
+    v.push_back({"verificati", "verificati", f.soloVerificati});
+    return v;
+}
+
 } // namespace
 
 void ScriveVerifica(std::ostream& uscita, const Comando& comando, const SagomoInGara& sagomo,
                     const SagomoVerificato& esito, const std::vector<std::string>& messaggi) {
-    const Valori richiesta = ValoriRichiesta(comando.richiesta);
     const Valori risultati = ValoriVerifica(sagomo, esito, comando.richiesta);
     if (comando.formato == FormatoUscita::Json) {
         uscita << "{\"richiesta\":";
-        ScriveOggetto(uscita, richiesta);
+        ScriveOggetto(uscita, LavoroDi(comando, sagomo));
         uscita << ",\"risultati\":";
         ScriveOggetto(uscita, risultati);
         uscita << ",\"messaggi\":";
@@ -196,7 +220,7 @@ void ScriveScelta(std::ostream& uscita, const Comando& comando, std::span<const 
         return;
     }
     uscita << "{\"richiesta\":";
-    ScriveOggetto(uscita, ValoriRichiesta(comando.richiesta));
+    ScriveOggetto(uscita, LavoroDi(comando));
     uscita << ",\"righe\":[";
     for (std::size_t i = 0; i < tabella.size(); ++i) {
         uscita << (i == 0 ? "" : ",");

@@ -28,7 +28,8 @@ using Valori = std::vector<Valore>;
 
 /// What was asked for, by the names of the options; what was not given and has no value of its own is no
 /// number. With code, partial factors and strengths in force.
-Valori ValoriRichiesta(const Richiesta& r);
+/// @param genere  a section: what means nothing for its kind is no number either; null for all kinds
+Valori ValoriRichiesta(const Richiesta& r, const SezioneQualsiasi* genere = nullptr);
 
 /// One section from its dimensions to its verdict: each step of buckling, of the member's check and of
 /// lateral-torsional buckling, with the terms of the sums.

@@ -45,4 +45,10 @@ SagomoDoppio LdoppiCalcolaSub(const SagomoSingolo& uno, double s, bool accostaCo
 void RendeDoppia(SezioneSagomoU& sezione, const SagomoSingolo& uno, double s, bool accostaAli);
 void RendeDoppia(SezioneSagomoL& sezione, const SagomoSingolo& uno, double s, bool accostaCorti);
 
+/// Kinds of section that make pairs.
+template <typename S>
+concept ConCoppia = requires(S& s, const SagomoSingolo& uno) {
+    RendeDoppia(s, uno, 0.0, false);
+};
+
 } // namespace sagomi

@@ -46,6 +46,10 @@ TEST_F(ComandoTest, WithoutAQuestionTheWindowsAreMeant) {
     EXPECT_EQ(Esegue({"trave.sco"}), std::nullopt);
     EXPECT_EQ(Esegue({"--platform", "offscreen", "nodo.gfl"}), std::nullopt);
     EXPECT_EQ(Esegue({"-style=Fusion"}), std::nullopt);
+    EXPECT_EQ(Esegue({"-geometry", "-5+10", "-reverse", "nodo.gfl"}), std::nullopt) << "a value with a dash";
+    for (const char* option : {"-style", "-stylesheet", "-display", "-qwindowgeometry", "-session"})
+        EXPECT_EQ(Esegue({option, "x"}), std::nullopt) << option;
+    EXPECT_EQ(Esegue({"-qmljsdebugger=port:1234,block"}), std::nullopt);
 }
 
 TEST_F(ComandoTest, HelpAndVersionHold) {
@@ -287,6 +291,16 @@ TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
         {{"--N", "3"}, "manca che cosa fare"},
         {{"--scelta", "--pippo", "3"}, "\"--pippo\" non è un'opzione"},
         {{"--verifca", "HEA 200"}, "\"--verifca\" non è un'opzione"},
+        {{"-verifca", "HEA 200"}, "\"-verifca\" non è un'opzione: forse --verifica"},
+        {{"-scelta"}, "forse --scelta"},
+        {{"-x", "nodo.gfl"}, "\"-x\" non è un'opzione: si attende un file Gfl o Sco, --verifica o --scelta"},
+        {{"-reverse", "-pippo"}, "\"-pippo\" non è un'opzione"},
+        {{"--verifica", "UPN 200", "--L", "3"}, "--L vale per lo svergolamento dei doppi T, non per UPN 200"},
+        {{"--verifica", "L 100x100x10", "--N", "1", "--za", "50"}, "--za vale per lo svergolamento"},
+        {{"UPN 200", "--k", "1", "--relazione", "o.txt"}, "--k vale per lo svergolamento"},
+        {{"--verifica", "HEA 200", "--fu", "0"}, "--fu non può valere 0"},
+        {{"--verifica", "HEA 200", "--GammaM0", "1.5"}, "--GammaM0 vale con --normativa Altro"},
+        {{"--verifica", "HEA 200", "--normativa", "Altro"}, "vuole --GammaM0 e --GammaM1"},
         {{"nodo.gfl", "--aiuto"}, "\"--aiuto\" non è un'opzione"},
         {{"--verifica", "HEA 200", "--N", "1", "--N", "2"}, "--N sta due volte"},
         {{"--scelta", "--scelta"}, "--scelta sta due volte"},

@@ -139,6 +139,7 @@ void FrmScelta::Esporta() {
     sagomi::Comando comando;
     comando.formato = FormatoDi(QFileInfo(file).suffix().toLower());
     comando.richiesta = scelta_.RichiestaInForza();
+    comando.filtri = FiltriInForza();
     std::vector<RigaScelta> rows;
     for (const std::uint32_t place : modello_->Posti())
         if (scelta_.Valida(place))
