@@ -207,15 +207,12 @@ int EsegueLavori(const std::vector<std::string>& comuni, const TrovaCartella& ca
     return peggiore;
 }
 
-/// Formulas lie beside the workbooks of a program that is not installed; a report does without.
+/// Formulas lie beside the workbooks of a program that is not installed. A chosen folder that cannot be used
+/// is told, even where the report itself needs nothing of it.
 void TrovaFormule(const TrovaCartella& cartella) {
-    try {
-        const std::filesystem::path dove = cartella();
-        if (CartellaInstallata().empty())
-            PathInstallazione = dove;
-    } catch (const std::exception&) {
-        return;
-    }
+    const std::filesystem::path dove = cartella();
+    if (CartellaInstallata().empty())
+        PathInstallazione = dove;
 }
 
 int Esegue(Comando c, const TrovaCartella& cartella, const Uscite& u) {

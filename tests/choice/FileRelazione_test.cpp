@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <sstream>
 
 #include "Approvato.h"
@@ -167,6 +168,22 @@ TEST_F(FileRelazioneTest, AJobWritesNoFile) {
     EXPECT_EQ(EsegueComando({"--json"}, SAGOMI_BIN, ingresso, uscita, errori), comandoErrato);
     EXPECT_NE(uscita.str().find("non scrive file"), std::string::npos) << uscita.str();
     EXPECT_FALSE(fs::exists(Via("o.txt")));
+}
+
+// A report of a file reads its formulas there: a folder that cannot be used is told, and no file begun.
+TEST_F(FileRelazioneTest, AFolderThatCannotBeUsedIsTold) {
+    const std::function<fs::path()> rifiutata = []() -> fs::path {
+        throw std::runtime_error("la cartella /proc/x non si può usare");
+    };
+    for (const std::string& file : {std::string(travi) + "piena.sco", Salvato(1)}) {
+        std::istringstream nessuno;
+        errori.str("");
+        EXPECT_EQ(
+            EsegueComando({file, "--relazione", Via("o.txt")}, rifiutata, nessuno, uscita, errori).value(),
+            comandoErrato);
+        EXPECT_EQ(errori.str(), "sagomi: la cartella /proc/x non si può usare\n");
+        EXPECT_FALSE(fs::exists(Via("o.txt")));
+    }
 }
 
 struct Errato {
