@@ -37,6 +37,7 @@ namespace {
 
 bool SceglieColDialogo(QPrinter& printer, QWidget* parent) {
     QPrintDialog dialog(&printer, parent);
+    dialog.setObjectName(QStringLiteral("DialogoStampa"));
     return dialog.exec() == QDialog::Accepted;
 }
 

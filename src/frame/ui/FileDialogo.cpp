@@ -36,6 +36,7 @@ QStringList FiltriQt(const QString& filter) {
 QString SceglieColDialogo(QWidget* parent, std::string_view mode, const QString& filter, int index,
                           const QString& proposal) {
     QFileDialog dialog(parent);
+    dialog.setObjectName(QStringLiteral("DialogoFile"));
     const bool open = mode == "L";
     dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

@@ -11,6 +11,7 @@
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <array>
 
@@ -166,7 +167,7 @@ void FinestraGuida::CollegaTasti() {
     key(Qt::ALT | Qt::Key_Right, [this] { testo_->forward(); });
 }
 
-void FinestraGuida::Mostra(const QString& file, const QString& ancora) {
+void FinestraGuida::Mostra(const QString& file, const QString& ancora, const QString& parole) {
     Rilegge();
     testo_->setSource(TestoGuida::Indirizzo(file, ancora), QTextDocument::HtmlResource);
     testo_->setFocus();
@@ -174,6 +175,41 @@ void FinestraGuida::Mostra(const QString& file, const QString& ancora) {
     raise();
     activateWindow();
     testo_->scrollToAnchor(ancora); // once more, now that the text is as wide as it is seen
+    if (!parole.isEmpty()) {
+        testo_->setTextCursor(testo_->cursorForPosition({0, 0}));
+        testo_->find(parole);
+    }
+}
+
+// The windows of a modal one are those that it is the transient parent of.
+void FinestraGuida::StaSopra(QWidget* modale) {
+    if (sopra_ == modale)
+        return;
+    if (sopra_ != nullptr)
+        sopra_->removeEventFilter(this);
+    sopra_ = modale;
+    if (modale != nullptr)
+        modale->installEventFilter(this);
+    winId(); // the native window is there before the first showing
+    windowHandle()->setTransientParent(modale == nullptr ? nullptr : modale->windowHandle());
+}
+
+bool FinestraGuida::eventFilter(QObject* object, QEvent* event) {
+    return EventoProtetto([this, object, event] {
+        if (object == sopra_ && event->type() == QEvent::Hide) {
+            const QWidget* below = sopra_->parentWidget();
+            StaSopra(below != nullptr && below->window()->isModal() ? below->window() : nullptr);
+        }
+        return QWidget::eventFilter(object, event);
+    });
+}
+
+void FinestraGuida::hideEvent(QHideEvent* event) {
+    EventoProtetto([this, event] {
+        QWidget::hideEvent(event);
+        if (sopra_ != nullptr && sopra_->isVisible())
+            sopra_->activateWindow();
+    });
 }
 
 void FinestraGuida::Rilegge() {

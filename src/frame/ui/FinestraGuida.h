@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPointer>
 #include <QWidget>
 
 #include "frame/ui/IndiceGuida.h"
@@ -22,9 +23,16 @@ public:
     FinestraGuida();
 
     /// Shows a file at a place; without a place its top.
-    void Mostra(const QString& file, const QString& ancora);
+    /// @param parole  words behind the place that are marked
+    void Mostra(const QString& file, const QString& ancora, const QString& parole = {});
+
+    /// Stands over a window that keeps all others from being used, and can be used with it. When the viewer
+    /// is closed that window gets the focus back; when that one is closed the viewer stays as it is.
+    void StaSopra(QWidget* modale);
 
 protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     /// Esc closes the line of finding, then the window.
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -49,6 +57,7 @@ private:
     QLabel* esitoTrova_ = nullptr;
     QList<ArgomentoGuida> argomenti_;
     QList<ArgomentoGuida> indice_;
+    QPointer<QWidget> sopra_; ///< the window that it stands over
 };
 
 } // namespace sagomi

@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMainWindow>
+#include <QStringList>
+#include <QWindow>
 
 #include "frame/Messaggi.h"
 #include "frame/ui/FinestraGuida.h"
 #include "frame/ui/IndiceGuida.h"
+#include "frame/ui/MessaggiQt.h"
 #include "frame/ui/Protetto.h"
 
 namespace sagomi {
@@ -16,6 +18,7 @@ namespace {
 QString fileInForce; // NOLINT: the help file set by the active screen
 
 QString Generale() { return QStringLiteral("Sagomi.hlp"); }
+QString DelGiunto() { return QStringLiteral("GiuntoFlangiato.hlp"); }
 
 FinestraGuida& Finestra() {
     static auto* window = new FinestraGuida; // lives to the end of the run, like every screen
@@ -34,14 +37,51 @@ QString Letta(const QString& file) {
 const QWidget* InMano(QObject* object) {
     if (const auto* w = qobject_cast<QWidget*>(object))
         return w;
-    return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()
-                                                  : QApplication::activeWindow();
+    if (const QWidget* focus = QApplication::focusWidget())
+        return focus;
+    const QWidget* active = QApplication::activeWindow();
+    return active != nullptr ? active : QApplication::activeModalWidget();
+}
+
+/// The window that keeps the viewer from being used, if it stood by itself.
+QWidget* Modale(const QWidget* w) {
+    QWidget* modal = QApplication::activeModalWidget();
+    const bool all = modal != nullptr && modal->windowModality() == Qt::ApplicationModal;
+    return all || (w != nullptr && w->window() == modal) ? modal : nullptr;
+}
+
+/// A box that has come up over the viewer: this cannot stand over it in turn.
+bool SopraGuida(const QWidget* modal) {
+    const QWindow* viewer = Finestra().windowHandle();
+    return viewer != nullptr && modal != nullptr && modal->windowHandle() != nullptr &&
+           viewer->isAncestorOf(modal->windowHandle());
+}
+
+/// Help for a message, of the first file that knows it.
+bool SpiegaMessaggio(const QString& message, const QStringList& files) {
+    if (message.isEmpty())
+        return false;
+    for (const QString& file : files)
+        if (const PostoMessaggio place = PostoDelMessaggio(LeggeGuida(file), message);
+            !place.ancora.isEmpty()) {
+            Finestra().Mostra(file, place.ancora, place.parole);
+            return true;
+        }
+    return false;
 }
 
 /// Help for a control; the viewer's own stands in the general file.
 void AprePer(const QWidget* w) {
     const bool viewer = w != nullptr && qobject_cast<const FinestraGuida*>(w->window()) != nullptr;
     const QString file = viewer || fileInForce.isEmpty() ? Generale() : fileInForce;
+    if (!viewer) {
+        QWidget* modal = Modale(w);
+        if (SopraGuida(modal))
+            return;
+        Finestra().StaSopra(modal);
+    }
+    if (SpiegaMessaggio(TestoDelMessaggio(w), {file, Generale(), DelGiunto()}))
+        return;
     if (const QString text = Letta(file); !text.isEmpty())
         Finestra().Mostra(file, AncoraDi(text, w));
 }
@@ -67,9 +107,6 @@ bool Guida::eventFilter(QObject* object, QEvent* event) {
     constexpr auto others = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
     if (key == nullptr || key->key() != Qt::Key_F1 || (key->modifiers() & others) != 0)
         return QObject::eventFilter(object, event);
-    if (QApplication::activeModalWidget() != nullptr &&
-        qobject_cast<QMainWindow*>(QApplication::activeModalWidget()) == nullptr)
-        return true; // a message box would keep the help from being used
     EventoProtetto([object] { AprePer(InMano(object)); });
     return true;
 }

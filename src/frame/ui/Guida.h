@@ -5,7 +5,8 @@
 namespace sagomi {
 
 /// The built-in help viewer. F1 anywhere in the program opens the help file of the active screen at the
-/// control in hand; files lie beside the program and are matched without regard to letter case.
+/// control in hand, over a dialog or a box as well: of a message at its cause and remedy. Files lie beside
+/// the program and are matched without regard to letter case.
 class Guida : public QObject {
     Q_OBJECT
 public:

@@ -74,6 +74,18 @@ QStringList Nomi(const QString& name) {
     return names;
 }
 
+/// The longest of the messages of a cell that a text contains.
+QString ParteDetta(const QString& cell, const QString& text) {
+    static const QRegularExpression between(QStringLiteral(";|\\.\\.\\."));
+    constexpr int poche = 6; // letters; shorter parts stand in any text
+    QString longest;
+    for (const QString& piece : cell.split(between))
+        if (const QString part = piece.simplified();
+            part.size() >= poche && part.size() > longest.size() && text.contains(part))
+            longest = part;
+    return longest;
+}
+
 } // namespace
 
 QString LeggeGuida(const QString& file) {
@@ -139,7 +151,9 @@ QString AncoraDi(const QString& html, const QWidget* controllo) {
         if (!w->objectName().isEmpty())
             if (const QString place = Trova(html, screen, Nomi(w->objectName())); !place.isEmpty())
                 return place;
-    return Posto(html, screen) >= 0 ? screen : QString();
+    if (Posto(html, screen) >= 0 && !screen.isEmpty())
+        return screen;
+    return AncoraDi(html, controllo->window()->parentWidget());
 }
 
 QString AncoraDi(const QString& html, const QString& argomento) {
@@ -148,6 +162,28 @@ QString AncoraDi(const QString& html, const QString& argomento) {
         return {};
     const QString place = Trova(html, screen, Nomi(argomento.section(u'.', -1)));
     return place.isEmpty() && Posto(html, screen) >= 0 ? screen : place;
+}
+
+PostoMessaggio PostoDelMessaggio(const QString& html, const QString& testo) {
+    static const QRegularExpression table(
+        QStringLiteral("<table[^>]*>\\s*<tr><td><b>Messaggio</b></td>(.*?)</table>"),
+        QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression row(QStringLiteral("<tr><td>(.*?)</td>"),
+                                        QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression name(QStringLiteral("<a name=\"([^\"]+)\">"));
+    const QString text = testo.simplified();
+    PostoMessaggio place;
+    for (auto tables = table.globalMatch(html); tables.hasNext();) {
+        const QRegularExpressionMatch t = tables.next();
+        for (auto rows = row.globalMatch(t.captured(1)); rows.hasNext();)
+            if (const QString part = ParteDetta(Piano(rows.next().captured(1)), text);
+                part.size() > place.parole.size()) {
+                QRegularExpressionMatch above;
+                if (html.lastIndexOf(name, t.capturedStart(), &above) >= 0)
+                    place = {above.captured(1), part};
+            }
+    }
+    return place;
 }
 
 } // namespace sagomi

@@ -34,11 +34,22 @@ QList<ArgomentoGuida> IndiceGuida(const QString& file, const QString& html);
 QList<ArgomentoGuida> CercaGuida(const QList<ArgomentoGuida>& argomenti, const QString& parole);
 
 /// The place of a control in a help file: its own, else that of the nearest part of the screen around it,
-/// else the screen's. Names are looked for as "screen.control", then in the part about the screen or later,
-/// since screens share names of controls; an index (_0) may be left out. Empty: there is none.
+/// else the screen's, else that of the window below a dialog. Names are looked for as "screen.control", then
+/// in the part about the screen or later, since screens share names of controls; an index (_0) may be left
+/// out. Empty: there is none.
 QString AncoraDi(const QString& html, const QWidget* controllo);
 
 /// The place of a topic by its name, "screen.control" or less, by the same rule.
 QString AncoraDi(const QString& html, const QString& argomento);
+
+/// Where the tables of messages explain one.
+struct PostoMessaggio {
+    QString ancora; ///< of the table; empty: the file does not know the message
+    QString parole; ///< the longest part of the row's first cell that the message contains
+};
+
+/// The row of a message as it is told, with its values, in the tables whose head is "Messaggio". Their first
+/// cells hold several messages parted by ";", values left out as "...".
+PostoMessaggio PostoDelMessaggio(const QString& html, const QString& testo);
 
 } // namespace sagomi

@@ -119,6 +119,11 @@ QString ConAcapi(QString testo) {
     return testo;
 }
 
+QString TestoDelMessaggio(const QWidget* w) {
+    const auto* box = w == nullptr ? nullptr : qobject_cast<const QMessageBox*>(w->window());
+    return box == nullptr ? QString() : box->text();
+}
+
 void CollegaMessaggiQt() { CollegaMessaggi(Mostra); }
 
 } // namespace sagomi

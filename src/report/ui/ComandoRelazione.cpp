@@ -113,6 +113,7 @@ void MostraAnteprima(Schermo& screen, const Relazione& r) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::A4));
     QPrintPreviewDialog preview(&printer, &screen);
+    preview.setObjectName(QStringLiteral("AnteprimaDiStampa"));
     preview.setWindowTitle(QString::fromStdString(r.titolo + ": " + r.oggetto));
     Collega(&preview, &QPrintPreviewDialog::paintRequested, &preview, [&r](QPrinter* paper) {
         if (!StampaRelazioneSu(*paper, r))

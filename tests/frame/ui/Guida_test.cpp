@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include "frame/ui/AmbienteFinestre.h"
 #include "frame/ui/IndiceGuida.h"
@@ -43,6 +44,9 @@ protected:
         if (auto* window = Finestra()) {
             Trova<QLineEdit>(window, "txtCerca")->clear();
             window->hide();
+            QWidget elsewhere; // the offscreen platform leaves the focus with a window that is hidden
+            elsewhere.show();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&elsewhere));
         }
         AmbienteFinestre::TearDown();
     }
@@ -68,13 +72,69 @@ TEST_F(GuidaTest, FileIsFoundWhateverTheCaseOfItsLetters) {
     EXPECT_TRUE(registratore.testi.empty());
 }
 
-TEST_F(GuidaTest, MessageBoxGetsNoHelpBehindIt) {
+// The row of the message, with the viewer over the box, in use; closing it leaves the box as it was.
+TEST_F(GuidaTest, F1OverAMessageExplainsIt) {
     QMessageBox box;
+    box.setText(QStringLiteral("Il piolo esce dalla soletta!"));
+    box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
     box.setModal(true);
     box.show();
-    QCoreApplication::processEvents();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
     QTest::keyClick(&box, Qt::Key_F1);
+    ASSERT_NE(Finestra(), nullptr);
+    EXPECT_EQ(Testo()->textCursor().selectedText(), "Il piolo esce dalla soletta!");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Finestra()));
+    QTest::keyClick(Finestra()->windowHandle(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(Trova<QLineEdit>(Finestra(), "txtTrova")->isVisible()) << "the box blocks the viewer";
+    QTest::keyClick(Finestra()->windowHandle(), Qt::Key_Escape);
+    QTest::keyClick(Finestra()->windowHandle(), Qt::Key_Escape);
     EXPECT_EQ(Finestra(), nullptr);
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+}
+
+TEST_F(GuidaTest, AMessageOfTheJointIsExplainedInItsFile) {
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("x"),
+                    QStringLiteral("u max è superiore a metà dell'altezza della trave pari a 135 mm"));
+    box.setModal(true);
+    box.show();
+    QTest::keyClick(&box, Qt::Key_F1);
+    ASSERT_NE(Finestra(), nullptr);
+    EXPECT_EQ(Posto(), "GiuntoFlangiato.hlp#messaggi");
+    EXPECT_EQ(Testo()->textCursor().selectedText(),
+              "u max è superiore a metà dell'altezza della trave pari a");
+}
+
+// The help stays when the box goes, and can be used then too; a message that nobody explains has the help of
+// the window below it.
+TEST_F(GuidaTest, TheViewerOutlivesTheBoxItStoodOver) {
+    Schermo below(QStringLiteral("frmBulloni"));
+    below.show();
+    {
+        QMessageBox box(QMessageBox::NoIcon, QStringLiteral("x"), QStringLiteral("Mai detto"),
+                        QMessageBox::NoButton, &below);
+        box.setModal(true);
+        box.show();
+        QTest::keyClick(&box, Qt::Key_F1);
+        ASSERT_NE(Finestra(), nullptr);
+        EXPECT_EQ(Posto(), "Sagomi.hlp#frmBulloni");
+        box.hide();
+    }
+    ASSERT_NE(Finestra(), nullptr);
+    EXPECT_EQ(Finestra()->windowHandle()->transientParent(), nullptr);
+    QTest::keyClick(Finestra()->windowHandle(), Qt::Key_Escape);
+    EXPECT_EQ(Finestra(), nullptr);
+}
+
+// A box over the viewer itself cannot have it over itself.
+TEST_F(GuidaTest, ABoxOverTheViewerIsLeftAlone) {
+    Guida::Apre(QStringLiteral("Sagomi.hlp"));
+    ASSERT_NE(Finestra(), nullptr);
+    QMessageBox box(Finestra());
+    box.setModal(true);
+    box.show();
+    QTest::keyClick(&box, Qt::Key_F1);
+    EXPECT_EQ(Finestra()->windowHandle()->transientParent(), nullptr);
 }
 
 // Notches without number, up and down: the font stays between 6 and 40 points, and what a notch did another
