@@ -114,4 +114,17 @@ TEST(ForoSezione, ALevelOutsideChangesNothing) {
     EXPECT_EQ(vuoto.n, 0);
 }
 
+TEST(ForoSezioneTest, WhatIsNotCutStaysAsItIs) {
+    std::vector<double> x{3, 9};
+    std::vector<double> y{4, 9};
+    std::int16_t n = 1;
+    ForoSezione(x, y, n, 4, 10, "DoppioT");
+    EXPECT_EQ(x, std::vector<double>{3}) << "the first n count";
+    EXPECT_EQ(y, std::vector<double>{4});
+    EXPECT_EQ(n, 1);
+    n = 0;
+    ForoSezione(x, y, n, 4, 10, "DoppioT");
+    EXPECT_TRUE(x.empty());
+}
+
 } // namespace

@@ -203,4 +203,12 @@ TEST(TogliePuntiIniziali, ACountBelowOneIsReported) {
     EXPECT_EQ(x.size(), 2U);
 }
 
+// Homogeneous coordinates: (2, 6, 2) and (3, 9, 3) are the place (1, 3), (2, 6, 1) is not.
+TEST(PuntiCoincidenti, EachIsDividedByItsWeight) {
+    EXPECT_TRUE(PuntiCoincidenti({2, 3}, {6, 9}, {2, 3}, 1e-9));
+    EXPECT_TRUE(PuntiCoincidenti({3, 2}, {9, 6}, {3, 2}, 1e-9));
+    EXPECT_FALSE(PuntiCoincidenti({2, 2}, {6, 6}, {1, 2}, 1e-9));
+    EXPECT_FALSE(PuntiCoincidenti({2, 3}, {6, 6}, {2, 3}, 1e-9)) << "1 and 1, but 3 and 2";
+}
+
 } // namespace

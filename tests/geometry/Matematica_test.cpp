@@ -283,4 +283,30 @@ TEST(Arrotondamenti, HalfGoesUp) {
     EXPECT_EQ(ArrotondaEccesso(-2.5), -2);
 }
 
+// By hand, x^2 - 2 between 0 and 2: the line gives 1, then 4/3; there 2 stays behind a second time and counts
+// half, 1: 4/3 + (2/9)(2/3)/(11/9) = 16/11. At 16/11 it is 14/121, above 0: the line from 4/3 gives 1.4123...
+TEST(CercaZero, AnEndThatStaysCountsHalf) {
+    std::vector<double> provate;
+    const auto f = [&provate](double x) {
+        provate.push_back(x);
+        return x * x - 2;
+    };
+    double x1 = 0;
+    double x2 = 2;
+    CercaZero(f, x1, x2, 1e-9);
+    ASSERT_GT(provate.size(), 5U);
+    const double atteso[] = {0, 2, 1, 4.0 / 3, 16.0 / 11};
+    for (std::size_t i = 0; i < 5; ++i)
+        EXPECT_NEAR(provate[i], atteso[i], 1e-12) << i;
+}
+
+TEST(Ordina, OnePlaceIsInOrderAndNumbered) {
+    std::vector<double> a{3, 1, 2};
+    std::vector<int> indici;
+    Ordina(a, 2, 2, &indici);
+    EXPECT_EQ(a, (std::vector<double>{3, 1, 2}));
+    EXPECT_EQ(indici, (std::vector<int>{1, 2, 3}));
+    EXPECT_THROW(Ordina(a, 4, 4, &indici), std::out_of_range);
+}
+
 } // namespace

@@ -135,4 +135,29 @@ TEST(OffsetDistanza, SignTellsTheSide) {
     ZeroMaxDimen = 0;
 }
 
+// Turned by any angle, an outline has the same offset through the turned point: a rectangle of 30 x 50 and a
+// point 10 below its corner, 9 to the left of it. 10 counts: 50 x 70.
+TEST(Offset, TurnsWithTheOutline) {
+    for (const double angolo : {0.0, 0.4, 1.1, 2.0, 3.3, 5.0}) {
+        Poligono p = PoligonoDaTesto(rettangolo);
+        p.RuotaVertici(0, 0, angolo);
+        const double c = std::cos(angolo);
+        const double s = std::sin(angolo);
+        std::shared_ptr<Poligono> q;
+        ASSERT_TRUE(p.OffsetPerPunto(-9 * c + 10 * s, -9 * s - 10 * c, q)) << angolo;
+        q->AreaCalcola();
+        EXPECT_NEAR(q->Area, 50 * 70, 1e-6) << angolo;
+    }
+}
+
+// The first vertex once more at the end, on an outline that begins with an upright side.
+TEST(Offset, AClosedOutlineIsTheSame) {
+    const Poligono p = PoligonoDaTesto("0 0, 0 50, 30 50, 30 0, 0 0");
+    std::shared_ptr<Poligono> q;
+    ASSERT_TRUE(p.OffsetPerPunto(35, 20, q));
+    EXPECT_EQ(q->nVertici(), 4);
+    q->AreaCalcola();
+    EXPECT_NEAR(q->Area, 40 * 60, 1e-6);
+}
+
 } // namespace

@@ -232,4 +232,11 @@ TEST(Wplastico, AFailedSplitGivesZero) {
     EXPECT_FALSE(r.testi.empty());
 }
 
+// b h^2 / 4; twice the area of each half is 1.
+TEST(Wplastico, UnitSquare) {
+    Poligono p = PoligonoDaTesto("0 0, 1 0, 1 1, 0 1");
+    EXPECT_NEAR(p.Wplastico(), 0.25, 1e-12);
+    EXPECT_NEAR(p.Wplastico(nullptr, true), 0.25, 1e-12);
+}
+
 } // namespace

@@ -192,4 +192,25 @@ TEST(PoligonoStatica, TheModuliAreTheEllipseOfInertiaOfEveryTurn) {
     EXPECT_NEAR(p.IxG, 851112.544, 0.01);
 }
 
+// 1 by h: the perimeter is 2, its square over 1E+20 is 4E-20.
+TEST(AreaNulla, ThresholdIsThePartOfTheSquaredPerimeter) {
+    const auto nulla = [](double h) {
+        Poligono p;
+        p.Coordinate({0, 1, 1, 0}, {0, 0, h, h}, 4);
+        return p.AreaNulla(true);
+    };
+    EXPECT_TRUE(nulla(3e-20));
+    EXPECT_FALSE(nulla(5e-20));
+}
+
+TEST(AreaCalcola, ALineRunsNoWayRound) {
+    Poligono p = PoligonoDaTesto("0 0, 10 0, 10 10");
+    p.AreaCalcola();
+    EXPECT_TRUE(p.Antiorario);
+    p = PoligonoDaTesto("0 0, 10 10, 20 20");
+    p.Antiorario = true;
+    p.AreaCalcola();
+    EXPECT_FALSE(p.Antiorario);
+}
+
 } // namespace

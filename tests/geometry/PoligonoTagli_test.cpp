@@ -389,4 +389,88 @@ TEST(PoligonoReagente, BothSidesAddUp) {
     }
 }
 
+// The tolerance is 1/100000 of the extent, 1E-4 here: a line half of it below the square meets both upright
+// sides, one twice that low meets none. It is the same line when its equation is multiplied.
+TEST(IntersezioneConRetta, ToleranceDoesNotHangOnTheScaleOfTheEquation) {
+    const Poligono p = PoligonoDaTesto("0 0, 10 0, 10 10, 0 10");
+    for (const double k : {1e-3, 1.0, 1000.0}) {
+        EXPECT_EQ(Taglia(p, 0, k, k * 0.5e-4).n, 2) << k;
+        EXPECT_EQ(Taglia(p, k, 0, k * 0.5e-4).n, 2) << k;
+        EXPECT_EQ(Taglia(p, 0, k, k * 2.5e-4).n, 0) << k;
+        EXPECT_EQ(Taglia(p, k, 0, k * 2.5e-4).n, 0) << k;
+    }
+}
+
+// An extent of 100000 has a tolerance of 1: a segment that ends so far from a side reaches it.
+TEST(IntersezioneConSegmento, TheToleranceItselfCounts) {
+    const Poligono p = PoligonoDaTesto("0 0, 100000 0, 100000 100000, 0 100000");
+    const auto incontri = [&p](double x1, double y1, double x2, double y2) {
+        Incontri i;
+        p.IntersezioneConSegmento(x1, y1, x2, y2, i.x, i.y, i.n, i.lato);
+        return i.n;
+    };
+    EXPECT_EQ(incontri(500, 500, 99999, 500), 1);
+    EXPECT_EQ(incontri(1, 500, 600, 500), 1);
+    EXPECT_EQ(incontri(500, 500, 500, 99999), 1);
+    EXPECT_EQ(incontri(500, 1, 500, 600), 1);
+    EXPECT_EQ(incontri(500, 500, 99998.5, 500), 0);
+}
+
+// A triangle can take more points than it has vertices; with none it stays as it is.
+TEST(PoligonoConIntersezioni, TakesAnyCountOfPoints) {
+    const Poligono p = PoligonoDaTesto("0 0, 10 0, 0 10");
+    std::vector<bool> nuovo;
+    EXPECT_EQ(p.PoligonoConIntersezioni({}, {}, {}, 0, nuovo)->nVertici(), 3);
+    const auto uno = p.PoligonoConIntersezioni({5}, {0}, {1}, 1, nuovo);
+    EXPECT_EQ(uno->CoordX(), (std::vector<double>{0, 5, 10, 0}));
+    const auto molti = p.PoligonoConIntersezioni({1, 2, 3, 4}, {0, 0, 0, 0}, {1, 1, 1, 1}, 4, nuovo);
+    EXPECT_EQ(molti->CoordX(), (std::vector<double>{0, 1, 2, 3, 4, 10, 0}));
+}
+
+// A pentagon of 10 x 10 whose roof slopes from (0, 6) to (4, 10): the level 5 cuts it in 50 and 42, wherever
+// it stands. Its upper part is 10 x 5 less a triangle of 8 about (4/3, 26/3).
+TEST(DividiY, TheSameFarFromTheOrigin) {
+    const double xG = (50 * 5 - 8 * 4.0 / 3) / 42;
+    const double yG = (50 * 7.5 - 8 * 26.0 / 3) / 42;
+    for (const double lontano : {0.0, 1e6}) {
+        Poligono p = PoligonoDaTesto("0 0, 10 0, 10 10, 4 10, 0 6");
+        p.Trasla(-lontano, 0);
+        std::shared_ptr<Poligono> sopra;
+        std::shared_ptr<Poligono> sotto;
+        p.DividiY(5, sopra, sotto);
+        Uguale(sotto, {50, lontano + 5, 2.5}, 1e-6, 10 + lontano);
+        Uguale(sopra, {42, lontano + xG, yG}, 1e-6, 10 + lontano);
+        EXPECT_EQ(sotto->nVertici(), 4) << lontano;
+        EXPECT_EQ(sopra->nVertici(), 5) << lontano;
+        p = PoligonoDaTesto("0 0, 10 0, 10 10, 4 10, 0 6");
+        p.Trasla(0, -lontano);
+        p.DividiY(lontano + 5, sopra, sotto);
+        EXPECT_EQ(sotto->nVertici(), 4) << lontano;
+        EXPECT_EQ(sopra->nVertici(), 5) << lontano;
+    }
+}
+
+// A triangle below the line y = x, which does not meet it; its first abscissa with its second ordinate lies
+// above.
+TEST(PoligonoReagente, AllOfItOnOneSide) {
+    const Poligono p = PoligonoDaTesto("2 1, 10 9, 10 1");
+    std::int16_t segno = 0;
+    const auto dentro = p.PoligonoReagente(5, 1, segno, 1, -1, 0);
+    ASSERT_TRUE(dentro);
+    EXPECT_EQ(dentro->nVertici(), 3);
+    EXPECT_EQ(segno, 1);
+    EXPECT_FALSE(p.PoligonoReagente(1, 5, segno, 1, -1, 0));
+    EXPECT_EQ(segno, -1);
+}
+
+TEST(PoligonoReagente, WithoutVerticesItIsTheEmptyOutline) {
+    for (const double x : {-1.0, 1.0}) {
+        std::int16_t segno = 0;
+        const auto p = Poligono().PoligonoReagente(x, 0, segno, 1, 0, 0);
+        ASSERT_TRUE(p);
+        EXPECT_EQ(p->nVertici(), 0);
+        EXPECT_EQ(segno, 1);
+    }
+}
+
 } // namespace

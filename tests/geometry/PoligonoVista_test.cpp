@@ -168,4 +168,34 @@ TEST(VistaDaDestra, DoubleT) {
     EXPECT_EQ(raccordi.n, 20); // 22 of the right side, less the two roots that lie behind the tips' edges
 }
 
+// A square: its lower and left sides are inside, the others outside.
+TEST(PuntoInPoligono, OfTheOutlineTheLowerAndLeftSidesAreInside) {
+    const Poligono p = PoligonoDaTesto("0 0, 10 0, 10 10, 0 10");
+    EXPECT_EQ(Dentro(p, 0, 5), 1);
+    EXPECT_EQ(Dentro(p, 5, 0), 1);
+    EXPECT_EQ(Dentro(p, 10, 5), -1);
+    EXPECT_EQ(Dentro(p, 5, 10), -1);
+}
+
+/// Vertices of the hull of a triangle with one point more on its right side, `seno` times the side's length
+/// off the side: from (0, 0) to (1, 3) or (3, 1) times `scala`, a third of the way.
+std::int16_t VerticiConvessi(double scala, double seno, bool ripido) {
+    const double u = ripido ? 1 : 3;
+    const double v = ripido ? 3 : 1;
+    const double fuori = seno * 10;
+    Poligono p;
+    p.Coordinate({0, scala * (u + fuori * v) / 3, scala * u, -scala},
+                 {0, scala * (v - fuori * u) / 3, scala * v, scala * v}, 4);
+    return p.PoligonoConvessoCircoscritto()->nVertici();
+}
+
+// Up to a sine of 1E-12 a point lies on the side, whatever the size and the slope of the outline.
+TEST(PoligonoConvesso, NoiseOnASideMakesNoCorner) {
+    for (const double scala : {1e-3, 1.0, 1e3})
+        for (const bool ripido : {false, true}) {
+            EXPECT_EQ(VerticiConvessi(scala, 3e-14, ripido), 3) << scala << ripido;
+            EXPECT_EQ(VerticiConvessi(scala, 1e-9, ripido), 4) << scala << ripido;
+        }
+}
+
 } // namespace

@@ -223,4 +223,24 @@ TEST(PoligonoMoti, Perimetro) {
     EXPECT_EQ(Poligono().Perimetro(), 0);
 }
 
+TEST(PoligonoVertici, OneVertexStandsAtTheOrigin) {
+    Poligono p;
+    p.nVertici(1);
+    EXPECT_EQ(p.x(1), 0);
+    EXPECT_EQ(p.y(1), 0);
+}
+
+// The box of a square of 10 with a margin of 1, edges included.
+TEST(PuntoInBoundingBox, GrowsByTheMarginOnAllSides) {
+    const Poligono p = PoligonoDaTesto("0 0, 10 0, 10 10, 0 10");
+    for (const double v : {-1.0, 0.0, 5.0, 10.0, 11.0}) {
+        EXPECT_TRUE(p.PuntoInBoundingBox(v, 5, 1)) << v;
+        EXPECT_TRUE(p.PuntoInBoundingBox(5, v, 1)) << v;
+    }
+    for (const double v : {-1.001, 11.001}) {
+        EXPECT_FALSE(p.PuntoInBoundingBox(v, 5, 1)) << v;
+        EXPECT_FALSE(p.PuntoInBoundingBox(5, v, 1)) << v;
+    }
+}
+
 } // namespace
