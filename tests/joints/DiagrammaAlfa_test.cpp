@@ -36,3 +36,19 @@ TEST(DiagrammaAlfa, FuoriDallaTabella) {
     EXPECT_THROW(Giunto::Falfa(0.5, -0.01), std::out_of_range);
     EXPECT_THROW(Giunto::Falfa(std::numeric_limits<double>::quiet_NaN(), 0.5), std::out_of_range);
 }
+
+// The chart's curves: 8 and more near the corner, and falling as m or m2 grow against m + e.
+TEST(DiagrammaAlfa, NonSaleMai) {
+    constexpr double passo = 0.05;
+    for (double l1 = 0; l1 < 0.89; l1 += passo)
+        for (double l2 = 0; l2 < 0.89; l2 += passo) {
+            const double qui = Giunto::Falfa(l1, l2);
+            EXPECT_LE(qui, 8) << l1 << ' ' << l2;
+            EXPECT_GE(qui, 4.45 - 1e-12) << l1 << ' ' << l2;
+            EXPECT_LE(Giunto::Falfa(l1 + passo, l2), qui + 1e-12) << l1 << ' ' << l2;
+            EXPECT_LE(Giunto::Falfa(l1, l2 + passo), qui + 1e-12) << l1 << ' ' << l2;
+            if (l1 < 0.199 || l2 < 0.001) {
+                EXPECT_EQ(qui, 8) << l1 << ' ' << l2;
+            }
+        }
+}

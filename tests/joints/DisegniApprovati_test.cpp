@@ -8,6 +8,7 @@
 #include "joints/DisegniScelte.h"
 #include "joints/DisegnoNodo.h"
 #include "joints/FiguraGiunto.h"
+#include "joints/NoteIrrigidimenti.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -74,6 +75,33 @@ TEST_F(DisegniApprovati, FigureSenzaDati) {
     senza.ConnessioneCorrente->ex = 0;
     Approvato("figura-senza-larghezza",
               InSvg(FiguraGiunto(senza, nullptr, {{}, {}, "ex", "min 35"}), 480, 600, "frmGiunti"));
+}
+
+TEST_F(DisegniApprovati, AltreForme) {
+    const EvidenzaGiunto e{
+        {{Irrigidimenti, FilaGiunto::Nessuna}, {Bulloni, FilaGiunto::Esterna}}, {}, "u", "min 20"};
+    const Nodo T = NodoDisegnato(nodoT, 2, "Si");
+    for (const auto& [l, h] : {std::pair{1400, 450}, {320, 900}, {260, 260}})
+        Approvato("forma-" + std::to_string(l) + "x" + std::to_string(h),
+                  InSvg(FiguraGiunto(T, nullptr, e), l, h, "frmGiunti"));
+    for (const auto& [l, h] : {std::pair{277, 190}, {400, 277}})
+        Approvato("carta-" + std::to_string(l) + "x" + std::to_string(h),
+                  InSvg(DisegnoNodo(T), l, h, "frmGiunti", dispositivoStampante));
+    Nodo sola;
+    sola.ImpostaNodo();
+    sola.CaratterizzaGiunti();
+    sola.PuntatoreColonna(HEB200());
+    Approvato("sola-colonna", InSvg(FiguraGiunto(sola, nullptr, {}), 480, 600, "frmGiunti"));
+}
+
+TEST_F(DisegniApprovati, Irrigidimenti) {
+    for (const auto& [nome, tipo, quali] : {std::tuple{"due-travi", nodoCroce, "Si"},
+                                            {"una-trave", nodoT, "Cp"},
+                                            {"senza-colonna", nodoCroceSenzaColonna, "Cp"},
+                                            {"angolo", nodoL, "Si"}}) {
+        const Disegno d = DisegnoIrrigidimenti(IrrigidimentiNodo(NodoDisegnato(tipo, 2, quali)));
+        Approvato(std::string("irrigidimenti-") + nome, InSvg(d, d.misura.larghezza, d.misura.altezza, ""));
+    }
 }
 
 TEST_F(DisegniApprovati, FogliDOfficina) {

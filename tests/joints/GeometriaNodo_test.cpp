@@ -157,4 +157,31 @@ TEST(GeometriaNodo, ComponentsLieWhereTheyWork) {
     EXPECT_TRUE(zona(Nessuno, FilaGiunto::Nessuna).empty());
 }
 
+// What is thinner than a millimetre is there all the same, and what is 0 is not.
+TEST(GeometriaNodo, MisurePiccoleCiSono) {
+    Nodo n = NodoDisegnato(nodoT, 2);
+    Giunto& g = *n.ConnessioneCorrente;
+    g.tf = g.bf = g.ef = g.d2 = g.ex = g.dX = g.u = 0.5;
+    const GeometriaNodo minima(n, nullptr, false);
+    EXPECT_THAT(minima.Mancanze(), testing::IsEmpty());
+    ASSERT_EQ(minima.lato.file.size(), 3U);
+    EXPECT_NEAR(minima.lato.file[0].y, 0.5, vicino);
+    g.tf = g.bf = g.ef = g.d2 = g.ex = g.dX = g.L = 0;
+    EXPECT_THAT(GeometriaNodo(n, nullptr, false).Mancanze(),
+                testing::ElementsAre("tf", "bf", "ef", "d1", "ex", "d2"));
+    g.L = 65; // d2 follows from it
+    g.ex = 30;
+    EXPECT_NEAR(GeometriaNodo(n, nullptr, false).lato.dX, 35, vicino);
+}
+
+// The upper stiffener lies between the flanges of the column, 200 - 2 15 with 8 mm of play, where its length
+// is not given.
+TEST(GeometriaNodo, LunghezzaDellIrrigidimentoSuperiore) {
+    Nodo n = NodoDisegnato(nodoT, 2, "Si");
+    n.ConnessioneCorrente->Irr_L2 = 1;
+    EXPECT_EQ(GeometriaNodo(n, nullptr, false).lunghezzaSup, 1);
+    n.ConnessioneCorrente->Irr_L2 = 0;
+    EXPECT_NEAR(GeometriaNodo(n, nullptr, false).lunghezzaSup, 162, vicino);
+}
+
 } // namespace

@@ -152,3 +152,23 @@ TEST_F(Traccia, NotaSullIrrigidimentoSottile) {
     ASSERT_NE(Passo(g().Traccia, "Irrigidimenti", "Nota"), nullptr);
     EXPECT_EQ(Valore("Irrigidimenti", "Irr_Spessore"), 10);
 }
+
+// mc = (300 - 11)/2 - 0.8 27 - (300 - 170)/2 - 40 = 17.9: one row on its circle 2 pi mc, the group on two.
+// Two bolts M20 in the row, four in the group.
+TEST_F(Traccia, FilaSingolaEGruppo) {
+    n.EsegueCalcolo();
+    const std::string ala = "Ala della colonna a flessione";
+    EXPECT_NEAR(Valore(ala + ", fila singola", "leff"), 2 * 3.14159265 * 17.9, 1e-4);
+    EXPECT_NEAR(Valore(ala + ", gruppo", "leff"), 4 * 3.14159265 * 17.9, 1e-4);
+    EXPECT_NEAR(Valore(ala + ", fila singola", "Modo 3"), 2 * 141.12, 1e-4);
+    EXPECT_NEAR(Valore(ala + ", gruppo", "Modo 3"), 4 * 141.12, 1e-4);
+    EXPECT_NEAR(Valore(ala, "Ftrd_FilaSup_c"), g().Ftrd_FilaSup_c, 1e-6);
+    g().Irrigidimenti = "Si";
+    n.EsegueCalcolo();
+    EXPECT_NEAR(Valore(ala + ", fila interna", "Modo 3"), 2 * 141.12, 1e-4);
+    EXPECT_NEAR(Valore(ala + ", fila esterna", "Modo 3"), 2 * 141.12, 1e-4);
+    EXPECT_EQ(Passo(g().Traccia, ala + ", gruppo", "leff"), nullptr);
+    // Both lie on their circles, so both flanges of the T resist as the single row did.
+    EXPECT_NEAR(Valore(ala + ", fila interna", "leff"), 2 * 3.14159265 * 17.9, 1e-4);
+    EXPECT_NEAR(Valore(ala + ", fila esterna", "leff"), 2 * 3.14159265 * 17.9, 1e-4);
+}

@@ -376,6 +376,13 @@ TEST_F(FiguraGiuntoTest, ABrokenLimitWithoutDimensionIsToldOverThePicture) {
     EXPECT_THAT(Figura(n, e).Testi(), Contains("d1 12 (min 22)"));
 }
 
+TEST_F(FiguraGiuntoTest, ALimitOfTheOuterRowWithoutItsDistanceIsToldOverThePicture) {
+    Nodo n = NodoDisegnato(nodoT, 2);
+    n.ConnessioneCorrente->dX = n.ConnessioneCorrente->ex = n.ConnessioneCorrente->L = 0;
+    for (const auto& [campo, detto] : {std::pair{"dX", "d2: min 22"}, {"ex", "ex: min 22"}})
+        EXPECT_THAT(Figura(n, {{}, {}, campo, "min 22"}).Testi(), Contains(detto));
+}
+
 TEST_F(FiguraGiuntoTest, WhatGovernsIsHatchedAndOutlinedInRed) {
     const auto rosse = [](const SuperficieFinta& s) {
         return std::count_if(s.linee.begin(), s.linee.end(), [](const auto& l) { return l.colore == 12; });

@@ -446,3 +446,32 @@ TEST_F(NodoProva, ErroreDellaVerificaLasciaIlGiunto) {
     n.Colonnainf = nullptr;
     EXPECT_THROW((void)n.EsegueCalcolo(), ErroreNumerato);
 }
+
+// Up to a tenth of the axial resistance, either way: 1,000 kN.
+TEST(NodoLimiti, AssialeDellaTrave) {
+    Nodo n;
+    n.ImpostaNodo();
+    n.Tipovie = nodoT;
+    n.NumeroGiunti = 1;
+    n.CaratterizzaGiunti();
+    n.TraveDx = IPE300();
+    n.TraveDx->NplRd = 1e6;
+    bool troppo = true;
+    for (const auto& [N, atteso] :
+         {std::pair{100.0, false}, {-100.0, false}, {100.5, true}, {-100.5, true}}) {
+        n.TraveDx->NSd = N;
+        n.ControllaNTravi(troppo);
+        EXPECT_EQ(troppo, atteso) << N;
+    }
+}
+
+TEST(NodoLimiti, LiberaEntrambiIGiunti) {
+    Nodo n;
+    n.ImpostaNodo();
+    for (int i = 1; i <= 2; ++i)
+        n.Giunti[i].Usa()->PuntatoreSezioni(IPE300(), HEB300());
+    const auto destro = n.Giunti[1].Riferimento(), sinistro = n.Giunti[2].Riferimento();
+    n.LiberaOggetti();
+    EXPECT_EQ(destro->Trave, nullptr);
+    EXPECT_EQ(sinistro->Trave, nullptr);
+}

@@ -73,3 +73,12 @@ TEST(RtfInHtml, QualunqueByteDaUnTesto) {
 }
 
 } // namespace
+
+// Nothing beyond the text is read: the second figure of a character stands behind its end.
+TEST(RtfInHtml, FineDentroUnCarattere) {
+    const std::string intero = "{\\rtf1\\ansi a\\'e8";
+    EXPECT_EQ(Senza(HtmlDaRtf(intero)), "<p>aè</p>\n");
+    const std::string_view vista = intero;
+    EXPECT_EQ(Senza(HtmlDaRtf(vista.substr(0, vista.size() - 1))), Senza(HtmlDaRtf("{\\rtf1\\ansi ae}")));
+    EXPECT_EQ(Html("\\'AA\\'aF\\'fA"), "<p>ª¯ú</p>\n");
+}
