@@ -404,6 +404,16 @@ TEST_F(FileGiunti, NodoNonValido) {
     EXPECT_THAT(boxes.testi, testing::ElementsAre("Il file non contiene un nodo valido"));
 }
 
+TEST_F(FileGiunti, SecondoGiuntoNonValido) {
+    Nodo n;
+    Riempie(n);
+    n.Giunti[2]->nf = 3;
+    ASSERT_TRUE(Salva(n));
+    Nodo letto;
+    EXPECT_FALSE(Apre(letto));
+    EXPECT_THAT(boxes.testi, testing::ElementsAre("Il file non contiene un nodo valido"));
+}
+
 TEST_F(FileGiunti, FileDiBulloniDiverse) {
     Nodo n;
     Riempie(n);
