@@ -380,4 +380,27 @@ TEST(GraficaCad, WithoutAProgramNothingHappens) {
     SUCCEED();
 }
 
+TEST_F(GraficaTest, TextsHangDownInATinyScaleToo) {
+    superficie.ScaleHeight = 0.5;
+    TestoPlt(0, 0.25, 0.1, "a", Allinea::Sinistra, Posa::Alto);
+    ASSERT_EQ(superficie.scritte.size(), 1U);
+    EXPECT_NEAR(superficie.scritte[0].y, 0.25 + 0.127, 1e-12);
+}
+
+TEST_F(GraficaTest, AnOutlineBelowAUnitIsHatched) {
+    const std::vector<double> x{0, 0.5, 0.5, 0};
+    const std::vector<double> y{0, 0, 0.5, 0.5};
+    EXPECT_EQ(TratteggioPlt(4, x, y, 0, 2, 8), 2);
+    EXPECT_EQ(TratteggioPlt(4, x, y, 0, -0.25, 8), 2);
+    EXPECT_EQ(superficie.linee.size(), 4U);
+    EXPECT_EQ(TratteggioPlt(3, x, y, 0, 2, 8), 2) << "three points are enough";
+}
+
+TEST_F(GraficaTest, AbscissasAndOrdinatesMustBothSuffice) {
+    const std::vector<double> corta{0, 1, 1};
+    const std::vector<double> lunga{0, 0, 1, 1};
+    EXPECT_EQ(TratteggioPlt(4, corta, lunga, 0, 2, 8), 0);
+    EXPECT_EQ(TratteggioPlt(4, lunga, corta, 0, 2, 8), 0);
+}
+
 } // namespace

@@ -67,4 +67,26 @@ TEST(PagineTesto, LaPaginaZeroRicomincia) {
 
 TEST(PagineTesto, SenzaRigheUnFoglioVuoto) { EXPECT_EQ(Pagine({}).size(), 1U); }
 
+// 90 mm between the margins of a page of 110; a line is 1.1 times 12.7 + 3.2, that is 17.49: 5 find room.
+TEST(PagineTesto, LeRigheHannoIlLoroPasso) {
+    PagineTesto testo(std::vector<std::string>(50, "x"));
+    SuperficieFinta foglio(100, 110);
+    EXPECT_TRUE(testo.Pagina(foglio, 0));
+    ASSERT_EQ(foglio.scritte.size(), 5U);
+    for (std::size_t i = 0; i < 5; ++i)
+        EXPECT_NEAR(foglio.scritte[i].y, 22.7 + 17.49 * static_cast<double>(i), 1e-9) << i;
+}
+
+TEST(PagineTesto, UnCarattereInPiuVaSotto) {
+    EXPECT_THAT(Pagine({"0123456789abcd"}), ElementsAre(ElementsAre("0123456789abc", "d")));
+}
+
+// 3 mm are less than any letter: one at a time, and whole.
+TEST(PagineTesto, SuUnFoglioStrettissimoUnaLetteraAllaVolta) {
+    PagineTesto testo({"èa"});
+    SuperficieFinta foglio(23, 100);
+    EXPECT_FALSE(testo.Pagina(foglio, 0));
+    EXPECT_THAT(foglio.Testi(), ElementsAre("è", "a"));
+}
+
 } // namespace

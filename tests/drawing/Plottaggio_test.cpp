@@ -219,4 +219,46 @@ TEST_F(PlottaggioTest, DefaultsComeBack) {
     EXPECT_EQ(superficie.DrawWidth, 1);
 }
 
+TEST_F(PlottaggioTest, AllCornersOfTheMarker) {
+    Inizia();
+    frame.AdattaAfinestra();
+    frame.PlottaFinestra();
+    const double x[] = {-50, -49.9, -49.9, -50};
+    const double y[] = {0, 0, 0.4, 0.4};
+    ASSERT_EQ(superficie.linee.size(), 4U);
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_NEAR(superficie.linee[i].x1, x[i], 1e-12) << i;
+        EXPECT_NEAR(superficie.linee[i].y1, y[i], 1e-12) << i;
+    }
+}
+
+// As without margins: 100 x 150 at (200, 75).
+TEST_F(PlottaggioTest, MarginsThatLeaveNothingOfAFractionAreNotKept) {
+    Inizia();
+    frame.EstremiFinestra(0.5, 0.25, 0.25, 0.5);
+    frame.Bordi(60, 100, 60, 100);
+    frame.AdattaAfinestra();
+    EXPECT_NEAR(superficie.InX(-50), 212.5, 1e-4);
+    EXPECT_NEAR(superficie.InX(50), 287.5, 1e-4);
+    EXPECT_NEAR(superficie.InY(200), 75, 1e-4);
+    EXPECT_NEAR(superficie.InY(0), 225, 1e-4);
+}
+
+TEST_F(PlottaggioTest, MarginsThatLeaveHalfAUnitAreKept) {
+    Inizia();
+    frame.Bordi(200, 0, 199.5, 0);
+    frame.AdattaAfinestra();
+    EXPECT_NEAR(superficie.InX(-50), 200, 1e-9);
+    EXPECT_NEAR(superficie.InX(50), 200.5, 1e-9);
+}
+
+TEST_F(PlottaggioTest, APointIsShownInTheUnitsOfTheTarget) {
+    Inizia();
+    frame.xFinestraPlt(5, 5);
+    frame.yFinestraPlt(7, 7);
+    frame.AdattaAfinestra();
+    EXPECT_NEAR(superficie.InX(6) - superficie.InX(5), 1, 1e-9);
+    EXPECT_NEAR(superficie.InY(7) - superficie.InY(8), 1, 1e-9) << "y points up";
+}
+
 } // namespace

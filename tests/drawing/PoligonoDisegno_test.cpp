@@ -91,4 +91,20 @@ TEST_F(PoligonoDisegnoTest, DrawsTheRectanglesOfTheStrips) {
     EXPECT_NEAR(superficie.linee[16].y1, 0, 1e-6);
 }
 
+TEST_F(PoligonoDisegnoTest, BothCoordinatesAreMoved) {
+    PoligonoDaTesto("0 0, 10 0, 10 5").NumeraVertici(2, {1, 3});
+    EXPECT_EQ(superficie.scritte[2].x, 11);
+    EXPECT_EQ(superficie.scritte[2].y, 8);
+    Poligono p = PoligonoDaTesto("0 0, 30 0, 30 20, 0 20");
+    p.DiscretizzaPoligono(1);
+    p.PlottaRettangolini({100, 7});
+    const double x[] = {100, 130, 130, 100};
+    const double y[] = {7, 7, 27, 27};
+    ASSERT_EQ(superficie.linee.size(), 4U);
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_NEAR(superficie.linee[i].x1, x[i], 1e-5) << i;
+        EXPECT_NEAR(superficie.linee[i].y1, y[i], 1e-5) << i;
+    }
+}
+
 } // namespace

@@ -123,4 +123,11 @@ TEST_F(QuadroTest, ABeamLiesOnTheMiddleLineOfItsField) {
     EXPECT_EQ(superficie.linee.back().y2, 145);
 }
 
+TEST_F(QuadroTest, AnArrowHeadIsATriangle) {
+    Quadro::Punta({10, 20}, {1, 0}, 6, 2);
+    ASSERT_EQ(superficie.aree.size(), 1U);
+    EXPECT_EQ(superficie.aree[0].fondo, Fondo::Pieno);
+    EXPECT_EQ(superficie.aree[0].punti, (std::vector<std::pair<double, double>>{{10, 20}, {4, 22}, {4, 18}}));
+}
+
 } // namespace

@@ -104,4 +104,41 @@ TEST_F(QuoteTest, CentroidIsACircleWithACross) {
     EXPECT_EQ(superficie.linee.size(), 2U);
 }
 
+// Off the origin: the middle of -20 and 80 is 30.
+TEST_F(QuoteTest, TextStandsAtTheMiddleOfItsWidth) {
+    quote.Orizzontale(-20, 80, 0, -30, "100");
+    EXPECT_NEAR(superficie.scritte[0].x, 30 - 9, 1e-12);
+}
+
+TEST_F(QuoteTest, ADimensionOnThePieceItselfIsReadAboveIt) {
+    quote.Orizzontale(0, 50, 20, 20, "50");
+    EXPECT_TRUE(Grigia(0, 24, 0, 25));
+    EXPECT_NEAR(superficie.scritte[0].y, 24, 1e-12);
+}
+
+// The name stands a height beyond the first end, in the direction of the axis.
+TEST_F(QuoteTest, AnUprightAxisHasItsNameOnTop) {
+    quote.Asse(7, 100, 7, -100, "z");
+    EXPECT_NEAR(superficie.scritte[0].x, 7 - 3, 1e-12);
+    EXPECT_NEAR(superficie.scritte[0].y, 110 - 5, 1e-12);
+    quote.Asse(0, 0, -0.5, 0, "y");
+    ASSERT_EQ(superficie.scritte.size(), 2U) << "however short";
+    EXPECT_NEAR(superficie.scritte[1].x, 10 - 3, 1e-12);
+}
+
+// Arms of two radii of 3.5.
+TEST_F(QuoteTest, ArmsOfACentroidsCross) {
+    quote.Baricentro(5, 6);
+    const auto& l = superficie.linee;
+    ASSERT_EQ(l.size(), 2U);
+    EXPECT_NEAR(l[0].x1, -2, 1e-12);
+    EXPECT_NEAR(l[0].x2, 12, 1e-12);
+    EXPECT_EQ(l[0].y1, 6);
+    EXPECT_EQ(l[0].y2, 6);
+    EXPECT_EQ(l[1].x1, 5);
+    EXPECT_EQ(l[1].x2, 5);
+    EXPECT_NEAR(l[1].y1, -1, 1e-12);
+    EXPECT_NEAR(l[1].y2, 13, 1e-12);
+}
+
 } // namespace

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cmath>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "drawing/Grafica.h"
@@ -21,6 +23,10 @@ public:
     struct Cerchio {
         double x, y, r;
         std::int16_t colore;
+    };
+    struct Area {
+        std::vector<std::pair<double, double>> punti;
+        Fondo fondo;
     };
     struct Scritta {
         double x, y;    ///< user scale
@@ -52,6 +58,11 @@ public:
         linee.push_back({x1, y1, x2, y2, ForeColor, DrawWidth, DrawStyle});
     }
     void Circle(double x, double y, double r) override { cerchi.push_back({x, y, r, ForeColor}); }
+    void Fill(std::span<const double> x, std::span<const double> y, Fondo fondo) override {
+        aree.push_back({{}, fondo});
+        for (std::size_t i = 0; i < x.size(); ++i)
+            aree.back().punti.emplace_back(x[i], y[i]);
+    }
     void Print(std::string_view testo) override {
         scritte.push_back(
             {CurrentX, CurrentY, TextHeight(testo), FontSize, std::string(testo), FontName, ForeColor});
@@ -77,6 +88,7 @@ public:
     static constexpr double corpoProprio = 10;
     std::vector<Linea> linee;
     std::vector<Cerchio> cerchi;
+    std::vector<Area> aree;
     std::vector<Scritta> scritte;
 
 private:

@@ -69,4 +69,17 @@ TEST_F(SuperficieSvgTest, ADrawingIsNotFittedToIt) {
     EXPECT_EQ(SuperficieInForza(), &svg);
 }
 
+// A circle of 5: a line is 5/500, 1.4 of them are the border.
+TEST_F(SuperficieSvgTest, ACircleIsInsideThePicture) {
+    CerchioPlt(5, 5, 2.5);
+    EXPECT_TRUE(Contiene("viewBox=\"2.486 -7.514 5.028 5.028\"")) << svg.Documento();
+}
+
+// Two letters of 0.85 · 7.3 about x = 3, from 7.3 above y = 4 to 0.3 of that below; a line is 0.73, the
+// border 1.022.
+TEST_F(SuperficieSvgTest, ATextIsInsideThePicture) {
+    TestoPlt(3, 4, 7.3, "ab", Allinea::Centro);
+    EXPECT_TRUE(Contiene("viewBox=\"-4.227 -12.322 14.454 11.534\"")) << svg.Documento();
+}
+
 } // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 using namespace sagomi;
 
 namespace {
@@ -23,6 +25,18 @@ TEST(ColoreTabella, SixteenColours) {
         EXPECT_EQ(colore.verde, c.g) << c.numero;
         EXPECT_EQ(colore.blu, c.b) << c.numero;
     }
+}
+
+// In widths of the line: dashes and gaps in turn.
+TEST(TrattiDi, LineTypes) {
+    const auto lista = [](TipoLinea tipo) {
+        const auto tratti = TrattiDi(tipo);
+        return std::vector<double>(tratti.begin(), tratti.end());
+    };
+    EXPECT_EQ(lista(TipoLinea::TrattoPunto), (std::vector<double>{12, 3, 2, 3}));
+    EXPECT_EQ(lista(TipoLinea::Tratteggiata), (std::vector<double>{6, 4}));
+    EXPECT_EQ(lista(TipoLinea::TrattoPuntoCorto), (std::vector<double>{8, 2, 2, 2}));
+    EXPECT_TRUE(lista(TipoLinea::Continua).empty());
 }
 
 } // namespace

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <iterator>
+
 #include "Registratore.h"
 #include "drawing/SuperficieFinta.h"
 
@@ -99,6 +102,52 @@ TEST_F(TavolaDisegnoTest, ATinyTargetStillShowsThePiece) {
     const TavolaDisegno t(&s, "VIDEO", piatto, m);
     EXPECT_GT(t.AltezzaTesto(), 0);
     EXPECT_TRUE(std::isfinite(s.InX(50)));
+}
+
+// ISO 5455 and the building trade.
+TEST_F(TavolaDisegnoTest, EachScaleInUseHoldsUpToItself) {
+    const double scale[] = {0.1, 0.2, 0.5, 1, 2, 2.5, 5, 10, 20, 25, 50, 100, 200, 250, 500, 1000};
+    for (std::size_t i = 0; i < std::size(scale); ++i) {
+        EXPECT_EQ(ScalaInUso(scale[i]), scale[i]);
+        EXPECT_EQ(ScalaInUso(scale[i] * 1.001), i + 1 < std::size(scale) ? scale[i + 1] : 0) << scale[i];
+    }
+    EXPECT_EQ(ScalaScritta(1.25), "1:1.25");
+}
+
+// Margins of 70 x 22.5 mm leave nothing of a width of 30, which counts as a tenth, 3, and 7.5 of the height.
+TEST_F(TavolaDisegnoTest, WhatMarginsLeaveIsATenthAtLeast) {
+    const std::array<Margini, 1> m{Margini{8, 4, 20, 5}};
+    SuperficieFinta s(30, 30);
+    EXPECT_EQ(TavolaDisegno(&s, "STAMPANTE", {0, 150, 0, 10}, m).Scala(), "1:50") << "150 in 3";
+    EXPECT_EQ(TavolaDisegno(&s, "STAMPANTE", {0, 10, 0, 375}, m).Scala(), "1:50") << "375 in 7.5";
+}
+
+// 200 high, from 100 to 300, on a target of 300: 1.5 a unit.
+TEST_F(TavolaDisegnoTest, APieceOffTheOriginIsMeasuredByItsExtent) {
+    SuperficieFinta s(400, 300);
+    const TavolaDisegno t(&s, "VIDEO", {100, 200, 100, 300}, senza);
+    EXPECT_NEAR(s.InY(300), 0, 1e-9);
+    EXPECT_NEAR(s.InY(100), 300, 1e-9);
+    EXPECT_NEAR(s.InX(150), 200, 1e-9);
+}
+
+TEST_F(TavolaDisegnoTest, TextsOfAFileFollowTheLongerSide) {
+    EXPECT_NEAR(TavolaDisegno(nullptr, "DXF", {100, 400, 0, 100}, senza).AltezzaTesto(), 300.0 / 40, 1e-6);
+    SuperficieFinta s(400, 300);
+    const TavolaDisegno t(&s, "DXF", piatto, senza);
+    EXPECT_NEAR(t.AltezzaTesto(), 5, 1e-6);
+    EXPECT_EQ(s.ScaleMode, Superficie::scalaPropria) << "the target is not touched";
+    EXPECT_NEAR(TavolaDisegno(nullptr, "VIDEO", piatto, senza).AltezzaTesto(), 5, 1e-6) << "without a target";
+}
+
+// A font that has no size cannot be brought to 2.5 mm.
+TEST_F(TavolaDisegnoTest, AFontWithoutHeightKeepsItsSize) {
+    struct SenzaAltezza : SuperficieFinta {
+        using SuperficieFinta::SuperficieFinta;
+        [[nodiscard]] double TextHeight(std::string_view /*testo*/) const override { return 0; }
+    } s(190, 277);
+    const TavolaDisegno t(&s, "STAMPANTE", piatto, senza);
+    EXPECT_EQ(s.FontSize, SuperficieFinta::corpoProprio);
 }
 
 } // namespace

@@ -99,4 +99,79 @@ TEST_F(TavolaVisteTest, ScalesInUse) {
     EXPECT_EQ(ScalaScritta(0), "");
 }
 
+TEST_F(TavolaVisteTest, ViewsStandInTheMiddleOfThePaper) {
+    SuperficieFinta s(100, 60);
+    TavolaViste t(&s, dispositivoStampante, carattereStampa);
+    t.Dispone(std::array<DisposizioneViste, 1>{{{{{400, 0}}, {{100, 0}}}}});
+    EXPECT_EQ(t.Scala(), "1:5");
+    EXPECT_NEAR(s.InX(200), 50, 1e-6);
+    EXPECT_NEAR(s.InY(50), 30, 1e-6);
+    EXPECT_NEAR(s.InX(0), 10, 1e-6);
+    EXPECT_NEAR(s.InY(0), 40, 1e-6);
+}
+
+// 10 mm on 100 of paper are drawn ten times as large; a kilometre has no scale and is fitted.
+TEST_F(TavolaVisteTest, PaperEnlargesWhatIsSmallAndFitsWhatIsBeyondAllScales) {
+    SuperficieFinta s(100, 100);
+    TavolaViste piccola(&s, dispositivoStampante, carattereStampa);
+    piccola.Dispone(std::array<DisposizioneViste, 1>{{{{{10, 0}}, {{5, 0}}}}});
+    EXPECT_EQ(piccola.Scala(), "10:1");
+    TavolaViste grande(&s, dispositivoStampante, carattereStampa);
+    grande.Dispone(std::array<DisposizioneViste, 1>{{{{{1e6, 0}}, {{10, 0}}}}});
+    EXPECT_EQ(grande.Scala(), "");
+    EXPECT_NEAR(s.InX(1e6) - s.InX(0), 100, 1e-6);
+}
+
+// 60 heights are 150 mm at 2.5 and 108 at 1.8: too much for 100 mm, of which texts then take 72, 1.2 each.
+TEST_F(TavolaVisteTest, TextsThatFindNoRoomOnPaperBecomeSmaller) {
+    SuperficieFinta s(100, 100);
+    TavolaViste t(&s, dispositivoStampante, carattereStampa);
+    t.Dispone(std::array<DisposizioneViste, 1>{{{{{10, 60}}, {{10, 0}}}}});
+    EXPECT_EQ(t.Scala(), "");
+    EXPECT_NEAR(s.InX(10) - s.InX(0), 28, 1e-6);
+    EXPECT_NEAR(t.AltezzaTesto() * 28 / 10, 1.2, 1e-6);
+}
+
+// On the screen half the texts count a quarter: views twice as large do not make up for it, ten times
+// do. 14.4 heights of 10 in 100 pixels are halved and leave 28.
+TEST_F(TavolaVisteTest, SmallTextsCountBySquares) {
+    for (const double modello : {14.0, 2.8}) {
+        SuperficieFinta s(100, 1000);
+        TavolaViste t(&s, dispositivoVideo, "");
+        t.Dispone(std::array<DisposizioneViste, 2>{{{{{modello, 14.4}}, {{1, 0}}}, {{{100, 0}}, {{1, 0}}}}});
+        EXPECT_EQ(t.Scelta(), modello == 14 ? 1U : 0U);
+    }
+}
+
+TEST_F(TavolaVisteTest, ViewsWithoutHeightAreLaidOutByTheirWidth) {
+    SuperficieFinta s(400, 300);
+    TavolaViste t(&s, dispositivoVideo, "");
+    t.Dispone(std::array<DisposizioneViste, 1>{{{{{200, 0}}, {{0, 5}}}}});
+    EXPECT_NEAR(s.InX(200) - s.InX(0), 400, 1e-6);
+}
+
+// As at 1:1 where the sheet of 190 mm would take more.
+TEST_F(TavolaVisteTest, FilesNeverHaveTextsBelowThoseOfPaper) {
+    const SuUscita uscita(nullptr, dispositivoDxf);
+    for (const double mm : {10.0, 100.0, 190.0}) {
+        TavolaViste t(nullptr, dispositivoDxf, carattereStampa);
+        t.Dispone(std::array<DisposizioneViste, 1>{{{{{mm, 0}}, {{5, 0}}}}});
+        EXPECT_NEAR(t.AltezzaTesto(), 2.5, 1e-6) << mm;
+    }
+}
+
+TEST_F(TavolaVisteTest, TextsAreMeasuredOnTheTargetWhereThereIsOne) {
+    SuperficieFinta s(400, 300);
+    EXPECT_NEAR(TavolaViste(&s, dispositivoVideo, "").InAltezze("abc"), 1.8, 1e-9) << "3 of 6 over 10";
+    EXPECT_NEAR(TavolaViste(nullptr, dispositivoVideo, "").InAltezze("abc"), 3 * 0.85, 1e-9) << "estimated";
+    s.FontName = "mine";
+    EXPECT_NEAR(TavolaViste(&s, dispositivoDxf, carattereStampa).InAltezze("abc"), 3 * 0.85, 1e-9);
+    EXPECT_EQ(s.FontName, "mine") << "a file does not touch the target";
+    struct SenzaAltezza : SuperficieFinta {
+        using SuperficieFinta::SuperficieFinta;
+        [[nodiscard]] double TextHeight(std::string_view /*testo*/) const override { return 0; }
+    } vuota(100, 100);
+    EXPECT_EQ(TavolaViste(&vuota, dispositivoVideo, "").InAltezze("abc"), 0);
+}
+
 } // namespace

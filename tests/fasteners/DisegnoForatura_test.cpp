@@ -16,19 +16,6 @@ namespace {
 
 constexpr ForaturaDisegnata foratura{20, 22, 45, 70, 35, 60};
 
-/// Writes the filled areas down too.
-class ConAree : public SuperficieFinta {
-public:
-    using SuperficieFinta::SuperficieFinta;
-    void Fill(std::span<const double> x, std::span<const double> y, Fondo fondo) override {
-        if (fondo != Fondo::Tenue)
-            return;
-        for (std::size_t i = 0; i < x.size(); ++i)
-            piastra.emplace_back(x[i], y[i]);
-    }
-    std::vector<std::pair<double, double>> piastra;
-};
-
 /// What was drawn, measured against the distances it is drawn from: the holes give scale and place.
 class DisegnoForaturaTest : public testing::Test {
 protected:
@@ -36,7 +23,7 @@ protected:
         superficie.linee.clear();
         superficie.scritte.clear();
         superficie.cerchi.clear();
-        superficie.piastra.clear();
+        superficie.aree.clear();
         DisegnoForatura(f).PlottaInOggetto(&superficie, "frmBulloni");
     }
     /// Height of a line of text.
@@ -77,7 +64,7 @@ protected:
         return {};
     }
 
-    ConAree superficie{400, 300};
+    SuperficieFinta superficie{400, 300};
     SuUscita uscita{&superficie};
     double x1 = 0, x2 = 0; ///< centres of the holes
     double y1 = 0, y2 = 0; ///< below, above
@@ -141,7 +128,7 @@ TEST_F(DisegnoForaturaTest, BrokenSideSwingsByATenthOfALine) {
     Misura(foratura);
     const double rotto = x1 - 28 * scala;
     double oltre = 0;
-    for (const auto& [x, y] : superficie.piastra)
+    for (const auto& [x, y] : superficie.aree.at(0).punti)
         if (x < x1)
             oltre = std::max(oltre, x - rotto);
     EXPECT_NEAR(oltre, std::sqrt(3) / 6 * 0.35 * Riga(), 1e-3 * Riga());
@@ -151,14 +138,15 @@ TEST_F(DisegnoForaturaTest, BrokenSideSwingsByATenthOfALine) {
 TEST_F(DisegnoForaturaTest, PlateIsFilledUpToItsBrokenSide) {
     Disegna(foratura);
     Misura(foratura);
-    ASSERT_EQ(superficie.piastra.size(), 27U);
+    ASSERT_EQ(superficie.aree.at(0).punti.size(), 27U);
     for (std::size_t i = 4; i + 1 < 27; ++i) {
-        const auto& [xa, ya] = superficie.piastra[i];
-        const auto& [xb, yb] = superficie.piastra[i + 1];
+        const auto& [xa, ya] = superficie.aree.at(0).punti[i];
+        const auto& [xb, yb] = superficie.aree.at(0).punti[i + 1];
         EXPECT_TRUE(HaLinea(xa, ya, xb, yb)) << i;
     }
     const double alto = y2 - 35 * scala;
-    EXPECT_TRUE(HaLinea(x1 - 28 * scala, alto, superficie.piastra[4].first, superficie.piastra[4].second));
+    EXPECT_TRUE(HaLinea(x1 - 28 * scala, alto, superficie.aree.at(0).punti[4].first,
+                        superficie.aree.at(0).punti[4].second));
 }
 
 TEST_F(DisegnoForaturaTest, LoadRunsHalfWayBetweenTheRowsUpToItsHead) {
