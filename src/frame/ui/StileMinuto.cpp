@@ -44,20 +44,6 @@ QSize StileMinuto::sizeFromContents(ContentsType tipo, const QStyleOption* opzio
     return size;
 }
 
-// The frame begins under the title, where the contents do.
-void StileMinuto::drawPrimitive(PrimitiveElement elemento, const QStyleOption* opzioni, QPainter* pittore,
-                                const QWidget* widget) const {
-    const int spare = elemento == PE_FrameGroupBox ? Avanzo(widget) : 0;
-    if (spare == 0 || opzioni == nullptr || !baseStyle()->inherits("QFusionStyle")) {
-        StileCornici::drawPrimitive(elemento, opzioni, pittore, widget);
-        return;
-    }
-    QStyleOption frame = *opzioni;
-    frame.type = QStyleOption::SO_Default; // what it is a copy of
-    frame.rect.adjust(0, -spare, 0, 0);
-    StileCornici::drawPrimitive(elemento, &frame, pittore, widget);
-}
-
 // It is the same for all bars: without option and widget, which may be gone by then.
 QIcon StileMinuto::standardIcon(StandardPixmap quale, const QStyleOption* opzioni,
                                 const QWidget* widget) const {

@@ -16,8 +16,6 @@ public:
     int pixelMetric(PixelMetric metrica, const QStyleOption* opzioni, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType tipo, const QStyleOption* opzioni, const QSize& contenuto,
                            const QWidget* widget) const override;
-    void drawPrimitive(PrimitiveElement elemento, const QStyleOption* opzioni, QPainter* pittore,
-                       const QWidget* widget) const override;
     /// The mark of a menu bar that has no room is read when such a bar is painted.
     QIcon standardIcon(StandardPixmap quale, const QStyleOption* opzioni,
                        const QWidget* widget) const override;

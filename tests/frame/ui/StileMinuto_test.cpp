@@ -2,6 +2,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
+#include <QImage>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -48,6 +50,26 @@ TEST_F(StileMinutoTest, SmallTextsHaveSmallControls) {
     EXPECT_GE(steps->sizeHint().height(), line);
     const auto box = Controllo<QLineEdit>(6);
     EXPECT_EQ(box->sizeHint().height(), Solita(*box).height() - 2);
+}
+
+/// The row in which the frame of a group begins [px].
+int CimaCornice(QGroupBox& group) {
+    group.setTitle(QStringLiteral("N"));
+    group.resize(200, 80);
+    QImage image(group.size(), QImage::Format_RGB32);
+    group.render(&image);
+    int y = 0;
+    while (y < image.height() && image.pixel(150, y) == image.pixel(150, 0))
+        ++y;
+    return y;
+}
+
+// The title, and three pixels to its frame: with small texts, too.
+TEST_F(StileMinutoTest, TheFrameOfAGroupBeginsUnderItsTitle) {
+    const auto small = Controllo<QGroupBox>(6);
+    EXPECT_EQ(CimaCornice(*small), small->fontMetrics().height() + 3);
+    const auto usual = Controllo<QGroupBox>(16);
+    EXPECT_EQ(CimaCornice(*usual), usual->fontMetrics().height() + 3);
 }
 
 TEST_F(StileMinutoTest, TextsOfAUsualSizeChangeNothing) {
