@@ -12,9 +12,12 @@
 #include <QRadioButton>
 #include <QTabWidget>
 
+#include <optional>
+
 #include "frame/Numeri.h"
 #include "frame/ui/FileDialogo.h"
 #include "frame/ui/NavigaSchermi.h"
+#include "report/ui/ComandoRelazione.h"
 #include "screens/SchermoSezione.h"
 
 namespace sagomi {
@@ -61,19 +64,36 @@ EsecutoreTutorial::EsecutoreTutorial(QString cartella) : cartella_(std::move(car
     ImpostaSceltaFile([this](QWidget*, std::string_view, const QString&, int, const QString&) {
         return file_.isEmpty() ? QString() : QDir(cartella_).filePath(file_);
     });
+    ImpostaChiedeRelazione([this](QWidget*, const QString&) {
+        return progetto_.isEmpty() ? std::nullopt
+                                   : std::optional(SceltaRelazione{MetaRelazione::Pdf, progetto_});
+    });
 }
 
 EsecutoreTutorial::~EsecutoreTutorial() {
+    ImpostaChiedeRelazione({});
     ImpostaSceltaFile({});
     CollegaMessaggi(precedente_);
 }
 
 void EsecutoreTutorial::Esegue(const QList<PassoTutorial>& passi) {
     for (qsizetype i = 0; i < passi.size(); ++i) {
-        const bool asks = i + 1 < passi.size() && passi[i + 1].verbo == u"file";
-        file_ = asks ? passi[i + 1].testo : QString();
+        PreparaRisposte(passi, i + 1);
         Esegue(passi[i]);
     }
+}
+
+/// What the questions of a step are answered stands right behind it.
+void EsecutoreTutorial::PreparaRisposte(const QList<PassoTutorial>& passi, qsizetype seguente) {
+    file_.clear();
+    progetto_.clear();
+    for (; seguente < passi.size(); ++seguente)
+        if (passi[seguente].verbo == u"progetto")
+            progetto_ = passi[seguente].testo;
+        else if (passi[seguente].verbo == u"file")
+            file_ = passi[seguente].testo;
+        else
+            return;
 }
 
 void EsecutoreTutorial::Esegue(const PassoTutorial& p) {
@@ -83,6 +103,8 @@ void EsecutoreTutorial::Esegue(const PassoTutorial& p) {
         return;
     }
     NullaDaDire(p);
+    if (p.verbo == u"progetto" || p.verbo == u"riporta")
+        return;
     if (p.verbo == u"file") {
         if (QFileInfo(QDir(cartella_).filePath(p.testo)).size() == 0)
             Sbaglia(p, QStringLiteral("no such file has been written"));

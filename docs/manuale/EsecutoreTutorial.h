@@ -32,6 +32,7 @@ public:
     [[nodiscard]] const QStringList& Errori() const { return errori_; }
 
 private:
+    void PreparaRisposte(const QList<PassoTutorial>& passi, qsizetype seguente);
     void Esegue(const PassoTutorial& p);
     void Agisce(const PassoTutorial& p);
     void Preme(const PassoTutorial& p);
@@ -43,7 +44,8 @@ private:
     Schermo* SchermoDi(const PassoTutorial& p);
 
     QString cartella_;
-    QString file_; ///< to be chosen in the next dialog
+    QString file_;     ///< to be chosen in the next dialog
+    QString progetto_; ///< to be given to the next report
     QStringList detti_, errori_;
     PortaMessaggi precedente_;
     int foto_ = 0;

@@ -11,7 +11,7 @@ const QRegularExpression& Elemento() {
     static const QRegularExpression element(
         QStringLiteral(
             R"re(<(\w+)[^>]*?\sdata-(sagomo|scrive|sceglie|spunta|toglie|preme|menu|legge|messaggio|)re"
-            R"re(file|chiude|foto)="([^"]*)"[^>]*>(.*?)</\1>)re"),
+            R"re(progetto|file|riporta|chiude|foto)="([^"]*)"[^>]*>(.*?)</\1>)re"),
         QRegularExpression::DotMatchesEverythingOption);
     return element;
 }

@@ -14,7 +14,9 @@ namespace sagomi {
 ///   preme     presses the button TEXT, menu triggers the entry TEXT
 ///   legge     the control shows TEXT
 ///   messaggio the program has told TEXT
+///   progetto  the project TEXT is given to the question of the step before, whose answer is a PDF
 ///   file      the file TEXT is chosen in the dialog of the step before, and is there then
+///   riporta   the PDF file named instead of a screen tells TEXT; left to who can read it
 ///   chiude    closes SCREEN
 ///   foto      a picture of SCREEN is to stand here; TEXT is empty
 struct PassoTutorial {

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QSet>
 
+#include "TestoPdf.h"
 #include "frame/ui/IndiceGuida.h"
 #include "screens/Ambiente.h"
 
@@ -23,6 +24,22 @@ protected:
         reader.Esegue(PassiTutorial(text));
         return reader.Errori();
     }
+    /// What the text reads in the report of the joint stands there.
+    void ControllaRelazione(const QList<PassoTutorial>& steps) {
+        const std::string pdf = TestoPdf(cartella.filePath(QStringLiteral("giunto.pdf")).toStdString());
+        for (const char* word : {"Soppalco di via Roma", "Portale del soppalco", "HEB 200", "IPE 360"})
+            EXPECT_NE(pdf.find(word), std::string::npos) << word;
+        int figures = 0;
+        for (const PassoTutorial& p : steps)
+            if (p.verbo == u"riporta") {
+                const std::string text = QString(p.testo).replace(u',', u'.').toStdString();
+                EXPECT_TRUE(pdf.find(text) != std::string::npos ||
+                            pdf.find(Locale(text)) != std::string::npos)
+                    << p.riga << ": " << text;
+                ++figures;
+            }
+        EXPECT_GE(figures, 4);
+    }
 };
 
 QList<PassoTutorial> DelVerbo(const QList<PassoTutorial>& steps, const char* verb) {
@@ -38,13 +55,15 @@ TEST_F(TutorialTest, ReaderGetsItsFigures) {
     Avvia();
     const QStringList errors = Segue(LeggeGuida(QStringLiteral("Sagomi.hlp")));
     EXPECT_TRUE(errors.isEmpty()) << errors.join(u'\n').toStdString();
-    for (const char* file : {"solaio.Sco", "giunto.dxf", "giunto.txt", "portale.Gfl"})
+    for (const char* file : {"solaio.Sco", "giunto.dxf", "giunto.txt", "giunto.pdf", "portale.Gfl"})
         EXPECT_TRUE(QFile::exists(cartella.filePath(QLatin1String(file)))) << file;
     QFile report(cartella.filePath(QStringLiteral("giunto.txt")));
     ASSERT_TRUE(report.open(QIODevice::ReadOnly));
     const QByteArray text = report.readAll();
     for (const char* word : {"Portale del soppalco", "IPE 360", "HEB 200"})
         EXPECT_TRUE(text.contains(word)) << word;
+    if (ConLettorePdf())
+        ControllaRelazione(PassiTutorial(LeggeGuida(QStringLiteral("Sagomi.hlp"))));
 }
 
 // From the column to the report: what is promised is there.
