@@ -14,6 +14,7 @@ TEST(Acciaio, AnOvertypedStrengthBelongsToTheNameOfTheGrade) {
     RipristinaGenerale();
     EXPECT_EQ(AcciaioMostrato("S235 (Fe360)", 235), "S235 (Fe360)");
     EXPECT_EQ(AcciaioMostrato("S235 (Fe360)", 460), "S235 (Fe360), fy 460");
+    EXPECT_EQ(AcciaioMostrato("S235 (Fe360)", 0.5), "S235 (Fe360), fy 0.5");
     EXPECT_EQ(AcciaioMostrato("S355 (Fe510)", 235.5), "S355 (Fe510), fy 235.5");
     EXPECT_EQ(AcciaioMostrato("S355 (Fe510)", 355), "S355 (Fe510)");
 }

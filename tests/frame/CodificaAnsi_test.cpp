@@ -45,4 +45,9 @@ TEST(CodificaAnsi, WhatIsNoUtf8BecomesAQuestionMark) {
     EXPECT_EQ(AnsiDaUtf8("\x80"), "?");
 }
 
+TEST(CodificaAnsi, ATextEndsWhereItSaysItDoes) {
+    EXPECT_EQ(AnsiDaUtf8(std::string_view("à").substr(0, 1)), "?");
+    EXPECT_EQ(AnsiDaUtf8(std::string_view("€").substr(0, 2)), "??");
+}
+
 } // namespace

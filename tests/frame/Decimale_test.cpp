@@ -17,6 +17,7 @@ TEST(Decimale, HoldsTheFewestDigitsOfEachWidth) {
     EXPECT_EQ(TestoPosizionale(CifreMinime(-12.5), ","), "-12,5");
     EXPECT_EQ(TestoPosizionale(CifreMinime(0.), "."), "0");
     EXPECT_EQ(TestoPosizionale(CifreMinime(-0.), "."), "0");
+    EXPECT_EQ(CifreMinime(0.).punto, 0);
 }
 
 TEST(Decimale, WritesPowersOfTen) {

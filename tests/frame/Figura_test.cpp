@@ -39,4 +39,25 @@ TEST(Figura, DrawsWithTheSeparatorsGiven) {
     EXPECT_EQ(Disegna(Figura("nulla"), d, ".", ","), "nulla");
 }
 
+TEST(Figura, BeginsAtASeparatorOnlyBeforeADigitMark) {
+    EXPECT_EQ(Figura(".0").prefisso, "");
+    EXPECT_EQ(Figura(".0").decimali, 1);
+    EXPECT_EQ(Figura(".x0").prefisso, ".x");
+    EXPECT_EQ(Figura(".x0").interi, 1);
+}
+
+TEST(Figura, TextMayFollowAPowerOfTen) {
+    const Figura f("0.0E+00 kN");
+    EXPECT_EQ(f.cifreEsponente, 2);
+    EXPECT_EQ(f.suffisso, " kN");
+}
+
+TEST(Figura, EndsWhereItsTextEnds) {
+    constexpr std::string_view tutta = "00.00E+00";
+    EXPECT_EQ(Figura(tutta.substr(0, 1)).interi, 1);
+    EXPECT_FALSE(Figura(tutta.substr(0, 2)).separatore);
+    EXPECT_EQ(Figura(tutta.substr(0, 4)).decimali, 1);
+    EXPECT_EQ(Figura(tutta.substr(0, 8)).cifreEsponente, 1);
+}
+
 } // namespace

@@ -7,6 +7,7 @@
 
 #include "Ambiente.h"
 #include "Guasti.h"
+#include "frame/Disco.h"
 
 using namespace sagomi;
 using prove::DiscoPieno;
@@ -148,6 +149,58 @@ TEST_F(FileAtomicoTest, TheLastWordIsAskedBeforeTheOldFileGoes) {
     EXPECT_EQ(cartella.Voci(), 1);
     EXPECT_TRUE(ScriveAtomico(percorso, "nuovo", [] { return true; }));
     EXPECT_EQ(LeggeByte(percorso), "nuovo");
+}
+
+/// Writes down what a save asks of it; its files have the number 0, as after the standard input was closed.
+class DiscoFinto : public Disco {
+public:
+    DiscoFinto() { CollegaDisco(this); }
+    ~DiscoFinto() override { CollegaDisco(nullptr); }
+    int CreaTemporaneo(std::string& /*modello*/) override { return 0; }
+    void Permette(int /*fd*/, mode_t /*diritti*/) override {}
+    bool Scrive(int fd, std::string_view byte) override { return Segna("scrive", fd, byte); }
+    bool Svuota(int fd) override { return Segna("svuota", fd); }
+    bool Chiude(int fd) override { return Segna("chiude", fd); }
+    bool Rinomina(const std::string& da, const fs::path& a) override {
+        passi.push_back("rinomina " + fs::path(da).filename().string() + " " + a.filename().string());
+        return true;
+    }
+    void SvuotaCartella(const fs::path& /*cartella*/) override {}
+    void Toglie(const std::string& file) override {
+        passi.push_back("toglie " + fs::path(file).filename().string());
+    }
+    std::vector<std::string> passi;
+
+private:
+    bool Segna(const char* passo, int fd, std::string_view byte = {}) {
+        passi.push_back(passo + std::string(" ") + std::to_string(fd) + std::string(byte));
+        return true;
+    }
+};
+
+TEST_F(FileAtomicoTest, AFileOfTheNumberZeroIsOneLikeAnyOther) {
+    DiscoFinto disco;
+    EXPECT_TRUE(ScriveAtomico(percorso, "testo"));
+    EXPECT_EQ(disco.passi, (std::vector<std::string>{"scrive 0testo", "svuota 0", "chiude 0",
+                                                     "rinomina .dati.txt.XXXXXX dati.txt"}));
+    disco.passi.clear();
+    {
+        FileAtomico file;
+        EXPECT_TRUE(file.Apre(percorso));
+    }
+    EXPECT_EQ(disco.passi, (std::vector<std::string>{"chiude 0", "toglie .dati.txt.XXXXXX"}));
+}
+
+// 40 links are followed, as the system does.
+TEST_F(FileAtomicoTest, AChainOfLinksHasAnEnd) {
+    const auto legame = [this](int i) { return cartella.percorso / ("legame" + std::to_string(i)); };
+    fs::create_symlink(percorso, legame(1));
+    for (int i = 2; i <= 41; ++i)
+        fs::create_symlink(legame(i - 1), legame(i));
+    EXPECT_FALSE(ScriveAtomico(legame(41), "testo"));
+    EXPECT_FALSE(fs::exists(percorso));
+    EXPECT_TRUE(ScriveAtomico(legame(40), "testo"));
+    EXPECT_EQ(LeggeByte(percorso), "testo");
 }
 
 } // namespace

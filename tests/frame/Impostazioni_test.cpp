@@ -198,6 +198,7 @@ INSTANTIATE_TEST_SUITE_P(File, GuastiTest, testing::Values(
     CasoGuasto{"EmptyLine",     "\r\n"},
     CasoGuasto{"Letters",       "tre\r\n" + acciai},
     CasoGuasto{"OldFraction",   "\"3x\"\r\n" + acciai},
+    CasoGuasto{"OldNumberAndLetter", "\"3x\"\r\n" + acciai + "2\r\n" + bulloni + "5\r\n" + cemento},
     CasoGuasto{"OldTooMany",    "70000\r\n" + acciai},
     CasoGuasto{"NoGrades",      "\"0\",\"7.8\"\r\n0\r\n0\r\n" + bulloni + "0\r\n" + cemento + "0\r\n1,1,1\r\n"},
     CasoGuasto{"NegativeGrades", "\"3\",\"7.8\"\r\n-3\r\n" + acciai},
@@ -406,6 +407,14 @@ TEST_F(ImpostazioniTest, AnotherModeDoesNothing) {
     EXPECT_EQ(fck, 1);
     EXPECT_TRUE(r.testi.empty());
     EXPECT_EQ(cartella.Voci(), 0);
+}
+
+TEST_F(ImpostazioniTest, OneGradeIsEnough) {
+    ASSERT_TRUE(Legge("\"1\",\"7.8\"\r\n1\r\n\"S235\"\r\n235\r\n360\r\n0\r\n" + bulloni + "0\r\n" + cemento +
+                      "0\r\n1,1,1\r\n"));
+    EXPECT_EQ(NumAcciai, 1);
+    EXPECT_EQ(NomeAcciaio[1], "S235");
+    EXPECT_EQ(fuAcciaio[1], 360);
 }
 
 } // namespace

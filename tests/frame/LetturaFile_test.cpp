@@ -1,12 +1,16 @@
 #include "frame/LetturaFile.h"
 
+#include <fcntl.h>
 #include <stdexcept>
 #include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "Ambiente.h"
+#include "frame/Disco.h"
 
 using namespace sagomi;
 using testing::ElementsAre;
@@ -58,6 +62,43 @@ TEST_F(LeggeFileTest, AnotherFileInItsPlaceHasAnotherState) {
     std::filesystem::last_write_time(dir.percorso / "nuovo", std::filesystem::last_write_time(file));
     std::filesystem::rename(dir.percorso / "nuovo", file);
     EXPECT_NE(ImprontaDi(file), prima);
+}
+
+// The system says 4096 and gives less.
+TEST_F(LeggeFileTest, AFileThatEndsEarlyIsWhatItGives) {
+    file = "/sys/devices/system/cpu/online";
+    std::error_code errore;
+    if (std::filesystem::file_size(file, errore) != 4096 || errore)
+        GTEST_SKIP() << "no such file here";
+    const FileLetto letto = LeggeFile(file, 4096);
+    EXPECT_GT(letto.byte.size(), 1U);
+    EXPECT_LT(letto.byte.size(), 100U);
+    EXPECT_EQ(letto.byte.back(), '\n');
+}
+
+/// Leaves the standard input, which has the number 0, closed while it lives.
+class SenzaIngresso {
+public:
+    SenzaIngresso() : copia_(dup(0)) { close(0); }
+    ~SenzaIngresso() {
+        if (copia_ < 0)
+            return;
+        dup2(copia_, 0);
+        close(copia_);
+    }
+    SenzaIngresso(const SenzaIngresso&) = delete;
+    SenzaIngresso& operator=(const SenzaIngresso&) = delete;
+
+private:
+    int copia_;
+};
+
+TEST_F(LeggeFileTest, WithoutAStandardInputFilesAreReadAllTheSame) {
+    prove::ScriveByte(file, "abc");
+    const SenzaIngresso senza;
+    EXPECT_THAT(LeggeFile(file, 3).byte, ElementsAre('a', 'b', 'c'));
+    DiscoInUso().SvuotaCartella(dir.percorso);
+    EXPECT_EQ(fcntl(0, F_GETFD), -1) << "what was opened is closed again";
 }
 
 } // namespace

@@ -56,7 +56,10 @@ INSTANTIATE_TEST_SUITE_P(Testi, LetturaNumeroTest, testing::Values(
     CasoLettura{"OverflowNegative", "-1E400",   -infinito, 6},
     CasoLettura{"OverflowLong",    std::string(400, '9'), infinito, 400},
     CasoLettura{"OverflowAgainstExponent", "1" + std::string(400, '0') + "E-5", infinito, 404},
+    CasoLettura{"OverflowPlus",    "1E+999",    infinito, 6},
     CasoLettura{"Underflow",       "1E-999",    0,       6},
+    CasoLettura{"UnderflowAgainstExponent", "0." + std::string(400, '0') + "1E5", 0, 405},
+    CasoLettura{"UnderflowAgainstPlus", "0." + std::string(400, '0') + "1E+5", 0, 406},
     CasoLettura{"UnderflowLong",   "0." + std::string(400, '0') + "1", 0, 403},
     CasoLettura{"ExponentBeyondAll", "1E99999999999999999999", infinito, 22},
     CasoLettura{"ExponentBelowAll",  "1E-99999999999999999999", 0, 23},
@@ -72,6 +75,18 @@ TEST(LetturaNumero, SinglesRoundOnce) {
     EXPECT_TRUE(LeggeNumero<float>("1E39").troppoGrande);
     EXPECT_EQ(LeggeNumero<float>("1E-60").valore, 0.F);
     EXPECT_FALSE(LeggeNumero<float>("1E-60").troppoGrande);
+}
+
+TEST(LetturaNumero, EndsWhereItsTextEnds) {
+    constexpr std::string_view tutto = "123.45E67";
+    EXPECT_EQ(LeggeNumero<double>(tutto.substr(0, 2)).valore, 12);
+    EXPECT_EQ(LeggeNumero<double>(tutto.substr(0, 2)).fine, 2U);
+    EXPECT_EQ(LeggeNumero<double>(tutto.substr(0, 5)).valore, 123.4);
+    EXPECT_EQ(LeggeNumero<double>(tutto.substr(0, 8)).valore, 123.45e6);
+    // An exponent of 5, not of 599: tiny.
+    const std::string minuscolo = "0." + std::string(400, '0') + "1E599";
+    EXPECT_FALSE(
+        LeggeNumero<double>(std::string_view(minuscolo).substr(0, minuscolo.size() - 2)).troppoGrande);
 }
 
 } // namespace

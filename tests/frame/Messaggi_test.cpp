@@ -28,6 +28,9 @@ TEST(Messaggi, AnswersNoWhenNobodyListens) {
     MessaggiRaccolti().clear();
     EXPECT_FALSE(Chiede("Proseguire ?"));
     EXPECT_EQ(MessaggiRaccolti(), std::vector<std::string>{"Proseguire ?"});
+    EXPECT_EQ(Inoltra({}, {"Letto", Icona::Nessuna, "", Bottoni::Ok}), Risposta::Ok) << "nothing was asked";
+    EXPECT_EQ(Inoltra({}, {"Letto ?", Icona::Nessuna, "", Bottoni::SiNo}), Risposta::No);
+    MessaggiRaccolti().clear();
 }
 
 TEST(Messaggi, NothingIsHeardWhileMessagesAreSilenced) {

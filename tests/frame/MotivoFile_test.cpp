@@ -53,4 +53,9 @@ TEST_F(MotivoFileTest, ADiskThatRefuses) {
     EXPECT_EQ(MotivoNonScritto(folder / "a.txt"), "il disco non ha accettato i dati");
 }
 
+TEST_F(MotivoFileTest, AFileThatCanBeReadIsTooLargeOrNoneOfOurs) {
+    std::ofstream(folder / "testo") << "x";
+    EXPECT_EQ(MotivoNonLetto(folder / "testo"), "il file è troppo grande o non è un file di dati");
+}
+
 } // namespace

@@ -176,6 +176,7 @@ INSTANTIATE_TEST_SUITE_P(Numeri, FormatoCifreEspTest, testing::Values(
     CasoFormato{"ThreeDigitPower", 4, 1.5e-120,    " 1.500E-120"},
     CasoFormato{"Above1",          4, 12.3456,     " 12.35"},
     CasoFormato{"Integer",         4, 12345,       " 12,345"},
+    CasoFormato{"OneToAFigure",    1, 1,           " 1"},
     CasoFormato{"Zero",            4, 0,           " 0"},
     CasoFormato{"Single",          4, Singolo(0.7), " 0.7"},
     CasoFormato{"Null",            4, std::nullopt, ""},

@@ -42,6 +42,7 @@ INSTANTIATE_TEST_SUITE_P(Testi, NumeroPulitoTest, testing::Values(
     CasoPulito{"Plus",             '.', ',', "+7",          true},
     CasoPulito{"Exponent",         '.', ',', "1.5E-3",      true},
     CasoPulito{"Grouped",          '.', ',', "1,234,567.8", true},
+    CasoPulito{"GroupOfThree",     '.', ',', "123,456",     true},
     CasoPulito{"ItalianGrouped",   ',', '.', "2.500",       true},
     CasoPulito{"ItalianFraction",  ',', '.', "2,5",         true},
     CasoPulito{"BlankGroups",      ',', ' ', "1 234,5",     true},
@@ -72,6 +73,7 @@ TEST(NumeroRipulito, UnderstandsWhatWordProcessorsWrite) {
     const ConSeparatori italiano(',', '.');
     EXPECT_EQ(NumeroRipulito("\u221212,5"), "-12,5");
     EXPECT_EQ(NumeroRipulito("\u201312,5"), "-12,5");
+    EXPECT_EQ(NumeroRipulito("\u22121,5E\u22123"), "-1,5E-3");
     EXPECT_EQ(NumeroRipulito("1\u00A0234,5\u202F"), "1234,5");
     EXPECT_EQ(NumeroRipulito("1 234"), "1 234") << "a plain blank stays, and is told";
 }

@@ -34,6 +34,10 @@ TEST_F(RecentiDesktopTest, AFileEntersWithItsKindAndTheProgram) {
     RicordaNelDesktop("/lavori/trave.sco");
     EXPECT_THAT(Lista(), HasSubstr("application/x-sagomi-trave"));
     EXPECT_THAT(Lista(), HasSubstr("nodo.Gfl")) << "the others stay";
+    const fs::perms altri = fs::perms::owner_read | fs::perms::owner_write | fs::perms::others_read;
+    fs::permissions(elenco, altri);
+    RicordaNelDesktop("/lavori/altra.sco");
+    EXPECT_EQ(fs::status(elenco).permissions(), altri) << "a list that is there keeps its rights";
 }
 
 TEST_F(RecentiDesktopTest, WhatIsNoFileOfOursAndNoListIsLeftAlone) {
