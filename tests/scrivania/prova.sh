@@ -35,6 +35,11 @@ appstreamcli validate --no-net "$2/$name.metainfo.xml"
 # What the entry of the menu starts and shows is there.
 [ -x "$2/usr/bin/$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' "$share/applications/$name.desktop")" ] || fail "no program"
 [ "$(sed -n 's/^Icon=//p' "$share/applications/$name.desktop")" = "$name" ] || fail "another icon"
+# So is what the session bus starts, under the name that it is asked for.
+service=$share/dbus-1/services/Sagomi_v6.SezioneSagomi.service
+[ "$(sed -n 's/^Name=//p' "$service")" = "$(basename "$service" .service)" ] || fail "the service has another name"
+server=$(sed -n 's/^Exec="\(.*\)"$/\1/p' "$service")
+[ -x "$server" ] || fail "the service starts $server, which is not there"
 for file in Sagomi.hlp GiuntoFlangiato.hlp FormuleGiunto.rtf Sagomi.xls; do
   [ -s "$share/sagomi/$file" ] || fail "no $file"
 done
