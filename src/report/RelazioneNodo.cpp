@@ -157,9 +157,9 @@ constexpr std::pair<std::string_view, const char*> simboli[] = {{"Bt", "B{t,Rd}"
 
 /// Texts have their place beside a word, not beside the name of a member.
 constexpr std::pair<std::string_view, const char*> testi[] = {
-    {"ComponenteDeboleFilaInf", "governa"},
-    {"ComponenteDeboleFilaSup", "governa"},
-    {"ComponenteDebole", "governa"},
+    {"ComponenteDeboleFilaInf", "resistenza governata"},
+    {"ComponenteDeboleFilaSup", "resistenza governata"},
+    {"ComponenteDebole", "resistenza governata"},
     {"Nota", "nota"},
     {"ResistenzaGiunto", "classe"},
     {"RigidezzaGiunto1", "telaio controventato"},
@@ -225,21 +225,34 @@ void AggiungePassi(Relazione& r, const Giunto& giunto, const std::string& lato) 
         r.capitoli.push_back(std::move(c));
 }
 
+/// "dall'anima della colonna" as a subject: "l'anima della colonna".
+std::string SenzaPreposizione(const std::string& componente) {
+    constexpr std::pair<std::string_view, std::string_view> articoli[] = {
+        {"dall'", "l'"},    {"dalla ", "la "}, {"dalle ", "le "}, {"dallo ", "lo "},
+        {"dagli ", "gli "}, {"dai ", "i "},    {"dal ", "il "}};
+    for (const auto& [preposizione, articolo] : articoli)
+        if (componente.starts_with(preposizione))
+            return std::string(articolo) + componente.substr(preposizione.size());
+    return componente;
+}
+
 void AggiungeVerdetti(Relazione& r, const Giunto& giunto, const std::string& lato) {
     const VerdettoGiunto v = Giudica(giunto);
     CapitoloRelazione momento{.titolo = "Verifica a momento, giunto " + lato};
     CapitoloRelazione taglio{.titolo = "Verifica a taglio, giunto " + lato};
-    momento.verdetto = VerdettoRelazione{.verifica = "Momento resistente del giunto",
+    const std::string quale = " del giunto " + lato;
+    momento.verdetto = VerdettoRelazione{.verifica = "Momento resistente" + quale,
                                          .motivo = "non calcolato",
                                          .norma = "ENV 1993-1-1 annesso J"};
     if (v.presente) {
         VerdettoRelazione& m = *momento.verdetto;
         m.esito = v.resiste ? EsitoRelazione::Passa : EsitoRelazione::NonPassa;
         m.utilizzo = Utilizzo(giunto, "txtFmin0").value_or(std::numeric_limits<double>::quiet_NaN());
-        m.governa = Nudo(TestoGovernante(giunto)).empty() ? std::string() : giunto.ComponenteDebole;
+        m.governa = Nudo(TestoGovernante(giunto)).empty() ? std::string()
+                                                          : SenzaPreposizione(Nudo(giunto.ComponenteDebole));
         m.motivo = v.notaMomento;
         taglio.verdetto =
-            VerdettoRelazione{.verifica = "Taglio resistente del giunto",
+            VerdettoRelazione{.verifica = "Taglio resistente" + quale,
                               .esito = v.taglio.empty() ? EsitoRelazione::Passa : EsitoRelazione::NonPassa,
                               .utilizzo = std::abs(double(giunto.Trave->Vsd())) / giunto.Vrd1,
                               .motivo = v.taglio.empty() ? v.notaTaglio : v.taglio,

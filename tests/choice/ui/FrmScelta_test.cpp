@@ -15,6 +15,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "Guasti.h"
 #include "catalogue/CatalogoCsv.h"
 #include "catalogue/SagomoUtente.h"
 #include "catalogue/ScrittoreXls.h"
@@ -499,6 +500,22 @@ TEST_F(FrmSceltaTest, TheTableIsCopiedAndExported) {
     const QString text = QString::fromUtf8(written.readAll());
     EXPECT_EQ(text.count(u'\n'), s.Modello()->rowCount() + 1);
     EXPECT_TRUE(text.contains(NomeInMano(s)));
+}
+
+TEST_F(FrmSceltaTest, AnExportThatCannotBeWrittenIsToldAndTheTableStays) {
+    FrmScelta& s = Apre();
+    const int rows = s.Modello()->rowCount();
+    ConOgniGuasto(PathProgramma, "scelta.csv", [&](const std::filesystem::path& file, const char* reason) {
+        ImpostaSceltaFile([&](QWidget*, std::string_view, const QString&, int, const QString&) {
+            return QString::fromStdString(file.string());
+        });
+        registratore.testi.clear();
+        Preme(&s, "CmdEsporta");
+        ASSERT_EQ(registratore.testi.size(), 1U) << file;
+        EXPECT_NE(registratore.testi[0].find(file.string()), std::string::npos) << registratore.testi[0];
+        EXPECT_NE(registratore.testi[0].find(reason), std::string::npos) << registratore.testi[0];
+    });
+    EXPECT_EQ(s.Modello()->rowCount(), rows);
 }
 
 TEST_F(FrmSceltaTest, TheTableIsPrintedOnPages) {

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QTextBrowser>
 
+#include "Guasti.h"
 #include "drawing/ui/Immagini.h"
 #include "drawing/ui/ScegliDispositivo.h"
 #include "frame/ui/FileDialogo.h"
@@ -217,6 +218,27 @@ TEST_F(IntornoGiuntiTest, PaperAndFileHaveTheSameLines) {
     const QStringList onFile = lines(QString::fromLatin1(written.readAll()));
     EXPECT_GT(onFile.size(), 60);
     EXPECT_EQ(lines(QString::fromUtf8(reader.readAllStandardOutput())), onFile);
+}
+
+TEST_F(IntornoGiuntiTest, AReportThatCannotBeWrittenIsToldAndTheJointStays) {
+    NodoT();
+    Verifica2File();
+    Preme(g, "cmdCalcola");
+    const std::string before = Legge("TxtMjRd");
+    Detto();
+    ConOgniGuasto(PathProgramma, "relazione.txt", [&](const std::filesystem::path& file, const char* reason) {
+        ImpostaSceltaFile([&](QWidget*, std::string_view, const QString&, int, const QString&) {
+            return QString::fromStdString(file.string());
+        });
+        Menu(4);
+        std::string said;
+        for (const Messaggio& message :
+             std::exchange(registratore.messaggi, {})) // a title has the reason, too
+            said += message.titolo + ": " + message.testo + '\n';
+        EXPECT_NE(said.find(file.filename().string()), std::string::npos) << said;
+        EXPECT_NE(said.find(reason), std::string::npos) << said;
+    });
+    EXPECT_EQ(Legge("TxtMjRd"), before);
 }
 
 } // namespace
