@@ -41,7 +41,8 @@ std::string Apice(std::string_view testo) {
         else if (c == '-')
             s += "⁻";
         else
-            return '^' + std::string(testo);
+            return testo.find_first_of(" /·+") == std::string_view::npos ? '^' + std::string(testo)
+                                                                         : "^(" + std::string(testo) + ')';
     }
     return s;
 }

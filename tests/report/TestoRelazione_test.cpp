@@ -58,4 +58,9 @@ TEST(Relazione, PassesWhenEveryVerdictDoes) {
     EXPECT_EQ(r.Esito(), EsitoRelazione::NonPassa);
 }
 
+TEST(TestoRelazione, AnExponentOfSeveralPartsIsHeldTogether) {
+    EXPECT_EQ(SenzaPedici("(f{ck} + 8)^{1 / 3}"), "(fck + 8)^(1 / 3)");
+    EXPECT_EQ(SenzaPedici("x^{α} 10^{-6}"), "x^α 10⁻⁶");
+}
+
 } // namespace

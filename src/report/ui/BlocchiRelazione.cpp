@@ -123,6 +123,14 @@ private:
     void Spazio(double millimetri) {
         Aggiunge(pen_.mm(millimetri), true, [](QPainter&, QPointF) {});
     }
+    /// No line of a chapter stands alone at the foot or at the head of a page.
+    void TieneInsieme(qsizetype primo, bool conLeNote) {
+        const qsizetype rows = blocchi_.size() - primo;
+        if (rows > 1)
+            blocchi_[primo].conIlSeguente = blocchi_[primo + rows - 2].conIlSeguente = true;
+        if (rows > 0 && conLeNote)
+            blocchi_.last().conIlSeguente = true;
+    }
     void Titolo(const QString& testo, const QFont& font, const QColor& colore, bool filo);
     void TestaDisegnata(const Relazione& r, const std::vector<VerdettoRelazione>& verdetti);
     void DueColonne(const std::vector<PassoRelazione>& passi);
@@ -377,11 +385,13 @@ void Compositore::Capitolo(const CapitoloRelazione& c) {
     const bool dati = std::ranges::all_of(c.passi, [](const PassoRelazione& p) {
         return p.formula.empty() && p.numeri.empty() && p.norma.empty();
     });
+    const qsizetype first = blocchi_.size();
     if (dati)
         DueColonne(c.passi);
     else
         for (const PassoRelazione& p : c.passi)
             Passo(p);
+    TieneInsieme(first, !c.note.empty());
     if (!c.note.empty())
         Spazio(1);
     for (const std::string& nota : c.note)

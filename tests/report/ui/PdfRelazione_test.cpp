@@ -99,6 +99,30 @@ TEST_F(PdfRelazioneTest, AJointHasItsDerivation) {
                "462\\.4 +kN", "Momento resistente del giunto"});
 }
 
+// Whatever the number of its lines, no line of a chapter stands alone on a page.
+TEST_F(PdfRelazioneTest, NoLineOfAChapterStandsAlone) {
+    const fs::path file = cartella / "righe.pdf";
+    for (int rows = 26; rows < 46; ++rows) {
+        Relazione r{.titolo = "Prova", .oggetto = "righe"};
+        r.capitoli.push_back({.titolo = "Primo"});
+        for (int i = 0; i < rows; ++i)
+            r.capitoli.front().passi.push_back(
+                {.descrizione = "passo", .simbolo = "s", .formula = "a + b", .valore = "1", .norma = "EC3"});
+        ScrivePdfRelazione(r, file);
+        std::istringstream pages(TestoPdf(file.string()));
+        int whole = 0;
+        for (std::string page; std::getline(pages, page, '\f');) {
+            int here = 0;
+            for (std::size_t at = page.find("passo"); at != std::string::npos;
+                 at = page.find("passo", at + 1))
+                ++here;
+            EXPECT_NE(here, 1) << rows << " lines:\n" << page;
+            whole += here;
+        }
+        EXPECT_EQ(whole, rows);
+    }
+}
+
 TEST_F(PdfRelazioneTest, AFileThatCannotBeWrittenIsTold) {
     EXPECT_THROW(ScrivePdfRelazione({.titolo = "x"}, cartella / "manca" / "o.pdf"), std::runtime_error);
 }
