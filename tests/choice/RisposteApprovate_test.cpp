@@ -75,7 +75,7 @@ TEST_F(RisposteApprovate, Scelte) {
          {"--scelta", "--famiglie", "HEB,UPN", "--N", "600", "--Mz", "5", "--L0y", "5", "--L0z", "5",
           "--acciaio", "S355"}},
         {"angolari",
-         {"--scelta", "--famiglie", "L Uguali,L_Disuguali", "--N", "60", "--L0y", "2", "--L0z", "2"}},
+         {"--scelta", "--famiglie", "L Uguali,L Disuguali", "--N", "60", "--L0y", "2", "--L0z", "2"}},
     };
     for (const Domanda& d : scelte)
         for (const char* formato : {"txt", "json", "csv"}) {
