@@ -135,11 +135,16 @@ TEST_F(TavolaVisteTest, TextsThatFindNoRoomOnPaperBecomeSmaller) {
 // On the screen half the texts count a quarter: views twice as large do not make up for it, ten times
 // do. 14.4 heights of 10 in 100 pixels are halved and leave 28.
 TEST_F(TavolaVisteTest, SmallTextsCountBySquares) {
+    const DisposizioneViste grandi{{{100, 0}}, {{1, 0}}};
     for (const double modello : {14.0, 2.8}) {
+        const DisposizioneViste piccoli{{{modello, 14.4}}, {{1, 0}}};
         SuperficieFinta s(100, 1000);
         TavolaViste t(&s, dispositivoVideo, "");
-        t.Dispone(std::array<DisposizioneViste, 2>{{{{{modello, 14.4}}, {{1, 0}}}, {{{100, 0}}, {{1, 0}}}}});
+        t.Dispone(std::array{piccoli, grandi});
         EXPECT_EQ(t.Scelta(), modello == 14 ? 1U : 0U);
+        TavolaViste u(&s, dispositivoVideo, "");
+        u.Dispone(std::array{grandi, piccoli});
+        EXPECT_EQ(u.Scelta(), modello == 14 ? 0U : 1U) << "in either order";
     }
 }
 

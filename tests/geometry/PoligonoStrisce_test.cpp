@@ -179,4 +179,14 @@ TEST(Rettangolini, PartOfAStripBetweenTwoLevels) {
     EXPECT_THROW((void)p.RettangolinoArea(6, 0, 1), std::out_of_range);
 }
 
+TEST(DiscretizzaPoligono, AVertexAloneHasStripsWithoutHeight) {
+    Poligono p;
+    p.Coordinate({5}, {7}, 1);
+    p.DiscretizzaPoligono(3);
+    ASSERT_EQ(p.nStrisce, 3);
+    EXPECT_EQ(p.hStriscia(3), 0);
+    EXPECT_EQ(p.yStriscia(1), 7);
+    EXPECT_EQ(p.nRett(1), 0);
+}
+
 } // namespace

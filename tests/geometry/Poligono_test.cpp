@@ -243,4 +243,20 @@ TEST(PuntoInBoundingBox, GrowsByTheMarginOnAllSides) {
     }
 }
 
+TEST(PoligonoVertici, ALoadOfNoneForgetsNoCoordinate) {
+    Poligono p = PoligonoDaTesto("1 2, 3 4, 5 6");
+    p.Coordinate({}, {}, 0);
+    EXPECT_EQ(p.nVertici(), 0);
+    EXPECT_EQ(p.CoordX(), (std::vector<double>{1, 3, 5}));
+}
+
+// A quarter turn about the origin, of a vertex that is next to it.
+TEST(RuotaVertici, AVertexNextToTheCentreTurnsToo) {
+    Poligono p;
+    p.Coordinate({1.2e-20, 10, 0}, {0, 0, 10}, 3);
+    p.RuotaVertici(0, 0, std::numbers::pi / 2);
+    EXPECT_NEAR(p.x(1), 0, 1e-25);
+    EXPECT_NEAR(p.y(1), 1.2e-20, 1e-25);
+}
+
 } // namespace
