@@ -119,6 +119,27 @@ TEST(BulloneOsservazioniTest, TheGreaterOfTwoLimitsHoldsFromItsFirstTenth) {
     EXPECT_NE(Osservazioni(b).find("#6.5.1.4. (2)"), std::string::npos);
 }
 
+// 14 · 14.3 = 200.2: 200 is the smaller one.
+TEST(BulloneOsservazioniTest, TheSmallerOfTwoLimitsHoldsFromItsFirstTenth) {
+    Bullone b = M20();
+    b.t = 14.3;
+    b.p1 = 200.1;
+    b.RifollamentoCalcola();
+    EXPECT_NE(Osservazioni(b).find("#6.5.1.6. (1)"), std::string::npos);
+}
+
+TEST(BulloneOsservazioniTest, ABoltAsStrongAsThePlateIsNotBlamed) {
+    Bullone b = M20();
+    b.fu = 800;
+    b.e1 = 40;
+    b.RifollamentoCalcola();
+    EXPECT_NE(Osservazioni(b).find("e1 < 3 do"), std::string::npos);
+    EXPECT_EQ(Osservazioni(b).find("fub"), std::string::npos);
+    b.fu = 801;
+    b.RifollamentoCalcola();
+    EXPECT_NE(Osservazioni(b).find("fub = 800 < fu = 801"), std::string::npos);
+}
+
 TEST(BulloneOsservazioniTest, NegativeThicknessCountsAsNone) {
     Bullone b = M20();
     b.t = -3;

@@ -154,6 +154,16 @@ TEST_F(DisegnoForaturaTest, LoadRunsHalfWayBetweenTheRowsUpToItsHead) {
     Misura(foratura);
     const double mezzo = (y1 + y2) / 2;
     EXPECT_TRUE(HaLinea(x1, mezzo, x2 - 6, mezzo));
+    const auto& testa = superficie.aree.back(); // 6 long, 4.8 wide
+    EXPECT_EQ(testa.fondo, Fondo::Pieno);
+    ASSERT_EQ(testa.punti.size(), 3U);
+    const double x[] = {x2, x2 - 6, x2 - 6};
+    const double y[] = {mezzo, mezzo + 2.4, mezzo - 2.4};
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_NEAR(testa.punti[i].first, x[i], 1e-6) << i;
+        EXPECT_NEAR(testa.punti[i].second, y[i], 1e-6) << i;
+    }
+    EXPECT_NEAR(Nome("F").second, mezzo - 2 - superficie.TextLine().sotto, 1e-6) << "over the shaft";
 }
 
 // 4 units are left free at the left and above; names take 2.2 lines at the right and 1.9 below.
