@@ -40,6 +40,12 @@ Profilo QuartoSaldato(const SezioneDoppioT& s, const Piatto& ala) {
     return q;
 }
 
+/// The outline is computed and has just these vertices: it need not be computed once more.
+bool HaVertici(const SezioneGenerica* sezione, const std::vector<double>& x, const std::vector<double>& y) {
+    return sezione != nullptr && sezione->Area > 0 && sezione->Poligono && sezione->Poligono->CoordX() == x &&
+           sezione->Poligono->CoordY() == y;
+}
+
 /// Goes round counter-clockwise from the lower right corner.
 std::int16_t Percorre(const Profilo& inf, const Profilo& sup, const PostoContorno& posto,
                       std::vector<double>& x, std::vector<double>& y) {
@@ -118,7 +124,9 @@ void SezioneDoppioT::CoordinateWy4() {
     Coordinate(x, y, n);
     if (ClasseAlaC == 4)
         AlaEfficace(x, y, kSigmaAlaCompressa, tf, c, h - tf / 2, true, true);
-    const SezioneGenerica& contorno = CalcolaContorno(SezioneWy4, x, y, n);
+    const bool intera = ClasseWebF == 4 && HaVertici(SezioneGenericaCorrente.get(), x, y);
+    const SezioneGenerica& contorno =
+        intera ? *SezioneGenericaCorrente : CalcolaContorno(SezioneWy4, x, y, n);
     if (ClasseWebF != 4)
         return;
 
@@ -126,8 +134,10 @@ void SezioneDoppioT::CoordinateWy4() {
     double be1 = 0;
     double be2 = 0;
     const double psi = be1_be2Anima(contorno, d, ySup, be1, be2);
-    if (!(psi <= 1))
+    if (!(psi <= 1)) {
+        CalcolaContorno(SezioneWy4, x, y, n);
         return;
+    }
     const double compressa = psi < 0 ? d / (1 - psi) : d;
     ToglieAnima(x, y, n, ySup - compressa + be2, compressa - be1 - be2, tipoForo);
     CalcolaContorno(SezioneWy4, x, y, n);

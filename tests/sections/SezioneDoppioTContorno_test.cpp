@@ -254,6 +254,28 @@ TEST_F(SezioneDoppioTContorno, BendingAboutYReachesMinusOneInSpiteOfRounding) {
     EXPECT_NEAR(s.SezioneWy4->Area, 2000 + 5001.5 - 4.98 * rimossa, 0.05);
 }
 
+/// The outline in use is taken as computed where it is the same; without it, and beside that of other plates,
+/// the figures must be these to the last bit.
+TEST_F(SezioneDoppioTContorno, BendingAboutYIsTheSameWithoutTheOutlineInUse) {
+    for (const double b : {100.0, 620.0}) { // stocky flanges, slender ones
+        SezioneDoppioT con = TrePiatti(1020, b, 5, 10);
+        con.InizializzaSezione();
+        ASSERT_EQ(con.ClasseWebF, 4);
+        SezioneDoppioT senza = con;
+        senza.SezioneGenericaCorrente = nullptr;
+        SezioneDoppioT altra = con;
+        altra.SezioneGenericaCorrente = std::make_shared<SezioneGenerica>(*senza.SezioneComp4);
+        for (SezioneDoppioT* s : {&senza, &altra}) {
+            s->SezioneWy4 = nullptr;
+            s->CoordinateWy4();
+            EXPECT_EQ(s->SezioneWy4->Poligono->CoordX(), con.SezioneWy4->Poligono->CoordX());
+            EXPECT_EQ(s->SezioneWy4->Poligono->CoordY(), con.SezioneWy4->Poligono->CoordY());
+            EXPECT_EQ(s->SezioneWy4->WxSuperiore, con.SezioneWy4->WxSuperiore);
+            EXPECT_EQ(s->SezioneWy4->yG, con.SezioneWy4->yG);
+        }
+    }
+}
+
 TEST_F(SezioneDoppioTContorno, WholeCompressedWebGoesBeyondTheTable) {
     SezioneDoppioT s = TrePiatti(1000, 600, 5, 50);
     s.SaldataAsimm = true;
