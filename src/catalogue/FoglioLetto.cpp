@@ -52,14 +52,14 @@ Valore FoglioLetto::ValoreDi(const CellaLetta* cella) const {
 
 Foglio FoglioDa(const FoglioLetto& letto) {
     Foglio foglio{letto.nome, {}};
+    foglio.righe.reserve(letto.Righe());
     for (std::size_t i = 0; i < letto.Righe(); ++i) {
         foglio.righe.resize(letto.NumeroRiga(i) + 1);
         auto& riga = foglio.righe.back();
-        for (std::size_t c = 0; c < letto.Colonne(); ++c)
-            if (const CellaLetta* cella = letto.Cella(i, c)) {
-                riga.resize(c + 1);
-                riga[c] = {letto.ValoreDi(cella), static_cast<GenereNumero>(cella->genere)};
-            }
+        const std::span<const CellaLetta> celle = letto.Riga(i);
+        riga.resize(celle.back().colonna + 1U);
+        for (const CellaLetta& cella : celle)
+            riga[cella.colonna] = {letto.ValoreDi(&cella), static_cast<GenereNumero>(cella.genere)};
     }
     return foglio;
 }

@@ -1,5 +1,6 @@
 #include "catalogue/RecordBiff.h"
 
+#include <array>
 #include <bit>
 #include <cmath>
 #include <stdexcept>
@@ -148,9 +149,11 @@ std::uint32_t FlussoBiff::Record(Biff genere, const Ottetti& corpo) {
 
 template <std::size_t n> void FlussoBiff::CellaDi(Biff genere, const PostoBiff& posto, std::uint64_t valore) {
     constexpr std::size_t corpo = 6 + n;
-    std::uint8_t* dove = MetteTesta(Allunga(dati_, testaRecord + corpo), genere, corpo);
+    std::array<std::uint8_t, testaRecord + corpo> record{};
+    std::uint8_t* dove = MetteTesta(record.data(), genere, corpo);
     dove = Mette<2>(Mette<2>(Mette<2>(dove, posto.riga), posto.colonna), posto.stile);
     Mette<n>(dove, valore);
+    dati_.insert(dati_.end(), record.begin(), record.end());
 }
 
 void FlussoBiff::Cella(Biff genere, const PostoBiff& posto, std::uint32_t valore) {
