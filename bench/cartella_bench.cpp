@@ -3,17 +3,18 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cmath>
 #include <filesystem>
 #include <string>
 
+#include "CartellaGrande.h"
 #include "CelleFreexl.h"
 #include "catalogue/CartellaXls.h"
 #include "catalogue/Famiglie.h"
 #include "catalogue/Lettore.h"
-#include "catalogue/ScrittoreXls.h"
 
 using namespace sagomi;
+using misure::CartellaGrande;
+using misure::dueFogli;
 
 namespace {
 
@@ -68,27 +69,6 @@ void RefreshTenuto(benchmark::State& state) {
     }
 }
 BENCHMARK(RefreshTenuto)->Unit(benchmark::kMicrosecond);
-
-/// Two sheets of so many rows in all with the columns of a rolled section, in no order.
-std::filesystem::path CartellaGrande(std::int64_t righe = 100'000) {
-    const auto file = std::filesystem::temp_directory_path() / "sagomi_grande.xls";
-    const auto& headings = Intestazioni("frmDoppioT");
-    CartellaDati dati;
-    for (const char* name : {"IPE", "HEA"}) {
-        Foglio& sheet = dati.fogli.emplace_back(Foglio{name, {}});
-        for (std::size_t c = 0; c < headings.size(); ++c)
-            sheet.Scrive(0, c, std::string(headings[c]));
-        for (std::size_t r = 1; r <= static_cast<std::size_t>(righe) / 2; ++r) {
-            sheet.Scrive(r, 0, name + std::string(" ") + std::to_string(r));
-            for (std::size_t c = 1; c < headings.size(); ++c)
-                sheet.Scrive(r, c, std::round(std::fmod(static_cast<double>(r * c) * 7919.0, 99991.0)) / 100);
-        }
-    }
-    ScriveXls(dati, file);
-    return file;
-}
-
-const std::string dueFogli = "SELECT * FROM [IPE$] UNION SELECT * FROM [HEA$] ORDER BY [Wy (cm3)] ASC";
 
 void Righe(benchmark::internal::Benchmark* b) { b->Arg(1'200)->Arg(10'000)->Arg(100'000); }
 

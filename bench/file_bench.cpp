@@ -1,45 +1,34 @@
-// Reading and writing each kind of file, against reading and writing the same bytes in the same run. The
-// program checks what it reads and writes beside the old file; the peer does neither. Waiting for the disk is
-// in no figure: CPU time counts.
+// Reading and writing each kind of file that needs no Qt (documento_bench.cpp has the others).
 
-#include <benchmark/benchmark.h>
-
-#include <unistd.h>
-
+#include <cstdint>
 #include <filesystem>
-#include <fstream>
-#include <functional>
-#include <sstream>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "GenereFile.h"
+#include "catalogue/Famiglie.h"
 #include "catalogue/LettoreXls.h"
+#include "catalogue/SagomoUtente.h"
 #include "catalogue/ScrittoreXls.h"
+#include "catalogue/ScritturaRighe.h"
 #include "composite/AcciaioCls.h"
+#include "drawing/Dxf.h"
+#include "drawing/Grafica.h"
+#include "drawing/SuperficieSvg.h"
 #include "frame/FileDati.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Impostazioni.h"
+#include "joints/DisegnoNodo.h"
+#include "joints/FormuleGiunto.h"
 #include "joints/Nodo.h"
+#include "joints/NodoDisegnato.h"
 
 namespace fs = std::filesystem;
 using namespace sagomi;
+using misure::GenereFile;
 
 namespace {
-
-constexpr int volte =
-    200; ///< a written file is flushed: the number of runs is not left to the time they take
-
-/// One kind of file: a file of it, and how the program reads and writes it.
-struct Genere {
-    std::string nome;
-    fs::path file;
-    std::function<bool(const fs::path&)> legge, scrive;
-};
-
-std::string Byte(const fs::path& file) {
-    std::ostringstream letti;
-    letti << std::ifstream(file, std::ios::binary).rdbuf();
-    return std::move(letti).str();
-}
 
 /// Runs something on an opened data file and closes it.
 bool Aperto(const fs::path& file, std::string_view modo, const std::function<bool(std::int16_t)>& fa) {
@@ -48,14 +37,36 @@ bool Aperto(const fs::path& file, std::string_view modo, const std::function<boo
     return n != 0 && ChiudeFile(n) && riuscito;
 }
 
-Genere Cartella() {
+GenereFile Cartella() {
     static CartellaDati dati;
     return {"workbook", fs::path(SAGOMI_BIN) / "Sagomi.xls",
             [](const fs::path& file) { return !(dati = LeggeXls(file)).fogli.empty(); },
             [](const fs::path& file) { return ScriveXls(dati, file), true; }};
 }
 
-Genere FileGiunto() {
+/// A user's workbook with 50 welded sections; written is one row of it, as the program does: the file is
+/// read, the row put in, the file written.
+GenereFile CartellaUtente(const fs::path& cartella) {
+    CartellaDati dati = CartellaUtenteVuota();
+    Foglio& foglio = dati.fogli.front();
+    const std::size_t colonne = foglio.righe.front().size();
+    for (std::size_t r = 1; r <= 50; ++r) {
+        foglio.Scrive(r, 0, "mia " + std::to_string(r));
+        for (std::size_t c = 1; c < colonne; ++c)
+            foglio.Scrive(r, c, static_cast<double>(r * 40 + c) / 8);
+    }
+    const fs::path file = cartella / cartellaUtente;
+    ScriveXls(dati, file);
+    const RigaScritta riga{25, {std::string("mia 25"), 12.5}};
+    const auto scrive = [file, riga, tabella = NomeTabella(foglio.nome)](const fs::path& scritto) {
+        if (!fs::exists(scritto))
+            fs::copy_file(file, scritto);
+        return !ScriveRighe(scritto, ImprontaDi(scritto), tabella, {riga}).righe.empty();
+    };
+    return {"user_workbook", file, [](const fs::path& f) { return !LeggeXls(f).fogli.empty(); }, scrive};
+}
+
+GenereFile FileGiunto() {
     static Nodo nodo;
     return {"joint", fs::path(SAGOMI_TEST_FILES) / "fuzz/corpus/nodo/due_due_file",
             [](const fs::path& file) {
@@ -66,7 +77,7 @@ Genere FileGiunto() {
             }};
 }
 
-Genere FileTrave() {
+GenereFile FileTrave() {
     static AcciaioCls trave;
     return {"beam", fs::path(SAGOMI_TEST_FILES) / "data/composite/piena.sco",
             [](const fs::path& file) {
@@ -78,59 +89,59 @@ Genere FileTrave() {
 }
 
 /// The settings have one place: the folder of the program.
-Genere FileImpostazioni(const fs::path& cartella) {
+GenereFile FileImpostazioni(const fs::path& cartella) {
     PathProgramma = cartella;
     IniLeggeScrive("S");
     return {"settings", cartella / "Sagomi.ini", [](const fs::path&) { return IniLeggeScrive("L"); },
             [](const fs::path&) { return IniLeggeScrive("S"); }};
 }
 
-void Legge(benchmark::State& state, const Genere& genere) {
-    if (!genere.legge(genere.file))
-        state.SkipWithError("the file cannot be read");
-    for (auto _ : state)
-        benchmark::DoNotOptimize(genere.legge(genere.file));
+/// Draws a joint in its views on a device.
+void Disegna(std::string_view dispositivo, Superficie* superficie) {
+    static const Disegno disegno = DisegnoNodo(prove::NodoDisegnato(nodoT, 2, "Si"));
+    const StatoUscita prima;
+    OggettoGrafico = superficie;
+    Dispositivo = dispositivo;
+    ColorePenna = pennaInchiostro;
+    disegno.PlottaInOggetto(superficie, "frmGiunti");
 }
 
-void SoloLegge(benchmark::State& state, const Genere& genere) {
-    for (auto _ : state)
-        benchmark::DoNotOptimize(Byte(genere.file));
+GenereFile FileDxf() {
+    return {"dxf", {}, {}, [](const fs::path& file) {
+                std::int16_t n = 0;
+                if (!DxfApre(file, n))
+                    return false;
+                Disegna(dispositivoDxf, nullptr);
+                return DxfChiude();
+            }};
 }
 
-void Scrive(benchmark::State& state, const Genere& genere, const fs::path& scritto) {
-    if (!genere.legge(genere.file) || !genere.scrive(scritto))
-        state.SkipWithError("the file cannot be written");
-    for (auto _ : state)
-        benchmark::DoNotOptimize(genere.scrive(scritto));
+GenereFile FileSvg() {
+    return {"svg", {}, {}, [](const fs::path& file) {
+                SuperficieSvg svg;
+                Disegna(dispositivoSvg, &svg);
+                return ScriveAtomico(file, svg.Documento());
+            }};
 }
 
-void SoloScrive(benchmark::State& state, const Genere& genere, const fs::path& copia) {
-    const std::string byte = Byte(genere.file);
-    for (auto _ : state)
-        std::ofstream(copia, std::ios::binary) << byte;
-}
-
-void Registra(const Genere& genere, const fs::path& cartella) {
-    const fs::path scritto = cartella / ("scritto_" + genere.nome);
-    const fs::path copia = cartella / ("copia_" + genere.nome);
-    const auto misura = [](const std::string& nome, auto fa) {
-        benchmark::RegisterBenchmark(nome.c_str(), fa)->Unit(benchmark::kMicrosecond)->Iterations(volte);
-    };
-    misura("Legge_" + genere.nome, [genere](benchmark::State& s) { Legge(s, genere); });
-    misura("SoloLegge_" + genere.nome, [genere](benchmark::State& s) { SoloLegge(s, genere); });
-    misura("Scrive_" + genere.nome, [=](benchmark::State& s) { Scrive(s, genere, scritto); });
-    misura("SoloScrive_" + genere.nome, [=](benchmark::State& s) { SoloScrive(s, genere, copia); });
+/// The text of one formula of a joint, which lies in the middle of the file.
+GenereFile FileFormule() {
+    const fs::path cartella = SAGOMI_DATA;
+    return {"formulas",
+            cartella / fileFormule,
+            [cartella](const fs::path&) { return !LeggeFormula(cartella, "k6").empty(); },
+            {}};
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const fs::path cartella = fs::temp_directory_path() / ("sagomi_file_" + std::to_string(getpid()));
-    fs::create_directory(cartella);
+    const misure::CartellaMisure cartella;
     ImpostaGamma();
-    for (const Genere& genere : {Cartella(), FileGiunto(), FileTrave(), FileImpostazioni(cartella)})
-        Registra(genere, cartella);
+    for (const GenereFile& genere :
+         {Cartella(), CartellaUtente(cartella.percorso), FileGiunto(), FileTrave(),
+          FileImpostazioni(cartella.percorso), FileDxf(), FileSvg(), FileFormule()})
+        Registra(genere, cartella.percorso);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
-    fs::remove_all(cartella);
 }

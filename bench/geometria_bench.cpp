@@ -345,6 +345,48 @@ void DividiYBoost(benchmark::State& state) {
 }
 BENCHMARK(DividiYBoost)->Apply(Vertici)->Complexity();
 
+using PartiBoost = bg::model::multi_polygon<PoligonoBoost>;
+
+/// The part of the outline between two levels (abscissas with lungoX).
+PartiBoost FraLivelli(const PoligonoBoost& f, double da, double a, bool lungoX) {
+    bg::model::box<PuntoBoost> banda({-lontano, da}, {lontano, a});
+    if (lungoX)
+        banda = {{da, -lontano}, {a, lontano}};
+    PartiBoost parti;
+    bg::intersection(f, banda, parti);
+    return parti;
+}
+
+/// The plastic modulus with the same search, every area and centroid from Boost.Geometry.
+double ModuloBoost(const PoligonoBoost& f, double minimo, double massimo, bool lungoX) {
+    const double area = bg::area(f);
+    const auto sbilancio = [&](double y) { return bg::area(FraLivelli(f, y, lontano, lungoX)) - area / 2; };
+    const double livello = CercaZero(sbilancio, minimo, massimo, area / 10000);
+    const auto baricentro = [&](double da, double a) {
+        PuntoBoost g(0, 0);
+        bg::centroid(FraLivelli(f, da, a, lungoX), g);
+        return lungoX ? g.x() : g.y();
+    };
+    return area / 2 * (baricentro(livello, lontano) - baricentro(-lontano, livello));
+}
+
+void WplasticiBoost(benchmark::State& state) {
+    Poligono p = Contorno(state);
+    const PoligonoBoost f = DaPoligono(p);
+    const auto [xMin, xMax, yMin, yMax] = p.BoundingBox();
+    p.CaratteristicheStatiche();
+    p.Wplastici();
+    if (!Vicini(p.WplX, ModuloBoost(f, yMin, yMax, false), 4e-4) ||
+        !Vicini(p.WplY, ModuloBoost(f, xMin, xMax, true), 4e-4))
+        state.SkipWithError("plastic moduli differ from the peer's");
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(ModuloBoost(f, yMin, yMax, false));
+        benchmark::DoNotOptimize(ModuloBoost(f, xMin, xMax, true));
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(WplasticiBoost)->Apply(Vertici)->Complexity();
+
 void InviluppoBoost(benchmark::State& state) {
     const PoligonoBoost f = DaPoligono(Contorno(state));
     for (auto _ : state) {
