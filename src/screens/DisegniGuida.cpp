@@ -3,8 +3,15 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <numeric>
+#include <stdexcept>
+#include <string>
 #include <utility>
+#include <vector>
 
+#include "choice/ConfrontoScelta.h"
+#include "choice/GraficoScelta.h"
+#include "choice/Scelta.h"
 #include "composite/AcciaioCls.h"
 #include "composite/DisegniTraveMista.h"
 #include "composite/DisegnoVivo.h"
@@ -18,6 +25,7 @@
 #include "joints/Nodo.h"
 #include "joints/NoteIrrigidimenti.h"
 #include "screens/DisegniRegole.h"
+#include "screens/SagomiGuida.h"
 #include "sections/DisegniMomento.h"
 #include "sections/DisegnoSagoma.h"
 #include "sections/SezioneDoppia.h"
@@ -37,21 +45,6 @@ SezioneDoppioT Sagomo(const char* nome, double h, double b, double tw, double tf
     s.r1 = r;
     s.fy = 235;
     s.fu = 360;
-    return s;
-}
-
-SezioneDoppioT Ipe300() {
-    SezioneDoppioT s = Sagomo("IPE 300", 300, 150, 7.1, 10.7, 15);
-    s.Area = 5381;
-    s.Jy = 8356e4;
-    s.Wely = 557.1e3;
-    s.Wply = 628.4e3;
-    s.iY = 124.6;
-    s.Jz = 603.8e4;
-    s.Welz = 80.5e3;
-    s.Wplz = 125.2e3;
-    s.iZ = 33.5;
-    s.InizializzaSezione(nullptr);
     return s;
 }
 
@@ -86,48 +79,9 @@ SezioneDoppioT Asimmetrico() {
     return s;
 }
 
-SezioneSagomoU Canale() {
-    SezioneSagomoU s;
-    s.Designation = "UPN 200";
-    s.fy = 235;
-    s.h = 200;
-    s.b = 75;
-    s.tw = 8.5;
-    s.tf = 11.5;
-    s.r1 = 11.5;
-    s.r2 = 6;
-    s.pendenza = 6;
-    s.Area = 3220;
-    s.Jy = 1910e4;
-    s.Jz = 148e4;
-    s.Wely = 191e3;
-    s.Welz = 27e3;
-    s.Wply = 228e3;
-    s.Wplz = 51.8e3;
-    s.iY = 77;
-    s.Iz = 21.4;
-    s.InizializzaSezione(nullptr);
-    return s;
-}
-
-SezioneSagomoL Angolare() {
-    SezioneSagomoL s;
-    s.Designation = "L 100x10";
-    s.fy = 235;
-    s.h = 100;
-    s.b = 100;
-    s.t = 10;
-    s.r1 = 12;
-    s.r2 = 6;
-    s.Area = 1915;
-    s.Jy = 177e4;
-    s.Jz = 177e4;
-    s.iY = 30.4;
-    s.Iz = 30.4;
-    s.iV = 19.5;
-    s.InizializzaSezione(nullptr);
-    return s;
-}
+SezioneDoppioT Ipe300() { return SezioneGuida<SezioneDoppioT>("IPE 300", 235); }
+SezioneSagomoU Canale() { return SezioneGuida<SezioneSagomoU>("UPN 200", 235); }
+SezioneSagomoL Angolare() { return SezioneGuida<SezioneSagomoL>("L 100x100x10", 235); }
 
 template <typename Sezione> Disegno Coppia(Sezione s) {
     RendeDoppia(s, SingoloDi(s), 10, false);
@@ -141,23 +95,15 @@ template <typename Sezione> Disegno Tavola(const Sezione& sezione, std::string_v
             }};
 }
 
-/// A beam IPE 270 of 6 m on a column HE 200 B, two rows of M18, stiffened in compression.
+/// A beam IPE 270 of 6 m on a column HEB 200, two rows of M18, stiffened in compression.
 Nodo EsempioNodo() {
     Nodo node;
     node.ImpostaNodo();
     node.Tipovie = nodoT;
     node.NumeroGiunti = 1;
     node.CaratterizzaGiunti();
-    const auto beam = std::make_shared<SezioneDoppioT>(Sagomo("IPE 270", 270, 135, 6.6, 10.2, 15));
-    const auto column = std::make_shared<SezioneDoppioT>(Sagomo("HE 200 B", 200, 200, 9, 15, 18));
-    beam->Area = 4595;
-    beam->Jy = 5790e4;
-    beam->Wely = 428.9e3;
-    beam->Wply = 484e3;
-    column->Area = 7808;
-    column->Jy = 5696e4;
-    column->Wely = 569.6e3;
-    column->Wply = 642.5e3;
+    const auto beam = std::make_shared<SezioneDoppioT>(SezioneGuida<SezioneDoppioT>("IPE 270", 235));
+    const auto column = std::make_shared<SezioneDoppioT>(SezioneGuida<SezioneDoppioT>("HEB 200", 235));
     node.PuntatoreTraveDestra(beam);
     node.PuntatoreColonna(column);
     node.ConnessioneCorrente = node.Giunti[1].Usa();
@@ -230,42 +176,85 @@ Disegno EsempioMomenti() {
     return DisegnoMomenti(y, z, 5);
 }
 
+/// A simple beam in S275: 100 kNm in the middle of 6 m, held sideways every 3 m [N, mm].
+Richiesta EsempioScelta() {
+    Richiesta asked;
+    asked.TipoAcciaio = "S275 (Fe430)";
+    asked.fy = 275;
+    asked.fu = 430;
+    asked.L0y = 6000;
+    asked.L0z = 3000;
+    asked.y.M1 = 100e6;
+    asked.C1 = 1;
+    return asked;
+}
+
+/// IPE, HEA and HEB for that beam, as the chart of the choice shows them.
+Disegno EsempioGrafico() {
+    std::vector<SagomoInGara> rows;
+    for (const SagomoInGara& s : GaraGuida().sagomi)
+        if (!s.utente && (s.famiglia == "IPE" || s.famiglia == "HEA" || s.famiglia == "HEB"))
+            rows.push_back(s);
+    std::vector<std::string> told;
+    const std::vector<RigaScelta> checked = Valuta(rows, EsempioScelta(), {}, told);
+    std::vector<std::uint32_t> places(checked.size());
+    std::iota(places.begin(), places.end(), 0U);
+    return DisegnoGrafico(std::make_shared<DatiGrafico>(DatiGraficoDi(places, checked, rows)));
+}
+
+/// Three sections that bear it.
+Disegno EsempioConfronto() {
+    std::vector<std::string> told;
+    std::vector<Confrontato> rows;
+    for (const char* name : {"IPE 330", "HEA 220", "HEB 180"})
+        rows.push_back({SagomoGuida(name), Verifica(SagomoGuida(name), EsempioScelta(), told)});
+    return DisegnoConfronto(rows);
+}
+
 using Tabella = std::map<std::string_view, std::function<Disegno()>>;
 
 const Tabella& Disegni() {
-    static const Tabella drawings{{"angolare", [] { return DisegnoSagoma(SagomaDi(Angolare())); }},
-                                  {"angolari", [] { return Coppia(Angolare()); }},
-                                  {"asimmetrico", [] { return DisegnoSagoma(SagomaDi(Asimmetrico())); }},
-                                  {"canale", [] { return DisegnoSagoma(SagomaDi(Canale())); }},
-                                  {"canali", [] { return Coppia(Canale()); }},
-                                  {"connettori", [] { return DisegnoConnettori(EsempioTrave(), 16); }},
-                                  {"cordone", DisegnoCordone},
-                                  {"curve", DisegnoCurve},
-                                  {"dominio", DisegnoDominio},
-                                  {"doppioT", [] { return DisegnoSagoma(SagomaDi(Ipe300())); }},
-                                  {"efficace", [] { return Tavola(Saldato(), "FrmClasseDoppioTU"); }},
-                                  {"fila1", [] { return DisegnoFile(1); }},
-                                  {"fila2", [] { return DisegnoFile(2); }},
-                                  {"foratura",
-                                   [] {
-                                       return DisegnoForatura({16, 18, 40, 60, 30, 60});
-                                   }},
-                                  {"giunto", [] { return FiguraGiunto(EsempioNodo(), nullptr, {}); }},
-                                  {"irrigidimenti", [] { return DisegnoIrrigidimenti({}); }},
-                                  {"lamiera", [] { return DisegnoLamiera(EsempioTrave()); }},
-                                  {"mensola",
-                                   [] {
-                                       return DisegnoTrave({true, false, 0});
-                                   }},
-                                  {"momenti", EsempioMomenti},
-                                  {"portale", DisegnoPortale},
-                                  {"prospettoF1", [] { return DisegnoProspetto(1); }},
-                                  {"prospettoF2", [] { return DisegnoProspetto(2); }},
-                                  {"rigidezza", EsempioRigidezza},
-                                  {"sezione", [] { return Tavola(Ipe300(), "frmDoppioT"); }},
-                                  {"tensioni", DisegnoTensioni},
-                                  {"trave", [] { return DisegnoTrave({}); }},
-                                  {"travemista", EsempioTraveMista}};
+    static const Tabella drawings{
+        {"angolare", [] { return DisegnoSagoma(SagomaDi(Angolare())); }},
+        {"angolare4",
+         [] { return Tavola(SezioneGuida<SezioneSagomoL>("L 120x120x8", 355), "FrmClasseSagomiL"); }},
+        {"angolari", [] { return Coppia(Angolare()); }},
+        {"asimmetrico", [] { return DisegnoSagoma(SagomaDi(Asimmetrico())); }},
+        {"canale", [] { return DisegnoSagoma(SagomaDi(Canale())); }},
+        {"canali", [] { return Coppia(Canale()); }},
+        {"connettori", [] { return DisegnoConnettori(EsempioTrave(), 16); }},
+        {"coefficienti", DisegnoCoefficienti},
+        {"confronto", EsempioConfronto},
+        {"cordone", DisegnoCordone},
+        {"curve", DisegnoCurve},
+        {"dominio", DisegnoDominio},
+        {"doppioT", [] { return DisegnoSagoma(SagomaDi(Ipe300())); }},
+        {"efficace", [] { return Tavola(Saldato(), "FrmClasseDoppioTU"); }},
+        {"fila1", [] { return DisegnoFile(1); }},
+        {"fila2", [] { return DisegnoFile(2); }},
+        {"foratura",
+         [] {
+             return DisegnoForatura({16, 18, 40, 60, 30, 60});
+         }},
+        {"giunto", [] { return FiguraGiunto(EsempioNodo(), nullptr, {}); }},
+        {"irrigidimenti", [] { return DisegnoIrrigidimenti({}); }},
+        {"lamiera", [] { return DisegnoLamiera(EsempioTrave()); }},
+        {"mensola",
+         [] {
+             return DisegnoTrave({true, false, 0});
+         }},
+        {"momenti", EsempioMomenti},
+        {"portale", DisegnoPortale},
+        {"prospettoF1", [] { return DisegnoProspetto(1); }},
+        {"prospettoF2", [] { return DisegnoProspetto(2); }},
+        {"rigidezza", EsempioRigidezza},
+        {"scelta", EsempioGrafico},
+        {"sezione", [] { return Tavola(Ipe300(), "frmDoppioT"); }},
+        {"suggerimento", DisegnoSuggerimento},
+        {"tensioni", DisegnoTensioni},
+        {"trave", [] { return DisegnoTrave({}); }},
+        {"travemista", EsempioTraveMista},
+        {"trattoT", DisegnoModiTrattoT}};
     return drawings;
 }
 
@@ -274,7 +263,11 @@ const Tabella& Disegni() {
 Disegno DisegnoGuida(std::string_view nome) {
     const MessaggiTaciuti quiet;
     const auto found = Disegni().find(nome);
-    return found == Disegni().end() ? Disegno() : found->second();
+    try {
+        return found == Disegni().end() ? Disegno() : found->second();
+    } catch (const std::out_of_range&) {
+        return {}; // a workbook without that section
+    }
 }
 
 std::vector<std::string_view> NomiDisegniGuida() {

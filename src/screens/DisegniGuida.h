@@ -8,9 +8,11 @@
 namespace sagomi {
 
 /// The drawings of the help and the manual, which knows them by their names. They use the program's own ways
-/// to draw sections, joints and diagrams, on examples of their own.
+/// to draw sections, joints and diagrams, on examples of their own; rolled sections are those of the
+/// catalogue.
 
-/// The drawing of that name; one that nobody knows has nothing to plot.
+/// The drawing of that name; one that nobody knows, or whose section the
+/// catalogue has not, has nothing to plot.
 [[nodiscard]] Disegno DisegnoGuida(std::string_view nome);
 
 /// The names of all of them.

@@ -4,12 +4,15 @@
 #include <array>
 #include <cmath>
 #include <functional>
+#include <initializer_list>
 #include <numbers>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "drawing/Quadro.h"
+#include "frame/Generale.h"
 #include "frame/Numeri.h"
 #include "sections/Eurocod3.h"
 
@@ -257,8 +260,134 @@ void TracciaPortale(const Quadro& q) {
     q.Testo({420, momenti.alto - nodo + isolata + 3}, "MQ - M", Allinea::Centro, Posa::Alto);
 }
 
+/// A bar of the share 1 / gamma, with factor and share in words.
+void BarraFattore(const Quadro& q, Punto dove, double gamma) {
+    constexpr double intera = 190;
+    constexpr double alta = 13;
+    const double parte = intera / gamma;
+    const std::array<Punto, 4> barra{
+        {dove, dove + Punto{parte, 0}, dove + Punto{parte, alta}, dove + Punto{0, alta}}};
+    Quadro::Area(barra, Fondo::Tenue);
+    q.Contorno();
+    Quadro::Spezzata(barra, true);
+    q.Fine(TipoLinea::Tratteggiata);
+    Quadro::Linea(dove + Punto{intera, -2}, dove + Punto{intera, alta + 2});
+    q.Testo(dove + Punto{6, alta / 2}, TestoPiano(std::round(1000 / gamma) / 10) + " %", Allinea::Sinistra,
+            Posa::Mezzo);
+    q.Testo(dove + Punto{intera + 8, alta / 2}, TestoPiano(gamma), Allinea::Sinistra, Posa::Mezzo);
+}
+
+void TracciaCoefficienti(const Quadro& q) {
+    struct Voce {
+        std::string_view nome;
+        double ntc, ec3;
+    };
+    const std::array<Voce, 3> voci{{{"GammaM0, sezioni", fattoriNTC.GammaM0, fattoriEC3.GammaM0},
+                                    {"GammaM1, instabilità", fattoriNTC.GammaM1, fattoriEC3.GammaM1},
+                                    {"GammaM2, collegamenti", fattoriNTC.GammaM2, fattoriEC3.GammaM2}}};
+    constexpr double barre = 225;
+    q.Testo({barre, 2}, "Parte che resta, e coefficiente", Allinea::Sinistra, Posa::Alto);
+    double y = 24;
+    for (const Voce& v : voci) {
+        q.Testo({4, y + 15}, v.nome, Allinea::Sinistra, Posa::Mezzo);
+        q.Testo({barre - 8, y + 6}, "NTC", Allinea::Destra, Posa::Mezzo);
+        BarraFattore(q, {barre, y}, v.ntc);
+        q.Testo({barre - 8, y + 23}, "EC3", Allinea::Destra, Posa::Mezzo);
+        BarraFattore(q, {barre, y + 17}, v.ec3);
+        y += 46;
+    }
+}
+
+/// How far the flange of a T-stub in tension stands off at its web, its bolts and its edges.
+struct Distacco {
+    double anima, bulloni, bordo;
+};
+
+void Cerniera(const Quadro& q, Punto dove) {
+    Quadro::Disco(dove, 3.5, Fondo::Tenue);
+    q.Contorno();
+    Quadro::Cerchio(dove, 3.5);
+}
+
+/// A T-stub on its two bolts; those that hold keep the flange down, there it yields as at the web.
+void TrattoT(const Quadro& q, double x, Distacco d, bool snervata, std::string_view nome) {
+    constexpr double m = 34; // from the web to the bolts
+    constexpr double n = 26; // from the bolts to the edge
+    constexpr double base = 132;
+    const bool rotti = d.bulloni > 0;
+    q.Fine(TipoLinea::TrattoPunto);
+    Quadro::Linea({x - m - n - 8, base}, {x + m + n + 8, base});
+    q.Contorno();
+    Quadro::Spezzata(std::array<Punto, 5>{{{x - m - n, base - d.bordo},
+                                           {x - m, base - d.bulloni},
+                                           {x, base - d.anima},
+                                           {x + m, base - d.bulloni},
+                                           {x + m + n, base - d.bordo}}});
+    Quadro::Linea({x, base - d.anima}, {x, 44});
+    Quadro::Punta({x, 30}, {0, -1}, 14, 5);
+    for (const double dove : {x - m, x + m}) {
+        const double testa = base - d.bulloni - 8;
+        Quadro::Linea({dove - 5, testa}, {dove + 5, testa});
+        Quadro::Linea({dove, testa}, {dove, rotti ? base - d.bulloni / 2 - 2 : base + 14});
+        if (rotti)
+            Quadro::Linea({dove, base - d.bulloni / 2 + 2}, {dove, base + 14});
+        if (!rotti)
+            Cerniera(q, {dove, base});
+    }
+    if (snervata)
+        Cerniera(q, {x, base - d.anima});
+    q.Testo({x, base + 22}, nome, Allinea::Centro, Posa::Alto);
+}
+
+void TracciaModi(const Quadro& q) {
+    TrattoT(q, 90, {20, 0, 0}, true, "modo 1: la flangia");
+    TrattoT(q, 270, {28, 12, 0}, true, "modo 2: flangia e bulloni");
+    TrattoT(q, 450, {18, 18, 18}, false, "modo 3: i bulloni");
+}
+
+void TracciaSuggerimento(const Quadro& q) {
+    constexpr int nervature = 15;
+    constexpr int doppie = 3;
+    constexpr double passo = 32;
+    const double sinistra = 20;
+    const double destra = sinistra + nervature * passo;
+    const double ala = 92;
+    q.Contorno();
+    Quadro::Spezzata(
+        std::array<Punto, 4>{{{sinistra, ala}, {destra, ala}, {destra, ala + 34}, {sinistra, ala + 34}}},
+        true);
+    q.Fine();
+    for (const double y : {ala + 4, ala + 30})
+        Quadro::Linea({sinistra, y}, {destra, y});
+    Quadro::Linea({sinistra, 34}, {destra, 34}); // top of the slab
+    for (int i = 0; i < nervature; ++i) {
+        const double x = sinistra + (i + 0.5) * passo;
+        q.Fine();
+        Quadro::Spezzata(std::array<Punto, 4>{{{x - 13, 64}, {x - 8, ala}, {x + 8, ala}, {x + 13, 64}}});
+        if (i + 1 < nervature)
+            Quadro::Linea({x + 13, 64}, {x + passo - 13, 64});
+        q.Contorno();
+        const bool due = i < doppie || i >= nervature - doppie;
+        for (const double lato : due ? std::vector<double>{-4, 4} : std::vector<double>{0}) {
+            Quadro::Linea({x + lato, ala}, {x + lato, 48});
+            Quadro::Linea({x + lato - 2.5, 48}, {x + lato + 2.5, 48});
+        }
+    }
+    for (const double x : {sinistra + 4, destra - 4})
+        Quadro::Spezzata(std::array<Punto, 3>{{{x, ala + 34}, {x - 8, ala + 48}, {x + 8, ala + 48}}}, true);
+    const double primo = sinistra + doppie * passo;
+    q.Quota({sinistra, 22}, {primo, 22});
+    q.Quota({destra - doppie * passo, 22}, {destra, 22});
+    q.Testo({(sinistra + primo) / 2, 18}, "2 pioli", Allinea::Centro, Posa::Basso);
+    q.Testo({destra - doppie * passo / 2, 18}, "2 pioli", Allinea::Centro, Posa::Basso);
+    q.Testo({(sinistra + destra) / 2, 18}, "1 piolo", Allinea::Centro, Posa::Basso);
+}
+
 } // namespace
 
+Disegno DisegnoCoefficienti() { return Figura("Coefficienti parziali", {470, 170}, TracciaCoefficienti); }
+Disegno DisegnoModiTrattoT() { return Figura("Tratto a T", {540, 176}, TracciaModi); }
+Disegno DisegnoSuggerimento() { return Figura("Pioli nelle nervature", {520, 150}, TracciaSuggerimento); }
 Disegno DisegnoPortale() { return Figura("Portale", {540, 236}, TracciaPortale); }
 Disegno DisegnoCurve() { return Figura("Curve di instabilità", {460, 300}, TracciaCurve); }
 Disegno DisegnoTensioni() { return Figura("Tensioni", {480, 165}, TracciaTensioni); }

@@ -22,4 +22,15 @@ Disegno DisegnoCordone();
 /// A portal hinged at its feet under a uniform load, and its moment diagram.
 Disegno DisegnoPortale();
 
+/// The design strength that is left of the characteristic one under each partial factor, by NTC 4.2.4.1.1 and
+/// by EC3 6.1.
+Disegno DisegnoCoefficienti();
+
+/// An equivalent T-stub of an end plate in its three modes of failure, ENV 1993-1-1 annex J: the flange
+/// yields in four lines, the flange yields and the bolts fail, the bolts fail.
+Disegno DisegnoModiTrattoT();
+
+/// A composite beam whose ribs next to both supports have two studs, the others one.
+Disegno DisegnoSuggerimento();
+
 } // namespace sagomi

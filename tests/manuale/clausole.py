@@ -58,7 +58,7 @@ TOPICS = {
     "report/RelazioneTrave": ["frmAcciaioCls", "frmConnettori"],
     "screens/CalcoloChi": ["FrmInstabDoppioT"],
     "screens/ColonnaInstabilita": ["FrmInstabDoppioT"],
-    "screens/DisegniRegole": ALL,
+    "screens/DisegniRegole": ALL + ["NormativaMain"],
     "screens/FrmClasseDoppioTU": ["FrmClasseDoppioTU"],
     "screens/FrmClasseSagomiL": ["frmSagomiU"],
     "screens/FrmInstabDoppioT": ["FrmInstabDoppioT"],

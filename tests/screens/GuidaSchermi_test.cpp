@@ -53,4 +53,26 @@ TEST_F(GuidaSchermiTest, EveryControlOfEveryScreenHasItsTopic) {
     EXPECT_TRUE(main.isVisible());
 }
 
+/// The topic that holds a place, with the parts below its heading.
+QString Argomento(const QString& html, const QString& place) {
+    const qsizetype at = html.indexOf(QLatin1String("name=\"") + place + u'"');
+    const qsizetype from = html.lastIndexOf(QStringLiteral("<h2>"), at);
+    return html.mid(from, html.indexOf(QStringLiteral("<h2>"), at) - from);
+}
+
+// Every window but that of version and licence, which has nothing to be drawn; the first has its picture with
+// the table.
+TEST_F(GuidaSchermiTest, EveryScreenHasAPictureInItsTopic) {
+    Avvia();
+    auto& n = NavigaSchermi::Unico();
+    for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
+        if (voce.nome == u"FrmInform")
+            continue;
+        const QString html = LeggeGuida(n.Prende(voce.nome).FileGuida());
+        const QString place = voce.nome == u"frmDoppioT" ? QStringLiteral("DBGrid1") : voce.nome;
+        EXPECT_TRUE(Argomento(html, place).contains(QStringLiteral("<img src=\"figura:")))
+            << voce.nome.toStdString();
+    }
+}
+
 } // namespace
