@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
-#include <tuple>
+#include <iterator>
+#include <map>
 #include <unordered_set>
 #include <utility>
 
@@ -248,18 +248,24 @@ private:
 
 } // namespace
 
+// A stair of weights with falling utilisations; of equal ones the first stays.
 std::vector<std::uint32_t> FronteLeggeri(std::span<const PuntoGrafico> punti) {
+    std::map<double, std::uint32_t> scala; // by weight
+    for (std::uint32_t i = 0; i < punti.size(); ++i) {
+        const PuntoGrafico& p = punti[i];
+        if (!p.verificato)
+            continue;
+        auto dopo = scala.upper_bound(p.g);
+        if (dopo != scala.begin() && punti[std::prev(dopo)->second].u <= p.u)
+            continue;
+        while (dopo != scala.end() && punti[dopo->second].u >= p.u)
+            dopo = scala.erase(dopo);
+        scala.insert_or_assign(p.g, i);
+    }
     std::vector<std::uint32_t> fronte;
-    for (std::uint32_t i = 0; i < punti.size(); ++i)
-        if (punti[i].verificato)
-            fronte.push_back(i);
-    std::ranges::sort(fronte, {}, [&](std::uint32_t i) { return std::tuple(punti[i].g, punti[i].u, i); });
-    double minimo = std::numeric_limits<double>::infinity();
-    std::erase_if(fronte, [&](std::uint32_t i) {
-        const bool peggiore = punti[i].u >= minimo;
-        minimo = std::min(minimo, punti[i].u);
-        return peggiore;
-    });
+    fronte.reserve(scala.size());
+    for (const auto& [g, i] : scala)
+        fronte.push_back(i);
     return fronte;
 }
 

@@ -45,16 +45,16 @@ bool NomePrima(std::string_view a, std::string_view b) {
     return a.size() - i < b.size() - j;
 }
 
-/// Sorts by numbers; those that are none stay behind the others.
-void OrdinaPerValore(std::vector<std::uint32_t>& posti, std::span<const RigaScelta> righe,
-                     double (*valore)(const RigaScelta&), bool discendente) {
-    const auto nessuno = std::stable_partition(
-        posti.begin(), posti.end(), [&](std::uint32_t p) { return !std::isnan(valore(righe[p])); });
-    std::stable_sort(posti.begin(), nessuno, [&](std::uint32_t a, std::uint32_t b) {
+/// Numbers, those that are none behind the others.
+PrimaDi PrimaPerValore(std::span<const RigaScelta> righe, double (*valore)(const RigaScelta&),
+                       bool discendente) {
+    return [=](std::uint32_t a, std::uint32_t b) {
         const double x = valore(righe[a]);
         const double y = valore(righe[b]);
+        if (std::isnan(x) || std::isnan(y))
+            return !std::isnan(x) && std::isnan(y);
         return discendente ? y < x : x < y;
-    });
+    };
 }
 
 const std::string& TestoDi(const SagomoInGara& sagomo, int colonna) {
@@ -135,36 +135,43 @@ std::string TestoInteroScelta(const RigaScelta& riga, const SagomoInGara& sagomo
     return std::isfinite(valore) ? TestoPiano(valore) : std::string();
 }
 
-void OrdinaScelta(std::vector<std::uint32_t>& posti, std::span<const RigaScelta> righe,
-                  std::span<const SagomoInGara> sagomi, const OrdineScelta& ordine) {
-    if (ordine.colonna < 0) {
-        std::ranges::sort(posti, {}, [&](std::uint32_t p) { return std::pair(ChiavePeso(righe[p]), p); });
-        return;
-    }
-    if (const auto valore = ColonneScelta()[static_cast<std::size_t>(ordine.colonna)].valore) {
-        OrdinaPerValore(posti, righe, valore, ordine.discendente);
-        return;
-    }
-    std::ranges::stable_sort(posti, [&](std::uint32_t a, std::uint32_t b) {
+PrimaDi PrimaNellaScelta(std::span<const RigaScelta> righe, std::span<const SagomoInGara> sagomi,
+                         const OrdineScelta& ordine) {
+    if (ordine.colonna < 0)
+        return [righe](std::uint32_t a, std::uint32_t b) {
+            return std::pair(ChiavePeso(righe[a]), a) < std::pair(ChiavePeso(righe[b]), b);
+        };
+    if (const auto valore = ColonneScelta()[static_cast<std::size_t>(ordine.colonna)].valore)
+        return PrimaPerValore(righe, valore, ordine.discendente);
+    return [sagomi, ordine](std::uint32_t a, std::uint32_t b) {
         const std::string& x = TestoDi(sagomi[a], ordine.colonna);
         const std::string& y = TestoDi(sagomi[b], ordine.colonna);
         return ordine.discendente ? NomePrima(y, x) : NomePrima(x, y);
-    });
+    };
+}
+
+void OrdinaScelta(std::vector<std::uint32_t>& posti, std::span<const RigaScelta> righe,
+                  std::span<const SagomoInGara> sagomi, const OrdineScelta& ordine) {
+    std::ranges::stable_sort(posti, PrimaNellaScelta(righe, sagomi, ordine));
 }
 
 std::vector<std::uint32_t> PiuLeggeriFra(std::span<const std::uint32_t> posti,
                                          std::span<const RigaScelta> righe,
                                          std::span<const SagomoInGara> sagomi) {
     std::vector<std::pair<std::string_view, std::uint32_t>> migliori; // families are few
+    std::size_t noto = 0;
     for (const std::uint32_t p : posti) {
         if (!righe[p].verificato || righe[p].SenzaVerdetto())
             continue;
         const std::string_view famiglia = sagomi[p].famiglia;
-        const auto noto = std::ranges::find(migliori, famiglia, [](const auto& m) { return m.first; });
-        if (noto == migliori.end())
+        if (noto >= migliori.size() || migliori[noto].first != famiglia) // as a rule that of the row before
+            noto = static_cast<std::size_t>(
+                std::ranges::find(migliori, famiglia, [](const auto& m) { return m.first; }) -
+                migliori.begin());
+        if (noto == migliori.size())
             migliori.emplace_back(famiglia, p);
-        else if (std::pair(righe[p].g, p) < std::pair(righe[noto->second].g, noto->second))
-            noto->second = p;
+        else if (std::pair(righe[p].g, p) < std::pair(righe[migliori[noto].second].g, migliori[noto].second))
+            migliori[noto].second = p;
     }
     std::vector<std::uint32_t> leggeri;
     leggeri.reserve(migliori.size());

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "choice/OrdineInCorso.h"
 #include "choice/Scelta.h"
 
 /// The rows of a choice as a table: columns in kN, kNm, mm, cm2 and kg/m.
@@ -44,6 +45,11 @@ struct OrdineScelta {
     int colonna = -1; ///< -1: those that hold first, the lighter before the heavier, then by utilisation
     bool discendente = false;
 };
+
+/// The comparison of that order; it looks at the rows while it lives. What is no number comes last, either
+/// way.
+PrimaDi PrimaNellaScelta(std::span<const RigaScelta> righe, std::span<const SagomoInGara> sagomi,
+                         const OrdineScelta& ordine);
 
 /// Brings places into the order of their rows. What is no number comes last, either way; equal rows keep
 /// their order.

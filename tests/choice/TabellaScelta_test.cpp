@@ -73,6 +73,36 @@ TEST_F(TabellaSceltaTest, AUtilisationHasItsVerdictAndWhatGoverns) {
     EXPECT_EQ(TestoUtilizzo(none), "NO  150 %  svergolamento");
 }
 
+// 10,000 places with many equal numbers and some that are none: three runs, merged in pieces.
+TEST_F(TabellaSceltaTest, SortedInPiecesTheOrderIsTheSame) {
+    constexpr std::uint32_t n = 10000;
+    righe.clear();
+    sagomi.clear();
+    posti.clear();
+    for (std::uint32_t i = 0; i < n; ++i) {
+        const std::uint32_t h = i * 2654435761U >> 20U;
+        righe.push_back(Riga(h % 97, h % 13 == 0 ? RigaScelta::nessuno : 0.01 * (h % 151), h % 3 != 0));
+        sagomi.push_back(Sagomo(("IPE " + std::to_string(h % 700)).c_str(), h % 2 == 0 ? "IPE" : "HEA"));
+        posti.push_back(i);
+    }
+    const Posti all = posti;
+    for (const OrdineScelta o :
+         {OrdineScelta{}, {colonnaNome, true}, {colonnaPeso, false}, {ColonnaUtilizzo(), true}}) {
+        OrdineInCorso pieces;
+        pieces.Comincia(all, PrimaNellaScelta(righe, sagomi, o));
+        int steps = 1;
+        while (!pieces.Avanza(std::chrono::microseconds(0)))
+            ++steps;
+        EXPECT_GE(steps, 5) << "three runs, two rounds of merging";
+        posti = all;
+        EXPECT_EQ(pieces.Prende(), Ordinati(o)) << o.colonna;
+    }
+    OrdineInCorso none;
+    none.Comincia({}, PrimaNellaScelta(righe, sagomi, {}));
+    EXPECT_TRUE(none.Avanza(std::chrono::microseconds(0)));
+    EXPECT_TRUE(none.Prende().empty());
+}
+
 TEST_F(TabellaSceltaTest, WhereNothingActsThereIsNoVerdictAndNoLightest) {
     for (RigaScelta& r : righe) {
         r.massimo = RigaScelta::nessuno;

@@ -244,6 +244,7 @@ void FrmScelta::LeggeCatalogo() {
         lettoDa_ = std::move(stamp);
     else
         return;
+    inOrdine_.Ferma();
     mancanti_.clear();
     confrontati_.clear();
     modello_->Mostra({}, {});
@@ -355,6 +356,7 @@ void FrmScelta::Ricomincia() {
     }
     const MessaggiTaciuti quiet;
     MostraSegnaposti();
+    inOrdine_.Ferma();
     if (!possibili_) {
         passi_.stop();
         scelta_.Ferma();
@@ -372,6 +374,10 @@ void FrmScelta::Ricomincia() {
 }
 
 void FrmScelta::Avanza() {
+    if (inOrdine_.InCorso()) {
+        AvanzaOrdine();
+        return;
+    }
     using Orologio = std::chrono::steady_clock;
     const auto end = Orologio::now() + (modello_->rowCount() == 0 ? lettura : altroPasso);
     while (lettura_ && Orologio::now() < end) {
@@ -421,14 +427,33 @@ void FrmScelta::MostraParziale() {
         AggiornaGrafico(); // empties it
 }
 
+// While the catalogue is being read its rows move: many of them stand as they come.
 void FrmScelta::MostraRighe() {
     std::vector<std::uint32_t> places = scelta_.Ammesse();
-    std::vector<std::uint32_t> lightest = PiuLeggeriFra(places, scelta_.Righe(), scelta_.Sagomi());
     if (soloVerificati_->isChecked())
         std::erase_if(places, [this](std::uint32_t p) { return !scelta_.Riga(p).verificato; });
-    OrdinaScelta(places, scelta_.Righe(), scelta_.Sagomi(), ordine_);
-    if (!Fatta())
-        lightest.clear();
+    if (lettura_ && places.size() > OrdineInCorso::tratto) {
+        modello_->Mostra(std::move(places), {});
+        MostraRiassunto();
+        return;
+    }
+    inOrdine_.Comincia(std::move(places), PrimaNellaScelta(scelta_.Righe(), scelta_.Sagomi(), ordine_));
+    AvanzaOrdine();
+}
+
+// As long as that goes on the table has the values in the order of before.
+void FrmScelta::AvanzaOrdine() {
+    if (!inOrdine_.Avanza(altroPasso)) {
+        avanzamento_->show();
+        tabella_->viewport()->update();
+        passi_.start();
+        return;
+    }
+    avanzamento_->setVisible(!scelta_.Finita() || lettura_);
+    std::vector<std::uint32_t> places = inOrdine_.Prende();
+    std::vector<std::uint32_t> lightest;
+    if (Fatta())
+        lightest = PiuLeggeriFra(places, scelta_.Righe(), scelta_.Sagomi());
     const std::vector<std::uint32_t> selected = Selezionate();
     modello_->Mostra(std::move(places), std::move(lightest));
     Riseleziona(selected);

@@ -87,10 +87,13 @@ private:
     void Ricomincia();
     void Avanza();
     void MostraRighe();
+    void AvanzaOrdine();
     void MostraParziale();
     void MostraSegnaposti();
-    /// All rows are computed for the entries as they are.
-    [[nodiscard]] bool Fatta() const { return possibili_ && scelta_.Finita() && !lettura_; }
+    /// All rows are computed for the entries as they are, and sorted.
+    [[nodiscard]] bool Fatta() const {
+        return possibili_ && scelta_.Finita() && !lettura_ && !inOrdine_.InCorso();
+    }
     void MostraRiassunto();
     void AggiornaGrafico();
     void Ordina(int colonna);
@@ -110,6 +113,7 @@ private:
     std::string lettoDa_;                  ///< the workbooks that were read, with their states
     std::vector<std::string> mancanti_;    ///< why sheets were not read
     OrdineScelta ordine_;
+    OrdineInCorso inOrdine_; ///< the rows that the table will show
     RegoleEntrate regole_;
     FiltroCampi* entrate_ = nullptr;
     SchermoSezione* chiamante_ = nullptr;

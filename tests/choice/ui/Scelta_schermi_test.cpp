@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "../Forze.h"
 #include "choice/Scelta.h"
 #include "frame/Numeri.h"
 #include "frame/Unita.h"
@@ -16,73 +17,8 @@ using namespace sagomi::prove;
 
 namespace {
 
-/// A set of forces in the units of the screens.
-struct Forze {
-    const char* nome;
-    int acciaio; ///< index in the list
-    std::int16_t normativa;
-    std::int16_t pict;
-    const char *N, *L0y, *L0z;
-    const char *My1, *My2, *MyQ, *Mz1, *Mz2, *MzQ;
-    const char *L, *k, *Kw, *C2, *C3, *za;
-};
-
-void PrintTo(const Forze& f, std::ostream* os) { *os << f.nome; }
-
-// clang-format off
-constexpr Forze forze[] = {
-    {"trave",          0, normativaNTC, pictEstremitaConcordi,    "0",    "5",   "5",   "60",  "0",   "0",  "0",  "0",  "0",  "5",   "1",   "1", "0",    "0",    "0"},
-    {"pressoflessa",   1, normativaEC3, pictEstremitaDiscordi,    "250",  "5",   "2.5", "40",  "-15", "0",  "5",  "2",  "0",  "2.5", "1",   "1", "0",    "0",    "0"},
-    {"campata",        2, normativaNTC, pictDistribuitoConcorde,  "120",  "6",   "3",   "30",  "10",  "45", "3",  "0",  "4",  "6",   "1",   "1", "0.45", "0.52", "100"},
-    {"sottile",        2, normativaEC3, pictConcentratoContro,    "900",  "4",   "4",   "80",  "60",  "50", "10", "10", "5",  "4",   "0.5", "1", "0.3",  "0.2",  "-80"},
-    {"tesa",           0, normativaEC3, pictEstremitaConcordi,    "-150", "3",   "3",   "25",  "25",  "0",  "4",  "-4", "0",  "3",   "1",   "1", "0",    "0",    "0"},
-    {"troppa",         1, normativaNTC, pictEstremitaConcordi,    "9000", "3",   "3",   "10",  "0",   "0",  "0",  "0",  "0",  "3",   "1",   "1", "0",    "0",    "0"},
-    {"soloForza",      0, normativaEC3, pictEstremitaConcordi,    "600",  "6",   "3",   "0",   "0",   "0",  "0",  "0",  "0",  "3",   "1",   "1", "0",    "0",    "0"},
-    {"soloTrazione",   2, normativaNTC, pictEstremitaConcordi,    "-800", "6",   "6",   "0",   "0",   "0",  "0",  "0",  "0",  "6",   "1",   "1", "0",    "0",    "0"},
-    {"soloMz",         1, normativaEC3, pictEstremitaDiscordi,    "0",    "4",   "4",   "0",   "0",   "0",  "15", "-6", "0",  "4",   "1",   "1", "0",    "0",    "0"},
-    {"contro",         0, normativaNTC, pictDistribuitoContro,    "80",   "7",   "3.5", "50",  "-20", "90", "2",  "2",  "1",  "3.5", "1",   "1", "0.45", "0.52", "150"},
-    {"concentrata",    1, normativaNTC, pictConcentratoConcorde,  "60",   "5",   "5",   "20",  "20",  "70", "0",  "0",  "3",  "5",   "1",   "1", "0.55", "0.4",  "-60"},
-    {"incastrata",     2, normativaEC3, pictConcentratoContro,    "300",  "3",   "1.5", "120", "-90", "80", "6",  "-3", "2",  "1.5", "0.5", "0.5", "0.42", "0.3", "0"},
-    {"snella",         0, normativaEC3, pictEstremitaConcordi,    "40",   "12",  "12",  "15",  "10",  "0",  "1",  "0",  "0",  "12",  "1",   "1", "0",    "0",    "0"},
-    {"tozza",          1, normativaEC3, pictEstremitaConcordi,    "1500", "0.5", "0.5", "90",  "40",  "0",  "9",  "4",  "0",  "0.5", "1",   "1", "0",    "0",    "0"},
-    {"alta",           1, normativaAltro, pictEstremitaDiscordi,    "700",  "6",   "2",   "200", "-50", "0",  "12", "8",  "0",  "2",   "1",   "1", "0",    "0",    "0"},
-    {"altissima",      2, normativaAltro, pictDistribuitoConcorde,  "1200", "5",   "2.5", "60",  "30",  "90", "4",  "2",  "2",  "2.5", "0.7", "1", "0.45", "0.5",  "120"},
-    {"tesaInflessa",   2, normativaNTC, pictConcentratoConcorde,  "-400", "5",   "5",   "30",  "-10", "60", "3",  "-1", "2",  "5",   "1",   "1", "0.5",  "0.5",  "80"},
-    {"caricoAppeso",   1, normativaNTC, pictDistribuitoConcorde,  "0",    "8",   "8",   "10",  "0",   "100","0",  "0",  "0",  "8",   "1",   "1", "0.45", "0.53", "-200"},
-    {"minima",         0, normativaEC3, pictEstremitaConcordi,    "1",    "1",   "1",   "0.5", "0",   "0",  "0.1","0",  "0",  "1",   "1",   "1", "0",    "0",    "0"},
-    {"biassiale",      0, normativaAltro, pictDistribuitoContro,    "450",  "4",   "4",   "70",  "50",  "60", "25", "10", "15", "4",   "1",   "1", "0.45", "0.5",  "50"}};
-// clang-format on
-
-double Letto(const char* text) { return ValoreNumerico(Locale(text)); }
-
-MomentiMembratura Momenti(const char* M1, const char* M2, const char* MQ) {
-    return {.M1 = kNm_a_Nmm(Letto(M1)), .M2 = kNm_a_Nmm(Letto(M2)), .MQ = kNm_a_Nmm(Letto(MQ))};
-}
-
-Richiesta RichiestaDi(const Forze& f) {
-    Richiesta r;
-    r.TipoAcciaio = NomeAcciaio[f.acciaio + 1];
-    r.fy = fyAcciaio[f.acciaio + 1];
-    r.fu = fuAcciaio[f.acciaio + 1];
-    r.NSd = kN_a_N(Letto(f.N));
-    r.L0y = m_a_mm(Letto(f.L0y));
-    r.L0z = m_a_mm(Letto(f.L0z));
-    r.y = Momenti(f.My1, f.My2, f.MyQ);
-    r.z = Momenti(f.Mz1, f.Mz2, f.MzQ);
-    r.pict = f.pict;
-    r.tipoDiagramma = TipoDiPict(f.pict);
-    r.LLT = m_a_mm(Letto(f.L));
-    r.k = Letto(f.k);
-    r.Kw = Letto(f.Kw);
-    r.c2 = Letto(f.C2);
-    r.c3 = Letto(f.C3);
-    r.za = Letto(f.za);
-    return r;
-}
-
 /// Each set takes every so manyeth row, from its own place on: together they see every row.
 constexpr std::size_t passo = std::size(forze);
-static_assert(passo >= 20);
 
 std::size_t Primo(const Forze& f) {
     return static_cast<std::size_t>(std::ranges::find(forze, std::string_view(f.nome), &Forze::nome) - forze);
@@ -123,10 +59,27 @@ protected:
     template <typename S> static void Resistenze(const S& s, const RigaScelta& row, const std::string& what) {
         EXPECT_NEAR(s.NbyRd, row.NbyRd, 1e-6 * row.NbyRd) << what;
         EXPECT_NEAR(s.NbzRd, row.NbzRd, 1e-6 * row.NbzRd) << what;
+        EXPECT_NEAR(s.Area, row.A, 1e-6 * row.A) << what;
         if constexpr (requires { s.NbvRd; }) {
             EXPECT_NEAR(s.NbvRd, row.NbvRd, 1e-6 * row.NbvRd) << what;
             EXPECT_EQ(s.ClasseCompressione, row.classe) << what;
+        } else {
+            EXPECT_NEAR(s.NplRd, row.NplRd, 1e-6 * row.NplRd) << what;
+            EXPECT_NEAR(s.McyRd, row.McyRd, 1e-6 * row.McyRd) << what;
         }
+    }
+
+    /// What the main screen shows of a row, with its four figures.
+    static void Mostrati(const SchermoSezione& s, const RigaScelta& row, const std::string& what) {
+        const auto shown = [&](const char* box, double value) {
+            if (!std::isnan(value)) {
+                EXPECT_EQ(Testo(&s, box).toStdString(), FormatoCifre(4, value)) << what << ' ' << box;
+            }
+        };
+        shown("TxtNbRd_0", N_a_kN(row.NbyRd));
+        shown("TxtNbRd_1", N_a_kN(row.NbzRd));
+        shown("TxtNbRd_2", N_a_kN(row.NbvRd));
+        shown("TxtMcRd_0", Nmm_a_kNm(row.McyRd));
     }
 
     /// The rows of this set.
@@ -206,6 +159,8 @@ TEST_P(SceltaSchermiTest, EveryCheckIsThatOfItsScreen) {
     for (const RigaScelta& row : rows) {
         const SagomoInGara& sagomo = some[row.indice];
         SchermoSezione& s = Mostra(sagomo);
+        Resistenze(Sezione(), row, sagomo.Designazione());
+        Mostrati(s, row, sagomo.Designazione());
         Membratura(s, row, sagomo.Designazione());
         Svergolamento(s, row, sagomo.Designazione());
         s.DatiRisultati();
@@ -218,8 +173,9 @@ TEST_P(SceltaSchermiTest, ResistancesOfChannelsAndAnglesAreThoseOfTheirScreens) 
         Alcuni([](const SagomoInGara& s) { return !std::holds_alternative<SezioneDoppioT>(s.sezione); });
     Richiesta r = RichiestaDi(GetParam());
     r.L0v = m_a_mm(2);
-    for (const bool pair : {false, true}) {
+    for (const auto& [pair, sides] : {std::pair{false, false}, {true, false}, {true, true}}) {
         r.doppi = pair;
+        r.accostati = sides;
         r.dDoppi = pair ? 12 : 0;
         std::vector<std::string> messages;
         for (const RigaScelta& row : Valuta(some, r, {}, messages)) {
@@ -228,11 +184,15 @@ TEST_P(SceltaSchermiTest, ResistancesOfChannelsAndAnglesAreThoseOfTheirScreens) 
             if (s.Txt_L0.size() > 2)
                 s.Txt_L0[2]->setText(QStringLiteral("2"));
             Trova<QCheckBox>(&s, "chkDoppi")->setChecked(pair);
+            Trova<QWidget>(&s, "fraDoppi")->findChild<QCheckBox*>()->setChecked(sides);
             Scrive(&s, "txtDoppi", "12");
             s.DatiRisultati();
-            if (const auto* channel = SezioneInUso<SezioneSagomoU>())
+            Mostrati(s, row, sagomo.Designazione());
+            if (auto* channel = SezioneInUso<SezioneSagomoU>()) {
                 Resistenze(*channel, row, sagomo.Designazione());
-            else
+                channel->ClassePressoFlessioneCalcola();
+                EXPECT_EQ(channel->ClassePressoFlessione, row.classe) << sagomo.Designazione();
+            } else
                 Resistenze(*SezioneInUso<SezioneSagomoL>(), row, sagomo.Designazione());
         }
     }
