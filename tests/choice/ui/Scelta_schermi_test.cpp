@@ -73,7 +73,7 @@ protected:
     static void Mostrati(const SchermoSezione& s, const RigaScelta& row, const std::string& what) {
         const auto shown = [&](const char* box, double value) {
             if (!std::isnan(value)) {
-                EXPECT_EQ(Testo(&s, box).toStdString(), FormatoCifre(4, value)) << what << ' ' << box;
+                EXPECT_EQ(Testo(&s, box), FormatoCifre(4, value)) << what << ' ' << box;
             }
         };
         shown("TxtNbRd_0", N_a_kN(row.NbyRd));
