@@ -83,12 +83,12 @@ TEST(Cad, TheBlockReceivesEveryPrimitive) {
     const std::vector<double> y{0, 20};
     LineaPlt(1, 2, 3, 4);
     CerchioPlt(1, 2, 6);
-    PolilineaPlt(2, x, y);
+    PolilineaPlt(2, x, y, true);
     TestoPlt(0, 0, 1, "b");
     EXPECT_EQ(*cad.chiamate, (std::vector<std::string>{"Flangia.AddLine (1 2 0) (3 4 0)", "Color 7",
                                                        "Flangia.AddCircle (1 2 0) 6", "Color 7",
-                                                       "Flangia.AddLightWeightPolyline 0 0 10 20", "Color 7",
-                                                       "Flangia.AddText b (0 0 0) 1", "Color 7"}));
+                                                       "Flangia.AddLightWeightPolyline 0 0 10 20 0 0",
+                                                       "Color 7", "Flangia.AddText b (0 0 0) 1", "Color 7"}));
 }
 
 TEST(Cad, WithoutAContainerNothingHappens) {

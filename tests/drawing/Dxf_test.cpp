@@ -233,4 +233,17 @@ TEST(Dxf, FilterOfTheSaveDialog) {
     EXPECT_EQ(indiceFiltroDxf, 2);
 }
 
+// The last vertex is the first one again, in all its coordinates.
+TEST(Dxf, AClosedLineEndsWhereItBegins) {
+    const FileDxf file;
+    std::int16_t n = 0;
+    ASSERT_TRUE(DxfApre(file.percorso, n));
+    DxfPolilineaChiusa(3, std::vector<double>{1, 3, 4}, std::vector<double>{2, 5, 7});
+    ASSERT_TRUE(DxfChiude());
+    const std::string byte = file.Byte();
+    const std::size_t primo = byte.find("VERTEX");
+    const std::size_t lungo = byte.find("VERTEX", primo + 1) - primo;
+    EXPECT_EQ(byte.substr(byte.rfind("VERTEX"), lungo), byte.substr(primo, lungo));
+}
+
 } // namespace

@@ -87,6 +87,18 @@ TEST(PagineTesto, SuUnFoglioStrettissimoUnaLetteraAllaVolta) {
     SuperficieFinta foglio(23, 100);
     EXPECT_FALSE(testo.Pagina(foglio, 0));
     EXPECT_THAT(foglio.Testi(), ElementsAre("è", "a"));
+    PagineTesto altro({"ab"});
+    SuperficieFinta secondo(23, 100);
+    EXPECT_FALSE(altro.Pagina(secondo, 0));
+    EXPECT_THAT(secondo.Testi(), ElementsAre("a", "b"));
+}
+
+// 13 letters of 6 fill the 78 mm of a page of 98.
+TEST(PagineTesto, LaRigaCheRiempieLaPaginaCiSta) {
+    PagineTesto testo({"0123456789abcd"});
+    SuperficieFinta foglio(98, 100);
+    EXPECT_FALSE(testo.Pagina(foglio, 0));
+    EXPECT_THAT(foglio.Testi(), ElementsAre("0123456789abc", "d"));
 }
 
 } // namespace

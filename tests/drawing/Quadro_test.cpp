@@ -130,4 +130,19 @@ TEST_F(QuadroTest, AnArrowHeadIsATriangle) {
     EXPECT_EQ(superficie.aree[0].punti, (std::vector<std::pair<double, double>>{{10, 20}, {4, 22}, {4, 18}}));
 }
 
+TEST_F(QuadroTest, TrueSizeIsOfFilesAlone) {
+    const Quadro q(&superficie, dispositivoVideo, misura);
+    q.VeraGrandezza(2);
+    EXPECT_EQ(superficie.ScaleWidth, 200);
+    SuperficieSvg svg;
+    const Quadro foglio(&svg, dispositivoSvg, misura);
+    const double prima = svg.ScaleWidth;
+    foglio.VeraGrandezza(0);
+    EXPECT_EQ(svg.ScaleWidth, prima) << "no scale";
+    foglio.VeraGrandezza(2);
+    EXPECT_EQ(svg.ScaleWidth, 2);
+    const Quadro nessuno(nullptr, dispositivoVideo, misura);
+    nessuno.VeraGrandezza(2);
+}
+
 } // namespace

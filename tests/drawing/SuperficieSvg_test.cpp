@@ -82,4 +82,10 @@ TEST_F(SuperficieSvgTest, ATextIsInsideThePicture) {
     EXPECT_TRUE(Contiene("viewBox=\"-4.227 -12.322 14.454 11.534\"")) << svg.Documento();
 }
 
+// 200 high, so a line is 0.4 wide and the border 0.56, wherever it stands.
+TEST_F(SuperficieSvgTest, AnUprightLineHasAPictureAsWideAsItsBorders) {
+    LineaPlt(3, 1000, 3, 1200);
+    EXPECT_TRUE(Contiene("viewBox=\"2.44 -1200.56 1.12 201.12\"")) << svg.Documento();
+}
+
 } // namespace

@@ -111,6 +111,8 @@ TEST_F(TavolaDisegnoTest, EachScaleInUseHoldsUpToItself) {
         EXPECT_EQ(ScalaInUso(scale[i]), scale[i]);
         EXPECT_EQ(ScalaInUso(scale[i] * 1.001), i + 1 < std::size(scale) ? scale[i + 1] : 0) << scale[i];
     }
+    EXPECT_EQ(ScalaInUso(5 * (1 + 0.9e-9)), 5) << "the noise of a division";
+    EXPECT_EQ(ScalaInUso(5 * (1 + 1.2e-9)), 10);
     EXPECT_EQ(ScalaScritta(1.25), "1:1.25");
 }
 

@@ -77,6 +77,9 @@ TEST_F(TavolaTraveTest, AWallIsHatchedOnItsFarSide) {
     EXPECT_TRUE(HaLinea(20, 52, 20, 72));
     for (int i = 0; i < 5; ++i)
         EXPECT_TRUE(HaLinea(20, 52 + 4 * i, 16, 56 + 4 * i)) << i;
+    superficie.linee.clear();
+    trave.Incastro(0, 9.2); // 4.6 strokes are 5
+    EXPECT_EQ(superficie.linee.size(), 6U);
     for (const double x : {0.5, 0.7, 1.0}) {
         superficie.linee.clear();
         trave.Incastro(x, 9); // 4.5 strokes are 4

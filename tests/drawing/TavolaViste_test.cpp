@@ -179,4 +179,45 @@ TEST_F(TavolaVisteTest, TextsAreMeasuredOnTheTargetWhereThereIsOne) {
     EXPECT_EQ(TavolaViste(&vuota, dispositivoVideo, "").InAltezze("abc"), 0);
 }
 
+// 1:25 and 1:250 are of the building trade and not in the series.
+TEST_F(TavolaVisteTest, TheSeriesIsTheSameInEachDecade) {
+    for (const auto& [mm, scala] : {std::pair{2400.0, "1:50"}, std::pair{24000.0, "1:500"}}) {
+        SuperficieFinta s(100, 100);
+        TavolaViste t(&s, dispositivoStampante, carattereStampa);
+        t.Dispone(std::array<DisposizioneViste, 1>{{{{{mm, 0}}, {{10, 0}}}}});
+        EXPECT_EQ(t.Scala(), scala);
+    }
+}
+
+// At 1:5 texts of 2.5 mm are 12.5 of the model: 200 and four of them are 250.
+TEST_F(TavolaVisteTest, RoomForTextsIsCountedInTheModel) {
+    SuperficieFinta s(60, 100);
+    TavolaViste t(&s, dispositivoStampante, carattereStampa);
+    t.Dispone(std::array<DisposizioneViste, 1>{{{{{200, 4}}, {{10, 0}}}}});
+    EXPECT_EQ(t.Scala(), "1:5");
+    EXPECT_NEAR(t.Passo(), 12.5, 1e-6);
+    EXPECT_NEAR(t.Larghezza(), 250, 1e-6);
+}
+
+// 940 mm on 190 are 1:5, whatever texts stand beside them.
+TEST_F(TavolaVisteTest, FilesCountTheModelAlone) {
+    const SuUscita uscita(nullptr, dispositivoDxf);
+    TavolaViste t(nullptr, dispositivoDxf, carattereStampa);
+    t.Dispone(std::array<DisposizioneViste, 1>{{{{{940, 10}}, {{500, 4}}}}});
+    EXPECT_NEAR(t.AltezzaTesto(), 12.5, 1e-4);
+}
+
+// Both at 1:5 on 100 mm: the one of 400 leaves more room than that of 490.
+TEST_F(TavolaVisteTest, OfTwoAtOneScaleTheOneWithMoreRoomIsTaken) {
+    const DisposizioneViste stretta{{{490, 0}}, {{10, 0}}};
+    const DisposizioneViste comoda{{{400, 0}}, {{10, 0}}};
+    SuperficieFinta s(100, 100);
+    TavolaViste t(&s, dispositivoStampante, carattereStampa);
+    t.Dispone(std::array{stretta, comoda});
+    EXPECT_EQ(t.Scelta(), 1U);
+    TavolaViste u(&s, dispositivoStampante, carattereStampa);
+    u.Dispone(std::array{comoda, stretta});
+    EXPECT_EQ(u.Scelta(), 0U);
+}
+
 } // namespace
