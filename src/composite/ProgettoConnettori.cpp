@@ -112,6 +112,13 @@ std::optional<double> ContoParziale(double n, double MplRd, double Msd, double M
     return n * (std::abs(Msd) - Ma) / (MplRd - Ma);
 }
 
+ConnessioneParziale ConParziale(const AcciaioCls& trave, int n) {
+    const double intera = trave.nConnCalc;
+    const double grado = std::min(n / 2.0 / intera, 1.0);
+    const double Ma = trave.Sezione->McyRd;
+    return {grado, Ma + grado * (std::abs(trave.MplRd) - Ma)};
+}
+
 int ParzRipCoppie(int n, double MplRd, double Msd, double MaplRd) {
     return static_cast<int>(ArrotondaEccesso(ContoParziale(n, MplRd, Msd, MaplRd).value_or(0)));
 }

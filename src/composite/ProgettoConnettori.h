@@ -19,6 +19,14 @@ inline constexpr double GammaVIniziale = 1.25; ///< where it has no partial fact
 /// The same for studs in pairs: a whole number, rounded up; 0 where there is none.
 [[nodiscard]] int ParzRipCoppie(int n, double MplRd, double Msd, double MaplRd);
 
+/// What a number of studs of the whole beam gives at partial connection, EC4 6.2.1.2.
+struct ConnessioneParziale {
+    double grado = 0; ///< of connection, at most 1 [-]
+    double MRd = 0;   ///< moment on the straight line from the steel alone to full connection [N mm]
+};
+/// @param n  studs of the beam; nConnCalc, MplRd and the section of the beam are those of its design
+[[nodiscard]] ConnessioneParziale ConParziale(const AcciaioCls& trave, int n);
+
 /// What the design of the studs shows; empty what stays empty.
 struct EsitoConnettori {
     std::optional<double> PRd;    ///< of one stud [N]

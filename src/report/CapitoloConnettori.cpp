@@ -150,7 +150,7 @@ void AggiungeParziale(CapitoloRelazione& c, const AcciaioCls& t, const EsitoConn
         return;
     const double Mpl = std::abs(t.MplRd);
     const double Ma = t.Sezione->McyRd;
-    const double grado = std::min(*esito.n / 2.0 / t.nConnCalc, 1.0);
+    const ConnessioneParziale parz = ConParziale(t, *esito.n);
     const bool coppie = t.Nr == 2;
     c.passi.push_back({.descrizione = "Connettori della trave, a parziale ripristino per M{Sd}",
                        .simbolo = "n{p}",
@@ -163,14 +163,14 @@ void AggiungeParziale(CapitoloRelazione& c, const AcciaioCls& t, const EsitoConn
                        .simbolo = "η",
                        .formula = "(n{p} / 2) / n{f} ≤ 1",
                        .numeri = std::to_string(*esito.n) + " / 2 / " + Rapporto(t.nConnCalc),
-                       .valore = Rapporto(grado),
+                       .valore = Rapporto(parz.grado),
                        .norma = parziale});
     c.passi.push_back({.descrizione = "Momento resistente a parziale ripristino",
                        .simbolo = "M{Rd}",
                        .formula = "M{a} + η (M{pl,Rd} − M{a})",
-                       .numeri = KiloMetri(Ma) + " + " + Rapporto(grado) + " · (" + KiloMetri(Mpl) + " − " +
-                                 KiloMetri(Ma) + ")",
-                       .valore = KiloMetri(Ma + grado * (Mpl - Ma)),
+                       .numeri = KiloMetri(Ma) + " + " + Rapporto(parz.grado) + " · (" + KiloMetri(Mpl) +
+                                 " − " + KiloMetri(Ma) + ")",
+                       .valore = KiloMetri(parz.MRd),
                        .unita = "kNm",
                        .norma = parziale});
 }
