@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "fasteners/DisegnoCordone.h"
 #include "fasteners/DisegnoForatura.h"
 #include "fasteners/Saldatura.h"
 #include "fasteners/VerdettoBullone.h"
@@ -209,9 +210,12 @@ Relazione RelazioneBullone(const Bullone& b, const std::string& acciaio, bool gi
 
 Relazione RelazioneSaldatura(const Saldatura& s, const std::string& acciaio) {
     Relazione r{.titolo = "Saldatura a cordone d'angolo", .oggetto = acciaio};
+    r.maschera = "frmSaldature";
+    r.disegno = DisegnoCordone();
     CapitoloRelazione c{.titolo = "Resistenza della gola"};
     const MessaggiTaciuti silenzio;
     c.passi = {Dato("Acciaio", "", acciaio), Dato("Tensione di rottura", "f{u}", Piano(s.fu), "N/mm^{2}"),
+               Dato("Normativa", "", NomeNormativa()),
                Dato("Coefficiente parziale, collegamenti", "γ{M2}", Piano(GammaM2))};
     try {
         const Singolo resistenza = s.fvwd();
