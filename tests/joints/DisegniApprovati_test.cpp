@@ -91,6 +91,9 @@ TEST_F(DisegniApprovati, AltreForme) {
     sola.ImpostaNodo();
     sola.CaratterizzaGiunti();
     sola.PuntatoreColonna(HEB200());
+    Nodo vuoto;
+    vuoto.ImpostaNodo();
+    Approvato("nessun-sagomo", InSvg(FiguraGiunto(vuoto, nullptr, {}), 480, 600, "frmGiunti"));
     Approvato("sola-colonna", InSvg(FiguraGiunto(sola, nullptr, {}), 480, 600, "frmGiunti"));
 }
 
@@ -127,6 +130,25 @@ TEST_F(DisegniApprovati, CurveDelGiunto) {
             Approvato("curva-senza-calcolo",
                       InSvg(DiagrammaRigidezza(*n.ConnessioneCorrente), 440, 280, "frmGiunti"));
     }
+}
+
+// Names that come near each other, and a joint of less than 1 kNm.
+TEST_F(DisegniApprovati, CurveAlLimite) {
+    Nodo n = NodoDisegnato(nodoT, 2);
+    n.TraveDx->McyRd = 484e3 * 235 / 1.05;
+    n.TraveDx->lunghezza() = 2;
+    n.TraveDx->Mysd = 83;
+    n.ConnessioneCorrente->Criterio1 = false;
+    n.EsegueCalcolo();
+    Giunto& g = *n.ConnessioneCorrente;
+    Approvato("curva-vicina", InSvg(DiagrammaRigidezza(g), 440, 280, "frmGiunti"));
+    Approvato("curva-stretta", InSvg(DiagrammaRigidezza(g), 300, 200, "frmGiunti"));
+    for (double* k : {&g.MplRdGIUNTO, &g.M_elastico, &g.LimiteCerniera, &g.LimiteRigido1, &g.LimiteRigido2})
+        *k /= 1000;
+    for (double* k : {&g.Sj_MjRd, &g.Sj_Mela, &g.Sj_MjSd})
+        *k /= 20000;
+    n.TraveDx->Mysd = 0;
+    Approvato("curva-piccola", InSvg(DiagrammaRigidezza(g), 440, 280, "frmGiunti"));
 }
 
 TEST_F(DisegniApprovati, Scelte) {

@@ -174,6 +174,14 @@ TEST(GeometriaNodo, MisurePiccoleCiSono) {
     EXPECT_NEAR(GeometriaNodo(n, nullptr, false).lato.dX, 35, vicino);
 }
 
+// (200 - 9)/2 less 5 mm to the edge of the flange.
+TEST(GeometriaNodo, LarghezzaDegliIrrigidimentiSenzaDati) {
+    Nodo n = NodoDisegnato(nodoT, 2, "Si");
+    n.ConnessioneCorrente->Irr_Spessore = 0;
+    EXPECT_NEAR(GeometriaNodo(n, nullptr, false).larghezzaIrr, 90.5, 0.51);
+    EXPECT_EQ(GeometriaNodo(n, nullptr, false).spessoreIrr, 10); // of a flange of 10.2
+}
+
 // The upper stiffener lies between the flanges of the column, 200 - 2 15 with 8 mm of play, where its length
 // is not given.
 TEST(GeometriaNodo, LunghezzaDellIrrigidimentoSuperiore) {

@@ -172,3 +172,21 @@ TEST_F(Traccia, FilaSingolaEGruppo) {
     EXPECT_NEAR(Valore(ala + ", fila interna", "leff"), 2 * 3.14159265 * 17.9, 1e-4);
     EXPECT_NEAR(Valore(ala + ", fila esterna", "leff"), 2 * 3.14159265 * 17.9, 1e-4);
 }
+
+// Bolts far from the web: each row by its own distance from the stiffener. A panel in half of the shear.
+TEST_F(Traccia, FileDiDistanzaDiversa) {
+    g().bf = 300;
+    g().ef = 50;
+    g().L = 120; // dX = 80
+    g().Irrigidimenti = "Si";
+    n.EsegueCalcolo();
+    const std::string ala = "Ala della colonna a flessione";
+    EXPECT_NEAR(Valore(ala + ", fila esterna", "leff"), g().Beff(3), 1e-6);
+    EXPECT_NEAR(Valore(ala + ", fila interna", "leff"), g().Beff(4), 1e-6);
+    EXPECT_LT(g().Beff(3), g().Beff(4) - 1);
+    g().Irrigidimenti = "No";
+    g().Beta = 0.5;
+    g().Mrd_Giunto_Calcola();
+    EXPECT_NEAR(Valore("Pannello d'anima della colonna a taglio", "Avc"),
+                Giunto::AreaTaglio_Calcola(*n.Colonnainf), 1e-6);
+}

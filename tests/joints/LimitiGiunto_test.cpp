@@ -224,6 +224,22 @@ TEST_F(LimitiFlangia, BulloneMassimo) {
     EXPECT_FALSE(bullone_Controlla(g));
 }
 
+// With the distances of a design a hole takes 1.2 + 1.2 diameters and 0.8 of the root: by the column (160 -
+// 11)/2 - 21.6 = 52.9 or 22.04 a hole, M20; by a web of 60 mm 50 - 4.53 = 45.5 or 18.9, M16.
+TEST_F(LimitiFlangia, BulloneConLeDistanzeDiProgetto) {
+    coefficientiProgetto.Imposta();
+    g.L = 200;
+    EXPECT_EQ(BulloneMax(g).indice, 7);
+    EXPECT_EQ(g.IndiceBulloneMaxGiunto_Calcola(), 7);
+    trave->tw = 60;
+    EXPECT_EQ(BulloneMax(g).indice, 5);
+    EXPECT_EQ(g.IndiceBulloneMaxGiunto_Calcola(), 5);
+    trave->tw = 7.1;
+    g.L = 40; // 40 - 0.8 5 sqrt2 = 34.3 or 14.3: M12 in 13
+    EXPECT_EQ(BulloneMax(g).indice, 3);
+    coefficientiRiposo.Imposta();
+}
+
 TEST_F(LimitiFlangia, PrimoDatoCheManca) {
     const auto manca = [](const char* cosa) {
         return std::string("Inserire un valore diverso da zero per ") + cosa + ".";

@@ -379,7 +379,9 @@ TEST_F(FiguraGiuntoTest, ABrokenLimitWithoutDimensionIsToldOverThePicture) {
 TEST_F(FiguraGiuntoTest, ALimitOfTheOuterRowWithoutItsDistanceIsToldOverThePicture) {
     Nodo n = NodoDisegnato(nodoT, 2);
     n.ConnessioneCorrente->dX = n.ConnessioneCorrente->ex = n.ConnessioneCorrente->L = 0;
-    for (const auto& [campo, detto] : {std::pair{"dX", "d2: min 22"}, {"ex", "ex: min 22"}})
+    n.ConnessioneCorrente->u = 0;
+    for (const auto& [campo, detto] :
+         {std::pair{"dX", "d2: min 22"}, {"ex", "ex: min 22"}, {"u", "u: min 22"}})
         EXPECT_THAT(Figura(n, {{}, {}, campo, "min 22"}).Testi(), Contains(detto));
 }
 
@@ -431,6 +433,29 @@ TEST_F(FiguraGiuntoTest, TheComponentsAreWhereTheyArePainted) {
     t->zone.clear();
     FiguraGiunto(NodoDisegnato(nodoT, 2), nullptr, {}, t).PlottaInOggetto(&s, "frmGiunti");
     EXPECT_TRUE(t->zone.empty());
+}
+
+// Bolts, plate and flange of the column are pointed at row by row, all else as a whole.
+TEST_F(FiguraGiuntoTest, RowsHaveZonesOfTheirOwn) {
+    using enum ComponenteGiunto;
+    auto t = std::make_shared<TracciatoNodo>();
+    t->attivo = true;
+    SuperficieFinta s(480, 600);
+    const SuUscita uscita(&s);
+    FiguraGiunto(NodoDisegnato(nodoT, 2, "Si"), nullptr, {}, t).PlottaInOggetto(&s, "frmGiunti");
+    const auto ha = [&](ComponenteGiunto c, FilaGiunto f) {
+        return std::any_of(t->zone.begin(), t->zone.end(), [&](const ZonaNodo& z) {
+            return z.quale == ComponenteFila{c, f};
+        });
+    };
+    for (const ComponenteGiunto c : {Bulloni, Flangia, AlaColonna})
+        for (const FilaGiunto f : {FilaGiunto::Interna, FilaGiunto::Esterna})
+            EXPECT_TRUE(ha(c, f)) << NomeComponente({c, f});
+    for (const ComponenteGiunto c : {Saldature, Irrigidimenti, AlaTrave, AnimaTrave, AnimaColonnaTesa,
+                                     AnimaColonnaCompressa, Pannello}) {
+        EXPECT_FALSE(ha(c, FilaGiunto::Interna)) << NomeComponente({c, FilaGiunto::Interna});
+        EXPECT_FALSE(ha(c, FilaGiunto::Esterna)) << NomeComponente({c, FilaGiunto::Esterna});
+    }
 }
 
 TEST(ComponentiGiunto, WhatGovernsFollowsTheCheck) {

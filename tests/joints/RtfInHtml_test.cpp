@@ -82,3 +82,10 @@ TEST(RtfInHtml, FineDentroUnCarattere) {
     EXPECT_EQ(Senza(HtmlDaRtf(vista.substr(0, vista.size() - 1))), Senza(HtmlDaRtf("{\\rtf1\\ansi ae}")));
     EXPECT_EQ(Html("\\'AA\\'aF\\'fA"), "<p>ª¯ú</p>\n");
 }
+
+TEST(RtfInHtml, SempliceEAnnidatoOltreIlLimite) {
+    EXPECT_EQ(Html("a\\b b\\i c\\plain d"), Html("a{\\b b}{\\b\\i c}d"));
+    // Groups beyond the depth that is kept are still counted: what follows them is as before.
+    EXPECT_EQ(Html(std::string(5000, '{') + "x" + std::string(5000, '}') + "{\\b y}z"),
+              "<p>x<b>y</b>z</p>\n");
+}
