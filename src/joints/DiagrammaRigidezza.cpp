@@ -162,7 +162,9 @@ private:
             }
             const double mezza = q_.LarghezzaTesto(l.nome) / 2;
             const double sinistra = campo_.sinistra + mezza;
-            centri.push_back(std::clamp(fine.x, sinistra, std::max(sinistra, campo_.Destra() - mezza)));
+            const double centro = std::clamp(fine.x, sinistra, std::max(sinistra, campo_.Destra() - mezza));
+            // The names stand as their lines do, from the steepest on, however wide each is.
+            centri.push_back(centri.empty() ? centro : std::max(centro, centri.back() + 1));
             mezze.push_back(mezza + riga_ / 3);
             nomi.push_back(l.nome);
         }

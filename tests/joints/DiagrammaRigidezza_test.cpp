@@ -47,6 +47,24 @@ private:
     StatoUscita prima_;
 };
 
+TEST_F(DiagrammaRigidezzaTest, NamesOfLimitsStandInTheOrderOfTheirLines) {
+    for (const double luce : {1.0, 2.0, 4.0, 8.0}) {
+        n.TraveDx->lunghezza() = luce;
+        g().Limiti();
+        SuperficieFinta s(300, 200);
+        const SuUscita uscita(&s);
+        DiagrammaRigidezza(g()).PlottaInOggetto(&s, "frmGiunti");
+        double prima = 0; // nor beyond the left edge
+        for (const char* nome : {"rigido (non controv.)", "rigido (controv.)"})
+            for (const auto& t : s.scritte)
+                if (t.testo == nome) {
+                    EXPECT_GE(t.x, prima) << nome << ' ' << luce;
+                    prima = t.x;
+                }
+        EXPECT_GT(prima, 0) << luce;
+    }
+}
+
 // The unit of an axis from the joint's own line: its last rise ends at Mj,Rd and Mj,Rd / Sj.
 TEST_F(DiagrammaRigidezzaTest, TheLineRunsThroughTheComputedPoints) {
     ASSERT_TRUE(g().Acquisito);
