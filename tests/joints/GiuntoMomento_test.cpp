@@ -279,3 +279,27 @@ TEST_F(Momento, VerificaIntera) {
     EXPECT_FALSE(g.ResistenzaGiunto.empty());
     EXPECT_FALSE(g.Traccia.empty());
 }
+
+// Rows that together are just as strong as what both pass through keep their forces.
+TEST(MomentoAlLimite, FileForteComeIlComponenteDebole) {
+    RipristinaGenerale();
+    Giunto g;
+    g.PuntatoreSezioni(IPE300(), HEB300());
+    g.nf = 2;
+    g.mf = 50;
+    g.ef = 40;
+    g.m2 = 40;
+    g.mx = 40;
+    g.bf = 200;
+    g.w = 100;
+    g.ex = 40;
+    g.LeffFlangia_Calcola();
+    for (const auto& [debole, messaggio] : {std::pair{300.0, 0}, {299.5, 1}}) {
+        g.FtRd_EffInf = 100;
+        g.FtRd_EffSup = 200;
+        g.RDebole = debole;
+        g.Mrd_Giunto_CompletaCalcolo();
+        EXPECT_EQ(g.TipoMessaggio, messaggio) << debole;
+        EXPECT_NEAR(g.FtRd_EffInf, debole - 200, 1e-4);
+    }
+}

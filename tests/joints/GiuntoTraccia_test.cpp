@@ -189,4 +189,14 @@ TEST_F(Traccia, FileDiDistanzaDiversa) {
     g().Mrd_Giunto_Calcola();
     EXPECT_NEAR(Valore("Pannello d'anima della colonna a taglio", "Avc"),
                 Giunto::AreaTaglio_Calcola(*n.Colonnainf), 1e-6);
+    g().Beta = 0;
+    g().Mrd_Giunto_Calcola();
+    EXPECT_EQ(Passo(g().Traccia, "Pannello d'anima della colonna a taglio", "Avc"), nullptr);
+}
+
+// The secant at the acting moment: 40 kNm.
+TEST_F(Traccia, RapportoDelMomentoCheAgisce) {
+    n.EsegueCalcolo();
+    EXPECT_NEAR(Valore("Rigidezza per Mj.Sd", "mu"), g().MplRdGIUNTO / 40, 1e-9 * g().MplRdGIUNTO);
+    EXPECT_NEAR(Valore("Rigidezza per Mj.Rd", "mu"), 1, 1e-12);
 }

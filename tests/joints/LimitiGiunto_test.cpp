@@ -327,6 +327,9 @@ TEST_F(LimitiFlangia, Utilizzo) {
     EXPECT_NEAR(u("txtF4"), 50 / (2 * 0.9 * 0.8 * 245 / 1.25), 1e-6);
     EXPECT_EQ(u("txtFmin1"), -1);
     EXPECT_EQ(u("TxtMjRd"), -1);
+    g.FtRd_EffInf = 0.5;
+    EXPECT_NEAR(u("txtF4"), 0.25 / (2 * 0.9 * 0.8 * 245 / 1.25), 1e-6);
+    g.FtRd_EffInf = 100;
     g.MplRdGIUNTO = 0.5;
     EXPECT_NEAR(u("txtFmin0"), 50, 1e-9);
     g.MplRdGIUNTO = 0;

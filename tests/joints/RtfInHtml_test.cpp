@@ -89,3 +89,5 @@ TEST(RtfInHtml, SempliceEAnnidatoOltreIlLimite) {
     EXPECT_EQ(Html(std::string(5000, '{') + "x" + std::string(5000, '}') + "{\\b y}z"),
               "<p>x<b>y</b>z</p>\n");
 }
+
+TEST(RtfInHtml, DallaPrimaLettera) { EXPECT_EQ(Senza(HtmlDaRtf("abc")), "<p>abc</p>\n"); }
