@@ -150,14 +150,15 @@ TEST(Offset, TurnsWithTheOutline) {
     }
 }
 
-// The first vertex once more at the end, on an outline that begins with an upright side.
+// The first vertex once more at the end, on outlines that begin with an upright and with a level side.
 TEST(Offset, AClosedOutlineIsTheSame) {
-    const Poligono p = PoligonoDaTesto("0 0, 0 50, 30 50, 30 0, 0 0");
-    std::shared_ptr<Poligono> q;
-    ASSERT_TRUE(p.OffsetPerPunto(35, 20, q));
-    EXPECT_EQ(q->nVertici(), 4);
-    q->AreaCalcola();
-    EXPECT_NEAR(q->Area, 40 * 60, 1e-6);
+    for (const char* chiuso : {"0 0, 0 50, 30 50, 30 0, 0 0", "0 0, 30 0, 30 50, 0 50, 0 0"}) {
+        std::shared_ptr<Poligono> q;
+        ASSERT_TRUE(PoligonoDaTesto(chiuso).OffsetPerPunto(35, 20, q)) << chiuso;
+        EXPECT_EQ(q->nVertici(), 4);
+        q->AreaCalcola();
+        EXPECT_NEAR(q->Area, 40 * 60, 1e-6);
+    }
 }
 
 } // namespace

@@ -239,4 +239,14 @@ TEST(Wplastico, UnitSquare) {
     EXPECT_NEAR(p.Wplastico(nullptr, true), 0.25, 1e-12);
 }
 
+// Area that was calculated before the vertices moved onto one line.
+TEST(Wplastici, AnAreaThatIsGoneHasNoModulus) {
+    const Registratore registratore;
+    Poligono p = PoligonoDaTesto("0 0, 10 0, 20 0");
+    p.Area = 5;
+    p.Wplastici();
+    EXPECT_EQ(p.WplX, 0);
+    EXPECT_EQ(p.WplY, 0);
+}
+
 } // namespace

@@ -213,4 +213,10 @@ TEST(AreaCalcola, ALineRunsNoWayRound) {
     EXPECT_FALSE(p.Antiorario);
 }
 
+TEST(AreaNulla, WithoutMeasureOnlyNothingIsNull) {
+    Poligono p;
+    p.Coordinate({0, 1e-11, 1e-11, 0}, {0, 0, 1e-11, 1e-11}, 4);
+    EXPECT_FALSE(p.AreaNulla());
+}
+
 } // namespace

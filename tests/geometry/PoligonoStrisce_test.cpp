@@ -189,4 +189,12 @@ TEST(DiscretizzaPoligono, AVertexAloneHasStripsWithoutHeight) {
     EXPECT_EQ(p.nRett(1), 0);
 }
 
+TEST(DiscretizzaCerchio, OneStripIsHalfTheDiameterToEachSide) {
+    Poligono p;
+    p.DiscretizzaCerchio(1, 10);
+    EXPECT_EQ(p.MezzaStriscia(), 5);
+    p.DiscretizzaCerchio(0, 10);
+    EXPECT_EQ(p.MezzaStriscia(), 0);
+}
+
 } // namespace

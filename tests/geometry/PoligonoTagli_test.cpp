@@ -398,6 +398,7 @@ TEST(IntersezioneConRetta, ToleranceDoesNotHangOnTheScaleOfTheEquation) {
         EXPECT_EQ(Taglia(p, k, 0, k * 0.5e-4).n, 2) << k;
         EXPECT_EQ(Taglia(p, 0, k, k * 2.5e-4).n, 0) << k;
         EXPECT_EQ(Taglia(p, k, 0, k * 2.5e-4).n, 0) << k;
+        EXPECT_EQ(Taglia(p, k, k, -k * (20 + 0.5e-4)).n, 2) << k << ", beyond a corner";
     }
 }
 
@@ -471,6 +472,77 @@ TEST(PoligonoReagente, WithoutVerticesItIsTheEmptyOutline) {
         EXPECT_EQ(p->nVertici(), 0);
         EXPECT_EQ(segno, 1);
     }
+}
+
+// Lines that cut a square in two points, whichever vertex comes first.
+TEST(IntersezioneConRetta, TheFirstVertexDoesNotMatter) {
+    const double x[] = {0, 10, 10, 0};
+    const double y[] = {0, 0, 10, 10};
+    const double rette[][3] = {{0, 1, -4}, {1, 0, -3},  {2, 3, -31}, {-3, 2, 4},
+                               {2, -3, 7}, {1, 1, -13}, {-1, 2, -5}};
+    for (std::size_t primo = 0; primo < 4; ++primo) {
+        Poligono p;
+        p.nVertici(4);
+        for (std::size_t i = 0; i < 4; ++i) {
+            p.x(static_cast<int>(i) + 1, x[(primo + i) % 4]);
+            p.y(static_cast<int>(i) + 1, y[(primo + i) % 4]);
+        }
+        for (const auto& r : rette)
+            EXPECT_EQ(Taglia(p, r[0], r[1], r[2]).n, 2)
+                << primo << ": " << r[0] << ' ' << r[1] << ' ' << r[2];
+    }
+}
+
+// Sides down to 1E-12 of the extent have a direction; the neighbours meet the line within its tolerance.
+TEST(IntersezioneConRetta, ASideOfNoiseHasNoPoint) {
+    const auto incontri = [](double lato) {
+        Poligono p;
+        p.Coordinate({0, 1, 1, 0, 0}, {0, 0, 1, 1, lato}, 5);
+        return Taglia(p, 0, 1, -lato / 2).n;
+    };
+    EXPECT_EQ(incontri(0.8e-12) + 1, incontri(1.2e-12));
+}
+
+TEST(IntersezioneConSegmento, SegmentsOfLengthOneInEachDirection) {
+    const Poligono p = PoligonoDaTesto("0 0, 10 0, 10 10, 0 10");
+    const double segmenti[][4] = {{5, -0.5, 5, 0.5}, {5, 0.5, 5, -0.5}, {0.5, 5, -0.5, 5}, {-0.5, 5, 0.5, 5}};
+    for (const auto& s : segmenti) {
+        Incontri i;
+        p.IntersezioneConSegmento(s[0], s[1], s[2], s[3], i.x, i.y, i.n, i.lato);
+        EXPECT_EQ(i.n, 1) << s[0] << ' ' << s[1];
+    }
+}
+
+// The part below y = 4 of a square lies where it was.
+TEST(PoligonoReagente, APartStaysInItsPlace) {
+    std::int16_t segno = 0;
+    const auto sotto = PoligonoDaTesto("0 0, 10 0, 10 10, 0 10").PoligonoReagente(5, 1, segno, 0, 1, -4);
+    ASSERT_TRUE(sotto);
+    Uguale(sotto, {40, 5, 2}, 1e-9, 10);
+    const auto sinistra = PoligonoDaTesto("0 0, 10 0, 10 10, 0 10").PoligonoReagente(1, 5, segno, 1, 0, -4);
+    ASSERT_TRUE(sinistra);
+    Uguale(sinistra, {40, 2, 5}, 1e-9, 10);
+}
+
+// A side that rises by 1E-7 of its length runs along the level and has no point on it.
+TEST(DividiY, ASideAlongTheLevelIsNotCut) {
+    Poligono p;
+    p.Coordinate({0, 1000, 1000, 0}, {0, 0, 5 + 0.5e-4, 5 - 0.5e-4}, 4);
+    std::shared_ptr<Poligono> sopra;
+    std::shared_ptr<Poligono> sotto;
+    p.DividiY(5, sopra, sotto);
+    EXPECT_EQ(sotto->nVertici(), 5) << "three corners and the level at both ends";
+    EXPECT_EQ(sopra->nVertici(), 3);
+}
+
+// A notch that ends 1.5 times the tolerance above the level is not met.
+TEST(DividiY, ANotchAboveTheLevelStaysAbove) {
+    Poligono p = PoligonoDaTesto("0 0, 10 0, 10 10, 5 5.00015, 0 10");
+    std::shared_ptr<Poligono> sopra;
+    std::shared_ptr<Poligono> sotto;
+    p.DividiY(5, sopra, sotto);
+    EXPECT_EQ(sotto->nVertici(), 4);
+    EXPECT_EQ(sopra->nVertici(), 5);
 }
 
 } // namespace

@@ -198,4 +198,23 @@ TEST(PoligonoConvesso, NoiseOnASideMakesNoCorner) {
         }
 }
 
+TEST(PuntoInPoligono, AWeightOfTheToleranceIsNone) {
+    EXPECT_EQ(Dentro(PoligonoDaTesto("0 0, 10 0, 10 10, 0 10"), 2.5, 2.5, 0.5, 0.5), -1);
+}
+
+// A corner with another one to its right is seen up to 1E-10.
+TEST(VistaDaDestra, HidesWhatLiesFurtherLeftThanTheTolerance) {
+    const auto visti = [](double d) {
+        Poligono p;
+        p.Coordinate({0, 10 + d, 10 + d, 10, 0}, {0, 0, 10, 10, 10}, 5);
+        std::vector<double> x;
+        std::vector<double> y;
+        std::int16_t n = 0;
+        p.VistaDaDestra(x, y, n);
+        return n;
+    };
+    EXPECT_EQ(visti(0.8e-10), 3);
+    EXPECT_EQ(visti(1.2e-10), 2);
+}
+
 } // namespace
