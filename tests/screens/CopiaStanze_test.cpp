@@ -139,6 +139,35 @@ TEST_F(CopiaStanzeTest, SoIsAJointThatHasBeenComputed) {
         << "the line ends at the resistance";
 }
 
+TEST_F(CopiaStanzeTest, SoIsABeamWithItsStuds) {
+    auto& main = Avvia();
+    VaA(main, "IPE 300");
+    Trova<QAction>(&main, "mnuAcciaioCls")->trigger();
+    Schermo& beam = Aperto("frmAcciaioCls");
+    for (const auto& [box, text] : {std::pair{"txtDati_1", "120"},
+                                    {"txtDati_2", "1200"},
+                                    {"txtDati_3", "1000"},
+                                    {"txtDati_4", "30"},
+                                    {"Txt_M", "90"}})
+        prove::Scrive(&beam, box, text);
+    Preme(&beam, "cmdCalcola");
+    Guarda(beam);
+    const QString moment = Trova<QLineEdit>(&beam, "Txt_MplRd")->text().trimmed();
+    ASSERT_FALSE(moment.isEmpty());
+    const std::unique_ptr<QMimeData> all(StanzaCopiata(beam));
+    EXPECT_TRUE(all->text().contains(moment + "\tkNm"));
+    Trova<QRadioButton>(&beam, "OpTipoVerifica_2")->click(); // elastic
+    Preme(&beam, "cmdCalcola");
+    Guarda(beam);
+    NavigaSchermi::Unico().Apre("frmConnettori", beam);
+    Schermo& studs = Aperto("frmConnettori");
+    prove::Scrive(&studs, "txtInput_3", "8");
+    Preme(&studs, "CmdProgetta");
+    ASSERT_FALSE(Testo(&studs, "txtn").empty());
+    Guarda(studs);
+    EXPECT_GT(risultati, 25);
+}
+
 TEST_F(CopiaStanzeTest, CtrlCOnAMainScreenTakesTheRoomOfTheControl) {
     auto& main = Avvia();
     VaA(main, "IPE 500");
