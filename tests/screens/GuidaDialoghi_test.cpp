@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QTextBrowser>
 #include <QTimer>
@@ -114,6 +115,24 @@ TEST_F(GuidaDialoghiTest, QuestionOfTheReport) {
     Preme(&Aperto("FrmVerifiche"), "CmdRelazione");
     EXPECT_EQ(asked, 1);
     EXPECT_TRUE(registratore.testi.empty());
+}
+
+// The key as the help has it, while a box has the cursor.
+TEST_F(GuidaDialoghiTest, CtrlEAsksFromWithinABox) {
+    auto& main = Avvia();
+    VaA(main, "IPE 200");
+    NavigaSchermi::Unico().Apre(QStringLiteral("FrmVerifiche"), main);
+    auto* box = Trova<QLineEdit>(&Aperto("FrmVerifiche"), "TxtMysd");
+    box->setFocus();
+    QTest::keyClicks(box, QStringLiteral("10"));
+    ASSERT_TRUE(QTest::qWaitFor([box] { return QApplication::activeWindow() == box->window(); }));
+    QKeyEvent key(QEvent::ShortcutOverride, Qt::Key_E, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::sendEvent(box, &key)) << "nobody sees to it";
+    EXPECT_FALSE(key.isAccepted()) << "the box takes the key for itself";
+    ChiedeA("DialogoRelazione", "Sagomi.hlp#DialogoRelazione");
+    QTest::keyClick(box, Qt::Key_E, Qt::ControlModifier); // presses the button, which takes its time
+    EXPECT_TRUE(QTest::qWaitFor([this] { return asked == 1; }));
+    EXPECT_TRUE(registratore.testi.empty()) << registratore.testi.front();
 }
 
 TEST_F(GuidaDialoghiTest, FilesPrinterAndPreview) {

@@ -1,9 +1,11 @@
 #include "report/ui/ComandoRelazione.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -39,6 +41,34 @@ public:
         return {QToolButton::sizeHint().width(), fontMetrics().height()};
     }
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+/// Keeps the boxes of a screen with the command from taking its key: on X11 the toolkit's boxes go to the end
+/// of their text with it.
+class TastoLibero : public QObject {
+public:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        return EventoProtetto([object, event] { return Libera(object, *event); });
+    }
+    static void Installa() {
+        static TastoLibero filter;
+        qApp->installEventFilter(&filter);
+    }
+
+private:
+    static bool Libera(QObject* object, QEvent& event) {
+        const auto* key =
+            event.type() == QEvent::ShortcutOverride ? static_cast<QKeyEvent*>(&event) : nullptr;
+        const auto* box = key != nullptr ? qobject_cast<QLineEdit*>(object) : nullptr;
+        if (box == nullptr || key->keyCombination() != (Qt::CTRL | Qt::Key_E))
+            return false;
+        const QWidget* window = box->window();
+        const bool mine = window->findChild<QToolButton*>(QStringLiteral("CmdRelazione")) != nullptr ||
+                          window->findChild<QAction*>(QStringLiteral("mnuRelazione")) != nullptr;
+        if (mine)
+            event.ignore();
+        return mine;
+    }
 };
 
 /// The buttons of the question in their order, with what they stand for.
@@ -152,6 +182,7 @@ void ImpostaChiedeRelazione(ChiedeRelazione chiede) {
 }
 
 void AggiungeRelazione(Schermo& schermo, SorgenteRelazione sorgente) {
+    TastoLibero::Installa();
     auto* button = new PulsanteDiRiga(&schermo);
     button->setObjectName(QStringLiteral("CmdRelazione"));
     button->setText(QStringLiteral("Relazione PDF..."));
@@ -165,6 +196,7 @@ void AggiungeRelazione(Schermo& schermo, SorgenteRelazione sorgente) {
 }
 
 void AggiungeRelazione(Schermo& schermo, QMenu& menu, QAction* prima, SorgenteRelazione sorgente) {
+    TastoLibero::Installa();
     auto* entry = new QAction(QStringLiteral("Re&lazione PDF..."), &menu);
     entry->setObjectName(QStringLiteral("mnuRelazione"));
     entry->setShortcut(QKeySequence(QString::fromLatin1(tasto)));
