@@ -42,6 +42,8 @@ if(SAGOMI_UI)
           COMPONENT programma)
   install(FILES ${composti}/changelog ${PROJECT_SOURCE_DIR}/data/pacchetto/copyright
           DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT programma)
+  install(FILES ${PROJECT_SOURCE_DIR}/data/pacchetto/lintian-overrides RENAME sagomi
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides COMPONENT programma)
   install(FILES ${PROJECT_SOURCE_DIR}/data/comando/sagomi.bash RENAME sagomi
           DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT programma)
   # What a desktop shows of the program: its entry in the menu, its icons, its kinds of files.

@@ -15,6 +15,11 @@ for file in Sagomi.xls SagomiUtente-vuota.xls Sagomi.hlp GiuntoFlangiato.hlp For
   [ -s "$file" ] || fail "no $file"
 done
 
+# The licences of what lies beside the program and of what is in it.
+for package in libqt6core6 libgsf-1-dev; do
+  [ -s "licenze/$package.txt" ] || fail "no licence of $package"
+done
+
 # Whatever the system has of the toolkit plays no part. A plugin is loaded by the program, whose path it shares.
 outside() { ldd "$PWD/$1" | grep -E 'libQt6|libgsf|libsqlite3|libX|libxcb|not found' | grep -vF "$PWD/lib/" || true; }
 [ -z "$(outside sagomi)$(outside sagomi-server)" ] || fail "loads from elsewhere: $(outside sagomi)"
