@@ -50,4 +50,11 @@ TEST(CodificaAnsi, ATextEndsWhereItSaysItDoes) {
     EXPECT_EQ(AnsiDaUtf8(std::string_view("€").substr(0, 2)), "??");
 }
 
+// The first character of each length: U+0080, U+0800, U+10000; of the page only what Latin-1 has.
+TEST(CodificaAnsi, EachCharacterIsTakenWhole) {
+    EXPECT_EQ(AnsiDaUtf8("°x"), "\xB0x");
+    EXPECT_EQ(AnsiDaUtf8("\u0800x"), "?x");
+    EXPECT_EQ(AnsiDaUtf8("\U00010000x"), "?x");
+}
+
 } // namespace

@@ -54,6 +54,7 @@ TEST(Figura, TextMayFollowAPowerOfTen) {
 
 TEST(Figura, EndsWhereItsTextEnds) {
     constexpr std::string_view tutta = "00.00E+00";
+    EXPECT_TRUE(Figura(tutta.substr(2, 1)).vuota) << "a separator alone";
     EXPECT_EQ(Figura(tutta.substr(0, 1)).interi, 1);
     EXPECT_FALSE(Figura(tutta.substr(0, 2)).separatore);
     EXPECT_EQ(Figura(tutta.substr(0, 4)).decimali, 1);

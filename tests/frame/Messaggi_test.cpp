@@ -52,4 +52,12 @@ TEST(Messaggi, RecorderAnswersYes) {
     EXPECT_TRUE(Chiede("Proseguire ?"));
 }
 
+TEST(Messaggi, AMessageThatCanBeSkippedTellsWhetherItWas) {
+    const PortaMessaggi prima = CollegaMessaggi([](const Messaggio&) { return Risposta::Salta; });
+    EXPECT_TRUE(AvvisaSaltabile("Riga 3"));
+    CollegaMessaggi([](const Messaggio&) { return Risposta::Ok; });
+    EXPECT_FALSE(AvvisaSaltabile("Riga 3"));
+    CollegaMessaggi(prima);
+}
+
 } // namespace

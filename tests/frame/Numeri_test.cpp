@@ -128,6 +128,8 @@ INSTANTIATE_TEST_SUITE_P(Numeri, FormatoCifreTest, testing::Values(
     CasoFormato{"PowerOfTenDigits",  4, 0.000015,    " 0.0000"},   // "1.5E-05": separator in second place
     CasoFormato{"PowerOfTenKept",    6, 0.000015,    " 1.5E-05"},  // five figures counted, fewer than six
     CasoFormato{"Large",             4, 123456789012345.0, " 123,456,789,012,345"},
+    CasoFormato{"LastPositional",    17, 999999999999999., " 999999999999999"},
+    CasoFormato{"FirstPowerOfTen",   17, 1e15,       " 1E+15"},
     CasoFormato{"PowerOfTenLarge",   4, 1e15,        " 1,000,000,000,000,000"},
     CasoFormato{"Null",              4, std::nullopt, ""},
     CasoFormato{"NullOptional",      4, std::optional<double>(), ""},
