@@ -1,5 +1,6 @@
 #include "frame/ui/TestoGuida.h"
 
+#include <QImage>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -8,6 +9,20 @@
 #include "frame/ui/Protetto.h"
 
 namespace sagomi {
+
+namespace {
+
+/// A picture no wider than the page, which has a width before it is seen as well.
+QImage NellaPagina(const QImage& picture, int pagina) {
+    constexpr int stretta = 560; // [px]
+    constexpr int margini = 24;
+    const int room = std::max(pagina, stretta) - margini;
+    if (picture.deviceIndependentSize().width() <= room)
+        return picture;
+    return picture.scaledToWidth(qRound(room * picture.devicePixelRatio()), Qt::SmoothTransformation);
+}
+
+} // namespace
 
 TestoGuida::TestoGuida(QWidget* parent) : QTextBrowser(parent) {
     setObjectName(QStringLiteral("TestoGuida"));
@@ -25,7 +40,7 @@ QUrl TestoGuida::Indirizzo(const QString& file, const QString& ancora) {
 
 QVariant TestoGuida::loadResource(int type, const QUrl& name) {
     if (type == QTextDocument::ImageResource && name.scheme() == QLatin1String("figura") && figura)
-        return figura(name.path());
+        return NellaPagina(figura(name.path()), viewport()->width());
     if (type != QTextDocument::HtmlResource)
         return {};
     return LeggeGuida(name.path().section(u'/', -1));

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QGroupBox>
+#include <QImage>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
@@ -13,6 +14,7 @@
 
 #include "frame/ui/AmbienteFinestre.h"
 #include "frame/ui/IndiceGuida.h"
+#include "frame/ui/TestoGuida.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -157,6 +159,27 @@ TEST_F(GuidaTest, ZoomHasItsBounds) {
     for (int i = 0; i < 300; ++i)
         EXPECT_GE(notches(-10), 5.9);
     EXPECT_LE(notches(1000000), 40.1);
+}
+
+// Wider than the page: the picture is made smaller, in its own density; the text needs no scroll bar below
+// it.
+TEST_F(GuidaTest, PicturesFitThePage) {
+    const auto before = TestoGuida::figura;
+    TestoGuida::figura = [](const QString& name) {
+        QImage picture(name == u"larga" ? QSize(3000, 300) : QSize(200, 100), QImage::Format_RGB32);
+        picture.setDevicePixelRatio(name == u"larga" ? 2 : 1);
+        return picture;
+    };
+    Guida::Apre(QStringLiteral("Sagomi.hlp"));
+    const auto picture = [](const char* url) {
+        return Testo()->loadResource(QTextDocument::ImageResource, QUrl(QLatin1String(url))).value<QImage>();
+    };
+    EXPECT_EQ(picture("figura:piccola").size(), QSize(200, 100));
+    const QImage wide = picture("figura:larga");
+    EXPECT_EQ(wide.devicePixelRatio(), 2);
+    EXPECT_LT(wide.deviceIndependentSize().width(), std::max(Testo()->viewport()->width(), 560));
+    EXPECT_GT(wide.deviceIndependentSize().width(), 500);
+    TestoGuida::figura = before;
 }
 
 TEST_F(GuidaTest, MissingFileIsToldByName) {
