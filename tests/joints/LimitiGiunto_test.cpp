@@ -168,6 +168,10 @@ TEST_F(LimitiFlangia, Sporgenza) {
     EXPECT_FALSE(L_Controlla(g));
     g.TipoProgetto = 1;
     EXPECT_EQ(CampoDi(g, ParametroGiunto::L).minimo, 17);
+    g.TipoProgetto = 2; // no search: no least extension
+    g.L = 0.5;
+    EXPECT_FALSE(L_Controlla(g));
+    g.TipoProgetto = 1;
     (void)Detto();
     g.L_max = g.u_max = 150; // half of the beam
     g.tf_max = 20;
@@ -203,6 +207,8 @@ TEST_F(LimitiFlangia, BulloneMassimo) {
     EXPECT_EQ(r.indice, 10);
     EXPECT_EQ(r.suggerimento, "per aumentarlo bisogna aumentare ex");
     g.ex = 30;
+    EXPECT_EQ(BulloneMax(g).suggerimento, "per aumentarlo bisogna incrementare d2");
+    g.L = 50; // 50 - 7.07 = 42.9, less than by the column
     EXPECT_EQ(BulloneMax(g).suggerimento, "per aumentarlo bisogna incrementare d2");
     g.nf = 1;
     EXPECT_EQ(BulloneMax(g).indice, 15);

@@ -381,7 +381,7 @@ TEST_F(FiguraGiuntoTest, ALimitOfTheOuterRowWithoutItsDistanceIsToldOverThePictu
     n.ConnessioneCorrente->dX = n.ConnessioneCorrente->ex = n.ConnessioneCorrente->L = 0;
     n.ConnessioneCorrente->u = 0;
     for (const auto& [campo, detto] :
-         {std::pair{"dX", "d2: min 22"}, {"ex", "ex: min 22"}, {"u", "u: min 22"}})
+         {std::pair{"dX", "d2: min 22"}, {"ex", "ex: min 22"}, {"u", "u: min 22"}, {"L", "h': min 22"}})
         EXPECT_THAT(Figura(n, {{}, {}, campo, "min 22"}).Testi(), Contains(detto));
 }
 
@@ -468,6 +468,9 @@ TEST(ComponentiGiunto, WhatGovernsFollowsTheCheck) {
     const ComponenteFila flangia{ComponenteGiunto::Flangia, FilaGiunto::Nessuna};
     EXPECT_THAT(Governa(g).governano, testing::ElementsAre(flangia));
     EXPECT_EQ(Governa(g).testo, "governa: flangia d'estremità 120 kN");
+    g.FtRd_EffInf = 123.456; // four figures
+    EXPECT_EQ(Governa(g).testo, "governa: flangia d'estremità 123.5 kN");
+    g.FtRd_EffInf = 120;
     g.TipoMessaggio = 1;
     const ComponenteFila compressa{ComponenteGiunto::AnimaColonnaCompressa, FilaGiunto::Nessuna};
     EXPECT_THAT(Governa(g).governano, testing::ElementsAre(compressa));

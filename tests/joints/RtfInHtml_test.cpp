@@ -91,3 +91,13 @@ TEST(RtfInHtml, SempliceEAnnidatoOltreIlLimite) {
 }
 
 TEST(RtfInHtml, DallaPrimaLettera) { EXPECT_EQ(Senza(HtmlDaRtf("abc")), "<p>abc</p>\n"); }
+
+// A group that is too deep to be kept closes itself, not one around it.
+TEST(RtfInHtml, GruppiOltreIlLimite) {
+    EXPECT_EQ(Html("{\\b " + std::string(5000, '{') + std::string(5000, '}') + "x}y"), "<p><b>x</b>y</p>\n");
+}
+
+// The font of symbols has Greek letters from A to Z and from a to z.
+TEST(RtfInHtml, AlfabetoDeiSimboli) {
+    EXPECT_EQ(Html("{\\fonttbl{\\f1\\fcharset2 Symbol;}}{\\f1 AaZz}"), "<p>ΑαΖζ</p>\n");
+}
