@@ -219,19 +219,19 @@ private:
         const double raggio = 2.4 * lato * riga_;
         q_.Contorno();
         Quadro::Cerchio(dove, raggio);
+        // Below and left of a mark of the front there is nothing: the name hides no other mark.
         const double largo = q_.LarghezzaTesto(d_.nomeScelto);
-        const bool destra = dove.x + raggio + 0.3 * riga_ + largo < s_.campo.Destra();
-        const double verso = destra ? 1 : -1;
-        const PuntoQuadro testo = dove + PuntoQuadro{verso * (raggio + 0.25 * riga_), 0};
-        const double sinistra = destra ? testo.x : testo.x - largo;
+        const double sotto = dove.y + raggio + 0.6 * riga_;
+        const double y = sotto + 0.5 * riga_ < s_.campo.Basso() ? sotto : dove.y - raggio - 0.6 * riga_;
+        const double destra = std::max(dove.x + raggio, s_.campo.sinistra + largo + 0.3 * riga_);
         const double aria = 0.1 * riga_;
-        const std::array<PuntoQuadro, 4> dietro{{{sinistra - aria, dove.y - 0.5 * riga_},
-                                                 {sinistra + largo + aria, dove.y - 0.5 * riga_},
-                                                 {sinistra + largo + aria, dove.y + 0.5 * riga_},
-                                                 {sinistra - aria, dove.y + 0.5 * riga_}}};
+        const std::array<PuntoQuadro, 4> dietro{{{destra - largo - aria, y - 0.5 * riga_},
+                                                 {destra + aria, y - 0.5 * riga_},
+                                                 {destra + aria, y + 0.5 * riga_},
+                                                 {destra - largo - aria, y + 0.5 * riga_}}};
         if (SulBersaglio())
             Quadro::Area(dietro, Fondo::Sfondo);
-        q_.Testo(testo, d_.nomeScelto, destra ? Allinea::Sinistra : Allinea::Destra, Posa::Mezzo);
+        q_.Testo({destra, y}, d_.nomeScelto, Allinea::Destra, Posa::Mezzo);
     }
 
     void Avviso() const {
@@ -310,7 +310,7 @@ ScalaGrafico ScalaDi(const DatiGrafico& dati, const CampoQuadro& tutto, double r
     ScalaGrafico s;
     const double legenda =
         LarghezzaLegenda(dati, riga) * static_cast<double>(ColonneLegenda(dati, tutto.altezza, riga));
-    s.campo = tutto.Dentro(3.4 * riga, 0.7 * riga, (legenda > 0 ? 1 : 0.5) * riga + legenda, 1.6 * riga);
+    s.campo = tutto.Dentro(3.4 * riga, 0.7 * riga, (legenda > 0 ? 1 : 1.6) * riga + legenda, 1.6 * riga);
     s.gMassimo = PesoMassimo(dati);
     s.gPasso = Passo(s.gMassimo, std::clamp(s.campo.larghezza / (4 * riga), 2.0, quanteG));
     s.uMassimo = uMassima;
