@@ -223,7 +223,7 @@ private:
         const double largo = q_.LarghezzaTesto(d_.nomeScelto);
         const double sotto = dove.y + raggio + 0.6 * riga_;
         const double y = sotto + 0.5 * riga_ < s_.campo.Basso() ? sotto : dove.y - raggio - 0.6 * riga_;
-        const double destra = std::max(dove.x + raggio, s_.campo.sinistra + largo + 0.3 * riga_);
+        const double destra = std::max(dove.x, s_.campo.sinistra + largo + 0.3 * riga_);
         const double aria = 0.1 * riga_;
         const std::array<PuntoQuadro, 4> dietro{{{destra - largo - aria, y - 0.5 * riga_},
                                                  {destra + aria, y - 0.5 * riga_},
