@@ -60,7 +60,7 @@ std::vector<Riga> Unione(const Fogli& fogli, std::size_t colonna) {
         Aggiunge(righe, *fogli[i]);
     const std::vector<std::uint32_t> ordine = OrdineRighe(righe, colonna, true);
     righe = InOrdine(std::move(righe), ordine);
-    righe.erase(std::ranges::unique(righe).begin(), righe.end());
+    righe.erase(std::unique(righe.begin(), righe.end()), righe.end());
     return righe;
 }
 

@@ -84,7 +84,7 @@ std::size_t CifreIntere(std::uint64_t n) {
 
 /// Counted in the text, which any number has.
 Cifre CifreDelTesto(double v) {
-    std::array<char, 400> buffer; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
+    std::array<char, 400> buffer; // filled below
     const auto fine =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), v, std::chars_format::fixed);
     const std::string_view testo(buffer.data(), static_cast<std::size_t>(fine.ptr - buffer.data()));
@@ -99,8 +99,8 @@ Cifre CifreDi(double v) {
     const double a = std::abs(v);
     if (a < 1e11)
         for (std::size_t k = 0; k < potenze.size(); ++k) {
-            const auto n = static_cast<std::uint64_t>(a * potenze[k] + 0.5);
-            if (static_cast<double>(n) / potenze[k] == a)
+            const double oltre = a * potenze[k] + 0.5; // cut off, it is rounded
+            if (static_cast<double>(static_cast<std::uint64_t>(oltre)) / potenze[k] == a)
                 return {CifreIntere(static_cast<std::uint64_t>(a)) + (std::signbit(v) ? 1U : 0U), k};
         }
     return CifreDelTesto(v);
