@@ -53,9 +53,18 @@ std::string MotivoGrandezze(double somma) {
     return "I termini contano in valore assoluto: la loro somma è " + Formato(figura, somma);
 }
 
-Verdetto Oltre(double N, double resistenza, const std::string& simbolo) {
+/// What moments add to an axial force that is too much alone. Where the force reduces their resistances these
+/// are gone, and so are the terms.
+double MomentiOltre(const TerminiInterazione& t) {
+    const double momenti = t.assialeNeiMomenti ? 0 : Grandezza(t.y) + Grandezza(t.z);
+    return std::isfinite(momenti) && momenti > 0 ? momenti : 0;
+}
+
+Verdetto Oltre(const TerminiInterazione& termini, double resistenza, const std::string& simbolo) {
+    const double N = termini.NSd;
     Verdetto v;
-    v.utilizzo = resistenza > 0 ? std::abs(N) / resistenza : std::numeric_limits<double>::infinity();
+    v.utilizzo = resistenza > 0 ? std::abs(N) / resistenza + MomentiOltre(termini)
+                                : std::numeric_limits<double>::infinity();
     v.governa = TermineVerifica::N;
     v.assialeOltre = true;
     v.motivo = MotivoAssiale(N, resistenza, simbolo);
@@ -74,9 +83,9 @@ ResistenzeAssiali Instabilita(const SezioneDoppioT& s) {
 Verdetto Giudica(const TerminiInterazione& termini, const ResistenzeAssiali& r) {
     const double N = termini.NSd;
     if (N > r.compressione)
-        return Oltre(N, r.compressione, r.simboloCompressione);
+        return Oltre(termini, r.compressione, r.simboloCompressione);
     if (-N > r.trazione)
-        return Oltre(N, r.trazione, "Npl,Rd");
+        return Oltre(termini, r.trazione, "Npl,Rd");
     const Grandezze g = GrandezzeDi(termini, r);
     Verdetto v;
     v.somma = termini.Somma();
@@ -94,7 +103,7 @@ namespace {
 /// @param quota  the resistance that counts over that of the term, at most 1
 Verdetto GiudicaConFibra(const TerminiInterazione& termini, const ResistenzeAssiali& r, double quota) {
     Verdetto v = Giudica(termini, r);
-    if (v.assialeOltre || !(quota < 1))
+    if (!(quota < 1))
         return v;
     TerminiInterazione ridotti = termini;
     ridotti.y.MRd *= quota;

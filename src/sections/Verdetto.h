@@ -18,8 +18,9 @@ enum class TermineVerifica { Nessuno, N, My, Mz };
 struct Verdetto {
     /// The sum to be shown, with the signs of its terms; no number where the axial force alone is too much.
     double somma = std::numeric_limits<double>::quiet_NaN();
-    /// Held against 1: the sum of the magnitudes, or the axial force over its resistance where that alone is
-    /// above 1. No number where there is no verdict.
+    /// Held against 1: the sum of the magnitudes; where the axial force alone is too much, with the force
+    /// over its resistance, and without moments whose resistances it would reduce. No number where there is
+    /// no verdict.
     double utilizzo = std::numeric_limits<double>::quiet_NaN();
     TermineVerifica governa = TermineVerifica::Nessuno; ///< the largest term; none where nothing acts
     bool assialeOltre = false;                          ///< the axial force alone is beyond its resistance

@@ -55,7 +55,7 @@ TEST(Verdetto, TensionCountsOverThePlasticResistance) {
 TEST(Verdetto, AxialForceBeyondItsResistanceLeavesNoSum) {
     Verdetto v = Giudica(Termini(750e3, -1, 0), resistenze);
     EXPECT_TRUE(std::isnan(v.somma));
-    EXPECT_EQ(v.utilizzo, 1.25);
+    EXPECT_EQ(v.utilizzo, 1.25 + 1) << "the moment counts by its magnitude";
     EXPECT_TRUE(v.assialeOltre);
     EXPECT_EQ(v.motivo, "NSd = " + Formato("0.0##", 750) +
                             " kN supera da sola Nb,z,Rd = " + Formato("0.0##", 600) + " kN");
@@ -65,6 +65,21 @@ TEST(Verdetto, AxialForceBeyondItsResistanceLeavesNoSum) {
     EXPECT_TRUE(v.assialeOltre);
     EXPECT_EQ(v.utilizzo, 1.25);
     EXPECT_NE(v.motivo.find("Npl,Rd"), std::string::npos);
+}
+
+// 599, 600 and 601 of 600 kN beside moments that take 1.5: about 2.5 before and behind the resistance.
+TEST(Verdetto, UtilisationGrowsWithTheForceAcrossItsResistance) {
+    double before = 0;
+    for (const double N : {599e3, 600e3, 601e3, 900e3}) {
+        const double now = Giudica(Termini(N, 1, -0.5), resistenze).utilizzo;
+        EXPECT_GT(now, before) << N;
+        EXPECT_NEAR(now, N / 600e3 + 1.5, 1e-12);
+        before = now;
+    }
+    TerminiInterazione plastic = Termini(750e3, 1, 0);
+    plastic.assialeNeiMomenti = true;
+    plastic.y.MRd = 0; // nothing is left of it beside such a force
+    EXPECT_EQ(Giudica(plastic, resistenze).utilizzo, 1.25);
 }
 
 TEST(Verdetto, PlasticTermsLeaveTheForceToTheMoments) {
