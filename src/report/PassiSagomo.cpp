@@ -10,7 +10,7 @@ namespace sagomi {
 
 std::string Limiti(const std::string& da, const std::string& a) {
     const auto testo = [](const std::string& limite) { return limite == limiteInfinito ? "∞" : limite; };
-    return da.empty() ? std::string() : " (limiti " + testo(da) + " - " + testo(a) + " ε)";
+    return da.empty() ? std::string() : " (limiti " + testo(da) + " - " + testo(a) + ")";
 }
 
 PassoRelazione Piatto(const std::string& descrizione, const char* simbolo, const std::string& numeri,

@@ -10,7 +10,8 @@ namespace sagomi {
 
 inline constexpr const char* tabellaClassi = "ENV 1993-1-1 tab. 5.3.1";
 
-/// The limits of a class as they stand behind it; nothing where the first one is not given.
+/// The limits of a class, of a slenderness over epsilon, as they stand behind it; nothing where the first
+/// one is not given.
 std::string Limiti(const std::string& da, const std::string& a);
 
 /// A plate: its slenderness against the limits of its class.

@@ -37,10 +37,16 @@ std::string Nome(TermineBullone termine) {
 
 std::string Forza(Singolo N) { return Cifre(Singolo(N_a_kN(N))); }
 
+/// "8.8": a name, with a point in every locale.
+std::string NomeClasse(const Bullone& b) {
+    const long decimi = std::lround(10 * double(b.Classe()));
+    return std::to_string(decimi / 10) + '.' + std::to_string(decimi % 10);
+}
+
 CapitoloRelazione Dati(const Bullone& b, const std::string& acciaio) {
     CapitoloRelazione c{.titolo = "Bullone e piastra"};
     c.passi = {Dato("Diametro", "d", std::to_string(b.d()), "mm"),
-               Dato("Classe", "", Piano(b.Classe())),
+               Dato("Classe", "", NomeClasse(b)),
                Dato("Tensione di rottura del bullone", "f{ub}", Piano(b.fub), "N/mm^{2}"),
                Dato("Tensione di snervamento del bullone", "f{yb}", Piano(b.fyb), "N/mm^{2}"),
                Dato("Sezione tagliata", "", b.Gambo ? "gambo" : "filettatura"),
@@ -201,7 +207,7 @@ CapitoloRelazione Verifica(const Bullone& b, bool giudicato) {
 
 Relazione RelazioneBullone(const Bullone& b, const std::string& acciaio, bool giudicato) {
     Relazione r{.titolo = "Verifica di un bullone",
-                .oggetto = "M" + std::to_string(b.d()) + " classe " + Piano(b.Classe())};
+                .oggetto = "M" + std::to_string(b.d()) + " classe " + NomeClasse(b)};
     r.maschera = "frmBulloni";
     r.disegno = DisegnoForatura({double(b.d()), b.do_, b.e1, b.p1, b.e2, b.p2});
     r.capitoli = {Dati(b, acciaio), Resistenze(b), Verifica(b, giudicato)};

@@ -9,6 +9,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "frame/LetturaFile.h"
 #include "frame/Messaggi.h"
+#include "joints/ComponentiGiunto.h"
 #include "joints/DisegnoNodo.h"
 #include "joints/FormuleGiunto.h"
 #include "joints/Nodo.h"
@@ -61,6 +62,11 @@ PassoRelazione PassoDi(const VoceRelazione& voce) {
 /// A line of dashes with words in it begins a chapter.
 bool ETitolo(const VoceRelazione& voce) { return voce.testo.find("---") != std::string::npos; }
 
+/// Without a span of the beam there are no limits of stiffness.
+bool ELimiteAssente(const VoceRelazione& voce) {
+    return voce.conValore && voce.valore.empty() && Nudo(voce.testo).starts_with("Limite ");
+}
+
 void AggiungeVoci(Relazione& r, const Nodo& nodo, int indice, const std::string& lato) {
     r.capitoli.push_back({.titolo = "Giunto " + lato});
     const std::vector<VoceRelazione> voci = VociRelazione(nodo, indice);
@@ -69,6 +75,8 @@ void AggiungeVoci(Relazione& r, const Nodo& nodo, int indice, const std::string&
         if (ETitolo(*voce)) {
             const std::string titolo = Nudo(voce->testo);
             r.capitoli.push_back({.titolo = titolo.empty() ? "Resistenze del giunto" : titolo});
+        } else if (ELimiteAssente(*voce)) {
+            continue;
         } else if (voce->conValore) {
             PassoRelazione passo = PassoDi(*voce);
             if (const std::size_t fila = passo.descrizione.find("Fila"); fila == 0)
@@ -225,15 +233,12 @@ void AggiungePassi(Relazione& r, const Giunto& giunto, const std::string& lato) 
         r.capitoli.push_back(std::move(c));
 }
 
-/// "dall'anima della colonna" as a subject: "l'anima della colonna".
-std::string SenzaPreposizione(const std::string& componente) {
-    constexpr std::pair<std::string_view, std::string_view> articoli[] = {
-        {"dall'", "l'"},    {"dalla ", "la "}, {"dalle ", "le "}, {"dallo ", "lo "},
-        {"dagli ", "gli "}, {"dai ", "i "},    {"dal ", "il "}};
-    for (const auto& [preposizione, articolo] : articoli)
-        if (componente.starts_with(preposizione))
-            return std::string(articolo) + componente.substr(preposizione.size());
-    return componente;
+/// The components that govern the moment, as the screen names them.
+std::string NomiGovernanti(const Giunto& giunto) {
+    std::string nomi;
+    for (const ComponenteFila& quale : Governa(giunto).governano)
+        nomi += (nomi.empty() ? "" : "; ") + NomeComponente(quale);
+    return nomi;
 }
 
 void AggiungeVerdetti(Relazione& r, const Giunto& giunto, const std::string& lato) {
@@ -248,8 +253,7 @@ void AggiungeVerdetti(Relazione& r, const Giunto& giunto, const std::string& lat
         VerdettoRelazione& m = *momento.verdetto;
         m.esito = v.resiste ? EsitoRelazione::Passa : EsitoRelazione::NonPassa;
         m.utilizzo = Utilizzo(giunto, "txtFmin0").value_or(std::numeric_limits<double>::quiet_NaN());
-        m.governa = Nudo(TestoGovernante(giunto)).empty() ? std::string()
-                                                          : SenzaPreposizione(Nudo(giunto.ComponenteDebole));
+        m.governa = NomiGovernanti(giunto);
         m.motivo = v.notaMomento;
         taglio.verdetto =
             VerdettoRelazione{.verifica = "Taglio resistente" + quale,
@@ -300,7 +304,9 @@ void AggiungeGiunto(Passi& p, const Giunto& g, const std::string& lato) {
     const std::string ruolo = lato == "destro" ? "Trave destra" : "Trave sinistra";
     if (g.Trave) {
         AggiungeSagomo(p, ruolo, *g.Trave);
-        p.push_back(Dato(ruolo + ", luce", "L", Figura(g.Trave->lunghezza()), "m"));
+        const double luce = g.Trave->lunghezza();
+        p.push_back(luce == 0 ? Dato(ruolo + ", luce", "L", "non data")
+                              : Dato(ruolo + ", luce", "L", Figura(luce), "m"));
     }
     p.push_back(Dato("Giunto " + lato + ", classe dei bulloni", "", g.Classe));
     p.push_back(

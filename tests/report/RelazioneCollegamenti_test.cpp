@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "fasteners/Bullone.h"
+#include "frame/Ambiente.h"
 #include "frame/GeneraleSagomi.h"
 #include "report/Passi.h"
 
@@ -67,6 +68,14 @@ TEST_F(RelazioneBulloneTest, ADistanceBelowItsLeastSaysWhyNothingIsBorne) {
     EXPECT_EQ(p.valore, "0");
     EXPECT_EQ(p.formula, "");
     EXPECT_NE(p.descrizione.find("sotto il minimo"), std::string::npos);
+}
+
+TEST_F(RelazioneBulloneTest, TheClassIsANameWithAPoint) {
+    const ConSeparatori italiani(',', '.');
+    const Relazione r = RelazioneBullone(b, "S235");
+    EXPECT_EQ(r.oggetto, "M14 classe 10.9");
+    EXPECT_EQ(r.capitoli[0].passi[1].valore, "10.9");
+    EXPECT_EQ(Passo(r, "β{g}").valore, "0,85");
 }
 
 // Ft,Rd = 0.9 x 1000 x 115 / 1.25 = 82.8: 20/39.1 + 30/(1.4 x 82.8) = 0.5115 + 0.2588 = 0.7703; 30/82.8 =

@@ -1,0 +1,75 @@
+#include "report/RelazioneNodo.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+#include "Registratore.h"
+#include "frame/GeneraleSagomi.h"
+#include "joints/ComponentiGiunto.h"
+#include "joints/NodoDisegnato.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+class RelazioneNodoTest : public testing::Test {
+protected:
+    RelazioneNodoTest() : nodo(NodoDisegnato(nodoT, 1, "No")) {
+        nodo.TraveDx->McyRd = 484e3 * 235 / 1.05;
+        nodo.TraveDx->NplRd = 1e6;
+        nodo.ConnessioneCorrente->Criterio1 = false;
+        nodo.EsegueCalcolo();
+    }
+    void TearDown() override { RipristinaGenerale(); }
+    [[nodiscard]] Giunto& giunto() const { return *nodo.ConnessioneCorrente; }
+    /// What the check of the moment says that governs.
+    [[nodiscard]] std::string Governante() const {
+        for (const CapitoloRelazione& c : RelazioneNodo(nodo, "").capitoli)
+            if (c.titolo == "Verifica a momento, giunto destro")
+                return c.verdetto->governa;
+        return "nessun capitolo";
+    }
+
+    Registratore quiet;
+    Nodo nodo;
+};
+
+TEST_F(RelazioneNodoTest, TheRowsGovernUnlessTheyHadToGiveWay) {
+    ASSERT_TRUE(giunto().Acquisito);
+    giunto().ComponenteDeboleFilaInf = " Fila int. dalla flangia di estremità a flessione";
+    giunto().ComponenteDebole = " dal pannello della colonna a taglio";
+    giunto().TipoMessaggio = 0;
+    EXPECT_EQ(Governante(), "flangia d'estremità");
+    giunto().TipoMessaggio = 1;
+    EXPECT_EQ(Governante(), "pannello d'anima della colonna");
+    giunto().TipoMessaggio = 0;
+    giunto().nf = 2;
+    giunto().ComponenteDeboleFilaSup = " Fila est. ala della colonna a flessione";
+    EXPECT_EQ(Governante(), "ala della colonna, fila esterna; flangia d'estremità, fila interna");
+}
+
+/// How many steps begin with a word.
+long Quanti(const Relazione& r, std::string_view inizio) {
+    long n = 0;
+    for (const CapitoloRelazione& c : r.capitoli)
+        n += std::ranges::count_if(
+            c.passi, [&](const PassoRelazione& p) { return p.descrizione.starts_with(inizio); });
+    return n;
+}
+
+TEST_F(RelazioneNodoTest, WithoutASpanThereAreNeitherASpanNorLimits) {
+    nodo.TraveDx->lunghezza() = 6;
+    EXPECT_EQ(Quanti(RelazioneNodo(nodo, ""), "Limite "), 3);
+    nodo.TraveDx->lunghezza() = 0;
+    const Relazione r = RelazioneNodo(nodo, "");
+    EXPECT_EQ(Quanti(r, "Limite "), 0);
+    for (const PassoRelazione& p : r.capitoli[0].passi)
+        if (p.descrizione == "Trave destra, luce") {
+            EXPECT_EQ(p.valore, "non data");
+            EXPECT_EQ(p.unita, "");
+        }
+}
+
+} // namespace
