@@ -5,10 +5,14 @@
 #include <istream>
 #include <ostream>
 #include <stdexcept>
+#include <string_view>
+#include <type_traits>
+#include <utility>
 
-#include "catalogue/Minuscole.h"
+#include "catalogue/Famiglie.h"
 #include "choice/FileRelazione.h"
 #include "choice/LavoriJson.h"
+#include "choice/NomiVicini.h"
 #include "choice/Opzioni.h"
 #include "choice/RelazioneVerifica.h"
 #include "choice/ScritturaScelta.h"
@@ -58,6 +62,8 @@ Relazione, anche con --verifica:
 Stato di uscita: 0 verificato (senza azioni niente da verificare), 1 non verificato, 2 uso errato.
 )";
 
+constexpr std::string_view segnoUtf8 = "\xEF\xBB\xBF"; ///< some programs begin a text with it
+
 using TrovaCartella = std::function<std::filesystem::path()>;
 
 /// Where answers go, and what has no place in them.
@@ -71,13 +77,6 @@ void MessaggiAParte(const Comando& c, const std::vector<std::string>& messaggi, 
         ScriveMessaggi(u.errori, messaggi);
 }
 
-/// A name without blanks, in small letters: "hea200" finds "HEA 200".
-std::string Piegato(std::string_view nome) {
-    std::string s = Minuscole(nome);
-    std::erase(s, ' ');
-    return s;
-}
-
 /// The rows, or the reason why there are none.
 Gara Legge(const std::filesystem::path& cartella, const std::vector<std::string>& famiglie) {
     Gara gara = LeggeGara(cartella, famiglie);
@@ -86,13 +85,36 @@ Gara Legge(const std::filesystem::path& cartella, const std::vector<std::string>
     return gara;
 }
 
+/// The names of the families of all kinds, those of the user's own last.
+std::vector<std::string> NomiFamiglie() {
+    std::vector<std::string> nomi, utente;
+    for (const FamigliaSchermo& f : FamiglieSchermi()) {
+        nomi.insert(nomi.end(), f.fogli.begin(), f.fogli.end());
+        if (!f.foglioUtente.empty())
+            utente.emplace_back(f.foglioUtente);
+    }
+    nomi.insert(nomi.end(), utente.begin(), utente.end());
+    return nomi;
+}
+
+/// Names of families as their sheets have them: "hea" is "HEA".
+void RiconosceFamiglie(Comando& c) {
+    const std::vector<std::string> nomi = NomiFamiglie();
+    for (std::string& data : c.filtri.famiglie) {
+        const auto nome = std::ranges::find(nomi, Piegato(data), Piegato);
+        if (nome == nomi.end())
+            throw ErroreUso("nessuna famiglia si chiama \"" + data + "\": le famiglie sono " +
+                            Elencati(nomi));
+        data = *nome;
+    }
+}
+
 /// A family without rows may be one whose sheet could not be read; then that is said.
 void ControllaFamiglie(const Gara& gara, const std::vector<std::string>& famiglie) {
     for (const std::string& famiglia : famiglie)
         if (std::ranges::find(gara.sagomi, famiglia, &SagomoInGara::famiglia) == gara.sagomi.end())
-            throw ErroreUso(gara.mancanti.empty() ? "nessuna famiglia si chiama \"" + famiglia + '"'
-                                                  : "nessuna riga della famiglia \"" + famiglia + "\"; " +
-                                                        gara.mancanti.front());
+            throw ErroreUso("nessuna riga della famiglia \"" + famiglia + '"' +
+                            (gara.mancanti.empty() ? "" : "; " + gara.mancanti.front()));
 }
 
 /// Whether a row is the one that is asked for; jobs share the rows of all families.
@@ -111,12 +133,25 @@ void ScriveRelazione(const Comando& c, DocumentoLetto documento, const std::vect
 }
 
 /// What a name that is no section's may have been meant for.
-[[noreturn]] void NessunSagomo(const Comando& c) {
+[[noreturn]] void NessunSagomo(const Comando& c, const Gara& gara) {
     std::error_code nessuno;
-    const bool file = c.modo == ModoComando::Relazione &&
-                      (c.sagomo.find('/') != std::string::npos || std::filesystem::exists(c.sagomo, nessuno));
-    throw ErroreUso(file ? c.sagomo + " non è un file di Sagomi (Gfl, Sco)"
-                         : "nessun sagomo si chiama \"" + c.sagomo + '"');
+    if (c.modo == ModoComando::Relazione &&
+        (c.sagomo.find('/') != std::string::npos || std::filesystem::exists(c.sagomo, nessuno)))
+        throw ErroreUso(c.sagomo + " non è un file di Sagomi (Gfl, Sco)");
+    std::vector<std::string> nomi;
+    for (const SagomoInGara& s : gara.sagomi)
+        if (c.filtri.famiglie.empty() ||
+            std::ranges::find(c.filtri.famiglie, s.famiglia) != c.filtri.famiglie.end())
+            nomi.push_back(s.Designazione());
+    const std::string vicini = Elencati(NomiVicini(c.sagomo, nomi));
+    throw ErroreUso("nessun sagomo si chiama \"" + c.sagomo + '"' +
+                    (vicini.empty() ? "" : ": forse " + vicini));
+}
+
+/// The factors of a check that is not made would go unheard.
+void ControllaLunghezza(const Comando& c) {
+    if (!c.fattoreChiesto.empty() && !LunghezzaSvergolamento(c.richiesta))
+        throw ErroreUso(c.fattoreChiesto + " vuole --L o --L0z: senza lo svergolamento non si verifica");
 }
 
 /// What was asked for in this very call shall mean something for the kind of section.
@@ -130,15 +165,18 @@ void ControllaGenere(const Comando& c, const SagomoInGara& sagomo) {
                 rifiuta("--doppi", "canali e angolari");
             if (!c.soloSvergolamento.empty() && !ConDiagrammi<S>)
                 rifiuta(c.soloSvergolamento, "lo svergolamento dei doppi T");
+            if (c.assiVChiesti && !std::is_same_v<S, SezioneSagomoL>)
+                rifiuta("--L0v", "gli angolari");
         },
         sagomo.sezione);
+    ControllaLunghezza(c);
 }
 
 int VerificaUno(const Comando& c, const Gara& gara, const Uscite& u) {
     const auto sagomo =
         std::ranges::find_if(gara.sagomi, [&](const SagomoInGara& s) { return Cercato(c, s); });
     if (sagomo == gara.sagomi.end())
-        NessunSagomo(c);
+        NessunSagomo(c, gara);
     ControllaGenere(c, *sagomo);
     const SenzaMigliaia piano;
     std::vector<std::string> messaggi = gara.mancanti;
@@ -161,6 +199,7 @@ int RelazioneDiFile(const Comando& c) {
 }
 
 int SceglieFraTutti(const Comando& c, const Gara& gara, const Uscite& u) {
+    ControllaLunghezza(c);
     std::vector<std::string> messaggi = gara.mancanti;
     std::vector<RigaScelta> righe = Valuta(gara.sagomi, c.richiesta, c.filtri, messaggi);
     OrdinaPerPeso(righe);
@@ -183,6 +222,7 @@ int EsegueLavoro(const LavoriJson& lavori, const std::string& riga, const std::v
         if ((c.modo != ModoComando::Verifica && c.modo != ModoComando::Scelta) ||
             c.formato != FormatoUscita::Json)
             throw ErroreUso("un lavoro chiede \"verifica\" o \"scelta\"");
+        RiconosceFamiglie(c);
         if (c.uscite.Qualcuna())
             throw ErroreUso("un lavoro risponde sull'uscita e non scrive file");
         return Risponde(c, gara, u);
@@ -198,7 +238,10 @@ int EsegueLavori(const std::vector<std::string>& comuni, const TrovaCartella& ca
     const Gara gara = Legge(cartella(), {});
     const LavoriJson lavori;
     int peggiore = comandoVerificato;
+    bool prima = true;
     for (std::string riga; std::getline(ingresso, riga);) {
+        if (std::exchange(prima, false) && riga.starts_with(segnoUtf8))
+            riga.erase(0, segnoUtf8.size());
         if (riga.find_first_not_of(" \t\r") == std::string::npos)
             continue;
         peggiore = std::max(peggiore, EsegueLavoro(lavori, riga, comuni, gara, u));
@@ -229,6 +272,7 @@ int Esegue(Comando c, const TrovaCartella& cartella, const Uscite& u) {
         TrovaFormule(cartella);
         return RelazioneDiFile(c);
     }
+    RiconosceFamiglie(c);
     return Risponde(c, Legge(cartella(), c.filtri.famiglie), u);
 }
 

@@ -30,6 +30,16 @@ std::string Testo(const Istruzione& s, int colonna) {
     return testo == nullptr ? std::string() : std::string(testo);
 }
 
+/// The character of the number 0 ends a text for the parser, wherever it stands.
+void ControllaZeri(std::string_view riga) {
+    constexpr std::string_view zero = "u0000";
+    bool trovato = riga.find('\0') != std::string_view::npos;
+    for (std::size_t i = riga.find('\\'); i < riga.size() && !trovato; i = riga.find('\\', i + 2))
+        trovato = riga.substr(i + 1).starts_with(zero);
+    if (trovato)
+        throw ErroreUso("un lavoro non può contenere il carattere U+0000");
+}
+
 void Aggiunge(std::vector<std::string>& argomenti, const Istruzione& s) {
     const std::string tipo = Testo(s, 1);
     if (tipo == "false" || tipo == "null")
@@ -38,6 +48,8 @@ void Aggiunge(std::vector<std::string>& argomenti, const Istruzione& s) {
         NonOggetto();
     const std::string chiave = Testo(s, 0);
     argomenti.push_back(chiave == "My1" || chiave == "Mz1" ? "--" + chiave.substr(0, 2) : "--" + chiave);
+    if (tipo != "true" && EInterruttore(argomenti.back()))
+        throw ErroreUso('"' + chiave + "\" vuole true o false, non " + Testo(s, 2));
     if (tipo != "true")
         argomenti.push_back(Testo(s, 2));
 }
@@ -55,6 +67,7 @@ LavoriJson::LavoriJson() {
 }
 
 std::vector<std::string> LavoriJson::Argomenti(const std::string& riga) const {
+    ControllaZeri(riga);
     sqlite3_stmt* preparata = nullptr;
     sqlite3_prepare_v2(db_.get(), query, -1, &preparata, nullptr);
     const Istruzione s(preparata);

@@ -8,8 +8,10 @@
 #include <string_view>
 #include <utility>
 
+#include "choice/NomiVicini.h"
 #include "choice/OpzioniToolkit.h"
 #include "frame/GeneraleSagomi.h"
+#include "frame/Impostazioni.h"
 #include "frame/Unita.h"
 
 namespace sagomi {
@@ -21,6 +23,7 @@ using PrendeNumero = void (*)(Comando&, double);
 
 struct OpzioneTesto {
     std::string_view nome;
+    const char* vuole; ///< what its value is, in Italian
     Azione prende;
 };
 
@@ -42,7 +45,8 @@ struct Lettura {
     [[nodiscard]] bool Ha(std::string_view nome) const { return std::ranges::find(date, nome) != date.end(); }
 };
 
-constexpr double qualsiasi = 1e12; // beyond it no force nor length means anything
+constexpr double qualsiasi = 1e12;     // beyond it no force nor length means anything
+constexpr double minimoFattore = 1e-6; // the critical moment divides by them, or is none
 
 std::vector<std::string> Separati(const std::string& testo) {
     std::vector<std::string> pezzi;
@@ -70,8 +74,8 @@ void Scrive(Comando& c, FormatoUscita formato) {
 
 /// Names where an answer goes to.
 void Uscita(std::filesystem::path& uscita, const char* opzione, const std::string& nome) {
-    if (nome.empty() || nome.starts_with("--"))
-        throw ErroreUso(std::string(opzione) + " vuole il nome di un file, non \"" + nome + '"');
+    if (nome.empty())
+        throw ErroreUso(std::string(opzione) + " vuole un file");
     if (!uscita.empty())
         throw ErroreUso(std::string(opzione) + " sta due volte");
     uscita = nome;
@@ -85,14 +89,14 @@ std::int16_t Forma(double v) {
 
 // clang-format off
 constexpr OpzioneTesto testi[] = {
-    {"--verifica",  [](Comando& c, const std::string& t) { Sceglie(c, ModoComando::Verifica); c.sagomo = t; }},
-    {"--acciaio",   [](Comando& c, const std::string& t) { c.acciaio = t; }},
-    {"--normativa", [](Comando& c, const std::string& t) { c.normativa = t; }},
-    {"--famiglie",  [](Comando& c, const std::string& t) { c.filtri.famiglie = Separati(t); }},
-    {"--relazione", [](Comando& c, const std::string& t) { Uscita(c.uscite.relazione, "--relazione", t); }},
-    {"--pdf",       [](Comando& c, const std::string& t) { Uscita(c.uscite.pdf, "--pdf", t); }},
-    {"--dxf",       [](Comando& c, const std::string& t) { Uscita(c.uscite.dxf, "--dxf", t); }},
-    {"--progetto",  [](Comando& c, const std::string& t) { c.progetto = t; }},
+    {"--verifica",  "il nome di un sagomo", [](Comando& c, const std::string& t) { Sceglie(c, ModoComando::Verifica); c.sagomo = t; }},
+    {"--acciaio",   "un acciaio", [](Comando& c, const std::string& t) { c.acciaio = t; }},
+    {"--normativa", "una norma (NTC, EC3, Altro)", [](Comando& c, const std::string& t) { c.normativa = t; }},
+    {"--famiglie",  "nomi di famiglie con la virgola", [](Comando& c, const std::string& t) { c.filtri.famiglie = Separati(t); }},
+    {"--relazione", "un file", [](Comando& c, const std::string& t) { Uscita(c.uscite.relazione, "--relazione", t); }},
+    {"--pdf",       "un file", [](Comando& c, const std::string& t) { Uscita(c.uscite.pdf, "--pdf", t); }},
+    {"--dxf",       "un file", [](Comando& c, const std::string& t) { Uscita(c.uscite.dxf, "--dxf", t); }},
+    {"--progetto",  "un testo", [](Comando& c, const std::string& t) { c.progetto = t; }},
 };
 
 constexpr OpzioneNumero numeri[] = {
@@ -107,14 +111,14 @@ constexpr OpzioneNumero numeri[] = {
     {"--L0z",   0, qualsiasi, [](Comando& c, double v) { c.richiesta.L0z = m_a_mm(v); }},
     {"--L0v",   0, qualsiasi, [](Comando& c, double v) { c.richiesta.L0v = m_a_mm(v); }},
     {"--L",     0, qualsiasi, [](Comando& c, double v) { c.richiesta.LLT = m_a_mm(v); }},
-    {"--k",     0, qualsiasi, [](Comando& c, double v) { c.richiesta.k = v; }},
-    {"--Kw",    0, qualsiasi, [](Comando& c, double v) { c.richiesta.Kw = v; }},
-    {"--C1",    0, qualsiasi, [](Comando& c, double v) { c.richiesta.C1 = v; }},
+    {"--k",     minimoFattore, qualsiasi, [](Comando& c, double v) { c.richiesta.k = v; }},
+    {"--Kw",    minimoFattore, qualsiasi, [](Comando& c, double v) { c.richiesta.Kw = v; }},
+    {"--C1",    minimoFattore, qualsiasi, [](Comando& c, double v) { c.richiesta.C1 = v; }},
     {"--C2",    -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.c2 = v; }},
     {"--C3",    -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.c3 = v; }},
     {"--za",    -qualsiasi, qualsiasi, [](Comando& c, double v) { c.richiesta.za = v; }},
-    {"--fy",    0.01, qualsiasi, [](Comando& c, double v) { c.fy = v; }},
-    {"--fu",    0.01, qualsiasi, [](Comando& c, double v) { c.fu = v; }},
+    {"--fy",    limitiResistenza.minimo, limitiResistenza.massimo, [](Comando& c, double v) { c.fy = v; }},
+    {"--fu",    limitiResistenza.minimo, limitiResistenza.massimo, [](Comando& c, double v) { c.fu = v; }},
     {"--GammaM0", 0.01, 100, [](Comando& c, double v) { c.GammaM0 = v; }},
     {"--GammaM1", 0.01, 100, [](Comando& c, double v) { c.GammaM1 = v; }},
     {"--doppi", 0, qualsiasi, [](Comando& c, double v) { c.richiesta.doppi = true; c.richiesta.dDoppi = v; }},
@@ -136,6 +140,19 @@ constexpr std::pair<std::string_view, void (*)(Comando&)> interruttori[] = {
 };
 // clang-format on
 
+std::string Cifre(double v) {
+    char testo[32];
+    return {testo, std::to_chars(testo, testo + sizeof testo, v).ptr};
+}
+
+/// The numbers that an option takes, in Italian.
+std::string Intervallo(const OpzioneNumero& o) {
+    const std::string da = o.minimo == minimoFattore ? "maggiore di 0" : "da " + Cifre(o.minimo);
+    if (o.massimo < qualsiasi)
+        return da + " a " + Cifre(o.massimo);
+    return o.minimo == 0 ? "non minore di 0" : o.minimo == minimoFattore ? da : da + " a " + Cifre(o.massimo);
+}
+
 double NumeroDi(const OpzioneNumero& opzione, const std::string& testo) {
     double v = 0;
     const char* fine = testo.data() + testo.size();
@@ -144,7 +161,7 @@ double NumeroDi(const OpzioneNumero& opzione, const std::string& testo) {
     if (letto.ec != std::errc() || letto.ptr != fine || !std::isfinite(v))
         throw ErroreUso(nome + " vuole un numero col punto decimale, per esempio 2.5, non \"" + testo + "\"");
     if (v < opzione.minimo || v > opzione.massimo)
-        throw ErroreUso(nome + " non può valere " + testo);
+        throw ErroreUso(nome + " non può valere " + testo + ": vuole un numero " + Intervallo(opzione));
     return v;
 }
 
@@ -162,22 +179,6 @@ bool SoloDiScelta(std::string_view nome) {
 bool DelloSvergolamento(std::string_view nome) {
     constexpr std::string_view sue[] = {"--L", "--k", "--Kw", "--C1", "--C2", "--C3", "--za"};
     return std::ranges::find(sue, nome) != std::end(sue);
-}
-
-/// How many letters have to be changed, put in or left out to make one word of the other.
-std::size_t Distanza(std::string_view a, std::string_view b) {
-    std::vector<std::size_t> riga(b.size() + 1);
-    for (std::size_t j = 0; j < riga.size(); ++j)
-        riga[j] = j;
-    for (std::size_t i = 1; i <= a.size(); ++i) {
-        std::size_t obliquo = std::exchange(riga[0], i);
-        for (std::size_t j = 1; j < riga.size(); ++j) {
-            const std::size_t cambiata = obliquo + (a[i - 1] == b[j - 1] ? 0 : 1);
-            obliquo = riga[j];
-            riga[j] = std::min({cambiata, riga[j] + 1, riga[j - 1] + 1});
-        }
-    }
-    return riga.back();
 }
 
 /// Refuses what is no option, with the one that was probably meant, or what is expected.
@@ -233,29 +234,68 @@ void Annota(Lettura& l, const std::string& nome) {
         l.c.soloSvergolamento = nome;
 }
 
+bool ConValore(std::string_view nome) {
+    return std::ranges::find(testi, nome, &OpzioneTesto::nome) != std::end(testi) ||
+           std::ranges::find(numeri, nome, &OpzioneNumero::nome) != std::end(numeri);
+}
+
+bool ENostra(const std::string& argomento) { return ConValore(argomento) || EInterruttore(argomento); }
+
+/// Whether an argument stands where a value was expected and is the next option.
+bool EOpzione(const std::string& argomento) {
+    return ENostra(argomento) || (argomento.starts_with("--") && argomento.size() > 2);
+}
+
+/// The value behind an option. Throws for one that is missing.
+const std::string& ValoreDi(std::span<const std::string> argomenti, const char* vuole) {
+    if (argomenti.size() < 2 || EOpzione(argomenti[1]))
+        throw ErroreUso(argomenti.front() + " vuole " + vuole);
+    return argomenti[1];
+}
+
+/// Keeps in mind what a file, or a call without a length, has no use for.
+void AnnotaSenzaEffetto(Lettura& l, const std::string& nome, bool conValore) {
+    if (l.c.soloSagomi.empty() && (conValore || nome == "--accostati") && !AncheDiFile(nome) &&
+        !SoloDiScelta(nome))
+        l.c.soloSagomi = nome;
+    if (l.proprie && l.c.fattoreChiesto.empty() && nome != "--L" && DelloSvergolamento(nome))
+        l.c.fattoreChiesto = nome;
+}
+
 /// Takes one option, with its value where it has one.
 /// @return how many arguments it has taken
 std::size_t Prende(Lettura& l, std::span<const std::string> argomenti) {
     const std::string& nome = argomenti.front();
-    const auto* interruttore = std::ranges::find(interruttori, nome, [](const auto& i) { return i.first; });
-    const auto* testo = std::ranges::find(testi, nome, &OpzioneTesto::nome);
-    const auto* numero = std::ranges::find(numeri, nome, &OpzioneNumero::nome);
-    const bool conValore = testo != std::end(testi) || numero != std::end(numeri);
-    if (interruttore == std::end(interruttori) && !conValore)
+    if (!ENostra(nome))
         NonOpzione(nome);
-    if (conValore && argomenti.size() < 2)
-        throw ErroreUso(nome + " vuole un valore");
+    const bool conValore = ConValore(nome);
+    const auto* testo = std::ranges::find(testi, nome, &OpzioneTesto::nome);
+    const std::string* valore =
+        conValore ? &ValoreDi(argomenti, testo != std::end(testi) ? testo->vuole : "un numero") : nullptr;
     Annota(l, nome);
-    if (l.c.soloSagomi.empty() && (conValore || nome == "--accostati") && !AncheDiFile(nome) &&
-        !SoloDiScelta(nome))
-        l.c.soloSagomi = nome;
-    if (interruttore != std::end(interruttori))
-        interruttore->second(l.c);
+    AnnotaSenzaEffetto(l, nome, conValore);
+    if (valore == nullptr)
+        std::ranges::find(interruttori, nome, [](const auto& i) { return i.first; })->second(l.c);
     else if (testo != std::end(testi))
-        testo->prende(l.c, argomenti[1]);
-    else
-        numero->prende(l.c, NumeroDi(*numero, argomenti[1]));
+        testo->prende(l.c, *valore);
+    else if (const auto* numero = std::ranges::find(numeri, nome, &OpzioneNumero::nome))
+        numero->prende(l.c, NumeroDi(*numero, *valore));
     return conValore ? 2 : 1;
+}
+
+/// "--option=value" as two arguments, where the option has a value.
+std::vector<std::string> Divisi(const std::vector<std::string>& argomenti) {
+    std::vector<std::string> divisi;
+    for (const std::string& argomento : argomenti) {
+        const std::size_t uguale = argomento.find('=');
+        if (uguale != std::string::npos && ConValore(argomento.substr(0, uguale))) {
+            divisi.push_back(argomento.substr(0, uguale));
+            divisi.push_back(argomento.substr(uguale + 1));
+        } else {
+            divisi.push_back(argomento);
+        }
+    }
+    return divisi;
 }
 
 void PrendeTutte(Lettura& l, const std::vector<std::string>& argomenti) {
@@ -267,12 +307,6 @@ void PrendeTutte(Lettura& l, const std::vector<std::string>& argomenti) {
         l.soggetti.push_back(resto.front());
         resto = resto.subspan(1);
     }
-}
-
-bool ENostra(const std::string& argomento) {
-    return std::ranges::find(testi, argomento, &OpzioneTesto::nome) != std::end(testi) ||
-           std::ranges::find(numeri, argomento, &OpzioneNumero::nome) != std::end(numeri) ||
-           std::ranges::any_of(interruttori, [&](const auto& i) { return i.first == argomento; });
 }
 
 /// The whole name, or what stands before its blank: "S275" of "S275 (Fe430)".
@@ -388,31 +422,45 @@ void Completa(Lettura& l, bool conL0v) {
 
 } // namespace
 
-Comando LeggeOpzioni(const std::vector<std::string>& argomenti, const std::vector<std::string>& comuni) {
+Comando LeggeOpzioni(const std::vector<std::string>& dati, const std::vector<std::string>& comuni) {
     Lettura l;
+    const std::vector<std::string> argomenti = Divisi(dati);
     if (std::ranges::none_of(argomenti, ENostra) && comuni.empty()) {
         ControllaFinestre(argomenti);
         return l.c;
     }
     l.proprie = false;
-    PrendeTutte(l, comuni);
+    PrendeTutte(l, Divisi(comuni));
     const bool conL0v = l.Ha("--L0v");
     l.proprie = true;
     l.date.clear();
     PrendeTutte(l, argomenti);
     l.c.coppiaChiesta = l.Ha("--doppi");
+    l.c.assiVChiesti = l.Ha("--L0v");
     Completa(l, conL0v || l.Ha("--L0v"));
     return l.c;
 }
 
+bool EInterruttore(std::string_view nome) {
+    return std::ranges::any_of(interruttori, [nome](const auto& i) { return i.first == nome; });
+}
+
 std::optional<std::filesystem::path> PrendeCartella(std::vector<std::string>& argomenti) {
-    constexpr std::string_view nome = "--cartella";
+    constexpr std::string_view nome = "--cartella", conUguale = "--cartella=";
     std::optional<std::filesystem::path> cartella;
-    for (auto a = argomenti.begin(); (a = std::ranges::find(a, argomenti.end(), nome)) != argomenti.end();) {
-        if (a + 1 == argomenti.end() || (a + 1)->empty())
+    for (auto a = argomenti.begin(); a != argomenti.end();) {
+        const bool unita = a->starts_with(conUguale);
+        if (!unita && *a != nome) {
+            ++a;
+            continue;
+        }
+        const auto valore = unita ? a : a + 1;
+        const std::string dove =
+            valore == argomenti.end() ? "" : valore->substr(unita ? conUguale.size() : 0);
+        if (dove.empty() || (!unita && EOpzione(dove)))
             throw ErroreUso("--cartella vuole una cartella");
-        cartella = *(a + 1);
-        a = argomenti.erase(a, a + 2);
+        cartella = dove;
+        a = argomenti.erase(a, valore + 1);
     }
     return cartella;
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "choice/FileRelazione.h"
@@ -31,6 +32,8 @@ struct Comando {
     std::string progetto;          ///< stands on the report
     std::string soloSagomi;        ///< first option taken that a file has no use for
     std::string soloSvergolamento; ///< first option of this very call that is of double-Ts alone
+    std::string fattoreChiesto;    ///< first of those, but for --L, which means nothing without a length
+    bool assiVChiesti = false;     ///< --L0v is of this very call
     bool coppiaChiesta = false;    ///< --doppi is of this very call, not of what holds for all
     std::string acciaio = "S235";
     double fy = 0, fu = 0; ///< other strengths than the grade's [N/mm2]; 0 for none
@@ -40,12 +43,16 @@ struct Comando {
     Filtri filtri;
 };
 
-/// Reads the arguments without the program's name. Numbers have a point, whatever the locale. Without any of
-/// our options the windows are meant, with a file or options of the toolkit; --json without a question means
-/// jobs. A name without dashes, a file's or a section's, asks for what --relazione, --pdf and --dxf write.
-/// Throws ErroreUso, also for what would be ignored or stands there twice.
+/// Reads the arguments without the program's name, values behind their option or behind a "=". Numbers have a
+/// point, whatever the locale. Without any of our options the windows are meant, with a file or options of
+/// the toolkit; --json without a question means jobs. A name without dashes, a file's or a section's, asks
+/// for what --relazione, --pdf and --dxf write. Throws ErroreUso, also for what would be ignored or stands
+/// there twice.
 /// @param comuni  hold where the arguments do not say otherwise, as far as they mean anything there
 Comando LeggeOpzioni(const std::vector<std::string>& argomenti, const std::vector<std::string>& comuni = {});
+
+/// Whether it is an option without a value.
+bool EInterruttore(std::string_view nome);
 
 /// Takes --cartella with its folder out of the arguments; it holds for windows and answers alike.
 /// @return the folder, where one is chosen; of several the last

@@ -119,7 +119,8 @@ bool LetturaGara::Legge(std::size_t righe) {
             for (; !righe_->EOF_() && n < righe; righe_->MoveNext(), ++n)
                 Prende();
         } catch (const std::exception& e) {
-            letti.mancanti.emplace_back(e.what());
+            if (std::ranges::find(letti.mancanti, e.what()) == letti.mancanti.end())
+                letti.mancanti.emplace_back(e.what());
             righe_.reset();
             ++foglio_;
             continue;

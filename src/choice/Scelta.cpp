@@ -77,6 +77,16 @@ void ToglieVerifiche(RigaScelta& riga) {
     riga.motivo.clear();
 }
 
+/// Which resistance is 0, where an action is held against none.
+std::string MotivoInfinito(VerificaScelta verifica, const Verdetto& v) {
+    const bool conY = v.governa == TermineVerifica::My, flessa = conY || v.governa == TermineVerifica::Mz;
+    const char* nome = verifica == VerificaScelta::Svergolamento && conY ? "Mb,Rd"
+                       : conY                                            ? "La resistenza a My"
+                       : flessa                                          ? "La resistenza a Mz"
+                                                                         : "La resistenza a N";
+    return std::string(nome) + " è 0";
+}
+
 /// What a check has said goes into the row; one that was asked for and has no number does not hold. The
 /// reason is that of the check that governs, or, where every number holds, of the one without a verdict.
 void Accoglie(RigaScelta& riga, VerificaScelta verifica, double RigaScelta::*valore, const Verdetto& v) {
@@ -90,7 +100,7 @@ void Accoglie(RigaScelta& riga, VerificaScelta verifica, double RigaScelta::*val
         riga.massimo = v.utilizzo;
         riga.governa = verifica;
         if (v.utilizzo > 1 || !senzaVerdetto)
-            riga.motivo = v.motivo;
+            riga.motivo = std::isinf(v.utilizzo) && v.motivo.empty() ? MotivoInfinito(verifica, v) : v.motivo;
     }
 }
 
@@ -100,11 +110,6 @@ template <typename S> void ImpostaAcciaio(S& s, const Richiesta& r) {
     s.fu = r.fu;
     s.L0y = r.L0y;
     s.L0z = r.L0z;
-}
-
-/// Length of the check of lateral-torsional buckling; none where the check cannot be made.
-std::optional<double> LunghezzaSvergolamento(const Richiesta& r) {
-    return r.LLT ? r.LLT : r.L0z > 0 ? std::optional(r.L0z) : std::nullopt;
 }
 
 void VerificaSezione(SezioneDoppioT& s, const Richiesta& r, RigaScelta& riga) {
@@ -221,6 +226,16 @@ Richiesta Corretta(Richiesta r) {
     return r;
 }
 
+/// A beam is bent and held by nobody knows what: that it counts as restrained is told.
+void DiceSenzaLunghezza(const SezioneQualsiasi& sezione, const Richiesta& r,
+                        std::vector<std::string>& messaggi) {
+    constexpr std::string_view testo = "svergolamento non verificato: manca L o L0z";
+    const bool inflessa = r.y.M1 != 0 || r.y.M2 != 0 || r.y.MQ != 0;
+    if (inflessa && !LunghezzaSvergolamento(r) && std::holds_alternative<SezioneDoppioT>(sezione) &&
+        std::ranges::find(messaggi, testo) == messaggi.end())
+        messaggi.emplace_back(testo);
+}
+
 void Prende(std::vector<Messaggio>& raccolti, std::vector<std::string>& messaggi) {
     for (Messaggio& m : raccolti)
         if (std::ranges::find(messaggi, m.testo) == messaggi.end())
@@ -243,6 +258,10 @@ std::string_view NomeVerifica(VerificaScelta verifica) {
     }
 }
 
+std::optional<double> LunghezzaSvergolamento(const Richiesta& r) {
+    return r.LLT ? r.LLT : r.L0z > 0 ? std::optional(r.L0z) : std::nullopt;
+}
+
 bool SenzaAzioni(const Richiesta& richiesta) { return richiesta.NSd == 0 && !HaMomenti(richiesta); }
 
 std::vector<RigaScelta> Valuta(std::span<const SagomoInGara> sagomi, const Richiesta& richiesta,
@@ -259,6 +278,7 @@ std::vector<RigaScelta> Valuta(std::span<const SagomoInGara> sagomi, const Richi
                     return;
                 auto sezione = letta;
                 RigaScelta riga = RigaDi(i, ingombro, sezione, r);
+                DiceSenzaLunghezza(sagomi[i].sezione, r, messaggi);
                 if (riga.verificato || !filtri.soloVerificati)
                     righe.push_back(std::move(riga));
             },
@@ -280,6 +300,7 @@ SagomoVerificato Verifica(const SagomoInGara& sagomo, const Richiesta& richiesta
             esito.CurvaZ = sezione.CurvaInstabilita("zz");
         },
         esito.sezione);
+    DiceSenzaLunghezza(sagomo.sezione, r, messaggi);
     Prende(raccolta.raccolti, messaggi);
     return esito;
 }

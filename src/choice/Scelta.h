@@ -45,6 +45,9 @@ struct Richiesta {
 /// Neither a force nor a moment acts: there is nothing to be checked.
 bool SenzaAzioni(const Richiesta& richiesta);
 
+/// Length of the check of lateral-torsional buckling; none where the check is not made.
+std::optional<double> LunghezzaSvergolamento(const Richiesta& richiesta);
+
 /// Which rows take part; a limit that is not given holds none back.
 struct Filtri {
     std::optional<double> hMassima, bMassima; ///< outer measures [mm]

@@ -3,12 +3,15 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <numeric>
 #include <ostream>
 #include <string_view>
 #include <utility>
 #include <variant>
 
 #include "choice/RelazioneVerifica.h"
+#include "choice/TabellaScelta.h"
 #include "choice/ValoriScelta.h"
 #include "report/TestoRelazione.h"
 
@@ -53,9 +56,42 @@ std::string PerLaVista(double v, Cifre cifre) {
     return cifre == Cifre::Tutte && testo == "1" && v != 1 ? Intero(v, cifre) : testo;
 }
 
+unsigned Byte(std::string_view testo, std::size_t i) {
+    return i < testo.size() ? static_cast<unsigned char>(testo[i]) : 0U;
+}
+
+/// How many bytes the character at the beginning takes; 0 where the bytes are no UTF-8.
+std::size_t LunghezzaUtf8(std::string_view testo) {
+    const unsigned primo = Byte(testo, 0), secondo = Byte(testo, 1);
+    const std::size_t n = primo < 0x80   ? 1
+                          : primo < 0xC2 ? 0
+                          : primo < 0xE0 ? 2
+                          : primo < 0xF0 ? 3
+                          : primo < 0xF5 ? 4
+                                         : 0;
+    for (std::size_t i = 1; i < n; ++i)
+        if ((Byte(testo, i) & 0xC0U) != 0x80)
+            return 0;
+    // Longer than need be, half of a pair, or beyond the last character.
+    const bool vietato = (primo == 0xE0 && secondo < 0xA0) || (primo == 0xED && secondo >= 0xA0) ||
+                         (primo == 0xF0 && secondo < 0x90) || (primo == 0xF4 && secondo >= 0x90);
+    return vietato ? 0 : n;
+}
+
+/// Each byte that is no UTF-8 becomes U+FFFD.
+std::string InUtf8(std::string_view testo) {
+    std::string s;
+    while (!testo.empty()) {
+        const std::size_t n = LunghezzaUtf8(testo);
+        s += n == 0 ? std::string_view("\xEF\xBF\xBD") : testo.substr(0, n);
+        testo.remove_prefix(std::max<std::size_t>(n, 1));
+    }
+    return s;
+}
+
 std::string TraApici(std::string_view testo) {
     std::string s = "\"";
-    for (const char c : testo) {
+    for (const char c : InUtf8(testo)) {
         constexpr char primoStampabile = 0x20;
         if (c == '"' || c == '\\')
             s += std::string{'\\', c};
@@ -124,13 +160,17 @@ std::string Largo(const std::string& testo, std::size_t colonne, bool destra) {
     return destra ? spazi + testo : testo + spazi;
 }
 
+std::string Intestazione(const Valore& v) {
+    return v.unita.empty() ? v.simbolo : v.simbolo + " [" + v.unita + ']';
+}
+
 /// A table with columns as wide as what stands in them; numbers to the right.
 void ScriveTabella(std::ostream& u, const std::vector<Valori>& righe) {
     if (righe.empty())
         return;
     std::vector<std::size_t> larghezze;
     for (std::size_t i = 0; i < righe.front().size(); ++i) {
-        std::size_t larga = Colonne(righe.front()[i].simbolo);
+        std::size_t larga = Colonne(Intestazione(righe.front()[i]));
         for (const Valori& riga : righe)
             larga = std::max(larga, Colonne(InTesto(riga[i])));
         larghezze.push_back(larga);
@@ -142,9 +182,28 @@ void ScriveTabella(std::ostream& u, const std::vector<Valori>& righe) {
                  Largo(testo(riga[i]), larghezze[i], std::holds_alternative<double>(riga[i].valore));
         u << s.erase(s.find_last_not_of(' ') + 1) << '\n';
     };
-    linea(righe.front(), [](const Valore& v) { return v.simbolo; });
+    linea(righe.front(), Intestazione);
     for (const Valori& riga : righe)
         linea(riga, [](const Valore& v) { return InTesto(v); });
+}
+
+/// Marks the lightest of each family that was checked and holds.
+/// @return whether there is any
+bool SegnaLeggeri(std::vector<Valori>& tabella, std::span<const SagomoInGara> sagomi,
+                  const std::vector<RigaScelta>& righe) {
+    std::vector<std::uint32_t> posti(righe.size());
+    std::iota(posti.begin(), posti.end(), 0U);
+    std::vector<RigaScelta> perPosto(sagomi.size());
+    for (std::uint32_t& posto : posti) {
+        const RigaScelta& riga = righe[posto];
+        posto = static_cast<std::uint32_t>(riga.indice);
+        perPosto[riga.indice] = riga;
+    }
+    const std::vector<std::uint32_t> leggeri = PiuLeggeriFra(posti, perPosto, sagomi);
+    for (std::size_t i = 0; i < posti.size(); ++i)
+        if (std::ranges::find(leggeri, posti[i]) != leggeri.end())
+            std::get<std::string>(tabella[i].front().valore) += " *";
+    return !leggeri.empty();
 }
 
 void ScriveCsv(std::ostream& u, const std::vector<Valori>& righe) {
@@ -215,7 +274,10 @@ void ScriveScelta(std::ostream& uscita, const Comando& comando, std::span<const 
         return;
     }
     if (comando.formato == FormatoUscita::Testo) {
+        const bool segnati = SegnaLeggeri(tabella, sagomi, righe);
         ScriveTabella(uscita, tabella);
+        if (segnati)
+            uscita << "* il più leggero verificato della sua famiglia\n";
         ScriveMessaggi(uscita, messaggi);
         return;
     }

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <initializer_list>
 #include <string_view>
+#include <type_traits>
 
 #include "choice/RelazioneVerifica.h"
 #include "frame/GeneraleSagomi.h"
@@ -122,6 +123,8 @@ template <typename S> void ToglieIgnorati(Valori& v) {
         Toglie(v, {"L", "k", "Kw", "C1", "C2", "C3", "za"});
     if (!ConCoppia<S>)
         Toglie(v, {"doppi", "accostati"});
+    if (!std::is_same_v<S, SezioneSagomoL>)
+        Toglie(v, {"L0v"});
 }
 
 } // namespace
@@ -155,6 +158,8 @@ Valori ValoriRichiesta(const Richiesta& r, const SezioneQualsiasi* genere) {
              {"accostati", "accostati", r.doppi && r.accostati, "", ""}};
     for (Valore& valore : v)
         valore.cifre = Cifre::Date;
+    if (!LunghezzaSvergolamento(r))
+        Toglie(v, {"k", "Kw", "C1", "C2", "C3", "za"});
     if (genere != nullptr)
         std::visit([&v]<typename S>(const S&) { ToglieIgnorati<S>(v); }, *genere);
     return v;

@@ -226,11 +226,103 @@ TEST_F(ComandoTest, AFamilyWhoseSheetCannotBeReadIsToldSo) {
                                std::filesystem::copy_options::overwrite_existing);
     std::ofstream(folder / "SagomiUtente.xls") << "ciao";
     std::istringstream jobs(
-        "{\"verifica\":\"HEA 200\",\"famiglie\":[\"XYZ\"]}\n{\"verifica\":\"HEA 200\"}\n");
+        "{\"verifica\":\"HEA 200\",\"famiglie\":[\"doppiot simmetrico\"]}\n{\"verifica\":\"HEA 200\"}\n");
     EXPECT_EQ(EsegueComando({"--json"}, folder, jobs, uscita, errori), comandoErrato);
     EXPECT_TRUE(Dice("nessuna riga della famiglia")) << uscita.str();
     EXPECT_TRUE(Dice("SagomiUtente.xls")) << uscita.str();
     EXPECT_EQ(Righe(), 2);
+}
+
+TEST_F(ComandoTest, AValueStandsBehindAnEqualSignToo) {
+    EXPECT_EQ(Esegue({"--verifica", "HEA 200", "--N", "-400", "--json"}), comandoVerificato);
+    const std::string apart = uscita.str();
+    EXPECT_EQ(Esegue({"--verifica=HEA 200", "--N=-400", "--json"}), comandoVerificato) << errori.str();
+    EXPECT_EQ(uscita.str(), apart);
+    std::vector<std::string> argomenti{"--cartella=/a=b", "--scelta"};
+    EXPECT_EQ(PrendeCartella(argomenti), "/a=b");
+    EXPECT_EQ(argomenti, std::vector<std::string>{"--scelta"});
+}
+
+TEST_F(ComandoTest, FamiliesAreFoundInSmallLetters) {
+    EXPECT_EQ(Esegue({"--scelta", "--N", "100", "--famiglie", "l uguali,ipe", "--csv"}), comandoVerificato);
+    EXPECT_TRUE(Dice("\nIPE 300,IPE,"));
+    EXPECT_TRUE(Dice(",L Uguali,"));
+    EXPECT_EQ(Esegue({"--json"}, R"({"verifica":"IPE 300","famiglie":["ipe"]})"
+                                 "\n"),
+              comandoVerificato);
+}
+
+// Restrained all along where no length is given: what is left out is said.
+TEST_F(ComandoTest, ABeamWithoutALengthIsToldNotToBeCheckedForBuckling) {
+    const std::string told = "svergolamento non verificato: manca L o L0z";
+    for (const std::vector<std::string>& question :
+         {std::vector<std::string>{"--verifica", "HEA 200", "--N", "100"},
+          std::vector<std::string>{"--scelta", "--famiglie", "HEA", "--L0y", "3"}})
+        for (const char* format : {"", "--json"}) {
+            std::vector<std::string> call = question;
+            if (*format != '\0')
+                call.emplace_back(format);
+            call.insert(call.end(), {"--My", "30"});
+            EXPECT_EQ(Esegue(call), comandoVerificato);
+            const std::size_t at = uscita.str().find(told);
+            ASSERT_NE(at, std::string::npos) << uscita.str();
+            EXPECT_EQ(uscita.str().find(told, at + 1), std::string::npos) << "once";
+            EXPECT_TRUE(errori.str().empty());
+            call.insert(call.end(), {"--L", "3"});
+            Esegue(call);
+            EXPECT_FALSE(Dice(told));
+        }
+    Esegue({"--verifica", "HEA 200", "--Mz", "5", "--json"});
+    EXPECT_FALSE(Dice(told));
+    Esegue({"--scelta", "--famiglie", "UPN", "--My", "5", "--json"});
+    EXPECT_FALSE(Dice(told));
+}
+
+TEST_F(ComandoTest, AJobOfTheWrongKindSaysWhatWasExpected) {
+    const std::pair<const char*, const char*> jobs[] = {
+        {R"({"verifica":true})", "--verifica vuole il nome di un sagomo"},
+        {R"({"N":true,"My":5})", "--N vuole un numero"},
+        {R"({"scelta":"si"})", R"(\"scelta\" vuole true o false, non si)"},
+        {R"({"verifica":"HEA 200\u0000x"})", "non può contenere il carattere U+0000"},
+        {R"({"verifica":"HEA 200","k":0.7,"My":1})", "--k vuole --L o --L0z"}};
+    for (const auto& [job, expected] : jobs) {
+        EXPECT_EQ(Esegue({"--json"}, std::string(job) + '\n'), comandoErrato);
+        EXPECT_TRUE(uscita.str().starts_with("{\"errore\":")) << uscita.str();
+        EXPECT_TRUE(Dice(expected)) << uscita.str();
+    }
+    EXPECT_EQ(Esegue({"--json", "--k", "0.7"}, "{\"verifica\":\"HEA 200\",\"My\":1}\n"), comandoVerificato)
+        << "for all jobs: " << uscita.str();
+}
+
+// A byte alone, a character cut short, one written too long, half of a pair.
+TEST_F(ComandoTest, AnAnswerIsUtf8WhateverWasAsked) {
+    const std::string no = "\xEF\xBF\xBD";
+    const std::pair<std::string, std::string> names[] = {
+        {"\xE8", no},
+        {"\xE2\x82!", no + no + "!"},
+        {"\xC0\x80", no + no},
+        {"\xED\xA0\x80", no + no + no},
+        {"\xC3\xA8\xE2\x82\xAC\xF0\x9F\x98\x80", "\xC3\xA8\xE2\x82\xAC\xF0\x9F\x98\x80"}};
+    for (const auto& [name, told] : names) {
+        EXPECT_EQ(Esegue({"--json"}, "{\"verifica\":\"" + name + "\"}\n"), comandoErrato);
+        EXPECT_TRUE(Dice("si chiama \\\"" + told + "\\\"")) << uscita.str();
+    }
+    EXPECT_EQ(Esegue({"--json"}, "\xEF\xBB\xBF{\"verifica\":\"HEA 200\"}\n"), comandoVerificato)
+        << uscita.str();
+}
+
+TEST_F(ComandoTest, TheTableHasUnitsAndMarksTheLightestOfEachFamily) {
+    EXPECT_EQ(Esegue({"--scelta", "--famiglie", "IPE,HEA", "--My", "100", "--L", "3"}), comandoVerificato);
+    for (const char* head : {"g [kg/m]", "h [mm]", "A [cm2]", "Npl,Rd [kN]", "Mb,Rd [kNm]"})
+        EXPECT_TRUE(Dice(head)) << head;
+    const std::string testo = uscita.str();
+    std::size_t marks = 0;
+    for (std::size_t at = testo.find(" *"); at != std::string::npos; at = testo.find(" *", at + 1))
+        ++marks;
+    EXPECT_EQ(marks, 2U) << testo;
+    EXPECT_EQ(testo.find(" *"), testo.find(' ', testo.find("\nIPE ") + 5))
+        << "the first row holds: " << testo;
+    EXPECT_TRUE(Dice("\n* il più leggero verificato della sua famiglia\n"));
 }
 
 struct Errato {
@@ -269,15 +361,17 @@ TEST_F(ComandoTest, TheFolderIsLookedForWhenAnAnswerNeedsIt) {
 
 TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
     const std::vector<Errato> calls = {
-        {{"--verifica"}, "--verifica vuole un valore"},
-        {{"--verifica", "HEA 200", "--N"}, "--N vuole un valore"},
+        {{"--verifica"}, "--verifica vuole il nome di un sagomo"},
+        {{"--verifica", "HEA 200", "--N"}, "--N vuole un numero"},
         {{"--verifica", "HEA 200", "--N", "2,5"}, "punto decimale"},
         {{"--verifica", "HEA 200", "--N", "nan"}, "punto decimale"},
         {{"--verifica", "HEA 200", "--N", "1e400"}, "punto decimale"},
         {{"--verifica", "HEA 200", "--N", ""}, "punto decimale"},
-        {{"--verifica", "HEA 200", "--L0y", "-1"}, "--L0y non può valere -1"},
-        {{"--verifica", "HEA 200", "--fy", "0"}, "--fy non può valere 0"},
-        {{"--verifica", "HEA 200", "--diagramma", "7"}, "--diagramma non può valere 7"},
+        {{"--verifica", "HEA 200", "--L0y", "-1"},
+         "--L0y non può valere -1: vuole un numero non minore di 0"},
+        {{"--verifica", "HEA 200", "--fy", "0"}, "--fy non può valere 0: vuole un numero da 1 a 5000"},
+        {{"--verifica", "HEA 200", "--diagramma", "7"},
+         "--diagramma non può valere 7: vuole un numero da 1 a 6"},
         {{"--verifica", "HEA 200", "--diagramma", "1.5"}, "un numero intero"},
         {{"--verifica", "HEA 200", "--My", "1", "--My2", "2"}, "--My2"},
         {{"--verifica", "HEA 999"}, "nessun sagomo si chiama \"HEA 999\""},
@@ -285,7 +379,28 @@ TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
         {{"--verifica", "HEA 200", "--normativa", "DIN"}, "NTC o EC3"},
         {{"--verifica", "HEA 200", "--scelta"}, "una cosa sola"},
         {{"--scelta", "--json", "--csv"}, "uno solo"},
-        {{"--scelta", "--famiglie", "IPE,XYZ"}, "nessuna famiglia si chiama \"XYZ\""},
+        {{"--scelta", "--famiglie", "IPE,XYZ"},
+         "nessuna famiglia si chiama \"XYZ\": le famiglie sono HEA, HEB"},
+        {{"--scelta", "--famiglie", "XYZ"}, "L Uguali, L Disuguali, DoppioT Simmetrico"},
+        {{"--verifica", "HEA 99"}, "si chiama \"HEA 99\": forse HE"},
+        {{"--verifica", "IPE 301"}, "forse IPE 300"},
+        {{"--verifica", "--N", "400"}, "--verifica vuole il nome di un sagomo"},
+        {{"--scelta", "--famiglie", "--N", "400"}, "--famiglie vuole nomi di famiglie"},
+        {{"--verifica", "HEA 200", "--N", "--My", "4"}, "--N vuole un numero"},
+        {{"IPE 300", "--pdf"}, "--pdf vuole un file"},
+        {{"IPE 300", "--progetto", "--pdf", "o.pdf"}, "--progetto vuole un testo"},
+        {{"--verifica=HEA 200", "--N=x"}, "--N vuole un numero col punto decimale"},
+        {{"--verifica", "HEA 200", "--N=1", "--N", "2"}, "--N sta due volte"},
+        {{"--verifica", "HEA 200", "--json=3"}, "\"--json=3\" non è un'opzione"},
+        {{"--verifica", "HEA 200", "--fu", "5001"}, "vuole un numero da 1 a 5000"},
+        {{"--verifica", "HEA 200", "--L", "3", "--k", "0"},
+         "--k non può valere 0: vuole un numero maggiore di 0"},
+        {{"--verifica", "HEA 200", "--L", "3", "--Kw", "0"}, "--Kw non può valere 0"},
+        {{"--verifica", "HEA 200", "--L", "3", "--C1", "0"}, "--C1 non può valere 0"},
+        {{"--verifica", "HEA 200", "--N", "9", "--L0v", "3"}, "--L0v vale per gli angolari, non per HEA 200"},
+        {{"--verifica", "UPN 200", "--L0v", "3"}, "--L0v vale per gli angolari"},
+        {{"--verifica", "HEA 200", "--My", "9", "--za", "5"}, "--za vuole --L o --L0z"},
+        {{"--scelta", "--My", "9", "--C1", "1.2"}, "--C1 vuole --L o --L0z"},
         {{"--scelta", "--famiglie", ""}, "nessuna famiglia"},
         {{"--csv"}, "manca che cosa fare"},
         {{"--N", "3"}, "manca che cosa fare"},

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -11,10 +12,13 @@
 #include "Registratore.h"
 #include "choice/Comando.h"
 #include "choice/Opzioni.h"
+#include "choice/RelazioneVerifica.h"
+#include "choice/Scelta.h"
 #include "frame/Ambiente.h"
 #include "frame/FileDati.h"
 #include "joints/NodoDaFile.h"
 #include "report/ScritturaPdf.h"
+#include "report/TestoRelazione.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -142,13 +146,21 @@ TEST_F(FileRelazioneTest, TheDerivationIsThatOfTheApprovedText) {
     ConfrontaApprovato("choice/ipe300.txt", testo);
 }
 
-// Without a restraint against warping there is no critical moment: the check is named and has no verdict.
+// A length without a warping factor has no critical moment: the check is named and has no verdict.
 TEST_F(FileRelazioneTest, AMissingCriticalMomentLeavesTheChapterWithoutAVerdict) {
-    EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--N", "100", "--My", "20", "--L0y", "5", "--L0z", "2.5",
-                      "--Kw", "0"}),
-              comandoNonVerificato);
-    EXPECT_NE(uscita.str().find("Stabilità flesso-torsionale: -"), std::string::npos) << uscita.str();
-    EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--N", "100", "--Kw", "0"}), comandoVerificato) << "no length";
+    Comando c =
+        LeggeOpzioni({"--verifica", "IPE 300", "--N", "100", "--My", "20", "--L0y", "5", "--L0z", "2.5"});
+    MetteInVigore(c);
+    c.richiesta.Kw = 0;
+    const Gara gara = LeggeGara(SAGOMI_BIN, {"IPE"});
+    const auto sagomo = std::ranges::find(gara.sagomi, "IPE 300", &SagomoInGara::Designazione);
+    ASSERT_NE(sagomo, gara.sagomi.end());
+    std::vector<std::string> messaggi;
+    const SagomoVerificato esito = Verifica(*sagomo, c.richiesta, messaggi);
+    EXPECT_FALSE(esito.riga.verificato);
+    const std::string testo = TestoRelazione(RelazioneVerifica(*sagomo, esito, c.richiesta));
+    EXPECT_NE(testo.find("Stabilità flesso-torsionale: -"), std::string::npos) << testo;
+    EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--N", "100"}), comandoVerificato) << "no length";
     EXPECT_EQ(uscita.str().find("flesso-torsionale"), std::string::npos) << uscita.str();
 }
 
@@ -198,9 +210,9 @@ TEST_F(FileRelazioneTest, WrongCallsSayWhatWasExpected) {
     std::ofstream(cartella / "altro.xyz") << "ciao\n";
     const std::string o = Via("o.txt");
     const std::vector<Errato> calls = {
-        {{trave, "--relazione"}, "--relazione vuole un valore"},
-        {{trave, "--relazione", ""}, "--relazione vuole il nome di un file"},
-        {{trave, "--relazione", "--pdf", o}, "--relazione vuole il nome di un file"},
+        {{trave, "--relazione"}, "--relazione vuole un file"},
+        {{trave, "--relazione", ""}, "--relazione vuole un file"},
+        {{trave, "--relazione", "--pdf", o}, "--relazione vuole un file"},
         {{trave, "--relazione", o, "--relazione", o}, "--relazione sta due volte"},
         {{trave, "--relazione", o, "--dxf", o}, "file diversi"},
         {{trave, "--relazione", trave}, "non si sovrascrive"},

@@ -84,10 +84,9 @@ TEST_F(ScritturaSceltaTest, AnAngleHasItsMinorAxisAndNoBending) {
 // What was asked for stands in the answer with all its figures: asked again, it is answered alike.
 TEST_F(ScritturaSceltaTest, AnAnswerCanBeRunAgain) {
     const std::map<std::string, std::string> asked = {
-        {"N", "123.456789"}, {"My2", "-2.3"},    {"MyQ", "12.7"}, {"Mz2", "0.1"},
-        {"diagramma", "4"},  {"L0y", "5.00007"}, {"L0z", "2.3"},  {"L0v", "1.7"},
-        {"L", "2.123456"},   {"k", "0.7"},       {"Kw", "0.9"},   {"C1", "1.285"},
-        {"C2", "1.562"},     {"C3", "0.753"},    {"za", "-95.5"}, {"fy", "248.3"}};
+        {"N", "123.456789"}, {"My2", "-2.3"}, {"MyQ", "12.7"},   {"Mz2", "0.1"},  {"diagramma", "4"},
+        {"L0y", "5.00007"},  {"L0z", "2.3"},  {"L", "2.123456"}, {"k", "0.7"},    {"Kw", "0.9"},
+        {"C1", "1.285"},     {"C2", "1.562"}, {"C3", "0.753"},   {"za", "-95.5"}, {"fy", "248.3"}};
     Argomenti call{"--verifica", "IPE 300", "--json", "--My", "30.1", "--Mz", "1.3"};
     for (const auto& [name, value] : asked)
         call.insert(call.end(), {"--" + name, value});
