@@ -167,7 +167,8 @@ void FinestraGuida::CollegaTasti() {
     key(Qt::ALT | Qt::Key_Right, [this] { testo_->forward(); });
 }
 
-void FinestraGuida::Mostra(const QString& file, const QString& ancora, const QString& parole) {
+void FinestraGuida::Mostra(const QString& file, const QString& ancora, const QString& parole,
+                           const QString& cella) {
     Rilegge();
     testo_->setSource(TestoGuida::Indirizzo(file, ancora), QTextDocument::HtmlResource);
     testo_->setFocus();
@@ -177,6 +178,11 @@ void FinestraGuida::Mostra(const QString& file, const QString& ancora, const QSt
     testo_->scrollToAnchor(ancora); // once more, now that the text is as wide as it is seen
     if (!parole.isEmpty()) {
         testo_->setTextCursor(testo_->cursorForPosition({0, 0}));
+        if (!cella.isEmpty() && testo_->find(cella)) {
+            QTextCursor row = testo_->textCursor();
+            row.setPosition(row.selectionStart());
+            testo_->setTextCursor(row);
+        }
         testo_->find(parole);
     }
 }

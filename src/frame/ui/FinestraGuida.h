@@ -24,7 +24,9 @@ public:
 
     /// Shows a file at a place; without a place its top.
     /// @param parole  words behind the place that are marked
-    void Mostra(const QString& file, const QString& ancora, const QString& parole = {});
+    /// @param cella   the text of a cell that holds them; empty: the first of them
+    void Mostra(const QString& file, const QString& ancora, const QString& parole = {},
+                const QString& cella = {});
 
     /// Stands over a window that keeps all others from being used, and can be used with it. When the viewer
     /// is closed that window gets the focus back; when that one is closed the viewer stays as it is.

@@ -57,17 +57,22 @@ bool SopraGuida(const QWidget* modal) {
            viewer->isAncestorOf(modal->windowHandle());
 }
 
-/// Help for a message, of the first file that knows it.
+/// Help for a message: the row that says most of it, in whatever file.
 bool SpiegaMessaggio(const QString& message, const QStringList& files) {
     if (message.isEmpty())
         return false;
+    PostoMessaggio nearest;
+    QString in;
     for (const QString& file : files)
-        if (const PostoMessaggio place = PostoDelMessaggio(LeggeGuida(file), message);
-            !place.ancora.isEmpty()) {
-            Finestra().Mostra(file, place.ancora, place.parole);
-            return true;
+        if (PostoMessaggio place = PostoDelMessaggio(LeggeGuida(file), message);
+            place.lettere > nearest.lettere) {
+            nearest = std::move(place);
+            in = file;
         }
-    return false;
+    if (in.isEmpty())
+        return false;
+    Finestra().Mostra(in, nearest.ancora, nearest.parole, nearest.cella);
+    return true;
 }
 
 /// Help for a control; the viewer's own stands in the general file.
@@ -82,8 +87,15 @@ void AprePer(const QWidget* w) {
     }
     if (SpiegaMessaggio(TestoDelMessaggio(w), {file, Generale(), DelGiunto()}))
         return;
-    if (const QString text = Letta(file); !text.isEmpty())
-        Finestra().Mostra(file, AncoraDi(text, w));
+    const QString text = Letta(file);
+    if (text.isEmpty())
+        return;
+    for (const QString& other : {file, Generale(), DelGiunto()}) // windows of both
+        if (const QString place = AncoraDi(other == file ? text : LeggeGuida(other), w); !place.isEmpty()) {
+            Finestra().Mostra(other, place);
+            return;
+        }
+    Finestra().Mostra(file, {});
 }
 
 } // namespace

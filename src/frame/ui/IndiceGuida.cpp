@@ -74,15 +74,31 @@ QStringList Nomi(const QString& name) {
     return names;
 }
 
-/// The longest of the messages of a cell that a text contains.
-QString ParteDetta(const QString& cell, const QString& text) {
-    static const QRegularExpression between(QStringLiteral(";|\\.\\.\\."));
-    constexpr int poche = 6; // letters; shorter parts stand in any text
-    QString longest;
-    for (const QString& piece : cell.split(between))
-        if (const QString part = piece.simplified();
-            part.size() >= poche && part.size() > longest.size() && text.contains(part))
-            longest = part;
+/// One message of a cell as a text tells it: all its parts in their order; no letters: it does not.
+PostoMessaggio Detto(const QString& message, const QString& text) {
+    PostoMessaggio told;
+    qsizetype from = 0;
+    for (const QString& piece : message.split(QStringLiteral("..."))) {
+        const QString part = piece.simplified();
+        const qsizetype at = text.indexOf(part, from);
+        if (at < 0)
+            return {};
+        from = at + part.size();
+        told.lettere += static_cast<int>(part.size());
+        if (part.size() > told.parole.size())
+            told.parole = part;
+    }
+    return told;
+}
+
+/// The longest of the messages of a cell that a text tells.
+PostoMessaggio MessaggioDetto(const QString& cell, const QString& text) {
+    constexpr int poche = 6; // letters; fewer stand in any text
+    PostoMessaggio longest;
+    for (const QString& message : cell.split(u';'))
+        if (PostoMessaggio told = Detto(message, text); told.lettere >= std::max(poche, longest.lettere + 1))
+            longest = std::move(told);
+    longest.cella = cell;
     return longest;
 }
 
@@ -176,11 +192,13 @@ PostoMessaggio PostoDelMessaggio(const QString& html, const QString& testo) {
     for (auto tables = table.globalMatch(html); tables.hasNext();) {
         const QRegularExpressionMatch t = tables.next();
         for (auto rows = row.globalMatch(t.captured(1)); rows.hasNext();)
-            if (const QString part = ParteDetta(Piano(rows.next().captured(1)), text);
-                part.size() > place.parole.size()) {
+            if (PostoMessaggio told = MessaggioDetto(Piano(rows.next().captured(1)), text);
+                told.lettere > place.lettere) {
                 QRegularExpressionMatch above;
-                if (html.lastIndexOf(name, t.capturedStart(), &above) >= 0)
-                    place = {above.captured(1), part};
+                if (html.lastIndexOf(name, t.capturedStart(), &above) < 0)
+                    continue;
+                place = std::move(told);
+                place.ancora = above.captured(1);
             }
     }
     return place;

@@ -44,12 +44,16 @@ QString AncoraDi(const QString& html, const QString& argomento);
 
 /// Where the tables of messages explain one.
 struct PostoMessaggio {
-    QString ancora; ///< of the table; empty: the file does not know the message
-    QString parole; ///< the longest part of the row's first cell that the message contains
+    QString ancora;  ///< of the table; empty: the file does not know the message
+    QString parole;  ///< the longest part of the row's first cell that the message contains
+    QString cella{}; ///< the text of that cell
+    int lettere =
+        0; ///< of the message that the row is about, without what is left out: the most are the nearest
 };
 
 /// The row of a message as it is told, with its values, in the tables whose head is "Messaggio". Their first
-/// cells hold several messages parted by ";", values left out as "...".
+/// cells hold several messages parted by ";", values left out as "..."; all the rest of one of them stands in
+/// the message, in its order.
 PostoMessaggio PostoDelMessaggio(const QString& html, const QString& testo);
 
 } // namespace sagomi

@@ -107,6 +107,45 @@ TEST_F(GuidaTest, AMessageOfTheJointIsExplainedInItsFile) {
               "u max è superiore a metà dell'altezza della trave pari a");
 }
 
+PostoMessaggio NelGiunto(const char* message) {
+    return PostoDelMessaggio(LeggeGuida(QStringLiteral("GiuntoFlangiato.hlp")), QString::fromUtf8(message));
+}
+
+TEST_F(GuidaTest, ARowIsFoundByAllOfItsMessageNotByAPiece) {
+    const PostoMessaggio d1 = NelGiunto(
+        "Il valore di d1 porta ad una distanza verticale dell'asse dei bulloni dal filo interno dell'ala "
+        "della trave che non consente la realizzazione del foro. Verrà inserito automaticamente il "
+        "valore minimo pari a 23 mm");
+    EXPECT_TRUE(d1.cella.startsWith(QStringLiteral("Il valore di d1"))) << d1.cella.toStdString();
+    const PostoMessaggio bf =
+        NelGiunto(" bf è superiore a quello massimo pari alla larghezza della colonna 300");
+    EXPECT_TRUE(bf.cella.startsWith(QStringLiteral("bf è inferiore"))) << bf.cella.toStdString();
+    EXPECT_EQ(bf.parole, "bf è superiore a quello massimo");
+    EXPECT_EQ(NelGiunto("Il file").lettere, 0);
+    const QString rows =
+        QStringLiteral("<a name=\"m\"></a><table><tr><td><b>Messaggio</b></td><td>C</td></tr>"
+                       "<tr><td>Il file ... non si legge</td><td>a</td></tr>"
+                       "<tr><td>Il file non va; Il file non si legge ora</td><td>b</td></tr></table>");
+    EXPECT_TRUE(PostoDelMessaggio(rows, QStringLiteral("Il file")).ancora.isEmpty());
+    EXPECT_TRUE(PostoDelMessaggio(rows, QStringLiteral("non si legge: Il file")).ancora.isEmpty());
+    EXPECT_EQ(PostoDelMessaggio(rows, QStringLiteral("Il file \"x\" non si legge.")).lettere, 19);
+    EXPECT_EQ(PostoDelMessaggio(rows, QStringLiteral("Il file non si legge ora")).lettere, 24);
+}
+
+// Words that stand in an earlier row as well are marked in their own.
+TEST_F(GuidaTest, TheWordsAreMarkedInTheirRow) {
+    QMessageBox box(
+        QMessageBox::NoIcon, QStringLiteral("x"),
+        QStringLiteral("Il valore di ef inserito porta ad una distanza orizzontale dell'asse che non "
+                       "consente la realizzazione del foro. Verrà inserito"));
+    box.setModal(true);
+    box.show();
+    QTest::keyClick(&box, Qt::Key_F1);
+    ASSERT_NE(Finestra(), nullptr);
+    EXPECT_EQ(Testo()->textCursor().selectedText(),
+              "Il valore di ef inserito porta ad una distanza orizzontale");
+}
+
 // The help stays when the box goes, and can be used then too; a message that nobody explains has the help of
 // the window below it.
 TEST_F(GuidaTest, TheViewerOutlivesTheBoxItStoodOver) {
