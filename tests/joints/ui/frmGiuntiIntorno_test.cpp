@@ -135,7 +135,7 @@ TEST_F(IntornoGiuntiTest, AnEntryThatIsTakenHasTheColourOfItsGroup) {
 TEST_F(IntornoGiuntiTest, DoubleClickOnANameOpensItsFormula) {
     NodoT();
     DoppioClic("txtF5");
-    EXPECT_THAT(Formula(), HasSubstr("Ft,Rd = beff · tw,c · fy,c / γM0"));
+    EXPECT_THAT(Formula(), HasSubstr("Ft,wc,Rd = beff · tw,c · fy,c / γM0"));
     Sceglie("Optirr_1");
     DoppioClic("txtF2");
     EXPECT_THAT(Formula(), HasSubstr("con irrigidimento"));
