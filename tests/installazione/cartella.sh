@@ -56,6 +56,9 @@ for _ in $(seq 100); do [ -s "$2/avviato" ] && break; sleep 0.1; done
 [ "$(cat "$2/avviato")" = "$PWD/sagomi
 $here/cartella.sh" ] || fail "the menu starts $(cat "$2/avviato")"
 mv vero sagomi
+
+# The bus starts the server of this folder, whatever its path.
+run XDG_DATA_HOME="$home/.local/share" "$here/apre_e_chiude.sh" || fail "the bus does not start the server"
 run ./nel-menu --togli
 [ -z "$(find "$home/.local" -name '*agomi*')" ] || fail "still in the menu"
 
