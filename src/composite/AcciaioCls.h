@@ -44,8 +44,8 @@ public:
     Singolo beff; ///< effective width
     Singolo As;   ///< area of the bars [mm2]
     Singolo yArmatura;  ///< level of the bars, H + hc - c
-    Singolo bb;         ///< lower width of a rib
-    Singolo bs;         ///< upper width of a rib
+    Singolo bb;         ///< width of the bottom of a rib
+    Singolo bs;         ///< width of the crest of the deck between two ribs
     Singolo iNervature; ///< spacing of the ribs
     Singolo b0t;        ///< width of the concrete in contact with the beam, parallel ribs
 

@@ -56,7 +56,8 @@ CapitoloRelazione CapitoloSoletta(const AcciaioCls& t) {
     if (t.TipoSoletta != solettaPiena) {
         c.passi.push_back(Dato("Altezza delle nervature", "h{a}", Piano(t.ha), "mm"));
         c.passi.push_back(Dato("Larghezza inferiore della nervatura", "b{b}", Piano(t.bb), "mm"));
-        c.passi.push_back(Dato("Larghezza superiore della nervatura", "b{s}", Piano(t.bs), "mm"));
+        c.passi.push_back(
+            Dato("Larghezza della greca superiore, fra due nervature", "b{s}", Piano(t.bs), "mm"));
         c.passi.push_back(Dato("Interasse delle nervature", "i", Piano(t.iNervature), "mm"));
     }
     if (t.TipoSoletta == nervatureParallele)

@@ -285,6 +285,10 @@ void StanzaLamiera(QLayout& riga) {
     place.setHorizontalStretch(1);
     grid->parentWidget()->setSizePolicy(place);
     Posa(*grid, vociLamiera, 0, 0, 1);
+    grid->parentWidget()
+        ->findChild<QLabel*>(QStringLiteral("lblLam_2"))
+        ->setToolTip(QStringLiteral(
+            "Greca superiore, fra due nervature: interasse meno la base superiore della nervatura"));
     ImmagineDisegno* deck = Immagine("pctLamiera", "Disegno della lamiera");
     deck->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding); // the section has the room
     grid->addWidget(deck, 0, 2, 4, 1);

@@ -252,6 +252,18 @@ TEST_F(FrmAcciaioClsTest, DeckThatIsNotGivenYetIsNotMendedOnTheWay) {
     EXPECT_EQ(Legge("TxtLam_3"), "");
 }
 
+// bs is the crest of the deck: a rib of 61 mm below and 88 mm above leaves 62 mm of 150, and is 74.5 mm wide
+// in the middle.
+TEST_F(FrmAcciaioClsTest, UpperWidthIsThatOfTheCrestBetweenTwoRibs) {
+    Apre();
+    Sceglie("OptTipoSoletta", 1);
+    Piena();
+    Scrive({{"TxtLam_0", "55"}, {"TxtLam_1", "61"}, {"TxtLam_2", "62"}, {"TxtLam_3", "150"}});
+    f->Calcola();
+    EXPECT_NEAR(f->Trave().b0, (61 + 88) / 2.0, 1e-9);
+    EXPECT_TRUE(Trova<QLabel>(f, "lblLam_2")->toolTip().contains(QStringLiteral("fra due nervature")));
+}
+
 TEST_F(FrmAcciaioClsTest, RatioThatIsNoneIsToldAndNotKept) {
     Apre();
     Piena();
