@@ -58,6 +58,10 @@ TEST(TagliaPunta, LeavesAnOutlineThatDoesNotReachTheLine) {
     EXPECT_EQ(x, prima);
     TagliaPunta(x, y, {5, false}, -1, true); // all of it lies beyond: no tip
     EXPECT_EQ(x, prima);
+    Vettore diritta = {0, 10, 10, 0, 0}; // a vertex in the middle of the side that lies on the line
+    Vettore alta = {0, 0, 2, 2, 1};
+    TagliaPunta(diritta, alta, {5, false}, 0, false);
+    EXPECT_EQ(alta, (Vettore{0, 0, 2, 2, 1}));
     Vettore nulla;
     TagliaPunta(nulla, nulla, {5, false}, 0, true);
     EXPECT_TRUE(nulla.empty());

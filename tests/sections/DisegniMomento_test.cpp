@@ -65,6 +65,7 @@ TEST_F(DisegniMomentoTest, TheMarkStandsAtTheLargestMoment) {
     const Caso casi[] = {{{60e6, -50e6, 0, -20e6}, pictEstremitaDiscordi, 1, "-70.0"},
                          {{60e6, 30e6, 0, -20e6}, pictEstremitaConcordi, 0, "40.0"},
                          {{60e6, 30e6, 0, 0}, pictEstremitaConcordi, 0, "60.0"},
+                         {{60e6, 60e6, 0, 0}, pictEstremitaConcordi, 0, "60.0"}, // of equal ones the first
                          {{40e6, 20e6, 50e6, 0}, pictDistribuitoConcorde, 0.5, "80.0"},
                          {{40e6, -10e6, 10e6, -40e6}, pictConcentratoConcorde, 1, "-50.0"}};
     SuperficieFinta foglio{168, 76};
@@ -82,6 +83,15 @@ TEST_F(DisegniMomentoTest, TheMarkStandsAtTheLargestMoment) {
         const double testo = foglio.scritte[1].x + (c.dove == 1 ? foglio.TextWidth(valore) : 0);
         EXPECT_NEAR((testo - inizio) / luce, c.dove, 0.1) << valore;
     }
+}
+
+// 56 x 46 of the diagram with 5 at each side; two axes of 84; beams of 84 with 10 around and between them.
+TEST_F(DisegniMomentoTest, PicturesHaveRoomForWhatTheyHold) {
+    EXPECT_EQ(DisegnoPict(1).misura.larghezza, 66);
+    EXPECT_EQ(DisegnoPict(1).misura.altezza, 56);
+    EXPECT_EQ(DisegnoMomenti({}, {}, 1).misura.larghezza, 168);
+    EXPECT_EQ(DisegnoProspetto(1).misura.larghezza, 104);
+    EXPECT_EQ(DisegnoProspetto(2).misura.larghezza, 218);
 }
 
 TEST_F(DisegniMomentoTest, ATableHasABandForEachOfItsGroups) {

@@ -1,6 +1,7 @@
 #include "sections/FibraInferiore.h"
 
 #include <cmath>
+#include <memory>
 
 #include <gtest/gtest.h>
 
@@ -55,6 +56,28 @@ TEST(FibraInferiore, HasNothingToSayElsewhere) {
     EXPECT_EQ(QuotaElastica(uguali), 1);
 }
 
+// Moduli of a few mm3 count like others; one that is missing, or left over from another shape, does not.
+TEST(FibraInferiore, CountsEveryModulusThatThereIs) {
+    SezioneDoppioT s;
+    s.fy = 235;
+    s.Wely = 4;
+    s.WelyInf = 1;
+    s.ClasseFlessioneY = 3;
+    EXPECT_EQ(QuotaElastica(s), 1) << "equal flanges";
+    s.SaldataAsimm = true;
+    EXPECT_EQ(QuotaElastica(s), 0.25);
+    EXPECT_NEAR(McyRdInferiore(s).value_or(0), 235 / GammaM0, 1e-9);
+    s.WelyInf = 0;
+    EXPECT_EQ(QuotaElastica(s), 1);
+    s.WelyInf = 4;
+    s.ClasseFlessioneY = 4;
+    s.WyEff = 3;
+    s.SezioneWy4 = std::make_shared<SezioneGenerica>();
+    s.SezioneWy4->WxInferiore = 1;
+    EXPECT_EQ(QuotaElastica(s), 0.25);
+    EXPECT_NEAR(McyRdInferiore(s).value_or(0), 235 / GammaM1, 1e-9);
+}
+
 // 2 x 300 x 20 against 300 x 20 + 250 x 12: 1550.6 and 1162.9 kN.
 TEST(FibraInferiore, ShearCountsTheFlangesAsTheyAre) {
     EXPECT_NEAR(Trave(10).VplzRd / 1e3, 1550.6, 0.1);
@@ -75,6 +98,9 @@ TEST(FibraInferiore, VerdictTakesTheSmaller) {
     }
     s.Mysd = 1000e6;
     EXPECT_NEAR(GiudicaResistenza(s).utilizzo, 1000 / 1096.2, 1e-3);
+    EXPECT_EQ(GiudicaResistenza(s).motivo, "");
+    s.Mysd = 1600e6; // too much for the upper fibre as well
+    EXPECT_NEAR(GiudicaResistenza(s).utilizzo, 1600 / 1096.2, 1e-3);
     EXPECT_EQ(GiudicaResistenza(s).motivo, "");
 }
 

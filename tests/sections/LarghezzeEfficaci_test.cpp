@@ -1,5 +1,7 @@
 #include "sections/LarghezzeEfficaci.h"
 #include "sections/LunghezzePerse.h"
+#include "sections/SezioneDoppioT.h"
+#include "sections/SezioneSagomoL.h"
 #include "sections/SezioneSagomoU.h"
 
 #include <cmath>
@@ -30,6 +32,38 @@ TEST(LunghezzePerse, OfAChannel) {
     EXPECT_NEAR(lost.animaCompressa, 110.654, 0.01);
     EXPECT_NEAR(lost.ala, 25.960, 0.01);
     EXPECT_NEAR(lost.animaInflessa, 0, 1e-9);
+}
+
+// The same web and flange.
+TEST(LunghezzePerse, OfADoubleT) {
+    SezioneDoppioT s;
+    s.fy = 235;
+    s.d = 300;
+    s.tw = 4;
+    s.c = 100;
+    s.tf = 5;
+    s.ClasseWebC = s.ClasseAlaC = 4;
+    EXPECT_NEAR(PerseDi(s).animaCompressa, 110.654, 0.01);
+    EXPECT_NEAR(PerseDi(s).ala, 25.960, 0.01);
+}
+
+// By hand, L 150x100x4: lambda = 37.5 / 18.6231 = 2.01363 and 25 / 18.6231 = 1.34242, rho = 0.44236 and
+// 0.62284.
+TEST(LunghezzePerse, OfAnAngle) {
+    SezioneSagomoL s;
+    s.fy = 235;
+    s.h = 150;
+    s.b = 100;
+    s.t = 4;
+    s.r1 = 4;
+    s.r2 = 2;
+    s.Area = 984;
+    s.ClasseCompressione = 4;
+    EXPECT_EQ(PerseDi(s).lungo, 0) << "without its outlines";
+    s.InizializzaSezione();
+    ASSERT_EQ(s.ClasseCompressione, 4);
+    EXPECT_NEAR(PerseDi(s).lungo, 83.646, 0.01);
+    EXPECT_NEAR(PerseDi(s).corto, 37.716, 0.01);
 }
 
 // By hand, S235 (epsilon 1). Each plate is as wide as makes its slenderness b/t / (28.4 root(k)) equal to 1,

@@ -31,6 +31,7 @@ TEST(LimitiClasse, WebsAndOutstands) {
     EXPECT_EQ(Classifica(LimitiAnimaCompressa(), 42.01), (Esito{4, "42", "\xC2\xA5"}));
     EXPECT_EQ(Classifica(LimitiAnimaInflessa(), 100), (Esito{3, "83", "124"}));
     EXPECT_EQ(Classifica(LimitiAlaCompressa(), 9.5), (Esito{2, "9", "10"}));
+    EXPECT_EQ(Classifica(LimitiAlaInflessa(), 9.5), (Esito{2, "9", "10"}));
     EXPECT_EQ(Classifica(LimitiAlaInflessa(), 15.8), (Esito{3, "10", "15.9"})); // 21 root 0.57 = 15.855
     EXPECT_EQ(Classifica(LimitiAlaInflessa(), 15.9).classe, 4);
 }

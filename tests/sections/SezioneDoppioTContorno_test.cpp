@@ -9,6 +9,7 @@
 #include "Registratore.h"
 #include "SezioniDiProva.h"
 #include "frame/GeneraleSagomi.h"
+#include "sections/LunghezzePerse.h"
 #include "sections/SezioneGenerica.h"
 
 using namespace sagomi;
@@ -302,6 +303,32 @@ TEST_F(SezioneDoppioTContorno, NeutralAxisInsideTheUpperFlangeLeavesTheWebWhole)
     ASSERT_EQ(registratore.testi.size(), 2U);
     EXPECT_EQ(registratore.testi[1], "Caso non previsto in Sub be1_be2Anima");
     EXPECT_DOUBLE_EQ(s.SezioneWy4->Area, s.SezioneGenericaCorrente->Area);
+    registratore.testi.clear();
+    EXPECT_EQ(PerseDi(s).animaInflessa, 0);
+}
+
+// A web of 100 below a flange of 300: the axis, near 252, lies more than the web's depth above it.
+TEST_F(SezioneDoppioTContorno, NeutralAxisFarAboveTheWebLeavesItWhole) {
+    SezioneDoppioT s = TrePiatti(402, 3000, 0.5, 300);
+    s.SaldataAsimm = true;
+    s.bAlaInf = 50;
+    s.tAlaInf = 2;
+    s.InizializzaSezione();
+    ASSERT_EQ(s.ClasseWebF, 4);
+    EXPECT_GT(s.SezioneGenericaCorrente->yG, 102 + 100);
+    EXPECT_DOUBLE_EQ(s.SezioneWy4->Area, s.SezioneGenericaCorrente->Area);
+}
+
+// By hand, 36 x 600 x 8 x 10: c/t 29.6, lambda = 29.6 / 21.4415 = 1.38050, rho = 0.60894: 0.39106·296 of each
+// flange at the right, in a section so low that the flanges are more than half of it.
+TEST_F(SezioneDoppioTContorno, BendingAboutZOfALowSectionCutsBothFlanges) {
+    SezioneDoppioT s = TrePiatti(36, 600, 8, 10);
+    s.c = s.cAlaInf = 296;
+    s.bAlaInf = 600;
+    s.tAlaInf = 10;
+    s.ClasseAlaC = s.ClasseAlaInfC = 4;
+    s.CoordinateWz4();
+    EXPECT_NEAR(s.SezioneWz4->Area, 12128 - 2 * 0.391063 * 2960, 0.1);
 }
 
 TEST_F(SezioneDoppioTContorno, BendingAboutZTakesTheRightTips) {

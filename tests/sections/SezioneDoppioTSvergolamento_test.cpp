@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -31,7 +32,7 @@ protected:
 
 // Uniform moment: pi / L root(E Iz G It) root(1 + pi^2 E Iw / (L^2 G It)), the form of the textbooks.
 TEST_F(SezioneDoppioTSvergolamento, CriticalMomentUnderUniformBending) {
-    for (const double L : {1000.0, 4000.0, 12000.0}) {
+    for (const double L : {1.0, 1000.0, 4000.0, 12000.0}) {
         SezioneDoppioT s = Ipe200Trave(L);
         const double EIz = 210000 * 142.4e4;
         const double GIt = 80769 * 6.98e4;
@@ -75,6 +76,28 @@ TEST_F(SezioneDoppioTSvergolamento, ShearCentreOfUnequalFlangesDividesByTheRadiu
     s.yG = 300;
     s.iZ = 1000;
     EXPECT_NEAR(s.zCentroTaglio(), (200 * 1440000.0 - 300 * 180000.0) / 1000 + 300, 1e-6);
+}
+
+// Turned round, the asymmetry moves Mcr by 2 zj times Euler's force, 210000 N at L = 1000 pi with Jz 10^6.
+// Flanges 120 and 110: I = 1728 and 1331 of 3059, 397/3059·490/2 = 31.7963; the wider one compressed, 0.8 of
+// it.
+TEST_F(SezioneDoppioTSvergolamento, AsymmetryCountsFourFifthsWhereTheUpperFlangeIsTheStiffer) {
+    for (const auto& [sopra, sotto, zj] : {std::tuple{120, 110, 25.4370}, std::tuple{110, 120, -31.7963}}) {
+        SezioneDoppioT s;
+        s.h = 500;
+        s.b = sopra;
+        s.bAlaInf = sotto;
+        s.tf = s.tAlaInf = 10;
+        s.Jz = 1e6;
+        s.JT = 1e6;
+        s.iZ = 30;
+        s.k = s.Kw = s.C1 = 1;
+        s.LLT = 1000 * std::numbers::pi;
+        s.c3 = 1;
+        const double con = s.McrFunz();
+        s.c3 = -1;
+        EXPECT_NEAR((con - s.McrFunz()) / 2 / 210000, zj, 1e-3);
+    }
 }
 
 TEST_F(SezioneDoppioTSvergolamento, NoLengthLeavesTheCriticalMomentAndTheResistance) {

@@ -47,6 +47,18 @@ TEST_F(SezioneGenericaDisegnoTest, FitsTheBoxIntoTheTarget) {
     EXPECT_EQ(bordo->spessore, 1.4);
 }
 
+// A fiftieth of its greatest dimension, 100, lies between the lines.
+TEST_F(SezioneGenericaDisegnoTest, HatchingIsAFiftiethApart) {
+    SezioneGenerica s = Rettangolo();
+    s.PlottaSezione(&superficie, "x");
+    ASSERT_GT(superficie.linee.size(), 6U);
+    const auto& a = superficie.linee[0];
+    const auto& b = superficie.linee[1];
+    const double lunga = std::hypot(a.x2 - a.x1, a.y2 - a.y1);
+    const double stacco = ((a.x2 - a.x1) * (b.y1 - a.y1) - (a.y2 - a.y1) * (b.x1 - a.x1)) / lunga;
+    EXPECT_NEAR(std::abs(stacco), 2, 1e-6);
+}
+
 TEST_F(SezioneGenericaDisegnoTest, TheJointScreenHasNoHatching) {
     SezioneGenerica s = Rettangolo();
     s.PlottaSezione(&superficie, "frmGiunti");
@@ -90,6 +102,7 @@ TEST_F(SezioneGenericaDisegnoTest, WithoutHatchingInPen7) {
 TEST_F(SezioneGenericaDisegnoTest, AnEmptySectionDrawsNothing) {
     SezioneGenerica s;
     s.PlottaSezione(&superficie, "x");
+    OggettoGrafico = &superficie;
     s.PlottaEllisse();
     s.PlottaSaldature(5);
     EXPECT_TRUE(superficie.linee.empty());
@@ -102,15 +115,18 @@ TEST_F(SezioneGenericaDisegnoTest, EllipseOfInertiaLiesAlongTheSection) {
     Rettangolo().PlottaEllisse();
     double xMax = 0;
     double yMax = 0;
+    double area = 0;
     for (const auto& l : superficie.linee) {
         xMax = std::max(xMax, l.x1);
         yMax = std::max(yMax, l.y1);
+        area += (l.x1 * l.y2 - l.x2 * l.y1) / 2;
         const double u = (l.x1 - 30) / (40 / std::sqrt(12));
         const double v = (l.y1 - 70) / (100 / std::sqrt(12));
         EXPECT_NEAR(u * u + v * v, 1, 1e-9);
     }
     EXPECT_NEAR(xMax, 30 + 11.547, 1e-3);
     EXPECT_NEAR(yMax, 70 + 28.868, 1e-3);
+    EXPECT_NEAR(area, std::numbers::pi * 28.868 * 11.547, 2) << "once round it";
 }
 
 // Turned by 30 degrees, the long axis of the ellipse turns along: its furthest point from the middle lies 120

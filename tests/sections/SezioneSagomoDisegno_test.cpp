@@ -105,6 +105,23 @@ TEST_F(DisegnoSagomi, AChannelStandsWithItsBackAtZero) {
     EXPECT_NEAR(su.cerchi[0].x, s.SezioneGenericaCorrente->xG, 1e-9);
 }
 
+TEST_F(DisegnoSagomi, AThicknessOfATaperedFlangeIsThatAtItsMiddle) {
+    for (const double pendenza : {6.0, 0.5}) {
+        auto s = Canale(8.5, 11.5, pendenza);
+        s.InizializzaSezione();
+        su.linee.clear();
+        Disegna(s);
+        EXPECT_TRUE(std::any_of(su.linee.begin(), su.linee.end(), [](const auto& l) {
+            return l.y1 == l.y2 && std::abs(l.y1 - 188.5) < 1e-4 && std::min(l.x1, l.x2) < 60;
+        })) << pendenza;
+    }
+}
+
+TEST_F(DisegnoSagomi, APairWithoutAGapShowsNone) {
+    Disegna(Coppia(Angolare(), 0, false));
+    EXPECT_FALSE(Ha("0"));
+}
+
 TEST_F(DisegnoSagomi, AnOvertypedStrengthStandsAmongTheData) {
     auto u = Canale();
     u.TipoAcciaio = "S235 (Fe360)";
@@ -213,6 +230,18 @@ TEST_F(DisegnoSagomi, SmallPictureShowsBothPieces) {
     EXPECT_NEAR(corti.basso, -160, 1e-9);
     EXPECT_NEAR(corti.yG, -5, 1e-9);
     EXPECT_TRUE(DisegnoSagoma(corti).PlottaInOggetto);
+}
+
+TEST_F(DisegnoSagomi, AnOutlineOfTwoPointsOrWithoutHeightHasNoPicture) {
+    auto intera = Canale();
+    intera.InizializzaSezione();
+    SagomaDisegnata due = SagomaDi(intera);
+    SagomaDisegnata piatta = due;
+    due.x.resize(2);
+    due.y.resize(2);
+    EXPECT_FALSE(DisegnoSagoma(due).PlottaInOggetto);
+    piatta.h = 0;
+    EXPECT_FALSE(DisegnoSagoma(piatta).PlottaInOggetto);
 }
 
 } // namespace
