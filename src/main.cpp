@@ -84,6 +84,14 @@ private:
     static inline QtMessageHandler before_ = nullptr;
 };
 
+QtMessageHandler messaggiPrima = nullptr;
+
+/// A session without a folder for the run is no fault, and nothing that a user could mend.
+void TaceCartellaSessione(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.startsWith(QLatin1String("QStandardPaths: ")))
+        messaggiPrima(type, context, text);
+}
+
 int Finestre(int argc, char* argv[], const Scelta& chosen) {
     // The toolkit asks for the list of the system's fonts when it needs the first of them; reading it takes
     // as long as all the rest that comes before.
@@ -104,6 +112,7 @@ int Finestre(int argc, char* argv[], const Scelta& chosen) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    messaggiPrima = qInstallMessageHandler(&TaceCartellaSessione);
     std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
     try {
         const Scelta chosen = sagomi::PrendeCartella(arguments);

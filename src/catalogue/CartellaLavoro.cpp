@@ -154,11 +154,25 @@ private:
     std::string somma_;
 };
 
+/// What the system has said, where the folders and their rights do not tell.
+std::string MotivoNonCreata(const fs::path& lavoro, const std::error_code& errore) {
+    if (errore == std::errc::no_such_file_or_directory)
+        return "il sistema non ammette cartelle in quel posto";
+    if (errore == std::errc::filename_too_long)
+        return "il nome è troppo lungo";
+    if (errore == std::errc::too_many_symbolic_link_levels)
+        return "i collegamenti tornano su sé stessi";
+    if (errore == std::errc::read_only_file_system)
+        return "il disco è di sola lettura";
+    return MotivoCartella(lavoro);
+}
+
 void Crea(const fs::path& lavoro) {
     std::error_code errore;
     fs::create_directories(lavoro, errore);
+    const std::error_code perche = errore;
     if (!fs::is_directory(lavoro, errore) || !Scrivibile(lavoro))
-        throw std::runtime_error(MotivoCartella(lavoro));
+        throw std::runtime_error(MotivoNonCreata(lavoro, perche));
 }
 
 bool Uguali(const fs::path& a, const fs::path& b) {

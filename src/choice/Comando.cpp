@@ -57,7 +57,7 @@ Risposta:
   --json da solo          legge lavori, uno per riga ({"verifica":"HEA 200","N":400}), e risponde a ciascuno;
                           "richiesta" di una risposta è un lavoro
 Relazione, anche con --verifica:
-  --relazione file --pdf file --dxf file   testo, PDF, disegno: uno o più
+  --relazione file --pdf file --dxf file   testo, PDF, disegno: uno o più; --relazione - scrive sull'uscita
   --progetto "testo"      nome del progetto, in testa alla relazione
 Stato di uscita: 0 verificato (senza azioni niente da verificare), 1 non verificato, 2 uso errato.
 )";
@@ -124,12 +124,13 @@ bool Cercato(const Comando& c, const SagomoInGara& s) {
            Piegato(s.Designazione()) == Piegato(c.sagomo);
 }
 
-void ScriveRelazione(const Comando& c, DocumentoLetto documento, const std::vector<std::string>& messaggi) {
+void ScriveRelazione(const Comando& c, DocumentoLetto documento, const std::vector<std::string>& messaggi,
+                     const Uscite& u) {
     Relazione& r = documento.relazione;
     r.progetto = c.progetto;
     r.data = DataRelazione();
     r.avvisi.insert(r.avvisi.end(), messaggi.begin(), messaggi.end());
-    ScriveUscite(documento, c.uscite);
+    ScriveUscite(documento, c.uscite, u.uscita);
 }
 
 /// What a name that is no section's may have been meant for.
@@ -182,7 +183,7 @@ int VerificaUno(const Comando& c, const Gara& gara, const Uscite& u) {
     std::vector<std::string> messaggi = gara.mancanti;
     const SagomoVerificato esito = Verifica(*sagomo, c.richiesta, messaggi);
     if (c.uscite.Qualcuna())
-        ScriveRelazione(c, {RelazioneVerifica(*sagomo, esito, c.richiesta)}, messaggi);
+        ScriveRelazione(c, {RelazioneVerifica(*sagomo, esito, c.richiesta)}, messaggi, u);
     if (c.modo == ModoComando::Verifica)
         ScriveVerifica(u.uscita, c, *sagomo, esito, messaggi);
     MessaggiAParte(c, messaggi, u);
@@ -190,10 +191,10 @@ int VerificaUno(const Comando& c, const Gara& gara, const Uscite& u) {
 }
 
 /// A file that is drawn and not reported has nothing to be verified.
-int RelazioneDiFile(const Comando& c) {
+int RelazioneDiFile(const Comando& c, const Uscite& u) {
     DocumentoLetto documento = LeggeDocumento(c.file);
     const EsitoRelazione esito = documento.relazione.Esito();
-    ScriveRelazione(c, std::move(documento), {});
+    ScriveRelazione(c, std::move(documento), {}, u);
     const bool soloDisegno = c.uscite.relazione.empty() && c.uscite.pdf.empty();
     return soloDisegno || esito == EsitoRelazione::Passa ? comandoVerificato : comandoNonVerificato;
 }
@@ -270,7 +271,7 @@ int Esegue(Comando c, const TrovaCartella& cartella, const Uscite& u) {
     if (!c.file.empty()) {
         MetteInVigore(c);
         TrovaFormule(cartella);
-        return RelazioneDiFile(c);
+        return RelazioneDiFile(c, u);
     }
     RiconosceFamiglie(c);
     return Risponde(c, Legge(cartella(), c.filtri.famiglie), u);

@@ -1,5 +1,7 @@
 #include "choice/FileRelazione.h"
 
+#include <exception>
+#include <ostream>
 #include <stdexcept>
 #include <utility>
 
@@ -59,9 +61,9 @@ DocumentoLetto LeggeNodo(const std::filesystem::path& file, std::vector<Messaggi
         NonLetto(file, detti);
     RinnovaNplRd(*nodo);
     const TestaRelazione testa{file.filename().string(), descrizione};
-    return {RelazioneNodo(*nodo, descrizione), [nodo, testa](std::int16_t nFile) {
-                return StampaRelazione(*nodo, testa,
-                                       [nFile](std::string_view riga) { return ScriveRiga(nFile, riga); });
+    return {RelazioneNodo(*nodo, descrizione),
+            [nodo, testa](const std::function<bool(std::string_view)>& scrive) {
+                return StampaRelazione(*nodo, testa, scrive);
             }};
 }
 
@@ -73,9 +75,22 @@ DocumentoLetto LeggeTrave(const std::filesystem::path& file, std::vector<Messagg
     return {RelazioneTraveVerificata(trave)};
 }
 
-/// A text with its own road to the disk.
+/// The lines of a joint; the project stands above them, for on paper they have no place for it.
+bool ScriveRighe(const DocumentoLetto& documento, const std::function<bool(std::string_view)>& scrive) {
+    const std::string& progetto = documento.relazione.progetto;
+    return (progetto.empty() || scrive("   PROGETTO: " + progetto)) && documento.righe(scrive);
+}
+
+/// Who reads the standard output finds out what it has not taken.
+void ScriveTesto(const DocumentoLetto& documento, std::ostream& uscita) {
+    if (!documento.righe)
+        uscita << TestoRelazione(documento.relazione);
+    else
+        ScriveRighe(documento, [&uscita](std::string_view riga) { return bool(uscita << riga << '\n'); });
+}
+
 void ScriveTesto(const DocumentoLetto& documento, const std::filesystem::path& file) {
-    if (!documento.scriveRighe) {
+    if (!documento.righe) {
         if (!ScriveAtomico(file, TestoRelazione(documento.relazione)))
             throw std::runtime_error(AvvisoNonScritto(file));
         return;
@@ -83,9 +98,7 @@ void ScriveTesto(const DocumentoLetto& documento, const std::filesystem::path& f
     const std::int16_t nFile = ApreFile(file, "S");
     if (nFile == 0)
         throw std::runtime_error(AvvisoNonScritto(file));
-    const std::string& progetto = documento.relazione.progetto; // the lines on paper have no place for it
-    const bool conTesta = progetto.empty() || ScriveRiga(nFile, "   PROGETTO: " + progetto);
-    if (!conTesta || !documento.scriveRighe(nFile)) {
+    if (!ScriveRighe(documento, [nFile](std::string_view riga) { return ScriveRiga(nFile, riga); })) {
         AbbandonaFile(nFile);
         throw std::runtime_error(AvvisoNonScritto(file));
     }
@@ -94,8 +107,6 @@ void ScriveTesto(const DocumentoLetto& documento, const std::filesystem::path& f
 }
 
 void ScriveDxf(const Relazione& r, const std::filesystem::path& file) {
-    if (!r.disegno.PlottaInOggetto)
-        throw std::runtime_error("non c'è niente da disegnare di " + r.oggetto);
     const StatoUscita prima;
     std::int16_t nFile = 0;
     if (!DxfApre(file, nFile))
@@ -111,6 +122,17 @@ void ScriveDxf(const Relazione& r, const std::filesystem::path& file) {
     }
     if (!DxfChiude())
         throw std::runtime_error(AvvisoNonScritto(file));
+}
+
+/// Nothing is written where something cannot be.
+void ControllaUscite(const Relazione& r, const UsciteComando& uscite) {
+    if (!uscite.dxf.empty() && !r.disegno.PlottaInOggetto)
+        throw std::runtime_error("non c'è niente da disegnare di " + r.oggetto);
+    for (const std::filesystem::path& file : {uscite.relazione, uscite.pdf, uscite.dxf}) {
+        FileAtomico prova; // goes again, and what is there stays
+        if (!file.empty() && file != uscitaStandard && !prova.Apre(file))
+            throw std::runtime_error(AvvisoNonScritto(file));
+    }
 }
 
 } // namespace
@@ -135,13 +157,25 @@ DocumentoLetto LeggeDocumento(const std::filesystem::path& file) {
     return documento;
 }
 
-void ScriveUscite(const DocumentoLetto& documento, const UsciteComando& uscite) {
-    if (!uscite.relazione.empty())
-        ScriveTesto(documento, uscite.relazione);
-    if (!uscite.pdf.empty())
-        ScrivePdf(documento.relazione, uscite.pdf);
-    if (!uscite.dxf.empty())
-        ScriveDxf(documento.relazione, uscite.dxf);
+void ScriveUscite(const DocumentoLetto& documento, const UsciteComando& uscite, std::ostream& uscita) {
+    ControllaUscite(documento.relazione, uscite);
+    std::string scritti;
+    const auto scrive = [&scritti](const std::filesystem::path& file, const auto& come) {
+        if (file.empty())
+            return;
+        try {
+            come(file);
+        } catch (const std::exception& e) {
+            throw std::runtime_error(e.what() + (scritti.empty() ? "" : "\ngià scritto: " + scritti));
+        }
+        scritti += (scritti.empty() ? "" : ", ") + file.string();
+    };
+    if (uscite.relazione == uscitaStandard)
+        ScriveTesto(documento, uscita);
+    else
+        scrive(uscite.relazione, [&](const auto& file) { ScriveTesto(documento, file); });
+    scrive(uscite.pdf, [&](const auto& file) { ScrivePdf(documento.relazione, file); });
+    scrive(uscite.dxf, [&](const auto& file) { ScriveDxf(documento.relazione, file); });
 }
 
 } // namespace sagomi

@@ -74,7 +74,7 @@ void Scrive(Comando& c, FormatoUscita formato) {
 
 /// Names where an answer goes to.
 void Uscita(std::filesystem::path& uscita, const char* opzione, const std::string& nome) {
-    if (nome.empty())
+    if (nome.empty() || (nome == uscitaStandard && opzione != std::string_view("--relazione")))
         throw ErroreUso(std::string(opzione) + " vuole un file");
     if (!uscita.empty())
         throw ErroreUso(std::string(opzione) + " sta due volte");
@@ -355,6 +355,8 @@ void ControllaSoggetto(Comando& c, const std::vector<std::string>& soggetti) {
         throw ErroreUso("--json e --csv vanno con --verifica e --scelta");
     if (!c.file.empty() && !c.soloSagomi.empty())
         throw ErroreUso(c.soloSagomi + " vale per un sagomo: un file ha i suoi dati");
+    if (c.uscite.relazione == uscitaStandard && c.modo == ModoComando::Verifica)
+        throw ErroreUso("--relazione - va senza --verifica, che risponde già sull'uscita");
     ControllaUscite(c);
 }
 

@@ -174,6 +174,31 @@ TEST_F(FileRelazioneTest, APdfIsWrittenByWhatIsPluggedIn) {
     EXPECT_EQ(oggetto, "IPE 300o.pdf");
 }
 
+// All of the answers or none.
+TEST_F(FileRelazioneTest, NothingIsWrittenWhereOneAnswerCannotBe) {
+    ImpostaScritturaPdf([](const Relazione&, const fs::path&) {});
+    const std::string trave = std::string(travi) + "piena.sco";
+    for (const std::string& cosa : {std::string("IPE 300"), trave, Salvato(1)}) {
+        EXPECT_EQ(Esegue({cosa, "--relazione", Via("o.txt"), "--pdf", Via("nessuna/o.pdf")}), comandoErrato);
+        EXPECT_NE(errori.str().find("nessuna/o.pdf"), std::string::npos) << errori.str();
+        EXPECT_FALSE(fs::exists(Via("o.txt"))) << cosa;
+    }
+    ImpostaScritturaPdf([](const Relazione&, const fs::path&) { throw std::runtime_error("disco pieno"); });
+    EXPECT_EQ(Esegue({"IPE 300", "--relazione", Via("o.txt"), "--pdf", Via("o.pdf")}), comandoErrato);
+    EXPECT_NE(errori.str().find("disco pieno\ngià scritto: " + Via("o.txt")), std::string::npos)
+        << errori.str();
+}
+
+TEST_F(FileRelazioneTest, ADashIsTheStandardOutput) {
+    EXPECT_EQ(Esegue({"IPE 300", "--N", "100", "--relazione", Via("o.txt")}), comandoVerificato);
+    EXPECT_EQ(Esegue({"IPE 300", "--N", "100", "--relazione", "-"}), comandoVerificato) << errori.str();
+    EXPECT_EQ(uscita.str(), Letto("o.txt"));
+    EXPECT_NE(Esegue({Salvato(1), "--progetto", "Città", "--relazione", "-"}), comandoErrato) << errori.str();
+    EXPECT_TRUE(uscita.str().starts_with("   PROGETTO: Città\n")) << uscita.str();
+    EXPECT_EQ(uscita.str().find('\r'), std::string::npos);
+    EXPECT_FALSE(fs::exists("-"));
+}
+
 // Jobs come from other programs; they write nowhere but on the output.
 TEST_F(FileRelazioneTest, AJobWritesNoFile) {
     std::istringstream ingresso("{\"verifica\":\"IPE 300\",\"relazione\":\"" + Via("o.txt") + "\"}\n");
@@ -211,6 +236,8 @@ TEST_F(FileRelazioneTest, WrongCallsSayWhatWasExpected) {
     const std::string o = Via("o.txt");
     const std::vector<Errato> calls = {
         {{trave, "--relazione"}, "--relazione vuole un file"},
+        {{trave, "--pdf", "-"}, "--pdf vuole un file"},
+        {{"--verifica", "IPE 300", "--relazione", "-"}, "--relazione - va senza --verifica"},
         {{trave, "--relazione", ""}, "--relazione vuole un file"},
         {{trave, "--relazione", "--pdf", o}, "--relazione vuole un file"},
         {{trave, "--relazione", o, "--relazione", o}, "--relazione sta due volte"},

@@ -40,6 +40,31 @@ risposta 998 "UPN 200" --N 998 --L0z 1.5
 timeout 60 "$bin/sagomi" --scelta --N 100 --L0z 3 2>"$work/errori" | head -1 >"$work/testa"
 grep -q '^sagomo' "$work/testa" || fail "no table in a pipe"
 
+# A session without a folder of its own is nothing to tell.
+env -u XDG_RUNTIME_DIR "$bin/sagomi" "IPE 300" --pdf "$work/trave.pdf" >"$work/detto" 2>&1 || fail "no pdf"
+[ -s "$work/detto" ] && fail "a pdf says: $(cat "$work/detto")"
+head -c 5 "$work/trave.pdf" | grep -q '%PDF-' || fail "no pdf is written"
+
+# What is told about the same workbook is told once.
+mkdir "$work/danno"
+cp "$bin/Sagomi.xls" "$work/danno" && echo ciao >"$work/danno/SagomiUtente.xls"
+"$bin/sagomi" --scelta --cartella "$work/danno" --N 100 --csv 2>"$work/errori" >"$work/detto"
+[ "$(sort "$work/errori" | uniq -d)" = "" ] || fail "twice: $(sort "$work/errori" | uniq -d)"
+"$bin/sagomi" --scelta --cartella /proc/xx 2>"$work/errori"
+[ $? -eq 2 ] || fail "/proc/xx is a folder"
+grep -q "pieno" "$work/errori" && fail "/proc is no full disk: $(cat "$work/errori")"
+
+# The completion knows the families.
+completa() { # WORD
+  COMP_WORDS=(sagomi --famiglie "$1") COMP_CWORD=2 COMPREPLY=()
+  _sagomi
+  echo "${COMPREPLY[*]}"
+}
+# shellcheck source=/dev/null
+source "$(dirname "$0")/../../data/comando/sagomi.bash"
+[ "$(completa IPE,HEA)" = "IPE,HEA IPE,HEAA" ] || fail "families behind a comma: $(completa IPE,HEA)"
+[ "$(completa UP)" = "UPN" ] || fail "families: $(completa UP)"
+
 # The file of a joint and that of a beam open their screens.
 schermo() { # FILE TITLE
   xvfb-run -a -s "-screen 0 1366x768x24" bash -c '
