@@ -1,10 +1,14 @@
 #include "choice/RelazioneVerifica.h"
 
 #include <type_traits>
+#include <utility>
 
+#include "report/CapitoliMomento.h"
 #include "report/CapitoliSagomo.h"
 #include "report/CapitoliStabilita.h"
+#include "report/CapitoloEfficace.h"
 #include "report/Figure.h"
+#include "report/PassiSagomo.h"
 #include "report/RelazioneSagomo.h"
 
 namespace sagomi {
@@ -27,6 +31,7 @@ void AggiungeCapitoli(Relazione& relazione, const SezioneDoppioT& s, const Sagom
     c.push_back(CapitoloAzioni(sezione));
     c.push_back(CapitoloMomenti(r.y, r.z, r.tipoDiagramma, r.pict));
     c.push_back(CapitoloClassi(sezione));
+    c.push_back(CapitoloEfficace(sezione));
     c.push_back(CapitoloResistenze(s));
     if (!e.riga.SenzaVerdetto())
         c.push_back(CapitoloSezione(sezione));
@@ -54,6 +59,10 @@ CapitoloRelazione CapitoloForza(const SagomoVerificato& e, const Richiesta& r) {
 template <typename S>
 void AggiungeCapitoli(Relazione& relazione, const S& s, const SagomoVerificato& e, const Richiesta& r) {
     relazione.capitoli.push_back(CapitoloDati(s));
+    relazione.capitoli.push_back(CapitoloAzioni(s, r.NSd));
+    relazione.capitoli.push_back(CapitoloClassi(s));
+    relazione.capitoli.push_back(CapitoloEfficace(s));
+    relazione.capitoli.push_back(CapitoloResistenze(s));
     relazione.capitoli.push_back(CapitoloInstabilita(s, {e.CurvaY, e.CurvaZ}));
     if (!e.riga.SenzaVerdetto())
         relazione.capitoli.push_back(CapitoloForza(e, r));
@@ -70,7 +79,7 @@ Relazione RelazioneVerifica(const SagomoInGara& sagomo, const SagomoVerificato& 
             AggiungeCapitoli(r, s, esito, richiesta);
         },
         esito.sezione);
-    return r;
+    return SenzaCapitoliVuoti(std::move(r));
 }
 
 } // namespace sagomi

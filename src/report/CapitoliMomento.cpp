@@ -69,11 +69,7 @@ CapitoloRelazione CapitoloResistenze(const SezioneSagomoU& s) {
     CapitoloRelazione c{.titolo = "Resistenza della sezione"};
     const double betaA = s.betaA();
     if (s.ClasseCompressione > 3)
-        c.passi.push_back({.descrizione = "Area efficace sull'area",
-                           .simbolo = "β{A}",
-                           .formula = "A{eff} / A",
-                           .valore = Rapporto(betaA),
-                           .norma = "ENV 1993-1-1 5.5.1.1"});
+        c.passi.push_back(PassoBetaA(betaA));
     c.passi.push_back(PassoNplRd(s.ClasseCompressione, betaA, s.Area, s.fy, s.NplRd));
     c.passi.push_back(PassoMomento(true, s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}, s.fy, s.McyRd));
     c.passi.push_back(PassoMomento(false, s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}, s.fy, s.MczRd));

@@ -75,6 +75,15 @@ template <typename S> void AggiungeCoppia(Passi& p, const S& s) {
         p.push_back(Dato("Due sagomi alla distanza", "d", Piano(s.dDoppi), "mm"));
 }
 
+/// What channels and angles are checked under.
+template <typename S> CapitoloRelazione AzioneAssiale(const S& s, double NSd) {
+    CapitoloRelazione c{.titolo = "Azioni e lunghezze"};
+    c.passi = {Dato("Forza assiale, di compressione se positiva", "N{Sd}", Kilo(NSd), "kN"),
+               Dato("Lunghezza di libera inflessione intorno a y-y", "L{0,y}", Metri(s.L0y), "m"),
+               Dato("Lunghezza di libera inflessione intorno a z-z", "L{0,z}", Metri(s.L0z), "m")};
+    return c;
+}
+
 /// Classes 1 and 2: the moments that the axial force leaves, EC3 6.2.9.1 (5) and (6).
 void AggiungePlastica(Passi& p, const SezioneDoppioT& s, const TerminiInterazione& t, const Verdetto& v) {
     const std::string norma = "EC3 6.2.9.1";
@@ -254,6 +263,40 @@ CapitoloRelazione CapitoloAzioni(const SezioneDoppioT& s) {
     return c;
 }
 
+CapitoloRelazione CapitoloAzioni(const SezioneSagomoU& s, double NSd) { return AzioneAssiale(s, NSd); }
+
+CapitoloRelazione CapitoloAzioni(const SezioneSagomoL& s, double NSd) {
+    CapitoloRelazione c = AzioneAssiale(s, NSd);
+    c.passi.push_back(Dato("Lunghezza di libera inflessione intorno a v-v", "L{0,v}", Metri(s.L0v), "m"));
+    return c;
+}
+
+// Unequal legs above class 2 are held against the limits of h and of the mean leg.
+CapitoloRelazione CapitoloClassi(const SezioneSagomoL& s) {
+    CapitoloRelazione c{.titolo = "Classificazione", .passi = {PassoEpsilon(s.fy)}};
+    const bool media = s.Classe4LarghezzaGovernante != "h";
+    const std::string sotto = " / (" + Piano(s.t) + " · " + Rapporto(Epsilon(s.fy)) + ")";
+    c.passi.push_back(Piatto("Lato lungo", "h / t", Piano(s.h) + sotto, s.SnellAla, s.ClasseCompressione,
+                             media ? " (limite della classe 3: 15)" : Limiti(s.Limite0Ala, s.Limite1Ala)));
+    if (media)
+        c.passi.push_back(Piatto("Media dei lati", "(b + h) / (2 t)",
+                                 "(" + Piano(s.b) + " + " + Piano(s.h) + ") / 2" + sotto, s.SnellAla1,
+                                 s.ClasseCompressione, " (limite della classe 3: 11,5)"));
+    c.passi.push_back(Classe("Sezione compressa", s.ClasseCompressione));
+    AdattaDecimali(c);
+    return c;
+}
+
+CapitoloRelazione CapitoloResistenze(const SezioneSagomoL& s) {
+    CapitoloRelazione c{.titolo = "Resistenza della sezione"};
+    const double betaA = s.betaA();
+    if (s.ClasseCompressione > 3)
+        c.passi.push_back(PassoBetaA(betaA));
+    const double NplRd = s.Area * s.fy * betaA / GammaM0;
+    c.passi.push_back(PassoNplRd(s.ClasseCompressione, betaA, s.Area, s.fy, NplRd));
+    return c;
+}
+
 CapitoloRelazione CapitoloClassi(const SezioneDoppioT& s) {
     CapitoloRelazione c{.titolo = "Classificazione"};
     const std::string epsilon = Rapporto(Epsilon(s.fy));
@@ -288,11 +331,7 @@ CapitoloRelazione CapitoloResistenze(const SezioneDoppioT& s) {
     CapitoloRelazione c{.titolo = "Resistenza della sezione"};
     const double betaA = s.betaA();
     if (s.ClasseCompressione > 3)
-        c.passi.push_back({.descrizione = "Area efficace sull'area",
-                           .simbolo = "β{A}",
-                           .formula = "A{eff} / A",
-                           .valore = Rapporto(betaA),
-                           .norma = "ENV 1993-1-1 5.5.1.1"});
+        c.passi.push_back(PassoBetaA(betaA));
     c.passi.push_back(PassoNplRd(s.ClasseCompressione, betaA, s.Area, s.fy, s.NplRd));
     c.passi.push_back(PassoMomento(true, s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}, s.fy, s.McyRd));
     c.passi.push_back(PassoMomento(false, s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}, s.fy, s.MczRd));

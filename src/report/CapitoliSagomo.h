@@ -21,11 +21,21 @@ CapitoloRelazione CapitoloDati(const SezioneSagomoL& s);
 /// Axial force, moments, buckling lengths, as the section has them.
 CapitoloRelazione CapitoloAzioni(const SezioneDoppioT& s);
 
+/// Axial force [N], in compression if positive, and buckling lengths.
+CapitoloRelazione CapitoloAzioni(const SezioneSagomoU& s, double NSd);
+CapitoloRelazione CapitoloAzioni(const SezioneSagomoL& s, double NSd);
+
 /// Slenderness and class of each plate, and of the section under each force.
 CapitoloRelazione CapitoloClassi(const SezioneDoppioT& s);
 
+/// Slenderness of the legs and class of an angle in compression.
+CapitoloRelazione CapitoloClassi(const SezioneSagomoL& s);
+
 /// Axial force and moments that the section bears.
 CapitoloRelazione CapitoloResistenze(const SezioneDoppioT& s);
+
+/// Axial force that an angle, or a pair, bears.
+CapitoloRelazione CapitoloResistenze(const SezioneSagomoL& s);
 
 /// Axial force with bending on the section, EC3 6.2.9. ClassePressoFlessioneCalcola has run.
 CapitoloRelazione CapitoloSezione(const SezioneDoppioT& s);

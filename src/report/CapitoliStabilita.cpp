@@ -6,9 +6,11 @@
 #include "report/CapitoliSagomo.h"
 #include "report/Figure.h"
 #include "sections/ColonnaInstabilita.h"
+#include "sections/Eurocod3.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneSagomoL.h"
 #include "sections/SezioneSagomoU.h"
+#include "sections/Svergolamento.h"
 #include "sections/Verdetto.h"
 
 namespace sagomi {
@@ -159,25 +161,66 @@ double Valido(const SezioneDoppioT& s, double valore) {
     return s.LLT > 0 && !std::isfinite(s.Mcr) ? nessuno : valore;
 }
 
+constexpr const char* normaMcr = "ENV 1993-1-1 F.1.2";
+
+/// Height of the load above the shear centre [mm].
+double AltezzaCarico(const SezioneDoppioT& s) { return s.h / 2 + s.za - s.zCentroTaglio(); }
+
+std::string Quota(double mm) { return Formato("0.0##", mm); }
+
+/// The load above the shear centre, and the asymmetry of the flanges.
+void AggiungeAltezze(Passi& p, const SezioneDoppioT& s) {
+    p.push_back(Dato("Altezza del carico sopra la mezzeria", "z{a}", Piano(s.za), "mm", normaMcr));
+    p.push_back({.descrizione = "Altezza del centro di taglio sopra il lembo inferiore",
+                 .simbolo = "z{S}",
+                 .formula = s.SaldataAsimm ? "y{G} + [(h − y{G}) I{sup} − I{inf} y{G}] / i{z}" : "h / 2",
+                 .valore = Quota(s.zCentroTaglio()),
+                 .unita = "mm",
+                 .norma = normaMcr});
+    p.push_back({.descrizione = "Altezza del carico sopra il centro di taglio",
+                 .simbolo = "z{g}",
+                 .formula = "h / 2 + z{a} − z{S}",
+                 .numeri = Piano(s.h) + " / 2 + " + ConSegno(Piano(s.za)) + " − " +
+                           ConSegno(Quota(s.zCentroTaglio())),
+                 .valore = Quota(AltezzaCarico(s)),
+                 .unita = "mm",
+                 .norma = normaMcr});
+    p.push_back(Dato("Asimmetria delle ali", "z{j}", Quota(AsimmetriaAli(s)), "mm", normaMcr));
+}
+
+std::string NumeriMcr(const SezioneDoppioT& s) {
+    const std::string E = Intero(E_acciaio), Jz = Intero(s.Jz), k = Piano(s.k), kL = k + " · " + Piano(s.LLT);
+    const std::string D = ConSegno(Formato("0.0##", s.c2)) + " · " + ConSegno(Quota(AltezzaCarico(s))) +
+                          " − " + ConSegno(Formato("0.0##", s.c3)) + " · " +
+                          ConSegno(Quota(AsimmetriaAli(s)));
+    return Formato("0.0##", s.C1) + " · π^{2} · " + E + " · " + Jz + " / (" + kL + ")^{2} · [√((" + k +
+           " / " + Piano(s.Kw) + ")^{2} · " + Intero(s.Jw) + " / " + Jz + " + (" + kL + ")^{2} · " +
+           Intero(G_acciaio) + " · " + Intero(s.JT) + " / (π^{2} · " + E + " · " + Jz + ") + (" + D +
+           ")^{2}) − (" + D + ")] · 10^{-6}";
+}
+
 void AggiungeMcr(Passi& p, const SezioneDoppioT& s) {
-    const char* norma = "ENV 1993-1-1 F.1.2";
+    const char* norma = normaMcr;
     p.push_back(Dato("Distanza fra i vincoli torsionali", "L", s.LLT > 0 ? Metri(s.LLT) : "0", "m"));
     p.push_back(Dato("Vincolo alla rotazione nel piano", "k", Piano(s.k), "", norma));
     p.push_back(Dato("Vincolo all'ingobbamento", "k{w}", Piano(s.Kw), "", norma));
     p.push_back(Dato("Coefficienti del diagramma", "C{1}; C{2}; C{3}",
                      Formato("0.0##", s.C1) + "; " + Formato("0.0##", s.c2) + "; " + Formato("0.0##", s.c3),
                      "", norma));
-    p.push_back(Dato("Altezza del carico sopra la mezzeria", "z{a}", Piano(s.za), "mm", norma));
+    p.push_back(Dato("Modulo di elasticità", "E", Intero(E_acciaio), "N/mm^{2}"));
+    p.push_back(Dato("Modulo di taglio", "G", Intero(G_acciaio), "N/mm^{2}"));
+    AggiungeAltezze(p, s);
     p.push_back({.descrizione = "Momento critico elastico",
                  .simbolo = "M{cr}",
                  .formula = s.LLT > 0
-                                ? "C{1} π^{2} E J{z} / (k L)^{2} · [√((k/k{w})^{2} J{w}/J{z} + (k L)^{2} G "
-                                  "J{T} / (π^{2} E J{z}) + (C{2} z{g} − C{3} z{j})^{2}) − (C{2} z{g} − "
+                                ? "C{1} π^{2} E J{z} / (k L)^{2} · [√((k / k{w})^{2} J{w} / J{z} + (k L)^{2} "
+                                  "G J{T} / (π^{2} E J{z}) + (C{2} z{g} − C{3} z{j})^{2}) − (C{2} z{g} − "
                                   "C{3} z{j})]"
                                 : "L = 0: nessuno svergolamento",
+                 .numeri = s.LLT > 0 && std::isfinite(s.Mcr) ? NumeriMcr(s) : std::string(),
                  .valore = s.LLT > 0 ? KiloMetri(s.Mcr) : "∞",
                  .unita = "kNm",
-                 .norma = norma});
+                 .norma = normaMcr});
 }
 
 void AggiungeMbRd(Passi& p, const SezioneDoppioT& s) {
@@ -187,14 +230,27 @@ void AggiungeMbRd(Passi& p, const SezioneDoppioT& s) {
                  .simbolo = "λ̅{LT}",
                  .formula = "√(γ{M0} M{c,y,Rd} / M{cr})",
                  .numeri = "√(" + Piano(GammaM0) + " · " + KiloMetri(s.McyRd) + " / " + Mcr + ")",
-                 .valore = Formato("0.0##", Valido(s, s.LamdaLT)),
+                 .valore = Rapporto(Valido(s, s.LamdaLT)),
                  .norma = norma});
     p.push_back(
         Dato("Coefficiente d'imperfezione", "α{LT}", Formato("0.0#", s.Saldata ? 0.49 : 0.21), "", norma));
+    const double alfa = s.Saldata ? 0.49 : 0.21;
+    const double lamda = Valido(s, s.LamdaLT);
+    const std::string ls = Rapporto(lamda);
+    const std::string fi = Rapporto(Fi(alfa, lamda));
+    const bool ridotto = lamda > 0.4;
+    p.push_back({.descrizione = "",
+                 .simbolo = "φ{LT}",
+                 .formula = "0,5 [1 + α{LT} (λ̅{LT} − 0,2) + λ̅{LT}^{2}]",
+                 .numeri = std::isfinite(lamda) ? "0,5 · [1 + " + Formato("0.0#", alfa) + " · (" + ls +
+                                                      " − 0,2) + " + ls + "^{2}]"
+                                                : std::string(),
+                 .valore = fi,
+                 .norma = norma});
     p.push_back({.descrizione = "Coefficiente di riduzione, 1 fino a λ̅{LT} = 0,4",
                  .simbolo = "χ{LT}",
-                 .formula = "1 / (φ{LT} + √(φ{LT}^{2} − λ̅{LT}^{2})) ≤ 1,  φ{LT} = 0,5 [1 + α{LT} (λ̅{LT} − "
-                            "0,2) + λ̅{LT}^{2}]",
+                 .formula = "1 / (φ{LT} + √(φ{LT}^{2} − λ̅{LT}^{2})) ≤ 1",
+                 .numeri = ridotto ? "1 / (" + fi + " + √(" + fi + "^{2} − " + ls + "^{2}))" : std::string(),
                  .valore = Formato("0.0##", Valido(s, s.ChiLT)),
                  .norma = norma});
     p.push_back({.descrizione = "Resistenza all'instabilità flesso-torsionale",
@@ -205,6 +261,13 @@ void AggiungeMbRd(Passi& p, const SezioneDoppioT& s) {
                  .valore = KiloMetri(Valido(s, s.MbRd)),
                  .unita = "kNm",
                  .norma = norma});
+}
+
+void AggiungeNotaMcr(CapitoloRelazione& c, const SezioneDoppioT& s) {
+    if (McrSiDiscosta(s))
+        c.note.emplace_back(
+            "Ali diverse e carico fuori dal baricentro: questo M{cr} si discosta da quello delle norme "
+            "attuali anche di più ordini di grandezza e non va usato.");
 }
 
 } // namespace
@@ -278,6 +341,7 @@ CapitoloRelazione CapitoloMomentoCritico(const SezioneDoppioT& s) {
     AggiungeMcr(c.passi, s);
     AggiungeMbRd(c.passi, s);
     AdattaDecimali(c);
+    AggiungeNotaMcr(c, s);
     return c;
 }
 
@@ -322,10 +386,7 @@ CapitoloRelazione CapitoloSvergolamento(const SezioneDoppioT& s, bool conAsseZ) 
          .norma = norma});
     AdattaDecimali(c);
     c.verdetto = VerdettoDi(v, "Stabilità flesso-torsionale", norma);
-    if (McrSiDiscosta(s))
-        c.note.push_back(
-            "Ali diverse e carico fuori dal baricentro: questo M{cr} si discosta da quello delle "
-            "norme attuali.");
+    AggiungeNotaMcr(c, s);
     return c;
 }
 

@@ -35,6 +35,14 @@ PassoRelazione PassoEpsilon(Singolo fy) {
             .norma = tabellaClassi};
 }
 
+PassoRelazione PassoBetaA(double betaA) {
+    return {.descrizione = "Area efficace sull'area",
+            .simbolo = "β{A}",
+            .formula = "A{eff} / A",
+            .valore = Rapporto(betaA),
+            .norma = "ENV 1993-1-1 5.5.1.1"};
+}
+
 PassoRelazione PassoNplRd(int classe, double betaA, double area, Singolo fy, double NplRd) {
     const bool efficace = classe > 3;
     return {.descrizione = "Resistenza a forza assiale",
@@ -62,6 +70,13 @@ PassoRelazione PassoMomento(bool y, int classe, const ModuliAsse& W, Singolo fy,
             .valore = numero ? KiloMetri(MRd) : std::string(),
             .unita = "kNm",
             .norma = "ENV 1993-1-1 5.4.5"};
+}
+
+Relazione SenzaCapitoliVuoti(Relazione r) {
+    std::erase_if(r.capitoli, [](const CapitoloRelazione& c) {
+        return c.passi.empty() && c.note.empty() && !c.verdetto;
+    });
+    return r;
 }
 
 } // namespace sagomi

@@ -23,6 +23,9 @@ PassoRelazione Classe(const char* descrizione, int classe, const char* norma = t
 /// The step to the factor of the steel, of a yield strength [N/mm2].
 PassoRelazione PassoEpsilon(Singolo fy);
 
+/// The effective area over the area, of class 4.
+PassoRelazione PassoBetaA(double betaA);
+
 /// Axial resistance [N] of a section whose area counts as betaA of it.
 PassoRelazione PassoNplRd(int classe, double betaA, double area, Singolo fy, double NplRd);
 
@@ -34,5 +37,8 @@ struct ModuliAsse {
 /// W fy over the factor of the class, ENV 1993-1-1 5.4.5; a modulus or a moment [N mm] that is no number
 /// leaves its place empty.
 PassoRelazione PassoMomento(bool y, int classe, const ModuliAsse& W, Singolo fy, double MRd);
+
+/// Takes out the chapters that have nothing in them.
+Relazione SenzaCapitoliVuoti(Relazione r);
 
 } // namespace sagomi

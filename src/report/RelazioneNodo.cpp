@@ -167,7 +167,7 @@ constexpr std::pair<std::string_view, const char*> simboli[] = {{"Bt", "B{t,Rd}"
 constexpr std::pair<std::string_view, const char*> testi[] = {
     {"ComponenteDeboleFilaInf", "resistenza governata"},
     {"ComponenteDeboleFilaSup", "resistenza governata"},
-    {"ComponenteDebole", "resistenza governata"},
+    {"ComponenteDebole", "componente comune più debole"},
     {"Nota", "nota"},
     {"ResistenzaGiunto", "classe"},
     {"RigidezzaGiunto1", "telaio controventato"},

@@ -1,7 +1,11 @@
 #include "report/RelazioneSagomo.h"
 
+#include <utility>
+
 #include "drawing/Grafica.h"
 #include "report/CapitoliSagomo.h"
+#include "report/CapitoloEfficace.h"
+#include "report/PassiSagomo.h"
 #include "sections/Duttilita.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneSagomoL.h"
@@ -23,10 +27,10 @@ template <typename S> Relazione Testa(const std::string& titolo, const S& s, con
 template <typename S>
 Relazione Resistenze(const S& s, const std::string& maschera, const RichiestaDuttilita& duttilita) {
     Relazione r = Testa("Momento resistente", s, maschera);
-    r.capitoli = {CapitoloDati(s), CapitoloClassi(s), CapitoloResistenze(s)};
+    r.capitoli = {CapitoloDati(s), CapitoloClassi(s), CapitoloEfficace(s), CapitoloResistenze(s)};
     if (duttilita.Lstar > 0)
         r.capitoli.push_back(CapitoloDuttilita({s.h, s.b, s.tw, s.tf, s.Area, s.fy, s.fu}, duttilita));
-    return r;
+    return SenzaCapitoliVuoti(std::move(r));
 }
 
 } // namespace
@@ -45,9 +49,9 @@ Relazione TestaSagomo(const std::string& titolo, const SezioneSagomoL& s, const 
 
 Relazione RelazioneSezione(const SezioneDoppioT& s, const std::string& maschera) {
     Relazione r = Testa("Verifica della sezione", s, maschera);
-    r.capitoli = {CapitoloDati(s), CapitoloAzioni(s), CapitoloClassi(s), CapitoloResistenze(s),
-                  CapitoloSezione(s)};
-    return r;
+    r.capitoli = {CapitoloDati(s),     CapitoloAzioni(s),     CapitoloClassi(s),
+                  CapitoloEfficace(s), CapitoloResistenze(s), CapitoloSezione(s)};
+    return SenzaCapitoliVuoti(std::move(r));
 }
 
 Relazione RelazioneMembratura(const SezioneDoppioT& s, const CurveInstabilita& curve,
@@ -57,10 +61,11 @@ Relazione RelazioneMembratura(const SezioneDoppioT& s, const CurveInstabilita& c
                   CapitoloAzioni(s),
                   CapitoloMomenti(diagrammi.y, diagrammi.z, diagrammi.tipo, diagrammi.pict),
                   CapitoloClassi(s),
+                  CapitoloEfficace(s),
                   CapitoloResistenze(s),
                   CapitoloInstabilita(s, curve),
                   CapitoloMembratura(s)};
-    return r;
+    return SenzaCapitoliVuoti(std::move(r));
 }
 
 Relazione RelazioneSvergolamento(const SezioneDoppioT& s, const std::string& maschera) {
@@ -68,10 +73,11 @@ Relazione RelazioneSvergolamento(const SezioneDoppioT& s, const std::string& mas
     r.capitoli = {CapitoloDati(s),
                   CapitoloAzioni(s),
                   CapitoloClassi(s),
+                  CapitoloEfficace(s),
                   CapitoloResistenze(s),
                   CapitoloInstabilita(s, {s.CurvaInstabilita("yy"), s.CurvaInstabilita("zz")}),
                   CapitoloSvergolamento(s, true)};
-    return r;
+    return SenzaCapitoliVuoti(std::move(r));
 }
 
 Relazione RelazioneResistenze(const SezioneDoppioT& s, const std::string& maschera,

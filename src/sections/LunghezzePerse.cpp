@@ -16,8 +16,17 @@ namespace sagomi {
 
 namespace {
 
-// On the neutral axis that a flange of class 4 leaves.
 double AnimaInflessa(const SezioneDoppioT& s) {
+    const double psi = PsiAnimaInflessa(s);
+    if (!(psi <= 1))
+        return 0;
+    const StrisceEfficaci strisce = StrisceDelPiatto(psi, s.d, s.tw, s.fy);
+    return (psi < 0 ? s.d / (1 - psi) : s.d) - strisce.be1 - strisce.be2;
+}
+
+} // namespace
+
+double PsiAnimaInflessa(const SezioneDoppioT& s) {
     std::vector<double> x;
     std::vector<double> y;
     std::int16_t n = 0;
@@ -26,14 +35,8 @@ double AnimaInflessa(const SezioneDoppioT& s) {
         s.AlaEfficace(x, y, kSigmaAlaCompressa, s.tf, s.c, s.h - s.tf / 2, true, true);
     std::shared_ptr<SezioneGenerica> contorno;
     const double ySup = s.h - s.tf - (s.Saldata ? s.r : s.r1);
-    const double psi = PsiAnima(CalcolaContorno(contorno, x, y, n), s.d, ySup);
-    if (!(psi <= 1))
-        return 0;
-    const StrisceEfficaci strisce = StrisceDelPiatto(psi, s.d, s.tw, s.fy);
-    return (psi < 0 ? s.d / (1 - psi) : s.d) - strisce.be1 - strisce.be2;
+    return PsiAnima(CalcolaContorno(contorno, x, y, n), s.d, ySup);
 }
-
-} // namespace
 
 LunghezzePerse PerseDi(const SezioneDoppioT& s) {
     LunghezzePerse lost;

@@ -13,6 +13,10 @@ struct LunghezzePerse {
     double ala = 0;            ///< of each outstand of the upper flange, in uniform compression
 };
 
+/// Ratio of the stresses at the ends of the web in bending about y-y [-], on the neutral axis that a flange
+/// of class 4 leaves; compression over compression positive.
+double PsiAnimaInflessa(const SezioneDoppioT& s);
+
 LunghezzePerse PerseDi(const SezioneDoppioT& s);
 LunghezzePerse PerseDi(const SezioneSagomoU& s);
 

@@ -8,6 +8,7 @@
 #include "frame/Messaggi.h"
 #include "sections/Eurocod3.h"
 #include "sections/Limiti.h"
+#include "sections/Svergolamento.h"
 
 namespace sagomi {
 
@@ -22,16 +23,15 @@ InerzieAli Ali(const SezioneDoppioT& s) {
     return {std::pow(s.b, 3) * s.tf / 12, std::pow(s.bAlaInf, 3) * s.tAlaInf / 12};
 }
 
-/// Degree of asymmetry of the flanges as a length [mm], ENV 1993-1-1 F.1.2.
-double zj(const SezioneDoppioT& s) {
+} // namespace
+
+double AsimmetriaAli(const SezioneDoppioT& s) {
     const InerzieAli I = Ali(s);
     const double hs = s.h - s.tf / 2 - s.tAlaInf / 2;
     const double psi = I.sup / (I.sup + I.inf);
     const double base = (2 * psi - 1) * hs / 2;
     return psi >= 0.5 ? 0.8 * base : base;
 }
-
-} // namespace
 
 // The divisor is the radius of gyration, so with different flanges this is no true height; with equal ones
 // the bracket is zero and the result h/2.
@@ -46,7 +46,7 @@ double SezioneDoppioT::McrFunz() {
         return Mcr;
     const double pi2 = std::numbers::pi * std::numbers::pi;
     const double zg = h / 2 + za - zCentroTaglio();
-    const double D = c2 * zg - c3 * zj(*this);
+    const double D = c2 * zg - c3 * AsimmetriaAli(*this);
     const double kL2 = std::pow(LLT * k, 2);
     const double T = std::pow(k / Kw, 2) * Jw / Jz + kL2 * G_acciaio * JT / (pi2 * E_acciaio * Jz);
     const double R = std::sqrt(D * D + T);

@@ -53,6 +53,9 @@ const std::vector<Domanda> domande{
     {"tesa", {"--verifica", "HEB 160", "--N", "-300", "--Mz", "10", "--L0y", "4", "--L0z", "4"}},
     {"canali", {"--verifica", "UPN 200", "--N", "200", "--L0y", "3", "--L0z", "3", "--doppi", "12"}},
     {"angolari", {"--verifica", "L 100x100x10", "--N", "80", "--L0y", "2", "--L0z", "2", "--L0v", "1"}},
+    {"angolari-snelli",
+     {"--verifica", "L 100x100x8", "--acciaio", "S355", "--N", "80", "--L0y", "2", "--L0z", "2", "--L0v", "1",
+      "--doppi", "10"}},
     {"nessuna-forza", {"--verifica", "IPE 200"}},
 };
 

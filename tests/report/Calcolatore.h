@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cmath>
+#include <numbers>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -67,6 +68,8 @@ private:
             return -Potenza();
         if (Prende("√"))
             return std::sqrt(Fattore());
+        if (Prende("π"))
+            return std::numbers::pi;
         if (Prende("("))
             return Chiusa(")");
         if (Prende("["))

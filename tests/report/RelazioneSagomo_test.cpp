@@ -4,8 +4,12 @@
 
 #include "Registratore.h"
 #include "frame/GeneraleSagomi.h"
+#include "report/CapitoliSagomo.h"
+#include "report/CapitoliStabilita.h"
+#include "report/CapitoloEfficace.h"
 #include "report/Passi.h"
 #include "sections/SezioneDoppioT.h"
+#include "sections/SezioneSagomoL.h"
 #include "sections/SezioneSagomoU.h"
 
 using namespace sagomi;
@@ -115,6 +119,66 @@ TEST_F(RelazioneSagomoTest, NumbersPutInGiveTheValues) {
     s.InizializzaSezione();
     Calcola();
     ProvaNumeri(RelazioneSvergolamento(s, ""));
+}
+
+// By hand: web 460 x 3 in compression, 153.333 / (28.4 x 2) = 2.69953, (2.69953 - 0.22) / 2.69953^2 =
+// 0.34024, of 460 mm 156.51. Bending: psi -1, k 23.9, 153.333 / (28.4 x 4.88876) = 1.10438, (1.10438 - 0.22)
+// / 1.10438^2 = 0.72511 of 230 mm = 166.78, strips of 66.71 and 100.07.
+TEST_F(RelazioneSagomoTest, PlatesOfClass4AreDerived) {
+    Salda(3);
+    const Relazione r = RelazioneSezione(s, "");
+    EXPECT_EQ(Passo(r, "λ̅{p}").valore, "2.6995");
+    EXPECT_EQ(Passo(r, "ρ").valore, "0.3402");
+    EXPECT_NEAR(std::stod(Passo(r, "b{eff}").valore), 156.51, 0.01);
+    EXPECT_NEAR(std::stod(Passo(r, "b{e1}").valore), 66.71, 0.01);
+    EXPECT_NEAR(std::stod(Passo(r, "b{e2}").valore), 100.07, 0.01);
+    EXPECT_FALSE(Ha(RelazioneSezione(s, ""), "x{G,eff}")) << "whole about z-z";
+    EXPECT_NE(Passo(r, "A{eff}").numeri, "");
+    Salda(20); // whole
+    EXPECT_FALSE(Ha(RelazioneSezione(s, ""), "λ̅{p}"));
+}
+
+// The load on the upper flange: the numbers of Mcr with C2 give its value, as do those of phi.
+TEST_F(RelazioneSagomoTest, TheCriticalMomentCanBeFollowed) {
+    s.c2 = 0.459;
+    s.za = 250;
+    Calcola();
+    const Relazione r = RelazioneSvergolamento(s, "");
+    EXPECT_EQ(Passo(r, "z{g}").valore, "250.0");
+    EXPECT_EQ(Passo(r, "z{j}").valore, "0.0");
+    EXPECT_EQ(Passo(r, "E").valore, "210000");
+    EXPECT_NE(Passo(r, "M{cr}").numeri, "");
+    ProvaNumeri(r);
+    const CapitoloRelazione senza = r.capitoli.back();
+    EXPECT_TRUE(senza.note.empty());
+    s.InizializzaSezioneUtente(nullptr, 500, 250, 8, 15, 5, 180, 12);
+    Calcola();
+    const CapitoloRelazione c = CapitoloMomentoCritico(s);
+    ASSERT_EQ(c.note.size(), 1U);
+    EXPECT_NE(c.note[0].find("non va usato"), std::string::npos);
+}
+
+// By hand, L 150 x 100 x 8 of S235: 150 / 8 = 18.75 and 125 / 8 = 15.625 against 15 and 11.5, class 4. lambda
+// p = 18.75 / (28.4 x 0.655744) = 1.00681, rho 0.77619; 12.5 / 18.62313 = 0.67121, below 0.673, whole.
+TEST(RelazioneAngolare, AnAngleOfClass4IsDerived) {
+    const Registratore quiet;
+    SezioneSagomoL l;
+    l.fy = 235;
+    l.h = 150, l.b = 100, l.t = 8, l.r1 = 12, l.r2 = 6;
+    l.Area = 1948, l.iY = 48, l.Iz = 29, l.iV = 21.9;
+    l.L0y = l.L0z = l.L0v = 2000;
+    l.InizializzaSezione();
+    ASSERT_EQ(l.ClasseCompressione, 4);
+    Relazione r;
+    r.capitoli = {CapitoloAzioni(l, 80e3), CapitoloClassi(l), CapitoloEfficace(l), CapitoloResistenze(l)};
+    EXPECT_EQ(Passo(r, "N{Sd}").valore, "80.0");
+    EXPECT_EQ(Passo(r, "L{0,v}").valore, "2.0");
+    EXPECT_EQ(Passo(r, "h / t / ε").valore, "18.75");
+    EXPECT_EQ(Passo(r, "(b + h) / (2 t) / ε").valore, "15.625");
+    EXPECT_NEAR(std::stod(Passo(r, "λ̅{p}").valore), 1.0068, 1e-4);
+    EXPECT_NEAR(std::stod(Passo(r, "ρ").valore), 0.7762, 1e-4);
+    EXPECT_NEAR(std::stod(Passo(r, "N{pl,Rd}").valore), 1948 * l.betaA() * 0.235 / GammaM0, 0.01);
+    ProvaNumeri(r);
 }
 
 class RelazioneCanaleTest : public testing::Test {
