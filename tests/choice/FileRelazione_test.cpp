@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -162,6 +163,20 @@ TEST_F(FileRelazioneTest, AMissingCriticalMomentLeavesTheChapterWithoutAVerdict)
     EXPECT_NE(testo.find("Stabilità flesso-torsionale: -"), std::string::npos) << testo;
     EXPECT_EQ(Esegue({"--verifica", "IPE 300", "--N", "100"}), comandoVerificato) << "no length";
     EXPECT_EQ(uscita.str().find("flesso-torsionale"), std::string::npos) << uscita.str();
+}
+
+// Without a factor of the diagram there is no critical moment left: any moment is infinitely too much.
+TEST_F(FileRelazioneTest, AnInfiniteUtilisationSaysWhichResistanceIsNone) {
+    Comando c = LeggeOpzioni({"--verifica", "IPE 300", "--My", "20", "--L", "5"});
+    MetteInVigore(c);
+    c.richiesta.C1 = 0;
+    const Gara gara = LeggeGara(SAGOMI_BIN, {"IPE"});
+    const auto sagomo = std::ranges::find(gara.sagomi, "IPE 300", &SagomoInGara::Designazione);
+    ASSERT_NE(sagomo, gara.sagomi.end());
+    std::vector<std::string> messaggi;
+    const RigaScelta riga = Verifica(*sagomo, c.richiesta, messaggi).riga;
+    EXPECT_TRUE(std::isinf(riga.svergolamento)) << riga.svergolamento << ' ' << riga.MbRd;
+    EXPECT_EQ(riga.motivo, "Mb,Rd è 0");
 }
 
 TEST_F(FileRelazioneTest, APdfIsWrittenByWhatIsPluggedIn) {
