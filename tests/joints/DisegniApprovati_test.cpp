@@ -87,6 +87,10 @@ TEST_F(DisegniApprovati, AltreForme) {
     for (const auto& [l, h] : {std::pair{277, 190}, {400, 277}})
         Approvato("carta-" + std::to_string(l) + "x" + std::to_string(h),
                   InSvg(DisegnoNodo(T), l, h, "frmGiunti", dispositivoStampante));
+    // The sheet of the workshop chooses where its views and texts lie.
+    for (const auto& [l, h] : {std::pair{500, 140}, {300, 210}, {230, 230}, {420, 420}})
+        Approvato("officina-" + std::to_string(l) + "x" + std::to_string(h),
+                  InSvg(DisegnoNodo(T), l, h, "frmGiunti", dispositivoStampante));
     Nodo sola;
     sola.ImpostaNodo();
     sola.CaratterizzaGiunti();
@@ -95,6 +99,31 @@ TEST_F(DisegniApprovati, AltreForme) {
     vuoto.ImpostaNodo();
     Approvato("nessun-sagomo", InSvg(FiguraGiunto(vuoto, nullptr, {}), 480, 600, "frmGiunti"));
     Approvato("sola-colonna", InSvg(FiguraGiunto(sola, nullptr, {}), 480, 600, "frmGiunti"));
+}
+
+// As small as the windows let them become, and with a component chosen.
+TEST_F(DisegniApprovati, FiguraMinimaEScelta) {
+    const Nodo T = NodoDisegnato(nodoT, 2, "Si");
+    const Disegno d = FiguraGiunto(T, nullptr, {});
+    Approvato("figura-minima", InSvg(d, d.minima.larghezza, d.minima.altezza, "frmGiunti"));
+    const auto tracciato = std::make_shared<TracciatoNodo>();
+    tracciato->attivo = true;
+    tracciato->scelto = {Flangia, FilaGiunto::Nessuna};
+    Approvato("figura-scelta", InSvg(FiguraGiunto(T, nullptr, {}, tracciato), 480, 600, "frmGiunti"));
+}
+
+// A drawing that waits is of what was there: later changes of the node do not reach it.
+TEST_F(DisegniApprovati, UnDisegnoResta) {
+    const Nodo croce = NodoDisegnato(nodoCroce, 2);
+    const Disegno d = DisegnoNodo(croce);
+    const auto svg = [&d] { return InSvg(d, 277, 190, "frmGiunti", dispositivoStampante); };
+    const std::string prima = svg();
+    for (const int i : {1, 2}) {
+        croce.Giunti[i].Riferimento()->bf = 120;
+        croce.Giunti[i].Riferimento()->Derivati_Calcola();
+    }
+    croce.Colonnainf->h = 240;
+    EXPECT_EQ(svg(), prima);
 }
 
 TEST_F(DisegniApprovati, Irrigidimenti) {
@@ -143,6 +172,8 @@ TEST_F(DisegniApprovati, CurveAlLimite) {
     Giunto& g = *n.ConnessioneCorrente;
     Approvato("curva-vicina", InSvg(DiagrammaRigidezza(g), 440, 280, "frmGiunti"));
     Approvato("curva-stretta", InSvg(DiagrammaRigidezza(g), 300, 200, "frmGiunti"));
+    const Disegno d = DiagrammaRigidezza(g);
+    Approvato("curva-minima", InSvg(d, d.minima.larghezza, d.minima.altezza, "frmGiunti"));
     for (double* k : {&g.MplRdGIUNTO, &g.M_elastico, &g.LimiteCerniera, &g.LimiteRigido1, &g.LimiteRigido2})
         *k /= 1000;
     for (double* k : {&g.Sj_MjRd, &g.Sj_Mela, &g.Sj_MjSd})

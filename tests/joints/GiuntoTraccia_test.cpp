@@ -67,6 +67,9 @@ TEST_F(Traccia, FilaEsternaRidottaERigidezzeDelleFile) {
     EXPECT_LE(Valore("Ala della colonna a flessione, gruppo", "Ftrd_FilaInfRid_c"),
               Valore("Ala della colonna a flessione, gruppo", "FtRd_Gruppo"));
     EXPECT_EQ(Valore("Ridistribuzione", "TipoMessaggio"), g().TipoMessaggio);
+    EXPECT_EQ(Valore("Coefficienti di rigidezza", "k6_Estesa"), g().k6_Estesa);
+    for (const char* nome : {"mu4_Estesa", "mu5_Estesa", "mu6_Estesa"})
+        EXPECT_GT(Valore("Coefficienti correttivi", nome), 0) << nome;
     for (const auto& [livello, nome] : {std::pair{"Rigidezza per Mj.Rd", "Sj_MjRd"},
                                         {"Rigidezza per Mj.el", "Sj_Mela"},
                                         {"Rigidezza per Mj.Sd", "Sj_MjSd"}}) {

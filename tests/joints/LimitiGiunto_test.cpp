@@ -243,6 +243,7 @@ TEST_F(LimitiFlangia, BulloneConLeDistanzeDiProgetto) {
     trave->tw = 7.1;
     g.L = 40; // 40 - 0.8 5 sqrt2 = 34.3 or 14.3: M12 in 13
     EXPECT_EQ(BulloneMax(g).indice, 3);
+    EXPECT_EQ(BulloneMax(g).suggerimento, "per aumentarlo bisogna incrementare d2");
     coefficientiRiposo.Imposta();
 }
 

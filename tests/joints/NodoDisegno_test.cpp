@@ -325,6 +325,16 @@ protected:
     }
 };
 
+// The moment is that of the joint that is shown, the current one when none is named.
+TEST_F(FiguraGiuntoTest, TheMomentOfTheJointShown) {
+    Nodo n = NodoDisegnato(nodoCroce, 2);
+    n.Giunti[1]->Acquisito = n.Giunti[2]->Acquisito = true;
+    n.Giunti[1]->MplRdGIUNTO = 55;
+    n.Giunti[2]->MplRdGIUNTO = 77;
+    EXPECT_THAT(DescrizioneGiunto(n, n.Giunti[2].Riferimento().get(), {}), HasSubstr("Mj,Rd 77"));
+    EXPECT_THAT(DescrizioneGiunto(n, nullptr, {}), HasSubstr("Mj,Rd 55"));
+}
+
 TEST_F(FiguraGiuntoTest, TextsDoNotTouch) {
     for (const Caso& c : casi) {
         EvidenzaGiunto e;

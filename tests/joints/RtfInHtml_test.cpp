@@ -37,6 +37,7 @@ INSTANTIATE_TEST_SUITE_P(RtfInHtml, RtfInHtmlTest, testing::Values(
     CasoRtf{"corsivo",      "{\\i n}{\\ul s}",              "<p><i>n</i><u>s</u></p>\n"},
     CasoRtf{"ansi",         "\\'e8 \\'E0\\'80",             "<p>è à€</p>\n"},
     CasoRtf{"unicode",      "\\u947?\\u8730V3\\u-3913?",    "<p>γ√3\xEF\x82\xB7</p>\n"},
+    CasoRtf{"due_e_tre_byte", "\\u2047?\\u2048?",           "<p>\xDF\xBF\xE0\xA0\x80</p>\n"},
     CasoRtf{"sostituti",    "\\uc2\\u947xyz\\uc0\\u947z",   "<p>γzγz</p>\n"},
     CasoRtf{"sostituto_hex","\\u8722\\'2d5",                "<p>−5</p>\n"},
     CasoRtf{"simboli",      "{\\fonttbl{\\f0 Times;}{\\f3\\fcharset2 Symbol;}}{\\f3 bS\\'b3\\'d6}b", "<p>βΣ≥√b</p>\n"},

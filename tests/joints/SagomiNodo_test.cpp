@@ -114,6 +114,22 @@ TEST_F(SagomiDelNodo, LarghezzeEAltezze) {
     EXPECT_TRUE(AssegnaSagomo(n, RuoloSagomo::TraveDx, traveSnella));
 }
 
+// Nothing to compare a beam with: 400 over a column of 170 clear.
+TEST_F(SagomiDelNodo, UnaTraveSola) {
+    SezioneDoppioT trave = *IPE330();
+    trave.h = 400;
+    Nodo croce;
+    croce.ImpostaNodo();
+    croce.Tipovie = nodoCroce;
+    croce.NumeroGiunti = 2;
+    croce.CaratterizzaGiunti();
+    EXPECT_TRUE(AssegnaSagomo(croce, RuoloSagomo::Colonna, *HEB200()));
+    EXPECT_TRUE(AssegnaSagomo(croce, RuoloSagomo::TraveSx, trave));
+    Nodo T = NodoDisegnato(nodoT, 2);
+    EXPECT_TRUE(AssegnaSagomo(T, RuoloSagomo::TraveDx, trave));
+    EXPECT_TRUE(scatole.testi.empty());
+}
+
 // IPE 270 of S235 with GammaM0 1: 484 cm3 and 45.95 cm2 by its table.
 TEST_F(SagomiDelNodo, ResistenzeRinnovate) {
     Normativa = normativaEC3;

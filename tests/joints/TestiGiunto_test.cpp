@@ -219,6 +219,10 @@ TEST_F(TestiGiuntoTest, VerdettoDelMomento) {
     EXPECT_FALSE(Giudica(g()).resiste);
     EXPECT_EQ(Giudica(g()).notaMomento, "M negativo: la fila esterna non conta");
     EXPECT_EQ(Giudica(g()).notaRigidezza, "Mj,Sd > Mj,Rd");
+    for (const double positivo : {0.0, 0.5}) {
+        g().Trave->Mysd = positivo;
+        EXPECT_EQ(Giudica(g()).notaMomento, "");
+    }
 }
 
 TEST_F(TestiGiuntoTest, VerdettoDelTaglio) {
