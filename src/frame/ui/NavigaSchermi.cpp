@@ -87,6 +87,8 @@ Schermo& NavigaSchermi::Prende(const QString& nome) {
 }
 
 void NavigaSchermi::Apre(const QString& nome, Schermo& da) {
+    if (inCreazione_ || ChiusuraInCorso)
+        return; // a second click came while a screen was being made
     const auto apri = Voce(nome).apri;
     Schermo& made = Prende(nome); // its load lets events through, the end of the program among them
     if (!ChiusuraInCorso)

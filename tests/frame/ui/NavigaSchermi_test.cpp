@@ -103,6 +103,25 @@ TEST_F(NavigaSchermiTest, ScreenOpensByItsNameOnceCreated) {
     EXPECT_THROW(n.Apre("Terzo", a), std::out_of_range);
 }
 
+// Making a screen lets events through: a second click, or a shortcut that is still being shown.
+TEST_F(NavigaSchermiTest, ASecondClickWhileAScreenIsMadeOpensNothing) {
+    auto& n = NavigaSchermi::Unico();
+    auto& a = n.Prende<Primo>();
+    n.Passa(a, nullptr);
+    n.Aggiunge(RigaDi<Terzo>("Terzo"));
+    VoceSchermo slow = RigaDi<Secondo>("Secondo");
+    slow.crea = [&n, &a]() -> Schermo* {
+        EXPECT_NO_THROW(n.Apre("Terzo", a));
+        return new Secondo;
+    };
+    n.Aggiunge(slow);
+    n.Apre("Secondo", a);
+    EXPECT_NE(n.Trova("Secondo"), nullptr);
+    EXPECT_EQ(n.Trova("Terzo"), nullptr);
+    n.Toglie("Secondo");
+    n.Toglie("Terzo");
+}
+
 TEST_F(NavigaSchermiTest, RowOfTheSameNameReplacesTheOlderOne) {
     auto& n = NavigaSchermi::Unico();
     const auto before = n.Tavola().size();
