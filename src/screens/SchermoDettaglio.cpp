@@ -267,7 +267,7 @@ void SchermoDettaglio::Ricalcola() {
         return;
     const QScopedValueRollback guard(inCalcolo_, true);
     CopiaIntestazione();
-    if (!chiamante_->RigaInMano()) {
+    if (!chiamante_->RigaInMano() || !chiamante_->SezioneMia()) {
         Svuota();
         return;
     }

@@ -25,6 +25,8 @@ template <Sagomo S> class SchermoDi : public SchermoSezione {
 public:
     using SchermoSezione::SchermoSezione;
 
+    [[nodiscard]] bool SezioneMia() const override { return SezioneInUso<S>() != nullptr; }
+
     /// Steel and entries after the row's own values: from m and kN to mm and N.
     void Leggedati() override {
         if (!RigaInMano())

@@ -379,7 +379,7 @@ void SchermoSezione::SvuotaRisultati() {
 }
 
 bool SchermoSezione::PassaLunghezza(int index) {
-    if (Fermo() || !RigaInMano())
+    if (Fermo() || !RigaInMano() || !SezioneMia())
         return false;
     Singolo* length = nullptr;
     const bool some = SullaSezioneInUso([&](ConLunghezze auto& section) {
@@ -405,7 +405,7 @@ void SchermoSezione::LunghezzaCambiata(int index) {
 }
 
 bool SchermoSezione::PassaForza() {
-    return !Fermo() && RigaInMano() &&
+    return !Fermo() && RigaInMano() && SezioneMia() &&
            SullaSezioneInUso([this](ConMomenti auto& section) { section.NSd = kN_a_N(NumeroIn(TxtNsd)); });
 }
 

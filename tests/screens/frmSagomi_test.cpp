@@ -4,12 +4,16 @@
 #include "screens/frmSagomiL.h"
 #include "screens/frmSagomiU.h"
 #include "sections/Eurocod3.h"
+#include "sections/SezioneCorrente.h"
 #include "sections/SezioneGenerica.h"
 
 #include <QAction>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
+
+#include <memory>
+#include <utility>
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -458,6 +462,24 @@ TEST_F(FrmSagomiTest, BucklingOfAChannelGoesByCurveC) {
     EXPECT_EQ(Scritta(&d, "Lbl_betaA"), Locale("1.0"));
     EXPECT_NEAR(Numero(&d, "Lbl_NbRd_1"), U().NbzRd / 1000, 0.001);
     EXPECT_EQ(d.findChild<QLabel*>("Lbl_Lamda_2"), nullptr);
+}
+
+// A detail that stays beside the main screen of another kind hands nothing to the section of that one.
+TEST_F(FrmSagomiTest, WhatADetailIsGivenIsNotForASectionOfAnotherKind) {
+    auto& s = Canali();
+    VaA(s, "UPN 200");
+    Preme(&s, "LblNbRd");
+    Schermo& d = Aperto("FrmInstabSagomiU");
+    const auto other = std::make_shared<SezioneDoppioT>();
+    const RiferimentoSezione own = std::exchange(SezioneCorrente, other);
+    Scrive(&d, "TxtNsd", "100");
+    Scrive(&d, "Txt_L0_1", "3");
+    Scrive(&s, "TxtNsd", "200");
+    Scrive(&s, "Txt_L0_0", "4");
+    EXPECT_EQ(other->NSd, 0);
+    EXPECT_EQ(other->L0y, SezioneDoppioT().L0y);
+    EXPECT_EQ(other->L0z, SezioneDoppioT().L0z);
+    SezioneCorrente = own;
 }
 
 TEST_F(FrmSagomiTest, BucklingOfAnAngleHasAThirdColumn) {
