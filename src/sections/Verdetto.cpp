@@ -56,8 +56,10 @@ std::string MotivoGrandezze(double somma) {
 /// What moments add to an axial force that is too much alone. Where the force reduces their resistances these
 /// are gone, and so are the terms.
 double MomentiOltre(const TerminiInterazione& t) {
-    const double momenti = t.assialeNeiMomenti ? 0 : Grandezza(t.y) + Grandezza(t.z);
-    return std::isfinite(momenti) && momenti > 0 ? momenti : 0;
+    if (t.assialeNeiMomenti)
+        return 0;
+    const auto almenoZero = [](double termine) { return termine > 0 ? termine : 0; };
+    return almenoZero(Grandezza(t.y)) + almenoZero(Grandezza(t.z));
 }
 
 Verdetto Oltre(const TerminiInterazione& termini, double resistenza, const std::string& simbolo) {

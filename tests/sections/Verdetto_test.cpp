@@ -80,6 +80,12 @@ TEST(Verdetto, UtilisationGrowsWithTheForceAcrossItsResistance) {
     plastic.assialeNeiMomenti = true;
     plastic.y.MRd = 0; // nothing is left of it beside such a force
     EXPECT_EQ(Giudica(plastic, resistenze).utilizzo, 1.25);
+    TerminiInterazione none = Termini(750e3, 1, 0);
+    none.y.MRd = 0; // nothing bears the moment, before the resistance and behind it
+    EXPECT_GT(Giudica(none, resistenze).utilizzo, 1e300);
+    none.y.MSd = 0; // 0/0
+    none.z.MSd = 0.5;
+    EXPECT_EQ(Giudica(none, resistenze).utilizzo, 1.75);
 }
 
 TEST(Verdetto, PlasticTermsLeaveTheForceToTheMoments) {
