@@ -54,6 +54,14 @@ TEST_F(CopieTest, CtrlCWithNothingSelectedCopiesTheDerivation) {
     EXPECT_LT(data->text().indexOf("IPE 500"), data->text().indexOf("Mc,Rd y-y")) << "the head comes first";
 }
 
+TEST_F(CopieTest, AScreenThatShowsNothingLeavesTheClipboardAlone) {
+    Schermo empty(QStringLiteral("Vuoto"));
+    QApplication::clipboard()->setText("12");
+    QTest::keyClick(&empty, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keyClick(&empty, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "12");
+}
+
 TEST_F(CopieTest, WhatIsSelectedIsCopiedAlone) {
     Schermo& s = Momenti();
     auto* box = Trova<QLineEdit>(&s, "TxtNsd");

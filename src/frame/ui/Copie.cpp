@@ -15,6 +15,7 @@
 #include "frame/ui/EtichettaRisultato.h"
 #include "frame/ui/MenuCopie.h"
 #include "frame/ui/Protetto.h"
+#include "frame/ui/StanzaCopiata.h"
 
 namespace sagomi {
 
@@ -45,8 +46,8 @@ bool SceglieNumero(QObject* object) {
     const auto start = static_cast<int>(text.indexOf(number));
     const auto length = static_cast<int>(number.size());
     if (label != nullptr) {
-        if (!label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse))
-            return false;
+        if (qobject_cast<EtichettaRisultato*>(label) == nullptr)
+            return false; // of a sentence the word
         label->setSelection(start, length);
     } else {
         box->setSelection(start, length);
@@ -88,7 +89,10 @@ bool Copie::Tasto(QObject* object, const QKeyEvent& event) const {
     if (!all && (!const_cast<QKeyEvent&>(event).matches(QKeySequence::Copy) || QualcosaDiScelto(object)))
         return false;
     const auto* from = object == schermo_ ? schermo_->focusWidget() : qobject_cast<QWidget*>(object);
-    QApplication::clipboard()->setMimeData(StanzaCopiata(all ? *schermo_ : DaCopiare(from)));
+    const QWidget& what = all ? *schermo_ : DaCopiare(from);
+    if (TabellaDi(&what) == nullptr && RigheStanza(what).size() < 2)
+        return false; // heads alone are nothing to lose the clipboard for
+    QApplication::clipboard()->setMimeData(StanzaCopiata(what));
     return true;
 }
 

@@ -138,6 +138,8 @@ void StileCornici::DipingeGruppo(const QStyleOption& opzione, QPainter& pittore,
         untitled ? 0
                  : std::max(pixelMetric(PM_IndicatorHeight, &opzione, widget), opzione.fontMetrics.height());
     const QRect frame = opzione.rect.adjusted(0, title + sottoTitolo, 0, 0);
+    if (frame.width() < 2 || frame.height() < 2)
+        return;
     const QColor line = TraColori(opzione.palette.window().color(), opzione.palette.windowText().color());
     pittore.fillRect(frame.left() + 1, frame.top(), frame.width() - 2, 1, line);
     pittore.fillRect(frame.left() + 1, frame.bottom(), frame.width() - 2, 1, line);
