@@ -74,7 +74,8 @@ public:
 
     /// The reader has a row: there is something to compute.
     [[nodiscard]] bool RigaInMano() const;
-    /// Whether the section in use is of this screen's kind: what is typed here is not for that of another one.
+    /// Whether the section in use is of this screen's kind: what is typed here is not for that of another
+    /// one.
     [[nodiscard]] virtual bool SezioneMia() const = 0;
     /// The handlers of the screen do nothing.
     [[nodiscard]] bool Fermo() const { return CaricaForm || AggiungeSagomoUtente; }
