@@ -14,7 +14,7 @@ from pathlib import Path
 
 CLAUSE = re.compile(r"(?<![\w.,])((?:[1-9]\.\d{1,2}(?:\.\d{1,2})+)|(?:[FJ][. ]\d(?:\.\d)*))")
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
-CITED = re.compile(r"EC3|ENV|EN 1993|annesso J|appendice J|J\.\d")
+CITED = re.compile(r"EC3|ENV|EN 1993|appendice J|J\.\d")
 
 CLASSES = ["FrmClasseDoppioTU", "LblClasse"]
 BUCKLING = ["FrmInstabDoppioT", "frmSagomiU"]

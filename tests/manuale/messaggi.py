@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
 """messaggi.py SOURCES HELP...: every message that the program tells stands in the help with its cause and remedy.
+messaggi.py --detti SOURCES HELP...: each message as it may be told, and behind tabs the first cells that may explain it.
 
 Collects what the sources hand to the message port: the literals inside Avvisa, AvvisaSaltabile, Chiede and Dice, and
 those of the errors that are told by what(). The words of a message up to its first value must stand in the first cell
@@ -65,6 +66,36 @@ def words(literal):
     return " ".join(next((part for part in text.split("\n") if part.strip()), "").split())
 
 
+def spoken(inside):
+    """What a call tells, with a number in the place of each value; empty for what chooses between texts."""
+    text = "".join(inside.split("\n"))
+    if "?" in LITERAL.sub("", text):
+        return ""
+    told, end = "", None
+    for m in LITERAL.finditer(text):
+        between = "" if end is None else text[end:m.start()]
+        if m[1] in TITLES or "," in re.sub(r"\([^()]*\)", "", between):
+            break  # the next argument
+        told += ("" if not between.strip() else " 7 " if "+" in between else "") + m[1]
+        end = m.end()
+    if end is not None and text[end:].lstrip().startswith("+"):
+        told += " 7"
+    return " ".join(told.replace('\\"', '"').replace("\\r", " ").replace("\\n", " ").split())
+
+
+def tell(sources, known):
+    """Each message of one call, and the cells that begin as it does."""
+    for file in sorted(sources.rglob("*.cpp")):
+        text = re.sub(r"(?m)//[^\"\n]*$", "", file.read_text("utf-8"))
+        for call in CALLS.finditer(text):
+            inside = argument(text, call.end() - 1)
+            message = "" if declaration(inside) else spoken(inside)
+            first = words(LITERAL.search(inside)[1]) if message else ""
+            cells = [c for c in known if len(first) >= 8 and (first in c or begins(first, c))]
+            if cells:
+                print(message, *cells, sep="\t")
+
+
 def declaration(argument_text):
     return argument_text.strip() == "" or argument_text.lstrip().startswith(("std::string_view", "const std::string"))
 
@@ -116,6 +147,9 @@ def begins(text, cell):
 
 
 def main():
+    if sys.argv[1] == "--detti":
+        tell(Path(sys.argv[2]), entries("".join(Path(f).read_text("utf-8") for f in sys.argv[3:])))
+        return
     sources = Path(sys.argv[1])
     known = entries("".join(Path(f).read_text("utf-8") for f in sys.argv[2:]))
     told, unknown = collect(sources)
