@@ -248,7 +248,7 @@ void AggiungeVerdetti(Relazione& r, const Giunto& giunto, const std::string& lat
     const std::string quale = " del giunto " + lato;
     momento.verdetto = VerdettoRelazione{.verifica = "Momento resistente" + quale,
                                          .motivo = "non calcolato",
-                                         .norma = "ENV 1993-1-1 annesso J"};
+                                         .norma = "ENV 1993-1-1 appendice J"};
     if (v.presente) {
         VerdettoRelazione& m = *momento.verdetto;
         m.esito = v.resiste ? EsitoRelazione::Passa : EsitoRelazione::NonPassa;
@@ -313,7 +313,7 @@ void AggiungeGiunto(Passi& p, const Giunto& g, const std::string& lato) {
         Dato("Giunto " + lato + ", tensione di rottura dei bulloni", "f{ub}", Piano(g.fubl), "N/mm^{2}"));
     p.push_back(Dato("Giunto " + lato + ", anima della colonna", "", Irrigidimenti(g)));
     p.push_back(Dato("Giunto " + lato + ", taglio nel pannello d'anima", "β",
-                     g.Beta_Cautel ? "cautelativo" : "analitico", "", "ENV 1993-1-1 annesso J"));
+                     g.Beta_Cautel ? "cautelativo" : "analitico", "", "ENV 1993-1-1 appendice J"));
 }
 
 /// What was entered.
