@@ -1,8 +1,14 @@
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QTableView>
+#include <QTextBrowser>
+#include <QUrl>
 
+#include "frame/ui/FinestraGuida.h"
+#include "frame/ui/Guida.h"
 #include "frame/ui/IndiceGuida.h"
 #include "screens/Comandi.h"
 
@@ -51,6 +57,34 @@ TEST_F(GuidaSchermiTest, EveryControlOfEveryScreenHasItsTopic) {
     }
     EXPECT_GT(controls, 500);
     EXPECT_TRUE(main.isVisible());
+}
+
+/// Where the viewer stands after F1 in a window: file and place.
+QUrl DopoF1(const Schermo& screen) {
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    QApplication::sendEvent(&const_cast<Schermo&>(screen), &key);
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (const auto* viewer = qobject_cast<FinestraGuida*>(window))
+            return viewer->findChild<QTextBrowser*>()->source();
+    return {};
+}
+
+// The file in force is that of the window before, whose drawing is shown or whose report is asked for.
+TEST_F(GuidaSchermiTest, EveryWindowHasItsTopicWithEachFileInForce) {
+    Avvia();
+    Guida::Installa();
+    auto& n = NavigaSchermi::Unico();
+    for (const char* file : {"Sagomi.hlp", "GiuntoFlangiato.hlp"})
+        for (const VoceSchermo& voce : QList<VoceSchermo>(n.Tavola())) {
+            const Schermo& screen = n.Prende(voce.nome);
+            Guida::ImpostaFile(QLatin1String(file));
+            EXPECT_EQ(DopoF1(screen).fragment(), voce.nome) << file;
+        }
+    Guida::ImpostaFile(QStringLiteral("GiuntoFlangiato.hlp"));
+    EXPECT_TRUE(DopoF1(n.Prende(QStringLiteral("FrmPltSezione")))
+                    .toString()
+                    .endsWith(QStringLiteral("GiuntoFlangiato.hlp#FrmPltSezione")));
+    Guida::ImpostaFile({});
 }
 
 /// The topic that holds a place, with the parts below its heading.
