@@ -283,6 +283,9 @@ CapitoloRelazione CapitoloClassi(const SezioneSagomoL& s) {
                                  "(" + Piano(s.b) + " + " + Piano(s.h) + ") / 2" + sotto, s.SnellAla1,
                                  s.ClasseCompressione, " (limite della classe 3: 11,5)"));
     c.passi.push_back(Classe("Sezione compressa", s.ClasseCompressione));
+    for (PassoRelazione& p : c.passi) // an angle keeps its limits with a point
+        if (const std::size_t i = p.descrizione.find("11.5"); i != std::string::npos)
+            p.descrizione[i + 2] = ',';
     AdattaDecimali(c);
     return c;
 }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "Registratore.h"
+#include "frame/Ambiente.h"
 #include "frame/GeneraleSagomi.h"
 #include "report/CapitoliSagomo.h"
 #include "report/CapitoliStabilita.h"
@@ -179,6 +180,19 @@ TEST(RelazioneAngolare, AnAngleOfClass4IsDerived) {
     EXPECT_NEAR(std::stod(Passo(r, "ρ").valore), 0.7762, 1e-4);
     EXPECT_NEAR(std::stod(Passo(r, "N{pl,Rd}").valore), 1948 * l.betaA() * 0.235 / GammaM0, 0.01);
     ProvaNumeri(r);
+}
+
+TEST(RelazioneAngolare, LimitsFollowTheSeparator) {
+    const Registratore quiet;
+    const ConSeparatori italiani(',', '.');
+    SezioneSagomoL l;
+    l.fy = 235;
+    l.h = l.b = 100;
+    l.t = 9; // 11.1, class 3
+    l.Area = 1700, l.iY = l.Iz = 30, l.iV = 19.6;
+    l.InizializzaSezione();
+    const CapitoloRelazione c = CapitoloClassi(l);
+    EXPECT_EQ(c.passi[1].descrizione, "Lato lungo: classe 3 (limiti 10 - 11,5)");
 }
 
 class RelazioneCanaleTest : public testing::Test {
