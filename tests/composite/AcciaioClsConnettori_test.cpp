@@ -53,6 +53,14 @@ TEST_F(ConnettoriTest, PublishedStud) {
     EXPECT_EQ(t.MessaggioPioli, "");
 }
 
+// 0.8·450·(pi/4)/1.25
+TEST_F(ConnettoriTest, AThinStudIsOne) {
+    AcciaioCls t = Trave();
+    t.dPiolo = 1;
+    t.CalcolaPrd();
+    EXPECT_NEAR(t.PRd1, 226.195, 1e-3);
+}
+
 // alfa = 0.2 (h/d + 1): 0.8 at 3, 0.9 at 3.5, 1 from 4.
 TEST_F(ConnettoriTest, SlendernessOfTheStud) {
     AcciaioCls t = Trave();

@@ -9,6 +9,7 @@
 
 #include "Approvato.h"
 #include "TraveDiProva.h"
+#include "composite/DisegnoVivo.h"
 #include "composite/VerificaTrave.h"
 #include "drawing/Dxf.h"
 #include "drawing/SuperficieFinta.h"
@@ -90,6 +91,62 @@ TEST_F(DisegnoTraveTest, BeforeTheCalculationEverythingIsGrey) {
     EXPECT_TRUE(Ha(s, "300"));
     EXPECT_TRUE(Ha(s, "As = 800 mm2"));
     EXPECT_EQ(s.cerchi.size(), 6U); // bars 150 apart
+}
+
+TEST_F(DisegnoTraveTest, AtLeastTwoBarsWhereThereIsASlab) {
+    AcciaioCls t = Trave(solettaPiena, sluPositivo);
+    t.beff = 1;
+    t.InizializzaAcciaioCls();
+    EXPECT_EQ(Disegnata(t).cerchi.size(), 2U);
+    t.beff = 0;
+    t.InizializzaAcciaioCls();
+    EXPECT_TRUE(Disegnata(t).cerchi.empty());
+}
+
+TEST_F(DisegnoTraveTest, StressOfTheSmallestBars) {
+    AcciaioCls t = Trave(solettaPiena, metodoNPositivo);
+    t.As = 1;
+    ASSERT_TRUE(VerificaTrave(t).validi);
+    const auto testi = Disegnata(t).Testi();
+    EXPECT_TRUE(
+        std::any_of(testi.begin(), testi.end(), [](const auto& s) { return s.starts_with("barre "); }));
+}
+
+// Plates that leave a web between them, narrower than both flanges, and a strength.
+TEST_F(DisegnoTraveTest, MeasuresOfASection) {
+    AcciaioCls t = Trave(solettaPiena, sluPositivo);
+    t.InizializzaAcciaioCls();
+    const SezioneDoppioT buona = *t.Sezione;
+    const auto possibile = [&](auto cambia) {
+        *t.Sezione = buona;
+        cambia(*t.Sezione);
+        return SezionePossibile(t);
+    };
+    EXPECT_TRUE(possibile([](auto&) {}));
+    EXPECT_TRUE(possibile([](auto& s) { s.tw = 1; }));
+    EXPECT_FALSE(possibile([](auto& s) { s.tw = 0; }));
+    EXPECT_FALSE(possibile([](auto& s) { s.fy = 0; }));
+    EXPECT_FALSE(possibile([](auto& s) { s.tw = 150; }));
+    EXPECT_FALSE(possibile([](auto& s) { s.r = 140; })) << "2·11 + 2·140 is more than 300";
+    EXPECT_FALSE(possibile([](auto& s) { s.r = -1; }));
+}
+
+TEST_F(DisegnoTraveTest, ADeckAsHighAsTheSlabLeavesTheSteelAlone) {
+    AcciaioCls t = Trave(nervatureTrasversali, sluPositivo);
+    t.InizializzaAcciaioCls();
+    const auto testi = [](const Disegno& d) {
+        SuperficieFinta s(d.misura.larghezza, d.misura.altezza);
+        const SuUscita uscita(&s);
+        d.PlottaInOggetto(&s, "frmAcciaioCls");
+        return s.Testi();
+    };
+    const auto armata = [](const std::vector<std::string>& scritte) {
+        return std::find(scritte.begin(), scritte.end(), "As = 800 mm2") != scritte.end();
+    };
+    EXPECT_TRUE(armata(testi(DisegnoVivo(t))));
+    t.hc = t.ha;
+    EXPECT_FALSE(armata(testi(DisegnoVivo(t))));
+    EXPECT_EQ(DisegnoVivo(t).minima.altezza, 160) << "what a small window leaves";
 }
 
 // Fa = 1232810, fsd As = 299130: 14.167·1000·x of concrete, 65.91 from the top.

@@ -228,6 +228,8 @@ TEST_F(PlasticoTest, ResidualByKindOfCheck) {
     EXPECT_EQ(t.yEquazione(120), t.EquazioneElastica(120));
     AcciaioCls u = Trave(500, 80, 100);
     EXPECT_EQ(u.yEquazione(120), u.EquazioneElastica(120));
+    AcciaioCls v = Trave(500, 0.5, 100);
+    EXPECT_EQ(v.yEquazione(120), v.EquazioneElastica(120));
     // All of the section below the level: bars and steel, nothing compressed.
     EXPECT_NEAR(t.EquazionePlastica(300), 0, 1e9);
     t.TipoVerifica = sluPositivo;

@@ -57,6 +57,13 @@ TEST_F(AcciaioClsTest, EffectiveAreaOfAnotherSteelIsForgotten) {
     EXPECT_NEAR(changed->NplRd, (2 * 200 * 12 + 576 * 8) * 50, 1);
 }
 
+// The same web at 355 N/mm2: lambda = 72 / (28.4·0.81362·2) = 1.55799, rho = 0.55122; 0.44878·576·8 = 2068 of
+// 9408 mm2 go, but for the thread that holds the halves.
+TEST_F(AcciaioClsTest, EffectiveAreaCountsAtTheFirstPreparation) {
+    const auto s = InUso(355, 600, 200, 8, 12);
+    EXPECT_NEAR(s->NplRd, (9408 - 2068) * 355.0, 0.002 * 2605.7e3);
+}
+
 TEST_F(AcciaioClsTest, SolidSlabHasSixVertices) {
     AcciaioCls t = Piena(120);
     ASSERT_TRUE(t.InizializzaAcciaioCls());
@@ -127,6 +134,10 @@ TEST_F(AcciaioClsTest, StepCutOnASlope) {
     t.beff = 330; // 10 of 25 down
     t.CoordinateGrecata(xs, ys);
     EXPECT_EQ(ys.back(), 33);
+    t.beff = 100;
+    t.ha = 1;
+    t.CoordinateGrecata(xs, ys);
+    EXPECT_DOUBLE_EQ(ys.back(), 0.4);
 }
 
 TEST_F(AcciaioClsTest, NarrowWidthEndsAtTheFirstStep) {
@@ -251,9 +262,12 @@ TEST_F(AcciaioClsTest, DataThatLeadNowhereEnd) {
     t.iNervature = -20;
     t.CoordinateGrecata(xs, ys);
     EXPECT_EQ(xs.back(), 500);
+    EXPECT_EQ(ys.back(), 0);
     t = Grecata(nervatureParallele);
     t.bb = t.bs = 0;
     t.iNervature = 1e-9;
+    t.CoordinateGrecata(xs, ys);
+    EXPECT_EQ(xs.size(), 8001U) << "four times as many, and two, are counted in 16 bits";
     EXPECT_TRUE(t.InizializzaAcciaioCls());
     EXPECT_GT(t.nVerticiSoletta, 0);
     EXPECT_EQ(t.Soletta->nVertici(), t.nVerticiSoletta);

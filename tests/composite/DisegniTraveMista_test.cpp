@@ -69,6 +69,14 @@ TEST_F(DisegniTraveMistaTest, WhyThereIsNoDeck) {
     t.ha = 0;
     EXPECT_EQ(detto(t), Elenco{"dati della lamiera incompleti"});
     EXPECT_EQ(detto(AcciaioCls()), Elenco{"soletta piena"});
+    t = Trave(nervatureParallele);
+    t.bb = t.bs = 0;
+    EXPECT_EQ(detto(t), Elenco{"dati della lamiera incompleti"});
+    t.bs = 90; // ribs that end in an edge are ribs
+    EXPECT_EQ(detto(t), (Elenco{"b0t 80", "bb 0", "bs 90", "ha 55", "hc 120", "i 200"}));
+    t = Trave(nervatureTrasversali);
+    t.b0t = 0; // of ribs along the beam alone
+    EXPECT_EQ(detto(t), (Elenco{"bb 60", "bs 90", "ha 55", "hc 120", "i 200"}));
 }
 
 TEST_F(DisegniTraveMistaTest, StudsAtTheirSpacing) {
@@ -81,6 +89,25 @@ TEST_F(DisegniTraveMistaTest, StudsAtTheirSpacing) {
     EXPECT_EQ(Testi(s), Elenco{"n = 22, L = 8 m, passo 380 mm"});
     t.Nr = 2;
     EXPECT_EQ(Gambi(Su(DisegnoConnettori(t, 44))).size(), 44U); // 22 pairs
+}
+
+// From end to end without a spacing; one that is too large ends with the beam, half of one at its middle.
+TEST_F(DisegniTraveMistaTest, StudsStayOnTheBeam) {
+    AcciaioCls t = Trave(solettaPiena);
+    const auto tutta = Gambi(Su(DisegnoConnettori(t, 22)));
+    const double luce = tutta.back() - tutta.front();
+    const auto larghe = [&](double passo, int n) {
+        t.Passo = passo;
+        const auto x = Gambi(Su(DisegnoConnettori(t, n)));
+        return (x.back() - x.front()) / luce;
+    };
+    EXPECT_NEAR(larghe(0, 22), 1, 1e-6);
+    EXPECT_NEAR(larghe(0, 2), 1, 1e-6);
+    EXPECT_NEAR(larghe(500, 22), 1, 1e-6);
+    const int visibili = static_cast<int>(Gambi(Su(DisegnoConnettori(t, 30000))).size());
+    EXPECT_NEAR(larghe(4000.0 / (visibili - 1), visibili), 0.5, 1e-3);
+    t.Nr = 2;
+    EXPECT_EQ(Gambi(Su(DisegnoConnettori(t, 2))).size(), 2U) << "a single pair";
 }
 
 TEST_F(DisegniTraveMistaTest, MoreStudsThanCanBeSeen) {

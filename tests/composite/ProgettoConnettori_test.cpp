@@ -71,6 +71,8 @@ TEST_F(ProgettoConnettoriTest, LimitsOfTransverseRibs) {
     t.dPiolo = 22;
     t.ha = 86; // only the first is told
     Fermata(t, "Diametro dei connettori d > 20 mm !, EC4, # 6.3.3.2(1)");
+    t.dPiolo = 20.5;
+    Fermata(t, "Diametro dei connettori d > 20 mm !, EC4, # 6.3.3.2(1)");
     t.dPiolo = 20;
     Fermata(t, "Altezza lamiera hp > 85 mm ! EC4, # 6.3.3.2(1)");
     t.ha = 85;
@@ -149,6 +151,16 @@ TEST_F(ProgettoConnettoriTest, PartialConnectionInPairs) {
     EXPECT_EQ(ProgettaConnettori(t, true).n, 0);
 }
 
+// 12 of the 20 studs of full connection: from 200 six tenths of the way to 400.
+TEST_F(ProgettoConnettoriTest, FewerStudsGiveAShareOfTheMoment) {
+    AcciaioCls t = Trave();
+    t.nConnCalc = 10;
+    EXPECT_DOUBLE_EQ(ConParziale(t, 12).grado, 0.6);
+    EXPECT_DOUBLE_EQ(ConParziale(t, 12).MRd, 320e6);
+    EXPECT_EQ(ConParziale(t, 26).grado, 1);
+    EXPECT_EQ(ConParziale(t, 26).MRd, 400e6);
+}
+
 TEST_F(ProgettoConnettoriTest, CountOfPairs) {
     EXPECT_EQ(ParzRipCoppie(28, 400, 300, 200), 14);
     EXPECT_EQ(ParzRipCoppie(28, 400, -300, 200), 14);
@@ -187,6 +199,12 @@ TEST_F(ProgettoConnettoriTest, NoAdviceWhereRibsAreEnough) {
     const double PRd = *ProgettaConnettori(t, false).PRd;
     t.Vl = 20 * PRd * 0.999; // 40 studs are 205 mm apart
     EXPECT_EQ(ProgettaConnettori(t, false).nervatureDoppie, 0);
+    t = Trave();
+    t.Nr = 2;
+    t.Vl = 20 * PRd; // pairs at 0.8: 50 studs, 16000/49 = 326 mm apart, a pair in each rib
+    EXPECT_EQ(ProgettaConnettori(t, false).n, 50);
+    EXPECT_EQ(ProgettaConnettori(t, false).nervature, 1);
+    EXPECT_EQ(ProgettaConnettori(t, false).messaggio, "");
     t = Trave(nervatureParallele);
     t.Vl = 40 * PRd;
     EXPECT_EQ(ProgettaConnettori(t, false).nervatureDoppie, 0); // along the beam ribs are no limit
