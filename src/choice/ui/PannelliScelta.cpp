@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 
 #include "catalogue/Famiglie.h"
+#include "choice/StampaScelta.h"
 #include "frame/Unita.h"
 #include "frame/ui/Campi.h"
 #include "frame/ui/Casella.h"
@@ -22,11 +23,6 @@ constexpr QMargins margini(7, 4, 7, 7);
 constexpr int fraRighe = 4;
 constexpr int fraColonne = 5;
 constexpr int righeMembratura = 4;
-
-constexpr const char* aiutiDiagramma[] = {
-    "Momenti di estremità dello stesso segno",           "Momenti di estremità di segno opposto",
-    "Momenti di estremità contro un carico distribuito", "Momenti di estremità contro un carico concentrato",
-    "Momenti di estremità con un carico distribuito",    "Momenti di estremità con un carico concentrato"};
 
 QString Testo(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -95,8 +91,9 @@ QWidget* PannelloForze::CreaDiagrammi() {
         auto* picture = new PulsanteDiagramma(pictures);
         picture->setObjectName(QStringLiteral("Picture1_%1").arg(i));
         picture->ImpostaPict(i);
-        picture->setToolTip(QString::fromUtf8(aiutiDiagramma[i - 1]));
-        picture->setAccessibleName(QString::fromUtf8(aiutiDiagramma[i - 1]));
+        const QString name = Testo(NomeDiagramma(static_cast<std::int16_t>(i)));
+        picture->setToolTip(name);
+        picture->setAccessibleName(name);
         group->addButton(picture);
         grid->addWidget(picture, (i - 1) / 3, (i - 1) % 3);
         pulsanti_ << picture;

@@ -4,10 +4,13 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 
+#include <algorithm>
+
 #include "frame/FileDati.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Messaggi.h"
 #include "frame/MotivoFile.h"
+#include "frame/ui/Protetto.h"
 
 namespace sagomi {
 
@@ -33,6 +36,26 @@ QStringList FiltriQt(const QString& filter) {
     return result;
 }
 
+/// What a name without an ending gets: the one of the type that is chosen, of "all files" that of the last.
+QString SuffissoDi(const QString& filter, qsizetype chosen) {
+    const QString suffix = filter.section(u'|', 2 * chosen + 1, 2 * chosen + 1).section(u'.', -1);
+    return suffix == u'*' ? filter.section(u'.', -1) : suffix;
+}
+
+/// The dialog names a type with or without its patterns.
+qsizetype TipoDi(const QStringList& filters, const QString& name) {
+    const auto at = std::ranges::find_if(
+        filters, [&name](const QString& f) { return f == name || f.startsWith(name + QLatin1String(" (")); });
+    return at - filters.begin();
+}
+
+void SegueTipo(QFileDialog& dialog, const QString& filter, const QStringList& filters, int index) {
+    dialog.setDefaultSuffix(SuffissoDi(filter, index - 1));
+    Collega(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog, filter, filters](const QString& name) {
+        dialog.setDefaultSuffix(SuffissoDi(filter, TipoDi(filters, name)));
+    });
+}
+
 QString SceglieColDialogo(QWidget* parent, std::string_view mode, const QString& filter, int index,
                           const QString& proposal) {
     QFileDialog dialog(parent);
@@ -49,7 +72,7 @@ QString SceglieColDialogo(QWidget* parent, std::string_view mode, const QString&
     if (!proposal.contains(u'*'))
         dialog.selectFile(proposal);
     if (!open)
-        dialog.setDefaultSuffix(filter.section(u'.', -1));
+        SegueTipo(dialog, filter, filters, index);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

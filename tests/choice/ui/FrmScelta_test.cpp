@@ -1,15 +1,23 @@
 #include "choice/ui/FrmScelta.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFile>
+#include <QFileDialog>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QPrinter>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -500,6 +508,28 @@ TEST_F(FrmSceltaTest, TheTableIsCopiedAndExported) {
     const QString text = QString::fromUtf8(written.readAll());
     EXPECT_EQ(text.count(u'\n'), s.Modello()->rowCount() + 1);
     EXPECT_TRUE(text.contains(NomeInMano(s)));
+}
+
+// The dialog itself: a name without an ending, the type of programs.
+TEST_F(FrmSceltaTest, AnExportHasTheEndingAndTheFormatOfTheTypeThatIsChosen) {
+    FrmScelta& s = Apre();
+    const QString name = QString::fromStdString((PathProgramma / "vecchia").string());
+    QStringList types;
+    QTimer::singleShot(0, &s, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        auto* type = dialog->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+        for (int i = 0; i < type->count(); ++i)
+            types << type->itemText(i);
+        QTest::keyClick(type, Qt::Key_Down);
+        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
+        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    });
+    Preme(&s, "CmdEsporta");
+    EXPECT_EQ(types, (QStringList{"CSV (*.csv)", "JSON (*.json)", "Testo (*.txt)"}));
+    QFile written(name + QStringLiteral(".json"));
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(QJsonDocument::fromJson(written.readAll()).object().contains("righe"));
 }
 
 TEST_F(FrmSceltaTest, AnExportThatCannotBeWrittenIsToldAndTheTableStays) {
