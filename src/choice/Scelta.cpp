@@ -95,7 +95,7 @@ void Accoglie(RigaScelta& riga, VerificaScelta verifica, double RigaScelta::*val
     riga.verificato = riga.verificato && v.utilizzo <= 1;
     if (std::isnan(v.utilizzo)) {
         if (riga.motivo.empty())
-            riga.motivo = "La verifica a " + std::string(NomeVerifica(verifica)) + " non ha un verdetto";
+            riga.motivo = MotivoSenzaVerdetto(verifica);
     } else if (std::isnan(riga.massimo) || v.utilizzo > riga.massimo) {
         riga.massimo = v.utilizzo;
         riga.governa = verifica;
@@ -162,7 +162,7 @@ void Calcola(SezioneDoppioT& s, const Richiesta& r, RigaScelta& riga) {
 void VerificaAssiale(const Richiesta& r, double NbRd, RigaScelta& riga) {
     if (HaMomenti(r)) {
         riga.verificato = false;
-        riga.motivo = "La flessione di canali e angolari non ha una verifica";
+        riga.motivo = motivoFlessione;
         return;
     }
     const TermineMomento nessuno{.MRd = 1};
@@ -260,6 +260,10 @@ std::string_view NomeVerifica(VerificaScelta verifica) {
 
 std::optional<double> LunghezzaSvergolamento(const Richiesta& r) {
     return r.LLT ? r.LLT : r.L0z > 0 ? std::optional(r.L0z) : std::nullopt;
+}
+
+std::string MotivoSenzaVerdetto(VerificaScelta verifica) {
+    return "La verifica a " + std::string(NomeVerifica(verifica)) + " non ha un verdetto";
 }
 
 bool SenzaAzioni(const Richiesta& richiesta) { return richiesta.NSd == 0 && !HaMomenti(richiesta); }

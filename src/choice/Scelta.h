@@ -62,6 +62,12 @@ enum class VerificaScelta : std::uint8_t { Nessuna, Sezione, Membratura, Svergol
 /// "sezione", "membratura", "svergolamento"; for Nessuna empty.
 std::string_view NomeVerifica(VerificaScelta verifica);
 
+/// What a row says of bending that its kind is not checked for.
+inline constexpr std::string_view motivoFlessione = "La flessione di canali e angolari non ha una verifica";
+
+/// What a row says of a check without a number.
+std::string MotivoSenzaVerdetto(VerificaScelta verifica);
+
 /// A row with its resistances [N, N mm] and checks; what its kind does not have is no number.
 struct RigaScelta {
     static constexpr double nessuno = std::numeric_limits<double>::quiet_NaN();

@@ -61,6 +61,22 @@ const std::string& TestoDi(const SagomoInGara& sagomo, int colonna) {
     return colonna == colonnaNome ? sagomo.Designazione() : sagomo.famiglia;
 }
 
+/// There is no number that tells whether the row holds.
+bool SenzaNumero(const RigaScelta& riga) {
+    return std::isnan(riga.massimo) || (!riga.verificato && riga.massimo <= 1);
+}
+
+/// The reason as short as the column needs it.
+std::string MotivoBreve(const std::string& motivo) {
+    if (motivo == motivoFlessione)
+        return "flessione senza verifica";
+    for (const VerificaScelta v :
+         {VerificaScelta::Sezione, VerificaScelta::Membratura, VerificaScelta::Svergolamento})
+        if (motivo == MotivoSenzaVerdetto(v))
+            return std::string(NomeVerifica(v)) + " senza verdetto";
+    return motivo.empty() ? "-" : motivo;
+}
+
 } // namespace
 
 const std::vector<ColonnaScelta>& ColonneScelta() {
@@ -102,8 +118,8 @@ int ColonnaUtilizzo() { return static_cast<int>(ColonneScelta().size()) - 1; }
 std::string TestoUtilizzo(const RigaScelta& riga) {
     if (riga.SenzaVerdetto())
         return {};
-    if (std::isnan(riga.massimo) || (!riga.verificato && riga.massimo <= 1)) // a check has no verdict
-        return riga.motivo.empty() ? "-" : riga.motivo;
+    if (SenzaNumero(riga))
+        return MotivoBreve(riga.motivo);
     constexpr double troppo = 99.99; // beyond it the number says no more
     std::string testo =
         riga.massimo > troppo ? "> " + Formato("#,##0", troppo * 100) : Formato("0", riga.massimo * 100);
@@ -130,7 +146,7 @@ std::string TestoInteroScelta(const RigaScelta& riga, const SagomoInGara& sagomo
     if (colonna <= colonnaFamiglia)
         return TestoDi(sagomo, colonna);
     if (colonna == ColonnaUtilizzo())
-        return TestoUtilizzo(riga);
+        return SenzaNumero(riga) && !riga.motivo.empty() ? riga.motivo : TestoUtilizzo(riga);
     const double valore = ColonneScelta()[static_cast<std::size_t>(colonna)].valore(riga);
     return std::isfinite(valore) ? TestoPiano(valore) : std::string();
 }

@@ -33,11 +33,11 @@ int ColonnaUtilizzo();
 /// A field as it is shown; what is no number is empty.
 std::string TestoScelta(const RigaScelta& riga, const SagomoInGara& sagomo, int colonna);
 
-/// "OK  92 %  svergolamento"; without a verdict the reason why there is none, or a dash; so too where the
-/// numbers of the others hold. Empty where nothing acts.
+/// "OK  92 %  svergolamento"; without a verdict the reason why there is none in a few words, or a dash; so
+/// too where the numbers of the others hold. Empty where nothing acts.
 std::string TestoUtilizzo(const RigaScelta& riga);
 
-/// The same field with all its figures.
+/// The same field with all its figures, a reason in full.
 std::string TestoInteroScelta(const RigaScelta& riga, const SagomoInGara& sagomo, int colonna);
 
 /// How the rows are sorted.

@@ -73,6 +73,16 @@ TEST_F(TabellaSceltaTest, AUtilisationHasItsVerdictAndWhatGoverns) {
     EXPECT_EQ(TestoUtilizzo(none), "NO  150 %  svergolamento");
 }
 
+TEST_F(TabellaSceltaTest, AReasonIsShortInTheColumnAndWholeInACopy) {
+    RigaScelta channel = Riga(1, RigaScelta::nessuno, false);
+    channel.motivo = "La flessione di canali e angolari non ha una verifica";
+    EXPECT_EQ(TestoUtilizzo(channel), "flessione senza verifica");
+    EXPECT_EQ(TestoInteroScelta(channel, sagomi[0], ColonnaUtilizzo()), channel.motivo);
+    channel.motivo = "La verifica a membratura non ha un verdetto";
+    EXPECT_EQ(TestoUtilizzo(channel), "membratura senza verdetto");
+    EXPECT_EQ(TestoInteroScelta(channel, sagomi[0], ColonnaUtilizzo()), channel.motivo);
+}
+
 // 10,000 places with many equal numbers and some that are none: three runs, merged in pieces.
 TEST_F(TabellaSceltaTest, SortedInPiecesTheOrderIsTheSame) {
     constexpr std::uint32_t n = 10000;
