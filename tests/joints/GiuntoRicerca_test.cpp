@@ -373,6 +373,24 @@ TEST_F(Ricerca, UnLimiteSmisuratoNonSiCerca) {
     g().L_max = 1e30;
     EXPECT_FALSE(n.EsegueCalcolo(&o));
     EXPECT_EQ(o.candidati, 0);
+    g().L_max = 150;
+    n.Colonnainf->b = 1e30;
+    o.ferma = 1;
+    EXPECT_FALSE(n.EsegueCalcolo(&o));
+    EXPECT_EQ(o.candidati, 0);
+}
+
+// Flange of the column 19, plate, washer 3, half of nut 15.8 and head 11.5 of M18.
+TEST_F(Ricerca, LunghezzaDelGambo) {
+    int visti = 0;
+    o.adOgnuno = [&](const Giunto& c) {
+        if (c.IndiceBullone() != 6)
+            return;
+        ++visti;
+        EXPECT_NEAR(c.lb, 19 + c.tf + 3 + 13.65, 1e-5);
+    };
+    ASSERT_TRUE(n.EsegueCalcolo(&o));
+    EXPECT_GT(visti, 0);
 }
 
 // A plate of 10 mm has no room for a hole: there is no candidate that would ask.

@@ -271,6 +271,15 @@ TEST_F(LimitiFlangia, PrimoDatoCheManca) {
     EXPECT_EQ(PrimoZero(g), "");
 }
 
+// As near to one edge as to the other, it is that of the plate.
+TEST_F(LimitiFlangia, ForoVicinoAiDueBordi) {
+    g.bf = colonna->b;
+    g.ef = 5;
+    std::string consiglio;
+    EXPECT_TRUE(ef_Controlla(g, consiglio));
+    EXPECT_THAT(Detto(), HasSubstr("esterno alla flangia"));
+}
+
 TEST_F(LimitiFlangia, SenzaSezioni) {
     Giunto vuoto;
     vuoto.ef = 30;
