@@ -159,6 +159,7 @@ void AggiungeParziale(CapitoloRelazione& c, const AcciaioCls& t, const EsitoConn
                        .valore = std::to_string(*esito.n),
                        .norma = parziale});
     AggiungePasso(c.passi, esito, "n{p}");
+    c.note.emplace_back("Il grado minimo di connessione non è verificato (ENV 1994-1-1 6.1.2).");
     c.passi.push_back({.descrizione = "Grado di connessione",
                        .simbolo = "η",
                        .formula = "(n{p} / 2) / n{f} ≤ 1",

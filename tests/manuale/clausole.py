@@ -52,6 +52,7 @@ TOPICS = {
     "joints/ui/PaginaProgetto": ["J:pagProgetto"],
     "report/Capitoli": ALL,
     "report/CapitoloConnettori": ["frmConnettori"],
+    "report/CapitoloEfficace": ALL + ["frmSagomiU"],
     "report/PassiSagomo": ALL,
     "report/RelazioneCollegamenti": ["frmBulloni", "frmSaldature"],
     "report/RelazioneNodo": JOINT,
