@@ -208,17 +208,45 @@ private:
             return;
         const std::string testo = Formato("#,##0", static_cast<double>(fuori)) +
                                   (fuori == 1 ? " sagomo fuori dal grafico" : " sagomi fuori dal grafico");
-        q_.Testo({s_.campo.Destra(), s_.campo.alto}, testo, Allinea::Destra, Posa::Alto);
+        double destra = s_.campo.Destra();
+        if (d_.scelto && !s_.Dentro(d_.punti[*d_.scelto])) { // its ring may stand there
+            const PuntoQuadro anello = Anello(d_.punti[*d_.scelto]);
+            if (anello.y - Raggio() < s_.campo.alto + riga_ &&
+                anello.x + Raggio() > destra - q_.LarghezzaTesto(testo))
+                destra = anello.x - Raggio() - 0.3 * riga_;
+        }
+        q_.Testo({destra, s_.campo.alto}, testo, Allinea::Destra, Posa::Alto);
+    }
+
+    [[nodiscard]] double Raggio() const { return 2.4 * lato * riga_; }
+    /// Of the arrow at the ring of a mark that lies outside.
+    [[nodiscard]] double Freccia() const { return 0.6 * riga_; }
+
+    /// Where the ring of a mark stands: round it, or, of one that lies outside, at the edge.
+    [[nodiscard]] PuntoQuadro Anello(const PuntoGrafico& p) const {
+        const double bordo = Raggio() + Freccia();
+        const PuntoQuadro vero = s_.In(p.g, p.u);
+        return {p.g > s_.gMassimo ? s_.campo.Destra() - bordo : vero.x,
+                p.u > s_.uMassimo ? s_.campo.alto + bordo : vero.y};
+    }
+
+    /// Towards a mark that lies outside.
+    void FrecciaFuori(const PuntoGrafico& p, PuntoQuadro anello) const {
+        PuntoQuadro verso{p.g > s_.gMassimo ? 1.0 : 0.0, p.u > s_.uMassimo ? -1.0 : 0.0};
+        verso = verso * (1 / std::hypot(verso.x, verso.y));
+        Quadro::Punta(anello + verso * (Raggio() + Freccia()), verso, Freccia(), Freccia() / 2);
     }
 
     void Scelto() const {
-        if (!d_.scelto || !s_.Dentro(d_.punti[*d_.scelto]))
+        if (!d_.scelto)
             return;
         const PuntoGrafico& p = d_.punti[*d_.scelto];
-        const PuntoQuadro dove = s_.In(p.g, p.u);
-        const double raggio = 2.4 * lato * riga_;
+        const PuntoQuadro dove = Anello(p);
+        const double raggio = Raggio();
         q_.Contorno();
         Quadro::Cerchio(dove, raggio);
+        if (!s_.Dentro(p))
+            FrecciaFuori(p, dove);
         // Below and left of a mark of the front there is nothing: the name hides no other mark.
         const double largo = q_.LarghezzaTesto(d_.nomeScelto);
         const double sotto = dove.y + raggio + 0.6 * riga_;

@@ -25,10 +25,11 @@ struct PuntoGrafico {
 /// What the chart shows.
 struct DatiGrafico {
     std::vector<PuntoGrafico> punti;
-    std::vector<std::string> famiglie;   ///< those that have a mark
-    std::vector<std::uint32_t> fronte;   ///< of `punti`: each utilised less than all lighter ones that hold
-    std::vector<std::uint32_t> leggeri;  ///< of `punti`: the lightest that holds of each family
-    std::optional<std::uint32_t> scelto; ///< of `punti`: the row in hand
+    std::vector<std::string> famiglie;  ///< those that have a mark
+    std::vector<std::uint32_t> fronte;  ///< of `punti`: each utilised less than all lighter ones that hold
+    std::vector<std::uint32_t> leggeri; ///< of `punti`: the lightest that holds of each family
+    std::optional<std::uint32_t>
+        scelto; ///< of `punti`: the row in hand; outside of the axes it is shown at their edge
     std::string nomeScelto;
     std::string avviso; ///< what is written between the axes where there are no marks
 };

@@ -68,7 +68,7 @@ std::vector<std::string> Voci(const Valori& v, std::initializer_list<std::string
 
 std::vector<std::string> Membratura(const Richiesta& r, const Valori& v) {
     std::vector<std::string> voci = Voci(v, {"L0y", "L0z", "L0v"});
-    if (!r.LLT && !(r.L0z > 0)) {
+    if (!LunghezzaSvergolamento(r)) {
         voci.emplace_back("svergolamento senza lunghezza");
         return voci;
     }

@@ -104,6 +104,20 @@ TEST(GraficoSceltaTest, ItIsDrawnWithNamesAndTheLimit) {
     EXPECT_FALSE(Svg(DisegnoGrafico(std::make_shared<DatiGrafico>())).empty());
 }
 
+// 900 kg/m lies beyond the axis of 120, 300 % beyond that of 150.
+TEST(GraficoSceltaTest, ARowInHandOutsideOfTheAxesIsShownAtTheirEdge) {
+    DatiGrafico d = Dati();
+    d.punti.push_back({25, 3, 0, false, 12});
+    const std::string without = Svg(DisegnoGrafico(std::make_shared<DatiGrafico>(d)));
+    d.nomeScelto = "IN MANO";
+    for (const std::uint32_t outside : {4U, 5U}) {
+        d.scelto = outside;
+        const std::string svg = Svg(DisegnoGrafico(std::make_shared<DatiGrafico>(d)));
+        EXPECT_NE(svg.find("IN MANO"), std::string::npos) << outside;
+        EXPECT_GT(svg.size(), without.size()) << "ring, arrow and name";
+    }
+}
+
 // IPE 300: 150 x 300, 42.2 kg/m; HEA 200: 200 x 190, 42.3 kg/m.
 TEST(ConfrontoSceltaTest, ValuesAndDifferencesFromTheFirst) {
     RipristinaGenerale();

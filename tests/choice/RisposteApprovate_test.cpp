@@ -109,6 +109,15 @@ TEST_F(RisposteApprovate, Grafici) {
          {std::tuple{"largo", 900, 300}, {"alto", 420, 500}, {"piccolo", 260, 180}})
         Approvata(std::string("figure/grafico-") + nome + ".svg",
                   InSvg(DisegnoGrafico(std::make_shared<DatiGrafico>(Dati(12))), l, h, "FrmScelta"));
+    for (const auto& [nome, g, u] :
+         {std::tuple{"destra", 900.0, 0.3}, {"sopra", 60.0, 3.0}, {"angolo", 900.0, 3.0}}) {
+        DatiGrafico fuori = Dati(12);
+        fuori.punti.push_back({g, u, 0, u < 1, 99});
+        fuori.scelto = 12;
+        fuori.nomeScelto = "HL 1100";
+        Approvata(std::string("figure/grafico-fuori-") + nome + ".svg",
+                  InSvg(DisegnoGrafico(std::make_shared<DatiGrafico>(fuori)), 900, 300, "FrmScelta"));
+    }
     DatiGrafico vuoto;
     vuoto.avviso = "nessuna forza";
     Approvata("figure/grafico-vuoto.svg",

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "choice/ConfrontoScelta.h"
@@ -15,7 +16,8 @@ public:
     ConConfronto& operator=(const ConConfronto&) = delete;
 
     /// Shows these rows from now on.
-    virtual void Mostra(std::vector<Confrontato> righe) = 0;
+    /// @param note  what is to be said of them, beside the table
+    virtual void Mostra(std::vector<Confrontato> righe, const std::vector<std::string>& note) = 0;
 };
 
 } // namespace sagomi

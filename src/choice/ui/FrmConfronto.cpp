@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
 
@@ -34,7 +35,7 @@ FrmConfronto::FrmConfronto() : Schermo(QStringLiteral("FrmConfronto")) {
     Compone();
     PreparaContenuto();
     Collega(copia_, &QPushButton::clicked, this, [this] { Copia(); });
-    FrmConfronto::Mostra({});
+    FrmConfronto::Mostra({}, {});
     constexpr QSize misura(1150, 640);
     DimensionaIniziale(misura);
 }
@@ -61,7 +62,11 @@ void FrmConfronto::Compone() {
     tabella_->horizontalHeader()->setHighlightSections(false);
     column->addWidget(tabella_, 3);
     auto* row = new QHBoxLayout;
-    row->addStretch(1);
+    note_ = new QLabel(room);
+    note_->setObjectName(QStringLiteral("LblNote"));
+    note_->setAccessibleName(tr("Note del confronto"));
+    note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // its text moves nothing
+    row->addWidget(note_, 1);
     copia_ = new QPushButton(tr("C&opia"), room);
     copia_->setObjectName(QStringLiteral("CmdCopia"));
     copia_->setToolTip(tr("Copia valori e differenze come tabella"));
@@ -70,8 +75,13 @@ void FrmConfronto::Compone() {
     setCentralWidget(room);
 }
 
-void FrmConfronto::Mostra(std::vector<Confrontato> righe) {
+void FrmConfronto::Mostra(std::vector<Confrontato> righe, const std::vector<std::string>& note) {
     righe_ = std::move(righe);
+    QStringList told;
+    for (const std::string& n : note)
+        told << QString::fromStdString(n).simplified();
+    note_->setText(told.join(QStringLiteral(" · ")));
+    note_->setToolTip(told.join(u'\n'));
     disegno_->Mostra(DisegnoConfronto(righe_));
     copia_->setEnabled(!righe_.empty());
     RiempieTabella();

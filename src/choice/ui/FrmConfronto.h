@@ -1,10 +1,12 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "choice/ui/ConConfronto.h"
 #include "frame/ui/Schermo.h"
 
+class QLabel;
 class QPushButton;
 class QTableWidget;
 
@@ -19,7 +21,7 @@ class FrmConfronto : public Schermo, public ConConfronto {
 public:
     FrmConfronto();
 
-    void Mostra(std::vector<Confrontato> righe) override;
+    void Mostra(std::vector<Confrontato> righe, const std::vector<std::string>& note) override;
 
 private:
     void Compone();
@@ -29,6 +31,7 @@ private:
     std::vector<Confrontato> righe_;
     ImmagineDisegno* disegno_ = nullptr;
     QTableWidget* tabella_ = nullptr;
+    QLabel* note_ = nullptr;
     QPushButton* copia_ = nullptr;
 };
 

@@ -446,6 +446,8 @@ void FrmScelta::AvanzaOrdine() {
     if (!inOrdine_.Avanza(altroPasso)) {
         avanzamento_->show();
         tabella_->viewport()->update();
+        modello_->SvuotaLeggeri();
+        MostraRiassunto(); // what stood there was of before
         passi_.start();
         return;
     }
@@ -458,6 +460,8 @@ void FrmScelta::AvanzaOrdine() {
     modello_->Mostra(std::move(places), std::move(lightest));
     Riseleziona(selected);
     MostraRiassunto();
+    if (!scelta_.Finita() || lettura_)
+        passi_.start(); // the rest waited for the order
 }
 
 // The rows have other places in the table now: what the user has selected are sections.

@@ -120,6 +120,7 @@ private:
     EntrateAcciaio acciaio_;
     std::array<double, 3> normativa_{};      ///< the code and its factors that were taken
     std::vector<std::uint32_t> confrontati_; ///< places of the rows that stand side by side
+    std::size_t scelti_ = 0;                 ///< rows that the user wanted side by side
     std::string nomeAcciaio_;
     QList<QString> visti_; ///< the caller's entries that were taken
     bool inRiempimento_ = false;

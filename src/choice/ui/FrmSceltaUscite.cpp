@@ -16,6 +16,7 @@
 #include "frame/FileAtomico.h"
 #include "frame/Messaggi.h"
 #include "frame/MotivoFile.h"
+#include "frame/Numeri.h"
 #include "frame/ui/FileDialogo.h"
 #include "frame/ui/NavigaSchermi.h"
 
@@ -39,6 +40,7 @@ void FrmScelta::Copia() { tabella_->Copia(); }
 // One row alone is held against the lightest of other families.
 void FrmScelta::Confronta() {
     std::vector<std::uint32_t> places = Selezionate();
+    scelti_ = places.size();
     if (places.size() < 2) {
         std::vector<std::uint32_t> others(modello_->Leggeri().begin(), modello_->Leggeri().end());
         std::ranges::sort(others, {}, [this](std::uint32_t p) { return std::pair(scelta_.Riga(p).g, p); });
@@ -55,11 +57,14 @@ void FrmScelta::Confronta() {
 void FrmScelta::MostraConfronto() {
     std::vector<Confrontato> rows;
     std::vector<std::string> told;
-    if (possibili_)
+    if (possibili_) {
+        if (scelti_ > massimoConfronto && !confrontati_.empty())
+            told.push_back("i primi quattro di " + Formato("#,##0", double(scelti_)));
         for (const std::uint32_t p : confrontati_)
             rows.push_back(
                 {scelta_.Sagomi()[p], Verifica(scelta_.Sagomi()[p], scelta_.RichiestaInForza(), told)});
-    NavigaSchermi::Unico().Prende<ConConfronto>(QStringLiteral("FrmConfronto")).Mostra(std::move(rows));
+    }
+    NavigaSchermi::Unico().Prende<ConConfronto>(QStringLiteral("FrmConfronto")).Mostra(std::move(rows), told);
 }
 
 // It may stand open while the entries change.

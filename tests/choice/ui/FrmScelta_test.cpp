@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPrinter>
@@ -44,6 +45,8 @@ using namespace sagomi;
 using namespace sagomi::prove;
 
 namespace {
+
+const QString nienteL = QStringLiteral("svergolamento non verificato: manca L o L0z");
 
 class FrmSceltaTest : public AmbienteSchermi {
 protected:
@@ -465,6 +468,36 @@ TEST_F(FrmSceltaTest, RowsStandSideBySide) {
     EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(NomeInMano(s)));
     EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->html().contains("<td>"));
     EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasImage());
+}
+
+TEST_F(FrmSceltaTest, OfALongerSelectionTheComparisonSaysWhatItShows) {
+    FrmScelta& s = Apre();
+    const auto select = [&s](int rows) {
+        auto* table = Trova<GrigliaCatalogo>(&s, "DBGrid1");
+        table->selectionModel()->select(
+            QItemSelection(s.Modello()->index(0, 0), s.Modello()->index(rows - 1, 0)),
+            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        Preme(&s, "CmdConfronta");
+        return Trova<QLabel>(&Aperto("FrmConfronto"), "LblNote")->text();
+    };
+    EXPECT_EQ(select(6), "i primi quattro di 6");
+    EXPECT_EQ(Trova<QTableWidget>(&Aperto("FrmConfronto"), "Tabella")->columnCount(), 8);
+    EXPECT_EQ(select(3), "");
+    Scrive(&s, "TxtM1_0", "30");
+    Scrive(&s, "Txt_L0_1", "");
+    EXPECT_EQ(Trova<QLabel>(&Aperto("FrmConfronto"), "LblNote")->text(), nienteL);
+}
+
+TEST_F(FrmSceltaTest, WithoutALengthTheStatusLineSaysThatLateralBucklingIsLeftOut) {
+    FrmScelta& s = Apre("", "5", "");
+    const auto told = [&s] { return Trova<QLabel>(&s, "LblBarra")->text(); };
+    EXPECT_FALSE(told().contains(nienteL));
+    Scrive(&s, "TxtM1_0", "30");
+    Finisce(s);
+    EXPECT_TRUE(told().contains(nienteL)) << told().toStdString();
+    Scrive(&s, "Txt_L", "3");
+    Finisce(s);
+    EXPECT_FALSE(told().contains(nienteL)) << told().toStdString();
 }
 
 TEST_F(FrmSceltaTest, RowsSideBySideFollowTheForces) {
