@@ -179,7 +179,7 @@ void AggiungeParziale(CapitoloRelazione& c, const AcciaioCls& t, const EsitoConn
 /// A design with what it tells as notes.
 EsitoConnettori Progetta(CapitoloRelazione& c, AcciaioCls& t, bool parz) {
     RaccoltaMessaggi raccolta;
-    const EsitoConnettori esito = ProgettaConnettori(t, parz);
+    EsitoConnettori esito = ProgettaConnettori(t, parz);
     for (const Messaggio& m : raccolta.raccolti)
         c.note.push_back(m.testo);
     raccolta.raccolti.clear();
