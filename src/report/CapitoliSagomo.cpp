@@ -332,12 +332,7 @@ CapitoloRelazione CapitoloClassi(const SezioneDoppioT& s) {
 
 CapitoloRelazione CapitoloResistenze(const SezioneDoppioT& s) {
     CapitoloRelazione c{.titolo = "Resistenza della sezione"};
-    const double betaA = s.betaA();
-    if (s.ClasseCompressione > 3)
-        c.passi.push_back(PassoBetaA(betaA));
-    c.passi.push_back(PassoNplRd(s.ClasseCompressione, betaA, s.Area, s.fy, s.NplRd));
-    c.passi.push_back(PassoMomento(true, s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}, s.fy, s.McyRd));
-    c.passi.push_back(PassoMomento(false, s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}, s.fy, s.MczRd));
+    AggiungeForzaEMomenti(c, s);
     c.passi.push_back(TaglioAnima(s));
     c.passi.push_back(TaglioAli(s));
     return c;

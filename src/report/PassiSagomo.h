@@ -38,6 +38,16 @@ struct ModuliAsse {
 /// leaves its place empty.
 PassoRelazione PassoMomento(bool y, int classe, const ModuliAsse& W, Singolo fy, double MRd);
 
+/// Adds the steps to the resistances to an axial force and to moments of a section that has both.
+template <typename S> void AggiungeForzaEMomenti(CapitoloRelazione& c, const S& s) {
+    const double betaA = s.betaA();
+    if (s.ClasseCompressione > 3)
+        c.passi.push_back(PassoBetaA(betaA));
+    c.passi.push_back(PassoNplRd(s.ClasseCompressione, betaA, s.Area, s.fy, s.NplRd));
+    c.passi.push_back(PassoMomento(true, s.ClasseFlessioneY, {s.Wply, s.Wely, s.WyEff}, s.fy, s.McyRd));
+    c.passi.push_back(PassoMomento(false, s.ClasseFlessioneZ, {s.Wplz, s.Welz, s.WzEff}, s.fy, s.MczRd));
+}
+
 /// Takes out the chapters that have nothing in them.
 Relazione SenzaCapitoliVuoti(Relazione r);
 
