@@ -25,22 +25,6 @@ class DisegnoTraveTest : public AmbienteTrave {
 protected:
     DisegnoTraveTest() { InUso(235, 300, 150, 7, 11); }
 
-    static AcciaioCls Trave(std::int16_t tipo, std::int16_t verifica, double hc = 120) {
-        AcciaioCls t;
-        t.TipoSoletta = tipo;
-        t.TipoVerifica = verifica;
-        t.hc = hc;
-        t.c = hc < 0 ? -40 : 30;
-        t.beff = 1000;
-        t.As = 800;
-        t.ha = 55;
-        t.bb = 60;
-        t.bs = 90;
-        t.iNervature = 200;
-        t.b0t = 80;
-        t.Msd = verifica == sluNegativo || verifica == metodoNNegativo ? -100e6 : 150e6;
-        return t;
-    }
     static SuperficieFinta Disegnata(const AcciaioCls& t) {
         SuperficieFinta s(800, 500);
         t.PlottaAcciaioCls(&s, "frmAcciaioCls", dispositivoVideo);
@@ -73,14 +57,14 @@ private:
 };
 
 TEST_F(DisegnoTraveTest, NothingBeforeTheSlab) {
-    const AcciaioCls t = Trave(solettaPiena, sluPositivo);
+    const AcciaioCls t = TraveDaDisegnare(solettaPiena, sluPositivo);
     const SuperficieFinta s = Disegnata(t);
     EXPECT_TRUE(s.linee.empty());
     EXPECT_TRUE(s.scritte.empty());
 }
 
 TEST_F(DisegnoTraveTest, BeforeTheCalculationEverythingIsGrey) {
-    AcciaioCls t = Trave(solettaPiena, sluPositivo);
+    AcciaioCls t = TraveDaDisegnare(solettaPiena, sluPositivo);
     t.InizializzaAcciaioCls();
     const SuperficieFinta s = Disegnata(t);
     EXPECT_EQ(Linee(s, 9) + Linee(s, 12), 0);
@@ -94,7 +78,7 @@ TEST_F(DisegnoTraveTest, BeforeTheCalculationEverythingIsGrey) {
 }
 
 TEST_F(DisegnoTraveTest, AtLeastTwoBarsWhereThereIsASlab) {
-    AcciaioCls t = Trave(solettaPiena, sluPositivo);
+    AcciaioCls t = TraveDaDisegnare(solettaPiena, sluPositivo);
     t.beff = 1;
     t.InizializzaAcciaioCls();
     EXPECT_EQ(Disegnata(t).cerchi.size(), 2U);
@@ -104,7 +88,7 @@ TEST_F(DisegnoTraveTest, AtLeastTwoBarsWhereThereIsASlab) {
 }
 
 TEST_F(DisegnoTraveTest, StressOfTheSmallestBars) {
-    AcciaioCls t = Trave(solettaPiena, metodoNPositivo);
+    AcciaioCls t = TraveDaDisegnare(solettaPiena, metodoNPositivo);
     t.As = 1;
     ASSERT_TRUE(VerificaTrave(t).validi);
     const auto testi = Disegnata(t).Testi();
@@ -114,7 +98,7 @@ TEST_F(DisegnoTraveTest, StressOfTheSmallestBars) {
 
 // Plates that leave a web between them, narrower than both flanges, and a strength.
 TEST_F(DisegnoTraveTest, MeasuresOfASection) {
-    AcciaioCls t = Trave(solettaPiena, sluPositivo);
+    AcciaioCls t = TraveDaDisegnare(solettaPiena, sluPositivo);
     t.InizializzaAcciaioCls();
     const SezioneDoppioT buona = *t.Sezione;
     const auto possibile = [&](auto cambia) {
@@ -132,7 +116,7 @@ TEST_F(DisegnoTraveTest, MeasuresOfASection) {
 }
 
 TEST_F(DisegnoTraveTest, ADeckAsHighAsTheSlabLeavesTheSteelAlone) {
-    AcciaioCls t = Trave(nervatureTrasversali, sluPositivo);
+    AcciaioCls t = TraveDaDisegnare(nervatureTrasversali, sluPositivo);
     t.InizializzaAcciaioCls();
     const auto testi = [](const Disegno& d) {
         SuperficieFinta s(d.misura.larghezza, d.misura.altezza);
@@ -151,7 +135,7 @@ TEST_F(DisegnoTraveTest, ADeckAsHighAsTheSlabLeavesTheSteelAlone) {
 
 // Fa = 1232810, fsd As = 299130: 14.167·1000·x of concrete, 65.91 from the top.
 TEST_F(DisegnoTraveTest, PlasticParts) {
-    AcciaioCls t = Trave(solettaPiena, sluPositivo);
+    AcciaioCls t = TraveDaDisegnare(solettaPiena, sluPositivo);
     ASSERT_TRUE(VerificaTrave(t).validi);
     const SuperficieFinta s = Disegnata(t);
     EXPECT_GT(Linee(s, 9), 10);  // steel in tension
@@ -168,7 +152,7 @@ TEST_F(DisegnoTraveTest, PlasticParts) {
 }
 
 TEST_F(DisegnoTraveTest, ElasticStresses) {
-    AcciaioCls t = Trave(solettaPiena, metodoNNegativo);
+    AcciaioCls t = TraveDaDisegnare(solettaPiena, metodoNNegativo);
     ASSERT_TRUE(VerificaTrave(t).validi);
     const SuperficieFinta s = Disegnata(t);
     const auto cifre = [](double v) {
@@ -182,7 +166,7 @@ TEST_F(DisegnoTraveTest, ElasticStresses) {
 }
 
 TEST_F(DisegnoTraveTest, TitleAndScale) {
-    AcciaioCls t = Trave(nervatureTrasversali, metodoNPositivo);
+    AcciaioCls t = TraveDaDisegnare(nervatureTrasversali, metodoNPositivo);
     ASSERT_TRUE(VerificaTrave(t).validi);
     SuperficieFinta s(277, 190); // an A4 sheet
     t.PlottaAcciaioCls(&s, "frmAcciaioCls", dispositivoStampante);
@@ -190,7 +174,7 @@ TEST_F(DisegnoTraveTest, TitleAndScale) {
 }
 
 TEST_F(DisegnoTraveTest, WhatIsNoNumberDrawsNothing) {
-    AcciaioCls t = Trave(solettaPiena, sluPositivo);
+    AcciaioCls t = TraveDaDisegnare(solettaPiena, sluPositivo);
     t.beff = std::numeric_limits<double>::infinity();
     t.InizializzaAcciaioCls();
     EXPECT_TRUE(Disegnata(t).linee.empty());
@@ -206,7 +190,7 @@ void PrintTo(const CasoDxf& c, std::ostream* os) { *os << c.nome; }
 class DisegnoTraveDxf : public DisegnoTraveTest, public testing::WithParamInterface<CasoDxf> {};
 
 TEST_P(DisegnoTraveDxf, IsTheApprovedFile) {
-    AcciaioCls t = Trave(GetParam().tipo, GetParam().verifica, GetParam().hc);
+    AcciaioCls t = TraveDaDisegnare(GetParam().tipo, GetParam().verifica, GetParam().hc);
     ASSERT_TRUE(VerificaTrave(t).validi);
     ConfrontaApprovato(std::string("composite/") + GetParam().nome + ".dxf", Dxf(t));
 }

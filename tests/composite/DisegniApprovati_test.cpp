@@ -17,21 +17,9 @@ protected:
     TraviApprovate() { InUso(235, 300, 150, 7, 11); }
 
     static AcciaioCls Trave(std::int16_t tipo, std::int16_t verifica, double hc = 120) {
-        AcciaioCls t;
-        t.TipoSoletta = tipo;
-        t.TipoVerifica = verifica;
-        t.hc = hc;
-        t.c = hc < 0 ? -40 : 30;
-        t.beff = 1000;
-        t.As = 800;
-        t.ha = 55;
-        t.bb = 60;
-        t.bs = 90;
-        t.iNervature = 200;
-        t.b0t = 80;
+        AcciaioCls t = TraveDaDisegnare(tipo, verifica, hc);
         t.Luce = 8;
         t.Passo = 8000.0 / 21;
-        t.Msd = verifica == sluNegativo || verifica == metodoNNegativo ? -100e6 : 150e6;
         return t;
     }
     static void Approvato(const std::string& nome, const std::string& svg) {
