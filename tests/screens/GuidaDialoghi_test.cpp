@@ -6,6 +6,7 @@
 #include <QWindow>
 
 #include <functional>
+#include <ostream>
 
 #include "drawing/ui/ScegliDispositivo.h"
 #include "frame/Messaggi.h"
@@ -81,6 +82,8 @@ struct Dialogo {
     const char* nome;
     const char* posto;
 };
+void PrintTo(const Dialogo& dialog, std::ostream* out) { *out << dialog.nome; } // the name of its test
+
 class GuidaSchermoModaleTest : public GuidaDialoghiTest, public testing::WithParamInterface<Dialogo> {};
 
 TEST_P(GuidaSchermoModaleTest, F1ExplainsItOverIt) {
