@@ -99,7 +99,7 @@ std::vector<DisposizioneViste> FoglioNodo::Disposizioni() const {
                                        {m.y2 - n.y1, laterale_.su + prospetto_.giu + sotto},
                                        {n.y2 - m.y1, prospetto_.su + laterale_.giu + sotto}}}};
     if (Schermo()) // one view over the other, however wide the room
-        d = {d[0], d[2]};
+        d.resize(1);
     for (DisposizioneViste& x : d) {
         x.larghezze.push_back({0, larghezzaTitoli_});
         for (Ingombro& i : x.larghezze)
@@ -122,7 +122,7 @@ void FoglioNodo::Colloca() {
     const double sotto = cima - larga(Alto(laterale_));
     const double destraP = larga(Largo(prospetto_)) + primaDeiTesti * a;
     dove_[0] = posto(laterale_, x, cima);
-    const std::size_t scelta = Schermo() ? 2 * tavola_->Scelta() : tavola_->Scelta();
+    const std::size_t scelta = tavola_->Scelta();
     switch (scelta) {
     case 0:
         dove_[1] = posto(prospetto_, x, sotto);

@@ -1,0 +1,135 @@
+// Where the parts of a drawing stand on many sheets, and what is drawn of a joint whose sizes are typed one
+// by one: tables that a person has looked at. The pictures of some of the cases stand in
+// DisegniApprovati_test.cpp.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string>
+
+#include "Approvato.h"
+#include "NodoDisegnato.h"
+#include "drawing/SuperficieFinta.h"
+#include "frame/Numeri.h"
+#include "joints/DisegnoNodo.h"
+#include "joints/FiguraGiunto.h"
+
+using namespace sagomi;
+using namespace sagomi::prove;
+
+namespace {
+
+std::string Cifra(double v) { return TestoPiano(std::round(v * 10) / 10 + 0.0); }
+
+/// Columns: the sheet, then a point of each view, the first line of the data and the first line over the
+/// views.
+class Collocazione {
+public:
+    explicit Collocazione(const SuperficieFinta& s) : s_(s) {}
+
+    [[nodiscard]] std::string Riga() const {
+        std::string riga = Testo("HE 200 B") + Testo("Colonna") + Testo("governa") + Testo("Quote in mm");
+        if (!s_.cerchi.empty())
+            riga += " foro " + Punto(s_.cerchi[0].x, s_.cerchi[0].y) + ' ' +
+                    Cifra(s_.InX(s_.cerchi[0].r) - s_.InX(0));
+        return riga;
+    }
+
+private:
+    [[nodiscard]] std::string Punto(double x, double y) const {
+        return Cifra(s_.InX(x)) + ' ' + Cifra(s_.InY(y));
+    }
+    [[nodiscard]] std::string Testo(const std::string& inizio) const {
+        const auto t = std::find_if(s_.scritte.begin(), s_.scritte.end(),
+                                    [&](const auto& x) { return x.testo.starts_with(inizio); });
+        if (t == s_.scritte.end())
+            return {};
+        return " " + t->testo + ' ' + Punto(t->x, t->y) + ' ' + Cifra(t->corpo) + ';';
+    }
+
+    const SuperficieFinta& s_;
+};
+
+const std::array<std::pair<const char*, std::int16_t>, 4> nodi{
+    {{"croce", nodoCroce}, {"croce senza colonna", nodoCroceSenzaColonna}, {"T", nodoT}, {"L", nodoL}}};
+
+// Sheets from upright to level ones, on paper and on the screen.
+TEST(TavoleDisegno, SheetsOfTheWorkshop) {
+    std::string tavola;
+    for (const auto& [nome, tipo] : nodi)
+        for (const std::string_view dispositivo : {dispositivoVideo, dispositivoStampante})
+            for (const double larga : {150.0, 190.0, 277.0, 400.0, 700.0, 1300.0})
+                for (const double alta : {140.0, 200.0, 277.0, 420.0, 800.0}) {
+                    SuperficieFinta s(larga, alta);
+                    const SuUscita uscita(&s, dispositivo);
+                    DisegnoNodo(NodoDisegnato(tipo, 2, larga < 300 ? "Si" : "No")).PlottaInOggetto(&s, "");
+                    tavola += std::string(nome) + ' ' + std::string(dispositivo) + ' ' + Cifra(larga) +
+                              " x " + Cifra(alta) + ':' + Collocazione(s).Riga() + '\n';
+                }
+    ConfrontaApprovato("joints/fogli.txt", tavola);
+}
+
+TEST(TavoleDisegno, PicturesBesideTheFigures) {
+    std::string tavola;
+    for (const auto& [nome, tipo] : nodi)
+        for (const bool sinistro : {false, true})
+            for (const double larga : {300.0, 480.0, 1100.0})
+                for (const double alta : {320.0, 600.0, 1000.0}) {
+                    SuperficieFinta s(larga, alta);
+                    const SuUscita uscita(&s);
+                    const Nodo n = NodoDisegnato(tipo, larga < 400 ? 1 : 2, "Cp", sinistro && tipo < nodoT);
+                    FiguraGiunto(n, nullptr, {{}, alta > 500 ? "governa: a; governa: b" : "", {}, {}})
+                        .PlottaInOggetto(&s, "");
+                    tavola += std::string(nome) + (sinistro ? " sinistro " : " destro ") + Cifra(larga) +
+                              " x " + Cifra(alta) + ':' + Collocazione(s).Riga() + '\n';
+                }
+    ConfrontaApprovato("joints/figure.txt", tavola);
+}
+
+struct Misura {
+    const char* nome;
+    double Giunto::*campo;
+};
+const Misura misure[] = {{"tf", &Giunto::tf}, {"bf", &Giunto::bf}, {"ef", &Giunto::ef},
+                         {"d2", &Giunto::d2}, {"ex", &Giunto::ex}, {"L", &Giunto::L},
+                         {"u", &Giunto::u},   {"Af", &Giunto::Af}, {"aw", &Giunto::aw}};
+
+/// How much of each kind is drawn, and the texts.
+std::string Conto(const SuperficieFinta& s) {
+    std::array<int, 4> linee{};
+    for (const auto& l : s.linee)
+        ++linee[static_cast<std::size_t>(l.tipo)];
+    std::string riga;
+    for (const int n : linee)
+        riga += ' ' + std::to_string(n);
+    riga += ", " + std::to_string(s.cerchi.size()) + ", " + std::to_string(s.aree.size()) + ':';
+    for (const auto& t : s.scritte)
+        if (t.testo.find(" = ") == std::string::npos) // the column of data has tests of its own
+            riga += ' ' + t.testo + ';';
+    return riga;
+}
+
+// Lines of each type, circles, areas and texts with one size not there yet or with its first digits.
+TEST(TavoleDisegno, SizesThatAreBeingTyped) {
+    std::string tavola;
+    for (const int nf : {1, 2})
+        for (const Misura& m : misure)
+            for (const double valore : {-1.0, 0.0, 0.5, 1.0, 16.0}) {
+                const Nodo n = NodoDisegnato(nodoT, nf, "Si");
+                Giunto& g = *n.ConnessioneCorrente;
+                g.*m.campo = valore;
+                g.dX = nf == 2 ? g.L - g.ex : 0;
+                SuperficieFinta figura(480, 600);
+                SuperficieFinta foglio(700, 500);
+                {
+                    const SuUscita uscita(&figura);
+                    FiguraGiunto(n, nullptr, {}).PlottaInOggetto(&figura, "");
+                }
+                const SuUscita uscita(&foglio);
+                DisegnoNodo(n).PlottaInOggetto(&foglio, "");
+                const std::string caso = std::to_string(nf) + ' ' + m.nome + ' ' + Cifra(valore);
+                tavola += caso + " figura" + Conto(figura) + '\n' + caso + " foglio" + Conto(foglio) + '\n';
+            }
+    ConfrontaApprovato("joints/misure.txt", tavola);
+}
+
+} // namespace
