@@ -101,6 +101,39 @@ TEST_F(DiagrammaRigidezzaTest, ThePointsAreThoseOfTheLine) {
     EXPECT_TRUE(PuntiMomentoRotazione(g()).empty());
 }
 
+// Moments and stiffness a hundred thousand times smaller: the same lines, down to joints of some Nm.
+TEST_F(DiagrammaRigidezzaTest, TheUnitDoesNotChangeThePicture) {
+    g().Sj_MjRd *= 0.8; // not what the check computes: straight lines between the values, as of a file
+    const auto prima = Disegnato(g());
+    for (double* k : {&g().MplRdGIUNTO, &g().M_elastico, &g().LimiteCerniera, &g().LimiteRigido1,
+                      &g().LimiteRigido2, &g().Sj_MjRd, &g().Sj_Mela, &g().Sj_MjSd})
+        *k /= 1e5;
+    n.TraveDx->Mysd = 70 / 1e5;
+    const auto dopo = Disegnato(g());
+    ASSERT_EQ(dopo.linee.size(), prima.linee.size());
+    for (std::size_t i = 0; i < prima.linee.size(); ++i) {
+        EXPECT_NEAR(dopo.linee[i].x1, prima.linee[i].x1, 1e-3);
+        EXPECT_NEAR(dopo.linee[i].y1, prima.linee[i].y1, 1e-3);
+        EXPECT_NEAR(dopo.linee[i].x2, prima.linee[i].x2, 1e-3);
+        EXPECT_NEAR(dopo.linee[i].y2, prima.linee[i].y2, 1e-3);
+        EXPECT_EQ(dopo.linee[i].colore, prima.linee[i].colore);
+    }
+    EXPECT_EQ(dopo.cerchi.size(), prima.cerchi.size());
+    EXPECT_EQ(dopo.scritte.size(), prima.scritte.size());
+}
+
+// Mj 100: the axis ends at 120, which is six steps of 20; 1.6 times 12.5 mrad are 20, two of 10.
+TEST_F(DiagrammaRigidezzaTest, TheLastMarkStandsAtTheEndOfItsAxis) {
+    n.TraveDx->lunghezza() = 0;
+    g().MplRdGIUNTO = 100;
+    g().Sj_MjRd = 8000;
+    n.TraveDx->Mysd = 10;
+    const auto testi = Disegnato(g()).Testi();
+    for (const char* tacca : {"0", "10", "40", "60", "80", "100", "120"})
+        EXPECT_EQ(std::count(testi.begin(), testi.end(), tacca), 1) << tacca;
+    EXPECT_EQ(std::count(testi.begin(), testi.end(), "20"), 2); // of both axes
+}
+
 TEST_F(DiagrammaRigidezzaTest, AxesAndLimitsHaveTheirNames) {
     const auto testi = Disegnato(g()).Testi();
     for (const char* nome : {"rotazione [mrad]", "M [kNm]", "rigido (non controv.)", "rigido (controv.)",

@@ -203,3 +203,16 @@ TEST_F(Traccia, RapportoDelMomentoCheAgisce) {
     EXPECT_NEAR(Valore("Rigidezza per Mj.Sd", "mu"), g().MplRdGIUNTO / 40, 1e-9 * g().MplRdGIUNTO);
     EXPECT_NEAR(Valore("Rigidezza per Mj.Rd", "mu"), 1, 1e-12);
 }
+
+// IPE 300 has flanges of 10.7: the stiffener of 11 is not thinner, nor is one of 12 beside 12; of 12.4 it
+// is 12.
+TEST_F(Traccia, IrrigidimentoPiuSottileDellAla) {
+    g().Irrigidimenti = "Cp";
+    for (const auto& [tf, spessore, piuSottile] :
+         {std::tuple{10.7, 11.0, false}, {12.0, 12.0, false}, {12.4, 12.0, true}}) {
+        n.TraveDx->tf = tf;
+        ASSERT_TRUE(n.EsegueCalcolo());
+        EXPECT_EQ(Valore("Irrigidimenti", "Irr_Spessore"), spessore);
+        EXPECT_EQ(Passo(g().Traccia, "Irrigidimenti", "Nota") != nullptr, piuSottile) << tf;
+    }
+}

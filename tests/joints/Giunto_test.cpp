@@ -4,6 +4,7 @@
 
 #include <numbers>
 #include <stdexcept>
+#include <string>
 
 #include "joints/Sezioni.h"
 
@@ -118,4 +119,32 @@ TEST(Giunto, GeometriaDerivata) {
     EXPECT_NEAR(g.mx, 45 - 6.78823, 1e-5);
     EXPECT_NEAR(g.p, 10.7 + 45 + 45, 1e-5);
     EXPECT_EQ(g.hf, 390);
+}
+
+// The columns of an improvement, as ParametriSelezione.h counts them: M20 is the seventh bolt.
+TEST(Giunto, DatiSelezioneDaUnaRiga) {
+    TabellaSelezione tabella;
+    tabella.Aggiunge({1.0, std::string("12.00"), 20.0, 15.0, 170.0, 40.0, 45.0});
+    tabella.Aggiunge({2.0, std::string("24.00"), 24.0, 18.0, 180.0, 42.0, 38.0, 47.0, 50.0, 16.0});
+    tabella.Aggiunge({3.0, std::string("25.00"), 19.0, 18.0, 180.0, 42.0, 45.0});
+    Giunto g;
+    g.PuntatoreSezioni(IPE300(), HEB300());
+    g.DatiSelezione_Completa(tabella, 1);
+    EXPECT_EQ(g.IndiceBullone(), 7);
+    EXPECT_EQ(g.tf, 15);
+    EXPECT_EQ(g.bf, 170);
+    EXPECT_EQ(g.ef, 40);
+    EXPECT_EQ(g.d2, 45);
+    EXPECT_EQ(g.sColonna(), 27);
+    EXPECT_EQ(g.w, 90); // what follows is computed
+    g.nf = 2;
+    g.DatiSelezione_Completa(tabella, 2);
+    EXPECT_EQ(g.IndiceBullone(), 9);
+    EXPECT_EQ(g.ex, 38);
+    EXPECT_EQ(g.L, 38 + 47);
+    EXPECT_EQ(g.d2, 50);
+    EXPECT_EQ(g.u, 16);
+    EXPECT_EQ(g.dX, 47);
+    EXPECT_THROW(g.DatiSelezione_Completa(tabella, 3), std::out_of_range); // no bolt of 19 mm
+    EXPECT_THROW(g.DatiSelezione_Completa(tabella, 4), std::out_of_range);
 }
