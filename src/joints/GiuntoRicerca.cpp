@@ -201,8 +201,6 @@ void RicercaGiunto::PreparaBordo(double ef) {
     if (compressioneIrrigidita_ && dueFile_)
         g_.u = ArrotondaSu(sqrt2 * g_.Af);
     g_.AlaColonna(Bt_);
-    if (tfMax_ < 1)
-        return;
     g_.LeffFlangia_Calcola();
     g_.FtRdAnimaTrave_Calcola();
 }

@@ -404,3 +404,50 @@ TEST_F(Ricerca, ChiedeDiProseguireAncheSenzaCandidati) {
     EXPECT_EQ(o.candidati, 0);
     EXPECT_EQ(domande, 3);
 }
+
+// 10 m of extension or of column are still searched: the first candidate stops it.
+TEST_F(Ricerca, DieciMetriSiCercanoAncora) {
+    g().nf = 2;
+    const auto cercata = [this](double L, double b) {
+        g().L_max = L;
+        n.Colonnainf->b = b;
+        o.candidati = 0;
+        o.ferma = 1;
+        (void)n.EsegueCalcolo(&o);
+        return o.candidati > 0;
+    };
+    EXPECT_TRUE(cercata(10000, 300));
+    EXPECT_FALSE(cercata(10001, 300));
+    EXPECT_TRUE(cercata(150, 10000));
+    EXPECT_FALSE(cercata(150, 10001));
+    g().nf = 1; // has no extension
+    EXPECT_TRUE(cercata(10001, 300));
+    EXPECT_FALSE(cercata(150, 10001));
+}
+
+// Steel without strength carries no moment: no larger bolt, edge or thickness is tried, and with two rows no
+// larger extension, as the first one of 20 mm is more than 10 beyond none. Widths from 150 to 300 by 5: 31.
+TEST_F(Ricerca, SenzaMomentoUnCandidatoALarghezza) {
+    n.TraveDx->fy = 0;
+    n.TraveDx->McyRd = 1;
+    for (const std::int16_t nf : {1, 2}) {
+        g().nf = nf;
+        o.candidati = 0;
+        EXPECT_FALSE(n.EsegueCalcolo(&o));
+        EXPECT_EQ(o.massimo, 0);
+        EXPECT_EQ(o.candidati, 31) << nf;
+    }
+}
+
+// No plate of a whole millimetre: nothing is searched, so nothing is asked.
+TEST_F(Ricerca, SenzaSpessoriNonSiChiedeNulla) {
+    g().tf_max = 0.9;
+    int domande = 0;
+    const Attesa attesa([&] { return ++domande > 0; });
+    EXPECT_FALSE(n.EsegueCalcolo(&o));
+    EXPECT_EQ(domande, 0);
+    g().tf_max = 1;
+    o.ferma = 1;
+    EXPECT_TRUE(n.EsegueCalcolo(&o));
+    EXPECT_EQ(o.candidati, 1);
+}
