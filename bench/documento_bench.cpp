@@ -17,13 +17,23 @@ using misure::GenereFile;
 
 namespace {
 
-/// The help as F1 takes it: its text, and the list of its topics with their plain texts.
+QList<ArgomentoGuida> Argomenti(const fs::path& file) {
+    const QString nome = QString::fromStdString(file.filename().string());
+    return ArgomentiGuida(nome, LeggeGuida(nome));
+}
+
+/// The help as F1 takes it: its text, and the list of its topics.
 GenereFile Aiuto() {
-    const auto legge = [](const fs::path& file) {
-        const QString nome = QString::fromStdString(file.filename().string());
-        return !ArgomentiGuida(nome, LeggeGuida(nome)).isEmpty();
-    };
+    const auto legge = [](const fs::path& file) { return !Argomenti(file).isEmpty(); };
     return {"help", fs::path(SAGOMI_DATA) / "Sagomi.hlp", legge, {}};
+}
+
+/// The same with the first word of a search, for which the plain texts of the topics are made.
+GenereFile AiutoCercato() {
+    const auto cerca = [](const fs::path& file) {
+        return !CercaGuida(Argomenti(file), QStringLiteral("rigidezza")).isEmpty();
+    };
+    return {"help_searched", fs::path(SAGOMI_DATA) / "Sagomi.hlp", cerca, {}};
 }
 
 GenereFile Pdf() {
@@ -42,7 +52,7 @@ int main(int argc, char** argv) {
     const misure::CartellaMisure cartella;
     ImpostaGamma();
     PathInstallazione = SAGOMI_DATA;
-    for (const GenereFile& genere : {Aiuto(), Pdf()})
+    for (const GenereFile& genere : {Aiuto(), AiutoCercato(), Pdf()})
         Registra(genere, cartella.percorso);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

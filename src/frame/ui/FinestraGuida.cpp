@@ -219,20 +219,27 @@ void FinestraGuida::hideEvent(QHideEvent* event) {
 }
 
 void FinestraGuida::Rilegge() {
-    argomenti_.clear();
-    indice_.clear();
-    for (const char* name : fileGuida) {
-        const QString file = QLatin1String(name);
-        const QString html = LeggeGuida(file);
-        argomenti_ << ArgomentiGuida(file, html);
-        indice_ << IndiceGuida(file, html);
+    QStringList read;
+    for (const char* name : fileGuida)
+        read << LeggeGuida(QLatin1String(name));
+    if (read != letti_) {
+        letti_ = read;
+        QList<ArgomentoGuida> topics;
+        QList<ArgomentoGuida> words;
+        for (std::size_t i = 0; i < fileGuida.size(); ++i) {
+            const QString& html = read[static_cast<qsizetype>(i)];
+            topics << ArgomentiGuida(QLatin1String(fileGuida.at(i)), html);
+            words << IndiceGuida(QLatin1String(fileGuida.at(i)), html);
+        }
+        argomenti_ = RicercaGuida(topics);
+        indice_ = RicercaGuida(words);
     }
     Cerca();
 }
 
 void FinestraGuida::Cerca() {
-    Riempie(*listaArgomenti_, CercaGuida(argomenti_, cerca_->text()));
-    Riempie(*listaIndice_, CercaGuida(indice_, cerca_->text()));
+    Riempie(*listaArgomenti_, argomenti_.Cerca(cerca_->text()));
+    Riempie(*listaIndice_, indice_.Cerca(cerca_->text()));
 }
 
 void FinestraGuida::Riempie(QListWidget& lista, const QList<ArgomentoGuida>& argomenti) {

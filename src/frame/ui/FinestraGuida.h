@@ -57,8 +57,9 @@ private:
     QWidget* barraTrova_ = nullptr;
     QLineEdit* trova_ = nullptr;
     QLabel* esitoTrova_ = nullptr;
-    QList<ArgomentoGuida> argomenti_;
-    QList<ArgomentoGuida> indice_;
+    QStringList letti_; ///< the help files, as topics and index were made of them
+    RicercaGuida argomenti_;
+    RicercaGuida indice_;
     QPointer<QWidget> sopra_; ///< the window that it stands over
 };
 

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
+#include <vector>
 
 #include "frame/Cartelle.h"
 #include "frame/LetturaFile.h"
@@ -27,7 +29,11 @@ QString TestoDelFile(const QString& file) {
     }
 }
 
+/// The plain text of a piece of HTML. Places alone, as most headings have them, need no document.
 QString Piano(const QString& html) {
+    static const QRegularExpression place(QStringLiteral("<a name=\"[^\"]+\"></a>"));
+    if (const QString text = QString(html).remove(place); !text.contains(u'<') && !text.contains(u'&'))
+        return text.simplified();
     return QTextDocumentFragment::fromHtml(html).toPlainText().simplified();
 }
 
@@ -37,8 +43,16 @@ QString Piegato(const QString& text) {
     return text.normalized(QString::NormalizationForm_KD).remove(accents).toCaseFolded();
 }
 
-bool ContieneTutte(const QString& text, const QStringList& words) {
-    return std::ranges::all_of(words, [&](const QString& w) { return text.contains(w); });
+/// By their titles without case and accents, which are made once each.
+QList<ArgomentoGuida> PerAlfabeto(const QList<ArgomentoGuida>& words) {
+    std::vector<std::pair<QString, qsizetype>> order;
+    for (qsizetype i = 0; i < words.size(); ++i)
+        order.emplace_back(Piegato(words[i].titolo), i);
+    std::ranges::sort(order);
+    QList<ArgomentoGuida> sorted;
+    for (const auto& [title, i] : order)
+        sorted << words[i];
+    return sorted;
 }
 
 QString PrimaAncora(const QString& html) {
@@ -119,7 +133,7 @@ QList<ArgomentoGuida> ArgomentiGuida(const QString& file, const QString& html) {
     qsizetype below = 0;
     const auto endAt = [&](qsizetype end) {
         if (!topics.isEmpty())
-            topics.last().testo = Piano(html.mid(below, end - below));
+            topics.last().corpo = html.mid(below, end - below);
     };
     for (auto found = heading.globalMatch(html); found.hasNext();) {
         const QRegularExpressionMatch match = found.next();
@@ -143,20 +157,42 @@ QList<ArgomentoGuida> IndiceGuida(const QString& file, const QString& html) {
     }
     for (const ArgomentoGuida& topic : ArgomentiGuida(file, html))
         words << ArgomentoGuida{file, topic.ancora, topic.titolo, 0};
-    std::ranges::stable_sort(words, {}, [](const ArgomentoGuida& a) { return Piegato(a.titolo); });
-    return words;
+    return PerAlfabeto(words);
+}
+
+RicercaGuida::RicercaGuida(QList<ArgomentoGuida> argomenti) : argomenti_(std::move(argomenti)) {}
+
+bool RicercaGuida::NelTitolo(qsizetype i, const QStringList& parole) {
+    return std::ranges::all_of(parole, [&](const QString& w) { return cercati_[i].titolo.contains(w); });
+}
+
+bool RicercaGuida::Contiene(qsizetype i, const QStringList& parole) {
+    std::optional<QString>& text = cercati_[i].testo;
+    if (!text)
+        text = Piegato(Piano(argomenti_[i].corpo));
+    return std::ranges::all_of(
+        parole, [&](const QString& w) { return cercati_[i].titolo.contains(w) || text->contains(w); });
+}
+
+QList<ArgomentoGuida> RicercaGuida::Cerca(const QString& parole) {
+    const QStringList words = Piegato(parole).split(u' ', Qt::SkipEmptyParts);
+    if (words.isEmpty())
+        return argomenti_;
+    if (cercati_.isEmpty())
+        for (const ArgomentoGuida& topic : argomenti_)
+            cercati_ << Cercato{Piegato(topic.titolo), {}};
+    QList<ArgomentoGuida> titled;
+    QList<ArgomentoGuida> others;
+    for (qsizetype i = 0; i < argomenti_.size(); ++i)
+        if (NelTitolo(i, words))
+            titled << argomenti_[i];
+        else if (Contiene(i, words))
+            others << argomenti_[i];
+    return titled + others;
 }
 
 QList<ArgomentoGuida> CercaGuida(const QList<ArgomentoGuida>& argomenti, const QString& parole) {
-    const QStringList words = Piegato(parole).split(u' ', Qt::SkipEmptyParts);
-    QList<ArgomentoGuida> found;
-    for (const ArgomentoGuida& topic : argomenti)
-        if (ContieneTutte(Piegato(topic.titolo + u' ' + topic.testo), words))
-            found << topic;
-    std::stable_partition(found.begin(), found.end(), [&](const ArgomentoGuida& topic) {
-        return ContieneTutte(Piegato(topic.titolo), words);
-    });
-    return found;
+    return RicercaGuida(argomenti).Cerca(parole);
 }
 
 QString AncoraDi(const QString& html, const QWidget* controllo) {

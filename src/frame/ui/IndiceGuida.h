@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class QWidget;
 
 namespace sagomi {
@@ -16,7 +18,7 @@ struct ArgomentoGuida {
     QString ancora; ///< name of its place
     QString titolo;
     int livello = 2; ///< of the heading; 0 for a word of the index
-    QString testo{}; ///< plain text below the heading, for searching
+    QString corpo{}; ///< HTML below the heading
 };
 
 /// A help file beside the program, found without regard to the case of its letters; empty where there is none
@@ -29,8 +31,30 @@ QList<ArgomentoGuida> ArgomentiGuida(const QString& file, const QString& html);
 /// What stands bold right behind a place, and the topics, by the alphabet.
 QList<ArgomentoGuida> IndiceGuida(const QString& file, const QString& html);
 
-/// The topics that hold all words, those with all of them in their title first. Case and accents do not
-/// count; no words find everything.
+/// The search of topics. What it compares is made when it is first needed and kept: plain texts take far
+/// longer to make than a help file to read.
+class RicercaGuida {
+public:
+    RicercaGuida() = default;
+    explicit RicercaGuida(QList<ArgomentoGuida> argomenti);
+
+    /// The topics that hold all words, those with all of them in their title first. Case and accents do not
+    /// count; no words find everything.
+    QList<ArgomentoGuida> Cerca(const QString& parole);
+
+private:
+    struct Cercato {
+        QString titolo;
+        std::optional<QString> testo;
+    };
+    bool NelTitolo(qsizetype i, const QStringList& parole);
+    bool Contiene(qsizetype i, const QStringList& parole);
+
+    QList<ArgomentoGuida> argomenti_;
+    QList<Cercato> cercati_; ///< letters as they are compared; empty before the first word
+};
+
+/// One search among topics.
 QList<ArgomentoGuida> CercaGuida(const QList<ArgomentoGuida>& argomenti, const QString& parole);
 
 /// The place of a control in a help file: its own, else that of the nearest part of the screen around it,
