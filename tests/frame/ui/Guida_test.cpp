@@ -7,10 +7,15 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTextBrowser>
+#include <QTextDocumentFragment>
 #include <QWheelEvent>
 #include <QWindow>
+
+#include <algorithm>
 
 #include "frame/ui/AmbienteFinestre.h"
 #include "frame/ui/IndiceGuida.h"
@@ -221,6 +226,37 @@ TEST_F(GuidaTest, PicturesFitThePage) {
     TestoGuida::figura = before;
 }
 
+// Drawn 1500 wide: as wide as the page in the narrow window and in the wide one; the small one is left alone.
+TEST_F(GuidaTest, PicturesFollowTheWidthOfThePage) {
+    const auto before = TestoGuida::figura;
+    int drawn = 0;
+    TestoGuida::figura = [&drawn](const QString& name) {
+        ++drawn;
+        QImage picture(name == u"curve" ? QSize(1500, 150) : QSize(200, 100), QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        return picture;
+    };
+    const auto shown = [](const char* url) {
+        return Testo()
+            ->document()
+            ->resource(QTextDocument::ImageResource, QUrl(QLatin1String(url)))
+            .value<QImage>()
+            .width();
+    };
+    Guida::Apre(QStringLiteral("GiuntoFlangiato.hlp")); // another text than that with the pictures
+    Guida::Apre(QStringLiteral("Sagomi.hlp"));
+    for (const int width : {900, 1300, 1000}) {
+        Finestra()->resize(width, 600);
+        QTRY_COMPARE(shown("figura:curve"), Testo()->viewport()->width() - 24);
+        EXPECT_EQ(Testo()->horizontalScrollBar()->maximum(), 0) << width;
+    }
+    const int all = drawn;
+    Finestra()->resize(1000, 700);
+    QTest::qWait(200);
+    EXPECT_EQ(drawn, all) << "the height alone has changed";
+    TestoGuida::figura = before;
+}
+
 TEST_F(GuidaTest, MissingFileIsToldByName) {
     Guida::Apre(QStringLiteral("Manca.hlp"));
     ASSERT_EQ(registratore.testi.size(), 1U);
@@ -295,6 +331,58 @@ TEST_F(GuidaTest, SearchFindsTheTopicsThatHoldAllWords) {
     EXPECT_GT(Lista("lstArgomenti")->count(), 0) << "accents do not count";
     search->setText("parolachenonesiste");
     EXPECT_EQ(Lista("lstArgomenti")->count(), 0);
+}
+
+// The same topics in the same order as where all plain texts are made by the toolkit and compared at once.
+TEST_F(GuidaTest, SearchFindsWhatTheWholeTextsHold) {
+    const auto plain = [](const QString& html) {
+        return QTextDocumentFragment::fromHtml(html).toPlainText().simplified();
+    };
+    const auto folded = [](QString text) {
+        static const QRegularExpression marks(QStringLiteral("\\p{M}"));
+        return text.normalized(QString::NormalizationForm_KD).remove(marks).toCaseFolded();
+    };
+    QList<ArgomentoGuida> topics;
+    for (const auto* file : {"Sagomi.hlp", "GiuntoFlangiato.hlp"})
+        topics << ArgomentiGuida(QLatin1String(file), LeggeGuida(QLatin1String(file)));
+    ASSERT_GT(topics.size(), 60);
+    RicercaGuida search(topics);
+    for (const QString words : {"", "  ", "Rigidezza SEMIRIGIDO", "e", "UNITA", "perché à", "piolo soletta",
+                                "scheda", "M&amp;N", "<b>", "zzzz", "classe 4 anima", "γ", "ﬁ"}) {
+        QStringList titled;
+        QStringList others;
+        for (const ArgomentoGuida& topic : topics) {
+            const auto holds = [&](const QString& text) {
+                const QStringList all = folded(words).split(u' ', Qt::SkipEmptyParts);
+                return std::ranges::all_of(all, [&](const QString& w) { return folded(text).contains(w); });
+            };
+            if (holds(topic.titolo))
+                titled << topic.titolo;
+            else if (holds(topic.titolo + u' ' + plain(topic.corpo)))
+                others << topic.titolo;
+        }
+        QStringList found;
+        for (const ArgomentoGuida& topic : search.Cerca(words))
+            found << topic.titolo;
+        EXPECT_EQ(found, titled + others) << words.toStdString();
+    }
+}
+
+// Places, marks, entities and white space of a title, and the order of the index.
+TEST_F(GuidaTest, TitlesAreThePlainTextsOfTheHeadings) {
+    const auto titles = [](const QList<ArgomentoGuida>& topics) {
+        QStringList all;
+        for (const ArgomentoGuida& topic : topics)
+            all << topic.titolo;
+        return all;
+    };
+    const QString html = QStringLiteral("<h1><a name=\"a\"></a>Una\n  <i>riga</i></h1>x"
+                                        "<h2><a name=\"b\"></a><a name=\"c\"></a>Più  di due</h2>"
+                                        "<h3>A &amp; B&nbsp;C</h3><h2></h2>"
+                                        "<a name=\"d\"></a><b>área</b> <a name=\"e\"></a><b>Zona</b>");
+    EXPECT_EQ(titles(ArgomentiGuida({}, html)), (QStringList{"Una riga", "Più di due", "A & B C", ""}));
+    EXPECT_EQ(titles(IndiceGuida({}, html)),
+              (QStringList{"", "A & B C", "área", "Più di due", "Una riga", "Zona"}));
 }
 
 TEST_F(GuidaTest, BackAndForwardFollowTheWayThroughTheTopics) {
