@@ -14,6 +14,7 @@
 #include <QWindow>
 
 #include <array>
+#include <utility>
 
 #include "frame/ui/Protetto.h"
 #include "frame/ui/TestoGuida.h"
@@ -222,8 +223,8 @@ void FinestraGuida::Rilegge() {
     QStringList read;
     for (const char* name : fileGuida)
         read << LeggeGuida(QLatin1String(name));
-    if (read != letti_) {
-        letti_ = read;
+    const std::size_t now = qHashRange(read.begin(), read.end());
+    if (now != std::exchange(letti_, now)) {
         QList<ArgomentoGuida> topics;
         QList<ArgomentoGuida> words;
         for (std::size_t i = 0; i < fileGuida.size(); ++i) {

@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <cstddef>
+
 #include "frame/ui/IndiceGuida.h"
 
 class QLabel;
@@ -57,7 +59,7 @@ private:
     QWidget* barraTrova_ = nullptr;
     QLineEdit* trova_ = nullptr;
     QLabel* esitoTrova_ = nullptr;
-    QStringList letti_; ///< the help files, as topics and index were made of them
+    std::size_t letti_ = 0; ///< hash of the help files that topics and index were made of
     RicercaGuida argomenti_;
     RicercaGuida indice_;
     QPointer<QWidget> sopra_; ///< the window that it stands over
