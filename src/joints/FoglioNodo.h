@@ -75,6 +75,19 @@ private:
     static void Saldature(const TracciaVista& v, const LatoNodo& lato);
     void Irrigidimenti(const TracciaVista& v) const;
     void QuoteLaterali(const TracciaVista& v) const;
+    [[nodiscard]] double Fine(const LatoNodo& lato) const; ///< end of a beam
+    [[nodiscard]] double Larghezza(const std::string& testo) const;
+    void NomeTrave(const TracciaVista& v, const LatoNodo& lato) const;
+    [[nodiscard]] bool NomeDentro(const LatoNodo& lato, double a) const;
+    [[nodiscard]] std::string NomeBulloni() const;
+    [[nodiscard]] std::string NomeClasse() const;
+    [[nodiscard]] std::string NomeSaldatura() const;
+    [[nodiscard]] bool RichiamiDentro(double a) const; ///< whether the beam has room for them
+    [[nodiscard]] double InizioRichiami(double a) const;
+    [[nodiscard]] double LarghezzaRichiami() const;
+    [[nodiscard]] double RigaSaldatura(double a) const;
+    [[nodiscard]] double SottoTrave(int riga, double a) const; ///< a line of text under the beam
+    [[nodiscard]] int RigheSotto(double a) const;
     void Richiami(const TracciaVista& v) const;
     void RichiamiIrrigidimenti(const TracciaVista& v) const;
 

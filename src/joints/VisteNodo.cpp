@@ -17,7 +17,10 @@ constexpr double passoQuote = 2.7;      ///< from one to the next
 constexpr double secondaCatena = 6.5;   ///< of the height of the plate, beyond the chain of the holes
 constexpr double altezzaSpessore = 4.2; ///< of the thickness of the plate, at least
 constexpr double distacco = 2;
-constexpr double righe = 1.4; ///< from one line of a text to the next
+constexpr double stacco = 0.4;            ///< of a text from its line
+constexpr double primaDellaRottura = 1.8; ///< of the name of a beam from its end
+constexpr double fuoriTrave = 1.5;        ///< of a text over or under a beam, clear of its end
+constexpr double righe = 1.4;             ///< from one line of a text to the next
 
 constexpr double sporgenzaBullone = 0.25; ///< of the thread beyond the nut, in diameters
 constexpr double assiForo = 0.75;         ///< of the axes of a hole, in its diameters
@@ -65,6 +68,8 @@ void FoglioNodo::Colonna(const TracciaVista& v) const {
     const bool entra = LarghezzaTestoPlt(tavola_->AltezzaTesto(), g_.colonna.nome) < 0.9 * 2 * interna;
     if (entra)
         v.Testo({0, m.y1 + 1.8 * v.a()}, g_.colonna.nome, Allinea::Centro);
+    else if (g_.lato.trave.Presente() && SottoTrave(RigheSotto(v.a()), v.a()) < m.y1 + 0.5 * v.a())
+        v.Testo({-x - v.a(), m.y1 + v.a()}, g_.colonna.nome, Allinea::Destra);
     else
         v.Testo({x + v.a(), m.y1 + v.a()}, g_.colonna.nome, Allinea::Sinistra);
 }
@@ -88,8 +93,7 @@ void FoglioNodo::Lato(const TracciaVista& v, const LatoNodo& lato) const {
 void FoglioNodo::Trave(const TracciaVista& v, const LatoNodo& lato) const {
     const ProfiloNodo& t = lato.trave;
     const double x = lato.xTrave();
-    const CampoNodo m = g_.Laterale();
-    const double fine = &lato == &g_.lato ? m.x2 : -m.x1;
+    const double fine = Fine(lato);
     for (const double y : {-t.tf, -t.h})
         v.Area(CampoNodo{x, y, fine, y + t.tf}.Contorno(), Fondo::Tenue);
     TracciaVista::Contorno();
@@ -97,7 +101,92 @@ void FoglioNodo::Trave(const TracciaVista& v, const LatoNodo& lato) const {
     for (const double y : {0.0, -t.tf, -t.h + t.tf, -t.h})
         v.Linea({x, y}, {fine, y});
     v.Rottura({fine, -t.h}, {fine, 0});
-    v.Testo({fine - 1.8 * v.a(), -t.h / 2}, t.nome, Allinea::Destra);
+    NomeTrave(v, lato);
+}
+
+double FoglioNodo::Fine(const LatoNodo& lato) const {
+    const CampoNodo m = g_.Laterale();
+    return &lato == &g_.lato ? m.x2 : -m.x1;
+}
+
+double FoglioNodo::Larghezza(const std::string& testo) const {
+    return LarghezzaTestoPlt(tavola_->AltezzaTesto(), testo);
+}
+
+/// Inside the beam at its end, where there is room between flanges, bolts and their texts; else outside:
+/// under the one that is meant, over the other one, whose stiffeners have their texts below.
+void FoglioNodo::NomeTrave(const TracciaVista& v, const LatoNodo& lato) const {
+    const double a = v.a();
+    const ProfiloNodo& t = lato.trave;
+    if (NomeDentro(lato, a))
+        v.Testo({Fine(lato) - primaDellaRottura * a, -t.h / 2}, t.nome, Allinea::Destra);
+    else if (&lato != &g_.lato)
+        v.Testo({lato.xTrave() + lato.testa + lato.d / 2 + stacco * a, fuoriTrave * a}, t.nome,
+                Allinea::Sinistra);
+    else
+        v.Testo({InizioRichiami(a) + stacco * a, SottoTrave(RigheSotto(a) - 1, a)}, t.nome,
+                Allinea::Sinistra);
+}
+
+bool FoglioNodo::NomeDentro(const LatoNodo& lato, double a) const {
+    const ProfiloNodo& t = lato.trave;
+    const double sinistra = Fine(lato) - primaDellaRottura * a - Larghezza(t.nome);
+    if (t.h / 2 - t.tf < 0.6 * a || sinistra < lato.xTrave() + lato.testa + stacco * a)
+        return false;
+    if (Schermo() || &lato != &g_.lato || !lato.Piastra() ||
+        sinistra > InizioRichiami(a) + 2 * stacco * a + LarghezzaRichiami())
+        return true;
+    if (!RichiamiDentro(a)) // their lines run down
+        return sinistra > InizioRichiami(a) + stacco * a;
+    const double y = lato.Fila(FilaGiunto::Interna);
+    const auto lontana = [&](double riga) { return std::abs(riga + t.h / 2) > 1.1 * a; };
+    return (!lato.Bulloni() || (lontana(y) && lontana(y - righe * a))) &&
+           (!(lato.aw > 0) || lontana(RigaSaldatura(a)));
+}
+
+// Texts of bolts and weld of the web ------------------------------------------------------------------
+
+std::string FoglioNodo::NomeBulloni() const {
+    return std::to_string(2 * g_.lato.file.size()) + " M" + Mm(g_.lato.d);
+}
+
+std::string FoglioNodo::NomeClasse() const { return "cl. " + g_.lato.classe; }
+
+std::string FoglioNodo::NomeSaldatura() const { return "aw " + Mm(g_.lato.aw); }
+
+/// Beyond the heads of the bolts and their axes.
+double FoglioNodo::InizioRichiami(double a) const {
+    const LatoNodo& l = g_.lato;
+    return l.xTrave() + l.testa + std::max(distacco * a, l.d / 2 + stacco * a);
+}
+
+double FoglioNodo::LarghezzaRichiami() const {
+    return std::max({Larghezza(NomeBulloni()), Larghezza(NomeClasse()), Larghezza(NomeSaldatura())});
+}
+
+double FoglioNodo::RigaSaldatura(double a) const {
+    const double h = g_.lato.trave.h;
+    return std::min(-h - g_.lato.Fila(FilaGiunto::Interna), -h / 2 - 1.5 * a);
+}
+
+double FoglioNodo::SottoTrave(int riga, double a) const {
+    return g_.lato.Fondo() - (fuoriTrave + righe * riga) * a;
+}
+
+/// Lines under the beam that is meant: bolts, weld, its name, as far as they have no room inside.
+int FoglioNodo::RigheSotto(double a) const {
+    const bool richiami = !Schermo() && g_.lato.Piastra() && !RichiamiDentro(a);
+    return (richiami ? 2 : 0) + (NomeDentro(g_.lato, a) ? 0 : 1);
+}
+
+/// Three lines between the flanges, before the end of the beam.
+bool FoglioNodo::RichiamiDentro(double a) const {
+    const LatoNodo& l = g_.lato;
+    const double alta = l.Fila(FilaGiunto::Interna);
+    const double bassa = RigaSaldatura(a);
+    return InizioRichiami(a) + stacco * a + LarghezzaRichiami() < Fine(l) - a &&
+           alta + 0.6 * a < -l.trave.tf && alta - bassa > 2 * (righe - 0.15) * a &&
+           bassa - 0.6 * a > -l.trave.h + l.trave.tf;
 }
 
 /// Head on the plate, nut and washer inside the column, the shank hidden between them.
@@ -174,29 +263,32 @@ void FoglioNodo::QuoteLaterali(const TracciaVista& v) const {
         v.Orizzontali(m.y1, m.y1 - primaQuota * a, std::array{QuotaNodo{-x, x, Mm(2 * x)}});
 }
 
-/// Bolts and welds are named inside the beam, the rows and the middle leave room there.
+/// Bolts and welds are named inside the beam, the rows and the middle leave room there; where they do not,
+/// under it.
 void FoglioNodo::Richiami(const TracciaVista& v) const {
     const LatoNodo& l = g_.lato;
     const double a = v.a();
     RichiamiIrrigidimenti(v);
     if (!l.Piastra())
         return;
-    const double x = l.xTrave() + l.testa;
+    const bool dentro = RichiamiDentro(a);
+    const double x = InizioRichiami(a);
     if (l.Bulloni()) {
-        const double y = l.Fila(FilaGiunto::Interna);
-        v.Richiamo({x, y}, {x + distacco * a, y}, std::to_string(2 * l.file.size()) + " M" + Mm(l.d));
-        v.Testo({x + (distacco + 0.4) * a, y - righe * a}, "cl. " + l.classe, Allinea::Sinistra);
+        const double fila = l.Fila(FilaGiunto::Interna);
+        const double y = dentro ? fila : SottoTrave(0, a);
+        v.Richiamo({l.xTrave() + l.testa, fila}, {x, y}, NomeBulloni() + (dentro ? "" : " " + NomeClasse()));
+        if (dentro)
+            v.Testo({x + stacco * a, y - righe * a}, NomeClasse(), Allinea::Sinistra);
     }
     if (l.aw > 0) {
-        const double y = -l.trave.h - l.Fila(FilaGiunto::Interna);
-        const double basso = std::min(y, -l.trave.h / 2 - 1.5 * a);
-        v.Richiamo({l.xTrave() + l.aw, basso}, {x + distacco * a, basso}, "aw " + Mm(l.aw));
+        const double basso = dentro ? RigaSaldatura(a) : SottoTrave(1, a);
+        v.Richiamo({l.xTrave() + l.aw, dentro ? basso : -l.trave.h / 2}, {x, basso}, NomeSaldatura());
     }
     const auto cordoni = l.Cordoni();
     if (cordoni.empty())
         return;
     const PuntoNodo c{(cordoni[0][0].x + cordoni[0][1].x) / 2, (cordoni[0][0].y + cordoni[0][2].y) / 2};
-    v.Richiamo(c, {x + distacco * a, 1.8 * a}, "af " + Mm(l.Af));
+    v.Richiamo(c, {x, 1.8 * a}, "af " + Mm(l.Af));
 }
 
 void FoglioNodo::RichiamiIrrigidimenti(const TracciaVista& v) const {
@@ -207,6 +299,8 @@ void FoglioNodo::RichiamiIrrigidimenti(const TracciaVista& v) const {
     const double x = -g_.colonna.h / 2 - distacco * a;
     const double fondo = std::min(g_.lato.Fondo(), g_.altro.Fondo());
     const double cima = std::max(g_.lato.Cima(), g_.altro.Cima());
+    const bool nomeSopra = g_.altro.trave.Presente() && !NomeDentro(g_.altro, a);
+    const double sopraNome = nomeSopra ? (fuoriTrave + righe) * a : 0;
     const auto nomina = [&](const ContornoNodo& c, double y, double verso, double lunghezza) {
         const PuntoNodo da{(c[2].x + 3 * c[1].x) / 4, (c[2].y + 3 * c[1].y) / 4};
         std::vector<std::string> testi{"2 piatti", misure + Mm(lunghezza)};
@@ -220,7 +314,7 @@ void FoglioNodo::RichiamiIrrigidimenti(const TracciaVista& v) const {
     };
     nomina(g_.irrigidimenti[0], fondo - distacco * a, -1, g_.lunghezzaIrr);
     if (g_.irrigidimenti.size() > 1)
-        nomina(g_.irrigidimenti[1], cima + distacco * a, 1, g_.lunghezzaSup);
+        nomina(g_.irrigidimenti[1], std::max(cima + distacco * a, sopraNome), 1, g_.lunghezzaSup);
 }
 
 // Front view --------------------------------------------------------------------------------------------

@@ -96,6 +96,9 @@ protected:
             EXPECT_GE(s.InX(c[i].x1), -nulla) << dove << ": " << c[i].testo;
             EXPECT_LE(s.InX(c[i].x2), s.InX(s.ScaleLeft + s.ScaleWidth) + nulla)
                 << dove << ": " << c[i].testo;
+            EXPECT_GE(s.InY(c[i].y2), -nulla) << dove << ": " << c[i].testo;
+            EXPECT_LE(s.InY(c[i].y1), s.InY(s.ScaleTop + s.ScaleHeight) + nulla)
+                << dove << ": " << c[i].testo;
             for (std::size_t j = 0; j < i; ++j)
                 EXPECT_FALSE(c[i].x1 < c[j].x2 - nulla && c[j].x1 < c[i].x2 - nulla &&
                              c[i].y1 < c[j].y2 - nulla && c[j].y1 < c[i].y2 - nulla)
@@ -258,6 +261,38 @@ TEST_F(NodoDisegnoTest, TextsDoNotTouchFromSmallToLargeSections) {
         }
 }
 
+/// A joint of a shallow beam with bolts from the thinnest to M30, its rows a quarter of the height from the
+/// flanges.
+Nodo Basso(std::int16_t tipo, int nf, const char* irrigidimenti, std::int16_t bullone, double h,
+           bool sinistro) {
+    auto trave = Laminato("IPE " + std::to_string(std::lround(h)), h, 0.55 * h, 5, 7, 7, 2009, 8693000);
+    Nodo n = NodoDisegnato(tipo, nf, irrigidimenti, sinistro, trave);
+    for (std::int16_t i = n.NumeroGiunti; i >= 1; --i) {
+        Giunto& g = *n.Giunti[i].Riferimento();
+        g.IndiceBullone(bullone);
+        g.d2 = h / 4;
+        g.bf = 120;
+        g.Derivati_Calcola();
+    }
+    return n;
+}
+
+TEST_F(NodoDisegnoTest, TextsOfShallowBeamsDoNotTouch) {
+    const std::array<std::pair<double, double>, 4> fogli{{{900, 650}, {500, 400}, {190, 277}, {277, 190}}};
+    for (const double h : {80.0, 100.0, 120.0, 160.0, 200.0, 240.0})
+        for (const std::int16_t bullone : {1, 6, 11})
+            for (const Caso& c : casi)
+                for (const auto& [l, a] : fogli) {
+                    const auto s = Disegnato(Basso(c.tipo, c.nf, c.irrigidimenti, bullone, h, c.sinistro),
+                                             l < 300 ? dispositivoStampante : dispositivoVideo, l, a);
+                    const std::string dove = "h " + std::to_string(int(h)) + " bullone " +
+                                             std::to_string(bullone) + ' ' + c.nome + ' ' +
+                                             std::to_string(int(l));
+                    SenzaSovrapposizioni(s, dove);
+                    SenzaLinee(s, dove);
+                }
+}
+
 TEST_F(NodoDisegnoTest, TheLeftJointIsTheMirrorOfTheRightOne) {
     const auto nomi = [](const SuperficieFinta& s) { // abscissas of the names of column and current beam
         std::pair<double, double> x{0, 0};
@@ -345,6 +380,19 @@ TEST_F(FiguraGiuntoTest, TextsDoNotTouch) {
         SenzaSovrapposizioni(Figura(Di(c), e), c.nome);
         SenzaSovrapposizioni(Figura(Di(c), e, 700, 560), c.nome);
     }
+}
+
+TEST_F(FiguraGiuntoTest, TextsOfShallowBeamsDoNotTouch) {
+    const std::array<std::pair<double, double>, 3> misure{{{300, 320}, {480, 600}, {700, 560}}};
+    for (const double h : {80.0, 120.0, 160.0, 200.0})
+        for (const std::int16_t bullone : {1, 6, 11})
+            for (const Caso& c : casi)
+                for (const auto& [l, a] : misure) {
+                    const Nodo n = Basso(c.tipo, c.nf, c.irrigidimenti, bullone, h, c.sinistro);
+                    SenzaSovrapposizioni(Figura(n, {}, l, a), "h " + std::to_string(int(h)) + " bullone " +
+                                                                  std::to_string(bullone) + ' ' + c.nome +
+                                                                  ' ' + std::to_string(int(l)));
+                }
 }
 
 TEST_F(FiguraGiuntoTest, TheFrontViewStandsBelowTheSideView) {
