@@ -80,6 +80,15 @@ QList<QAction*> Voci(const QMenu& menu) {
     return entries;
 }
 
+constexpr QLatin1String voceFine("&Esci"); ///< the entry that ends the program
+
+/// Whether the program ends with this window.
+bool FinisceConLei(const QWidget& window) {
+    return std::ranges::any_of(window.findChildren<QMenu*>(), [](const QMenu* menu) {
+        return std::ranges::any_of(menu->actions(), [](const QAction* a) { return a->text() == voceFine; });
+    });
+}
+
 } // namespace
 
 Scimmia::Scimmia(Sorveglianza& sorveglianza, int eventi, unsigned seme)
@@ -105,6 +114,16 @@ void Scimmia::Passo() {
     Finito() ? Chiude() : Agisce();
 }
 
+/// The one of three that has been used least, so that what only few controls lead to is come by, too.
+template <typename L> const auto& Scimmia::MenoUsato(const L& lista, auto nome) {
+    const auto* least = &Uno(lista);
+    for (int i = 1; i < 3; ++i)
+        if (const auto* other = &Uno(lista); usi_.value(nome(*other)) < usi_.value(nome(*least)))
+            least = other;
+    ++usi_[nome(*least)];
+    return *least;
+}
+
 void Scimmia::Racconta(const QString& evento, const QWidget* w) {
     sorveglianza_.Annota(fatti_, w == nullptr ? evento : evento + u' ' + Nome(*w));
 }
@@ -115,6 +134,9 @@ void Scimmia::Agisce() {
     if (!inFront && QThread::currentThread()->loopLevel() > livello_)
         return; // a box has been answered, and is on its way out
     ++fatti_;
+    if (const QWidget* window = QApplication::activeWindow();
+        window != nullptr && !window->objectName().isEmpty())
+        incontrate_ << window->objectName();
     if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget()))
         SulMenu(*menu);
     else if (QWidget* popup = QApplication::activePopupWidget())
@@ -141,6 +163,15 @@ void Scimmia::Chiude() {
         ChiudiProgramma();
 }
 
+/// One of the entries; none where there is none, and most times in the place of the end of the program.
+QAction* Scimmia::Voce(const QList<QAction*>& voci, const QWidget& w) {
+    if (voci.isEmpty())
+        return nullptr;
+    const QString place = Nome(w);
+    QAction* entry = MenoUsato(voci, [&place](const QAction* a) { return place + u'/' + a->text(); });
+    return Rimane(entry->text() == voceFine) ? nullptr : entry;
+}
+
 void Scimmia::SulMenu(QMenu& menu) {
     const QList<QAction*> entries = Voci(menu);
     if (entries.isEmpty() || Si(30)) {
@@ -148,7 +179,9 @@ void Scimmia::SulMenu(QMenu& menu) {
         QTest::keyClick(&menu, Qt::Key_Escape);
         return;
     }
-    QAction* entry = Uno(entries);
+    QAction* entry = Voce(entries, menu);
+    if (entry == nullptr)
+        return;
     Racconta(QStringLiteral("chooses ") + entry->text());
     QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(entry).center());
 }
@@ -177,7 +210,7 @@ QWidget* Scimmia::Finestra() {
 
 QWidget* Scimmia::Controllo(QWidget& finestra) {
     const QList<QWidget*> usable = Usabili(finestra);
-    return usable.isEmpty() ? nullptr : Uno(usable);
+    return usable.isEmpty() ? nullptr : MenoUsato(usable, [](const QWidget* w) { return Nome(*w); });
 }
 
 void Scimmia::SulloSchermo() {
@@ -204,6 +237,8 @@ void Scimmia::SulloSchermo() {
 
 void Scimmia::MuoveFinestre(QWidget& finestra) {
     const int what = Caso(20);
+    if (what < 8 && Rimane(FinisceConLei(finestra)))
+        return;
     Racconta(QStringLiteral("window, kind %1,").arg(what), &finestra);
     if (what < 8)
         finestra.close();
@@ -279,9 +314,9 @@ void Scimmia::VoceDiMenu(QWidget& finestra) {
         for (QAction* a : Voci(*menu))
             if (a->menu() == nullptr)
                 entries << a;
-    if (entries.isEmpty())
+    QAction* entry = Voce(entries, finestra);
+    if (entry == nullptr)
         return;
-    QAction* entry = Uno(entries);
     Racconta(QStringLiteral("menu ") + entry->text(), &finestra);
     entry->trigger();
 }
