@@ -321,10 +321,13 @@ std::string NomiAcciai() {
     return nomi;
 }
 
+/// Files that are not there yet are compared, too: "o.txt" is "./o.txt".
 bool Stesso(const std::filesystem::path& a, const std::filesystem::path& b) {
-    std::error_code nessuno;
-    return !a.empty() && !b.empty() &&
-           std::filesystem::weakly_canonical(a, nessuno) == std::filesystem::weakly_canonical(b, nessuno);
+    const auto intero = [](const std::filesystem::path& file) {
+        std::error_code nessuno;
+        return std::filesystem::weakly_canonical(std::filesystem::absolute(file, nessuno), nessuno);
+    };
+    return !a.empty() && !b.empty() && intero(a) == intero(b);
 }
 
 /// No answer writes over another one, nor over the file that is read.
