@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
+
 #include "choice/ConfrontoScelta.h"
+#include "choice/TabellaScelta.h"
 #include "drawing/Grafica.h"
 #include "drawing/SuperficieSvg.h"
 #include "frame/GeneraleSagomi.h"
@@ -34,6 +38,92 @@ TEST(GraficoSceltaTest, TheFrontHasThoseThatNoLighterOneBeats) {
     EXPECT_EQ(FronteLeggeri(same), (Posti{1}));
 }
 
+/// One mark after the other against the definition: it holds, and no other that holds is as light or lighter
+/// and utilised as much or less; of equal ones the first.
+Posti PerDefinizione(const std::vector<PuntoGrafico>& marks) {
+    const auto beats = [&](std::uint32_t i, std::uint32_t j) {
+        const PuntoGrafico &a = marks[i], &b = marks[j];
+        return a.verificato && a.g <= b.g && a.u <= b.u && (a.g < b.g || a.u < b.u || i < j);
+    };
+    Posti front;
+    for (std::uint32_t i = 0; i < marks.size(); ++i) {
+        bool beaten = !marks[i].verificato;
+        for (std::uint32_t j = 0; j < marks.size(); ++j)
+            beaten = beaten || (j != i && beats(j, i));
+        if (!beaten)
+            front.push_back(i);
+    }
+    std::ranges::sort(front, {}, [&](std::uint32_t i) { return marks[i].g; });
+    return front;
+}
+
+TEST(GraficoSceltaTest, TheFrontIsThatOfTheDefinition) {
+    std::mt19937 random(2);
+    for (int run = 0; run < 3000; ++run) {
+        std::vector<PuntoGrafico> marks(random() % 14);
+        for (PuntoGrafico& p : marks)
+            p = {double(random() % 6), double(random() % 6), 0, random() % 4 != 0, 0};
+        ASSERT_EQ(FronteLeggeri(marks), PerDefinizione(marks)) << run;
+    }
+}
+
+DatiGrafico Uno(double g) {
+    DatiGrafico d;
+    d.punti = {{g, 0.5, 0, true, 0}};
+    d.fronte = {0};
+    return d;
+}
+
+// An eighth of the weight, rounded up to 1, 2 or 5 of a power of ten, is the step; the axis ends at a whole
+// number of them.
+TEST(GraficoSceltaTest, TheAxisEndsAtAWholeStep) {
+    const std::pair<double, double> ends[] = {{8, 8},      {8.1, 10},  {16, 16},     {17, 20},  {23, 25},
+                                              {40, 40},    {41, 50},   {80, 80},     {81, 100}, {101, 120},
+                                              {801, 1000}, {0.5, 0.5}, {0.31, 0.35}, {0, 100}};
+    for (const auto& [g, end] : ends)
+        EXPECT_NEAR(ScalaDi(Uno(g), {0, 0, 800, 300}, 15).gMassimo, end, 1e-9) << g;
+    DatiGrafico none = Uno(100); // nothing holds: as far as there are sections
+    none.punti[0].verificato = false;
+    none.punti.push_back({730, 2, 0, false, 1});
+    none.fronte.clear();
+    EXPECT_DOUBLE_EQ(ScalaDi(none, {0, 0, 800, 300}, 15).gMassimo, 800);
+}
+
+// With lines of 15: 3.4 of them for the values at the left, 0.7 above, 1.6 below, and at the right 1.6, or 1
+// and the legend: its longest name at 0.62 for a letter and 1.6 for the mark. 300 have room for
+// floor(300 / 17.25) = 17 names.
+TEST(GraficoSceltaTest, TheFieldLeavesRoomForValuesAndLegend) {
+    const auto field = [](const DatiGrafico& d) { return ScalaDi(d, {7, 9, 800, 300}, 15).campo; };
+    DatiGrafico d = Uno(40);
+    EXPECT_DOUBLE_EQ(field(d).sinistra, 7 + 51);
+    EXPECT_DOUBLE_EQ(field(d).alto, 9 + 10.5);
+    EXPECT_DOUBLE_EQ(field(d).altezza, 300 - 10.5 - 24);
+    EXPECT_DOUBLE_EQ(field(d).larghezza, 800 - 51 - 24);
+    d.famiglie = {"IPE", "L Uguali"};
+    EXPECT_NEAR(field(d).larghezza, 800 - 51 - 15 - (8 * 0.62 + 1.6) * 15, 1e-9);
+    for (const auto& [families, columns] : {std::pair{1U, 1}, {17U, 1}, {18U, 2}, {34U, 2}, {35U, 3}}) {
+        d.famiglie.assign(families, "HEA");
+        EXPECT_NEAR(field(d).larghezza, 800 - 51 - 15 - columns * (3 * 0.62 + 1.6) * 15, 1e-9) << families;
+    }
+}
+
+// A value of the weight has at least four lines of text, of 2 to 8 values; 2.3 lines of the height are the
+// margins, and quarters want more than nine.
+TEST(GraficoSceltaTest, TheStepsAreAsManyAsThereIsRoomFor) {
+    const auto wide = [](double g, double width) {
+        return ScalaDi(Uno(g), {0, 0, width + (3.4 + 1.6) * 15, 300}, 15).gPasso;
+    };
+    EXPECT_EQ(wide(101, 800), 20) << "120 by 8";
+    EXPECT_EQ(wide(101, 180), 50) << "by 3";
+    EXPECT_EQ(wide(101, 120), 100) << "by 2";
+    EXPECT_EQ(wide(101, 30), 100) << "by 2 at least";
+    EXPECT_EQ(wide(40, 300), 10) << "by 5";
+    const auto high = [](double height) { return ScalaDi(Uno(40), {0, 0, 800, height}, 15).uPasso; };
+    EXPECT_EQ(high(9 * 15 + 34.4), 0.5);
+    EXPECT_EQ(high(9 * 15 + 34.6), 0.25);
+    EXPECT_EQ(ScalaDi(Uno(40), {0, 0, 800, 300}, 15).uMassimo, 1.5);
+}
+
 // The lightest that holds weighs 30: the axis goes to 120, in steps of 20 or more.
 TEST(GraficoSceltaTest, TheAxisEndsAtFourTimesTheLightest) {
     const ScalaGrafico s = ScalaDi(Dati(), {0, 0, 800, 300}, 15);
@@ -52,6 +142,61 @@ TEST(GraficoSceltaTest, APointFindsTheMarkThatLiesNearest) {
     EXPECT_EQ(PuntoVicino(d, s, mark + PuntoQuadro{2, 2}, 15), 1U);
     EXPECT_FALSE(PuntoVicino(d, s, mark + PuntoQuadro{25, 0}, 15));
     EXPECT_FALSE(PuntoVicino(d, s, s.In(900, 0.1), 15)) << "a mark that is not drawn";
+}
+
+// Half a mark, 0.26 lines, and half a line: 11.4 with lines of 15.
+TEST(GraficoSceltaTest, APointHasToLieBesideTheMark) {
+    const DatiGrafico d = Dati();
+    const ScalaGrafico s = ScalaDi(d, {0, 0, 800, 300}, 15);
+    const PuntoQuadro mark = s.In(30, 0.9);
+    for (const PuntoQuadro way : {PuntoQuadro{1, 0}, {-1, 0}, {0, 1}, {0, -1}, {0.6, 0.8}, {-0.6, 0.8}}) {
+        EXPECT_EQ(PuntoVicino(d, s, mark + way * 11.3, 15), 1U);
+        EXPECT_NE(PuntoVicino(d, s, mark + way * 11.5, 15), 1U);
+    }
+    EXPECT_EQ(PuntoVicino(d, s, s.In(20, 1.3), 15), 0U) << "the first of all";
+}
+
+// Marks that a pair of eyes takes for one: the one that holds is meant, wherever it stands in the list.
+TEST(GraficoSceltaTest, OfMarksOnEachOtherTheOneThatHoldsIsMeant) {
+    for (const bool first : {false, true})
+        for (const double beside : {0.0, 1e-6, 1e-4}) {
+            DatiGrafico d = Dati();
+            d.punti = {{30, 0.9, 0, first, 1}, {30, 0.9, 1, !first, 2}};
+            const ScalaGrafico s = ScalaDi(Dati(), {0, 0, 800, 300}, 15);
+            const std::uint32_t holds = first ? 0 : 1;
+            PuntoQuadro where = s.In(30, 0.9);
+            d.punti[holds].g += beside / s.campo.larghezza * s.gMassimo; // so many units to the right
+            EXPECT_EQ(PuntoVicino(d, s, where, 15), beside < 1e-5 ? holds : 1 - holds) << beside;
+            where.x += 4;
+            EXPECT_EQ(PuntoVicino(d, s, where, 15), holds);
+        }
+}
+
+// Rows of a table that is sorted by weight: families come back, and two are equally light.
+TEST(GraficoSceltaTest, FamiliesAreThoseOfTheCatalogueHoweverTheTableIsSorted) {
+    const char* families[] = {"IPE", "IPE", "HEA", "IPE", "UPN", "HEA"};
+    const double weights[] = {12, 10, 20, 10, 30, 20};
+    std::vector<SagomoInGara> sagomi(6);
+    std::vector<RigaScelta> righe(6);
+    for (std::size_t i = 0; i < 6; ++i) {
+        sagomi[i].famiglia = families[i];
+        righe[i].g = weights[i];
+        righe[i].massimo = i == 4 ? 1.2 : 0.5;
+        righe[i].verificato = i != 4;
+    }
+    for (const Posti& order : {Posti{0, 1, 2, 3, 4, 5}, Posti{5, 3, 1, 4, 0, 2}}) {
+        const DatiGrafico d = DatiGraficoDi(order, righe, sagomi);
+        EXPECT_EQ(d.famiglie, (std::vector<std::string>{"IPE", "HEA", "UPN"}));
+        ASSERT_EQ(d.punti.size(), 6U);
+        for (std::uint32_t i = 0; i < 6; ++i) {
+            EXPECT_EQ(d.punti[i].posto, i);
+            EXPECT_EQ(d.famiglie[d.punti[i].famiglia], families[i]);
+            EXPECT_EQ(d.punti[i].g, weights[i]);
+            EXPECT_EQ(d.punti[i].u, righe[i].massimo);
+            EXPECT_EQ(d.punti[i].verificato, i != 4);
+        }
+        EXPECT_EQ(d.leggeri, (Posti{1, 2})) << "of equally light ones the first; no UPN holds";
+    }
 }
 
 TEST(GraficoSceltaTest, RowsWithoutAVerdictHaveNoMark) {
@@ -116,6 +261,31 @@ TEST(GraficoSceltaTest, ARowInHandOutsideOfTheAxesIsShownAtTheirEdge) {
         EXPECT_NE(svg.find("IN MANO"), std::string::npos) << outside;
         EXPECT_GT(svg.size(), without.size()) << "ring, arrow and name";
     }
+}
+
+// A share of nothing is not told; a utilisation is a share itself; a class is neither.
+TEST(ConfrontoSceltaTest, ADifferenceHasItsSignAndItsShare) {
+    std::vector<Confrontato> rows(3);
+    for (Confrontato& r : rows)
+        r.esito.sezione = r.sagomo.sezione = SezioneDoppioT();
+    rows[0].esito.riga = {.g = 40, .h = 0, .b = 100, .A = 5000, .classe = 2, .massimo = 0.8};
+    rows[1].esito.riga = {.g = 50, .h = 200, .b = 100, .A = 4500, .classe = 4, .massimo = 1.25};
+    rows[2].esito.riga = {.g = 30, .h = 300, .b = 99, .A = 5000, .classe = 1, .massimo = 0.3};
+    const auto lines = LineeConfronto(rows);
+    ASSERT_EQ(lines.size(), ColonneScelta().size() - 1);
+    const auto differences = [&](std::string_view name) {
+        return std::ranges::find(lines, name, &LineaConfronto::voce)->differenze;
+    };
+    using Testi = std::vector<std::string>;
+    EXPECT_EQ(differences("g (kg/m)"),
+              (Testi{"", "+" + Formato("0.0", 10) + " (+25 %)", Formato("0.0", -10) + " (-25 %)"}));
+    EXPECT_EQ(differences("h (mm)"), (Testi{"", "+200", "+300"}));
+    EXPECT_EQ(differences("b (mm)"), (Testi{"", "0 (0 %)", "-1 (-1 %)"}));
+    EXPECT_EQ(differences("A (cm2)"),
+              (Testi{"", Formato("0.0", -5) + " (-10 %)", Formato("0.0", 0) + " (0 %)"}));
+    EXPECT_EQ(differences("cl."), (Testi{"", "+2", "-1"}));
+    EXPECT_EQ(differences("utilizzo"), (Testi{"", "+45 %", "-50 %"}));
+    EXPECT_EQ(differences("Mb,Rd (kNm)"), (Testi{"", "", ""})) << "no numbers";
 }
 
 // IPE 300: 150 x 300, 42.2 kg/m; HEA 200: 200 x 190, 42.3 kg/m.
