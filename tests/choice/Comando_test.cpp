@@ -294,6 +294,29 @@ TEST_F(ComandoTest, AJobOfTheWrongKindSaysWhatWasExpected) {
         << "for all jobs: " << uscita.str();
 }
 
+// The character of the number 0 in all of its disguises; a backslash that is itself one is none.
+TEST_F(ComandoTest, OnlyTheCharacterZeroIsRefused) {
+    const std::string no = "un lavoro non può contenere il carattere U+0000";
+    for (const char* job :
+         {R"({"verifica":"\u0000"})", R"({"verifica":"a\n\u0000"})", R"({"verifica":"\\\u0000"})",
+          R"({"verifica":"\\\\\u0000b"})", R"({"\u0000":1})", R"({"verifica":"a\\\n\u0000"})"}) {
+        EXPECT_EQ(Esegue({"--json"}, std::string(job) + '\n'), comandoErrato);
+        EXPECT_TRUE(Dice(no)) << job << uscita.str();
+    }
+    EXPECT_EQ(Esegue({"--json"}, std::string("{\"verifica\":\"a\0\"}\n", 18)), comandoErrato);
+    EXPECT_TRUE(Dice(no)) << uscita.str();
+    for (const char* job :
+         {R"({"verifica":"a\\u0000"})", R"({"verifica":"\\\\u0000"})", R"({"verifica":"a\n\u0001"})",
+          R"({"verifica":"u0000"})", R"({"verifica":"\\n\\u0000"})"}) {
+        EXPECT_EQ(Esegue({"--json"}, std::string(job) + '\n'), comandoErrato);
+        EXPECT_TRUE(Dice("nessun sagomo si chiama")) << job << uscita.str();
+    }
+    EXPECT_EQ(Esegue({"--json"}, R"({"verifica":"HEA\u0020200","N":null,"scelta":null,"verificati":false})"
+                                 "\n"),
+              comandoVerificato)
+        << uscita.str();
+}
+
 // A byte alone, a character cut short, one written too long, half of a pair.
 TEST_F(ComandoTest, AnAnswerIsUtf8WhateverWasAsked) {
     const std::string no = "\xEF\xBF\xBD";

@@ -49,6 +49,23 @@ TEST_F(SceltaInCorsoTest, PiecesGiveTheRowsOfOneSweep) {
     }
 }
 
+// 32 rows between two looks at the clock; all of them where there is time.
+TEST_F(SceltaInCorsoTest, AsManyPiecesAsTheTimeAllows) {
+    auto some = LeggeGara(SAGOMI_BIN, {"L Uguali"}).sagomi;
+    ASSERT_EQ(some.size(), 114U);
+    for (const auto& [rows, pieces] : {std::pair{114, 4}, {96, 3}, {97, 4}, {65, 3}, {33, 2}, {32, 1}}) {
+        scelta.Sagomi({some.begin(), some.begin() + rows});
+        scelta.Comincia(richiesta, {});
+        int done = 1;
+        while (!scelta.Avanza(0us))
+            ++done;
+        EXPECT_EQ(done, pieces) << rows;
+        scelta.Comincia(richiesta, {});
+        EXPECT_TRUE(scelta.Avanza(10min)) << rows;
+        EXPECT_EQ(scelta.Ammesse().size(), static_cast<std::size_t>(rows));
+    }
+}
+
 TEST_F(SceltaInCorsoTest, WhatIsInSightComesFirst) {
     scelta.Sagomi(Alcuni());
     scelta.Comincia(richiesta, {});
@@ -100,6 +117,7 @@ TEST_F(SceltaInCorsoTest, ReadingInPiecesGivesTheSameCatalogue) {
     std::vector<SagomoInGara> read;
     for (bool more = true; more;) {
         more = pieces.Legge(100);
+        EXPECT_TRUE(pieces.letti.sagomi.size() == 100 || !more) << pieces.letti.sagomi.size();
         EXPECT_LE(pieces.letti.sagomi.size(), 100U);
         for (SagomoInGara& s : pieces.letti.sagomi)
             read.push_back(std::move(s));

@@ -194,6 +194,117 @@ TEST_F(SceltaTest, FiltersHoldRowsBack) {
     }
 }
 
+// Each limit alone, at a measure that rows have: those that just keep it take part.
+TEST_F(SceltaTest, ALimitHoldsBackWhatIsBeyondItAlone) {
+    Richiesta r = Acciaio275();
+    r.NSd = kN_a_N(60);
+    const auto expected = [&](const std::vector<RigaScelta>& all, auto&& keeps) {
+        std::vector<std::size_t> places;
+        for (const RigaScelta& row : all)
+            if (keeps(row))
+                places.push_back(row.indice);
+        return places;
+    };
+    const auto places = [&](const Filtri& f) {
+        return expected(Valuta(r, f), [](const RigaScelta&) { return true; });
+    };
+    for (const int kind : {0, 1, 2}) {
+        r.doppi = kind > 0;
+        r.accostati = kind > 1;
+        r.dDoppi = 10;
+        const std::vector<RigaScelta> all = Valuta(r);
+        ASSERT_EQ(all.size(), Sagomi().size());
+        for (std::size_t i = 7; i < all.size(); i += 211) {
+            const RigaScelta limit = all[i];
+            Filtri h, b, light, heavy, family;
+            h.hMassima = limit.h;
+            b.bMassima = limit.b;
+            light.gMinimo = limit.g;
+            heavy.gMassimo = limit.g;
+            family.famiglie = {Sagomi()[i].famiglia};
+            EXPECT_EQ(places(h), expected(all, [&](auto& x) { return x.h <= limit.h; }));
+            EXPECT_EQ(places(b), expected(all, [&](auto& x) { return x.b <= limit.b; }));
+            EXPECT_EQ(places(light), expected(all, [&](auto& x) { return x.g >= limit.g; }));
+            EXPECT_EQ(places(heavy), expected(all, [&](auto& x) { return x.g <= limit.g; }));
+            EXPECT_EQ(places(family), expected(all, [&](auto& x) {
+                          return Sagomi()[x.indice].famiglia == Sagomi()[i].famiglia;
+                      }));
+        }
+        Filtri good;
+        good.soloVerificati = true;
+        EXPECT_EQ(places(good), expected(all, [](auto& x) { return x.verificato; }));
+    }
+}
+
+// Of the six moments each alone is an action, and about y-y one that buckles a beam.
+TEST_F(SceltaTest, EachMomentAloneIsAnAction) {
+    const std::string_view told = "svergolamento non verificato: manca L o L0z";
+    const std::vector<SagomoInGara> some(Sagomi().begin(), Sagomi().begin() + 2);
+    const Richiesta none = Acciaio275();
+    EXPECT_TRUE(SenzaAzioni(none));
+    for (const auto moment : {&MomentiMembratura::M1, &MomentiMembratura::M2, &MomentiMembratura::MQ})
+        for (const auto axis : {&Richiesta::y, &Richiesta::z}) {
+            Richiesta r = none;
+            r.pict = pictDistribuitoConcorde;
+            r.tipoDiagramma = TipoDiPict(r.pict);
+            (r.*axis).M1 = moment == &MomentiMembratura::M2 ? 1e6 : 0;
+            (r.*axis).*moment = 1e6;
+            EXPECT_FALSE(SenzaAzioni(r));
+            for (const double L : {0.0, 3000.0}) {
+                r.L0z = L;
+                messaggi.clear();
+                EXPECT_FALSE(sagomi::Valuta(some, r, {}, messaggi).empty());
+                EXPECT_EQ(std::ranges::count(messaggi, told), axis == &Richiesta::y && L == 0 ? 1 : 0);
+                messaggi.clear();
+                Verifica(some[0], r, messaggi);
+                EXPECT_EQ(std::ranges::count(messaggi, told), axis == &Richiesta::y && L == 0 ? 1 : 0);
+            }
+            r.L0z = 0;
+            (r.*axis).M1 = 0;
+            (r.*axis).*moment = 0.5; // an action, however small
+            EXPECT_FALSE(SenzaAzioni(r));
+        }
+    Richiesta pull = none;
+    pull.NSd = 1;
+    EXPECT_FALSE(SenzaAzioni(pull));
+    messaggi.clear();
+    EXPECT_FALSE(sagomi::Valuta(some, pull, {}, messaggi).empty());
+    EXPECT_TRUE(messaggi.empty());
+}
+
+// A force that is the resistance to the last bit.
+TEST_F(SceltaTest, WhatIsUsedToTheFullHolds) {
+    for (const char* name : {"UPN 200", "L 100x100x10"}) {
+        Richiesta r = Acciaio275();
+        r.L0y = r.L0z = r.L0v = 3000;
+        r.NSd = 1000;
+        const RigaScelta slack = Riga(r, name);
+        r.NSd = std::min(slack.NbyRd, slack.NbzRd);
+        if (!std::isnan(slack.NbvRd))
+            r.NSd = std::min(r.NSd, slack.NbvRd);
+        const RigaScelta full = Riga(r, name);
+        EXPECT_EQ(full.membratura, 1) << name;
+        EXPECT_TRUE(full.verificato) << name;
+        r.NSd = std::nextafter(r.NSd, 1e12) * (1 + 1e-12);
+        EXPECT_FALSE(Riga(r, name).verificato) << name;
+    }
+}
+
+// A section without moduli bears no moment: the reason names the resistance of the action.
+TEST_F(SceltaTest, AResistanceOfNothingIsNamed) {
+    for (const bool y : {true, false}) {
+        SagomoInGara without = *std::ranges::find(Sagomi(), "HEA 200", &SagomoInGara::Designazione);
+        auto& section = std::get<SezioneDoppioT>(without.sezione);
+        (y ? section.Wely : section.Welz) = 0;
+        (y ? section.Wply : section.Wplz) = 0;
+        Richiesta r = Acciaio275();
+        (y ? r.y : r.z).M1 = kNm_a_Nmm(10);
+        const RigaScelta row = Verifica(without, r, messaggi).riga;
+        EXPECT_TRUE(std::isinf(row.massimo));
+        EXPECT_EQ(row.motivo, y ? "La resistenza a My è 0" : "La resistenza a Mz è 0");
+    }
+}
+
 TEST_F(SceltaTest, TheLightestThatHoldsComesFirst) {
     Richiesta r = Acciaio275();
     r.y.M1 = kNm_a_Nmm(100);

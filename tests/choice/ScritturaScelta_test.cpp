@@ -219,6 +219,142 @@ TEST_F(ScritturaSceltaTest, WhatIsToldStandsBesideATableOfCsv) {
     }
 }
 
+std::string Cifre(double v) {
+    char text[64];
+    return std::isnan(v) ? "" : std::string(text, std::to_chars(text, text + sizeof text, v).ptr);
+}
+
+/// How long the character at the beginning is by its code point; 0 where there is none.
+std::size_t Carattere(std::string_view bytes) {
+    const auto at = [&](std::size_t i) -> std::uint32_t { return static_cast<unsigned char>(bytes[i]); };
+    if (at(0) < 128)
+        return 1;
+    const std::size_t lengths[] = {2, 3, 4};
+    const std::uint32_t least[] = {0x80, 0x800, 0x10000}; // what shorter ones do not reach
+    for (int k = 0; k < 3; ++k) {
+        const std::size_t n = lengths[k];
+        const std::uint32_t lead = at(0) >> (6 - k - 1), mark = (1U << (k + 3)) - 2; // 110, 1110, 11110
+        if (lead != mark || bytes.size() < n)
+            continue;
+        std::uint32_t point = at(0) - (mark << (6 - k - 1));
+        bool good = true;
+        for (std::size_t i = 1; i < n; ++i) {
+            good = good && at(i) / 64 == 2;
+            point = point * 64 + at(i) % 64;
+        }
+        return good && point >= least[k] && point <= 0x10FFFF && point / 0x800 != 27 ? n : 0; // D800 to DFFF
+    }
+    return 0;
+}
+
+/// A text of JSON, byte by byte.
+std::string InJson(std::string_view bytes) {
+    std::string text;
+    for (std::size_t n = 0; !bytes.empty(); bytes.remove_prefix(n)) {
+        n = Carattere(bytes);
+        const std::string_view one = bytes.substr(0, n);
+        text += n == 0                       ? "\xEF\xBF\xBD"
+                : one == "\"" || one == "\\" ? "\\" + std::string(one)
+                : one == "\n"                ? "\\n"
+                : one < " "                  ? " "
+                                             : std::string(one);
+        n = std::max<std::size_t>(n, 1);
+    }
+    return "{\"errore\":\"" + text + "\"}\n";
+}
+
+// Every first byte with the second, third and fourth ones at all ends of what is allowed.
+TEST(ScritturaErrore, AnyBytesBecomeATextOfJson) {
+    const std::string ends = "!\x7F\x80\x8F\x90\x9F\xA0\xBF\xC0\xFF";
+    std::string bytes(4, '\0');
+    for (int first = 0; first < 256; ++first)
+        for (const char second : ends)
+            for (const char third : ends)
+                for (const char fourth : {'!', '\x7F', '\x80', '\xBF', '\xC0'}) {
+                    bytes = {static_cast<char>(first), second, third, fourth};
+                    for (const std::size_t n : {4U, 3U, 2U, 1U}) {
+                        std::ostringstream out;
+                        ScriveErrore(out, bytes.substr(0, n));
+                        ASSERT_EQ(out.str(), InJson(bytes.substr(0, n))) << first;
+                        if (fourth != '!')
+                            break; // the shorter ones once
+                    }
+                }
+}
+
+/// Ten thousandths, rounded, without zeros at the end.
+std::string QuattroDecimali(double v) {
+    const long long n = std::llround(std::abs(v) * 10000);
+    std::string part = std::to_string(10000 + n % 10000).substr(1);
+    while (!part.empty() && part.back() == '0')
+        part.pop_back();
+    return (v < 0 && n != 0 ? "-" : "") + std::to_string(n / 10000) + (part.empty() ? "" : "." + part);
+}
+
+// A weight is told with four decimals, a utilisation to a program as it is; to a person, too, where it
+// would read as 1.
+TEST_F(ScritturaSceltaTest, NumbersAreRoundedForWhoReadsThem) {
+    std::vector<SagomoInGara> one(1);
+    one[0].famiglia = "Mia, \"nuova\"";
+    one[0].sezione = SezioneDoppioT();
+    Comando c;
+    const auto written = [&](FormatoUscita format, double g, double u) {
+        RigaScelta row;
+        row.g = g;
+        row.massimo = row.sezione = u;
+        row.verificato = u <= 1;
+        c.formato = format;
+        uscita.str("");
+        ScriveScelta(uscita, c, one, {row}, {});
+        return uscita.str();
+    };
+    for (const double v : {0.0, -0.0, 1.0, -1.0, 1.00001, 0.99999, 0.99994, -0.00004, -0.00006, 0.00006, 12.5,
+                           100.0, 120.0, 1234567.89012, -20.05, 0.3, 999999999999.5}) {
+        const std::string csv = written(FormatoUscita::Csv, v, v);
+        EXPECT_NE(csv.find("\n,\"Mia, \"\"nuova\"\"\"," + QuattroDecimali(v) + ",0,0,0,0,"),
+                  std::string::npos)
+            << csv;
+        written(FormatoUscita::Json, v, v);
+        EXPECT_EQ(Campo("g"), QuattroDecimali(v));
+        double back = std::nan("");
+        const std::string exact = Campo("massimo");
+        std::from_chars(exact.data(), exact.data() + exact.size(), back);
+        EXPECT_EQ(back, v) << exact;
+        const std::string text = written(FormatoUscita::Testo, v, v);
+        const bool beside = QuattroDecimali(v) == "1" && v != 1;
+        EXPECT_NE(text.find(beside ? ' ' + exact + ' ' : ' ' + QuattroDecimali(v) + ' '), std::string::npos)
+            << text;
+        EXPECT_NE(text.find(' ' + QuattroDecimali(v) + ' '), std::string::npos) << "the weight: " << text;
+    }
+    for (const double v : {1e15, -3e15, 1.25e20, 1e300}) { // no decimals left
+        written(FormatoUscita::Json, v, v);
+        EXPECT_EQ(Numero("g"), v) << Campo("g");
+        EXPECT_LE(Campo("g").size(), 8U) << Campo("g");
+    }
+    written(FormatoUscita::Json, RigaScelta::nessuno, RigaScelta::nessuno);
+    EXPECT_EQ(Campo("g"), "null");
+    EXPECT_NE(written(FormatoUscita::Csv, RigaScelta::nessuno, 0).find("\"\"\",,0,"), std::string::npos);
+}
+
+// A thousandth of many numbers is no longer the number: what was asked for is told as it was given.
+TEST_F(ScritturaSceltaTest, WhatWasGivenComesBackFigureByFigure) {
+    std::string jobs, numbers;
+    for (int i = 1; i <= 300; ++i) {
+        const std::string number = Cifre(i / 1000.0);
+        jobs +=
+            R"({"verifica":"HEA 200","N":)" + number + R"(,"My":)" + number + R"(,"L0y":)" + number + "}\n";
+        numbers += number + ' ' + number + ' ' + number + '\n';
+    }
+    EXPECT_EQ(Esegue({"--json"}, jobs), comandoVerificato);
+    std::istringstream answers(uscita.str());
+    std::string told;
+    for (std::string line; std::getline(answers, line); told += '\n') {
+        uscita.str(line);
+        told += Campo("N") + ' ' + Campo("My") + ' ' + Campo("L0y");
+    }
+    EXPECT_EQ(told, numbers);
+}
+
 /// The fields of a line of CSV without quotation marks.
 std::vector<std::string> Campi(const std::string& line) {
     std::vector<std::string> fields;
@@ -226,11 +362,6 @@ std::vector<std::string> Campi(const std::string& line) {
     for (std::string field; std::getline(in, field, ',');)
         fields.push_back(field);
     return fields;
-}
-
-std::string Cifre(double v) {
-    char text[64];
-    return std::isnan(v) ? "" : std::string(text, std::to_chars(text, text + sizeof text, v).ptr);
 }
 
 class ScritturaDiTutto : public ScritturaSceltaTest, public testing::WithParamInterface<Argomenti> {};
