@@ -17,6 +17,8 @@ namespace {
 
 using Punto = PuntoQuadro;
 
+constexpr std::string_view nomeAsse = "M [kNm]";
+
 /// What the diagram shows: moments [kNm], stiffness [kNm/rad].
 struct CurvaGiunto {
     bool calcolata = false, conLuce = false;
@@ -89,10 +91,14 @@ public:
         const double rotazione = c_.Mj / c_.SjRd;
         const double flessibile = c_.conLuce ? 1.3 * c_.Mj / c_.limiti[1].S : 0;
         phiMax_ = std::min(std::max(1.6 * rotazione, flessibile), 4 * rotazione);
-        mMax_ = 1.2 * std::max(c_.Mj, c_.Msd);
+        const double sopra = std::min((riga_ + 4) / campo_.altezza, 0.5); // of the text on the highest level
+        mMax_ = std::max(1.2, 1 / (1 - sopra)) * std::max(c_.Mj, c_.Msd);
+        occupate_ = {Casella(c_.Mj, TestoRd(), RdSotto())};
+        if (c_.Msd > 0)
+            occupate_.push_back(Casella(c_.Msd, TestoSd(), SdSotto()));
     }
 
-    void Traccia() const {
+    void Traccia() {
         Assi();
         Limiti();
         Giunto();
@@ -117,7 +123,7 @@ private:
         TaccheMomento();
         q_.Testo({campo_.Destra(), campo_.Basso() + riga_ * 2.5}, "rotazione [mrad]", Allinea::Destra,
                  Posa::Basso);
-        q_.Testo({2, 2}, "M [kNm]", Allinea::Sinistra, Posa::Alto);
+        q_.Testo({2, 2}, nomeAsse, Allinea::Sinistra, Posa::Alto);
     }
 
     /// As many figures as find room.
@@ -144,34 +150,87 @@ private:
 
     static std::string Cifre(double valore) { return TestoPiano(std::round(valore * 1e6) / 1e6); }
 
+    struct NomeLimite {
+        std::string_view nome;
+        double centro, mezza;
+    };
+
     /// Lines of the limits to the upper or the right edge; their names stand there.
-    void Limiti() const {
-        std::vector<double> centri;
-        std::vector<double> mezze;
-        std::vector<std::string_view> nomi;
+    void Limiti() {
+        std::vector<NomeLimite> inAlto;
         for (const CurvaGiunto::Limite& l : c_.limiti) {
             if (!(l.S > 0))
                 continue;
-            const bool inAlto = mMax_ / l.S <= phiMax_;
-            const Punto fine = inAlto ? In(mMax_ / l.S, mMax_) : In(phiMax_, phiMax_ * l.S);
+            const bool alto = mMax_ / l.S <= phiMax_;
+            const Punto fine = alto ? In(mMax_ / l.S, mMax_) : In(phiMax_, phiMax_ * l.S);
             q_.Fine(TipoLinea::Tratteggiata);
             Quadro::Linea(In(0, 0), fine);
-            if (!inAlto) {
-                q_.Testo(fine - Punto{2, 3}, l.nome, Allinea::Destra, Posa::Basso);
-                continue;
-            }
-            const double mezza = q_.LarghezzaTesto(l.nome) / 2;
-            const double sinistra = campo_.sinistra + mezza;
-            const double centro = std::clamp(fine.x, sinistra, std::max(sinistra, campo_.Destra() - mezza));
-            // The names stand as their lines do, from the steepest on, however wide each is.
+            if (alto)
+                inAlto.push_back({l.nome, fine.x, q_.LarghezzaTesto(l.nome) / 2});
+            else
+                NomeADestra(fine, l.nome);
+        }
+        if (InRiga(inAlto, 0, campo_.sinistra))
+            return;
+        std::vector<NomeLimite> sopra; // every second one, beside the name of the axis
+        std::vector<NomeLimite> sotto;
+        for (std::size_t i = 0; i < inAlto.size(); ++i)
+            (i % 2 == 1 ? sopra : sotto).push_back(inAlto[i]);
+        InRiga(sopra, 1, 2 + q_.LarghezzaTesto(nomeAsse) + riga_ / 2, true);
+        InRiga(sotto, 0, campo_.sinistra, true);
+    }
+
+    /// Names over the upper edge as their lines stand, from the steepest on, however wide each is.
+    /// @param riga   lines above the edge
+    /// @param anche  where they have no room as well
+    /// @return  whether they have room beside each other
+    bool InRiga(const std::vector<NomeLimite>& nomi, int riga, double sinistra, bool anche = false) const {
+        std::vector<double> centri;
+        std::vector<double> mezze;
+        for (const auto& [nome, x, mezza] : nomi) {
+            const double primo = sinistra + mezza;
+            const double centro = std::clamp(x, primo, std::max(primo, campo_.Destra() - mezza));
             centri.push_back(centri.empty() ? centro : std::max(centro, centri.back() + 1));
             mezze.push_back(mezza + riga_ / 3);
-            nomi.push_back(l.nome);
         }
         centri = Distanziati(centri, mezze);
-        const double fuori = centri.empty() ? 0 : std::max(0.0, campo_.sinistra - centri[0] + mezze[0]);
-        for (std::size_t i = 0; i < nomi.size(); ++i)
-            q_.Testo({centri[i] + fuori, campo_.alto - 2}, nomi[i], Allinea::Centro, Posa::Basso);
+        const double fuori = nomi.empty() ? 0 : std::max(0.0, sinistra - centri[0] + mezze[0]);
+        const bool entrano = nomi.empty() || centri.back() + fuori + nomi.back().mezza <= q_.Tutto().Destra();
+        for (std::size_t i = 0; (entrano || anche) && i < nomi.size(); ++i)
+            q_.Testo({centri[i] + fuori, campo_.alto - 2 - riga * riga_}, nomi[i].nome, Allinea::Centro,
+                     Posa::Basso);
+        return entrano;
+    }
+
+    /// The name of a line that ends at the right edge: over its end, else where it is free, farther down the
+    /// line, under it, at last a line or two above.
+    void NomeADestra(Punto fine, std::string_view nome) {
+        const double l = q_.LarghezzaTesto(nome);
+        const Punto origine = In(0, 0);
+        const CampoQuadro prima{fine.x - 2 - l, fine.y - 3 - riga_, l, riga_};
+        CampoQuadro scelta = prima;
+        constexpr int passi = 40;
+        constexpr int righe = 3;
+        for (int i = 0; i < righe * passi && !Libera(scelta); ++i) {
+            const Punto p = origine + (fine - origine) * (1 - double(i % passi) / passi);
+            const int alzata = 1 + i / passi;
+            scelta = {p.x - 2 - l, p.y - 3 - alzata * riga_, l, riga_};
+            if (const CampoQuadro sotto{p.x + 4, p.y + 2, l, riga_}; !Libera(scelta) && Libera(sotto))
+                scelta = sotto;
+        }
+        if (!Libera(scelta))
+            scelta = prima;
+        occupate_.push_back(scelta);
+        q_.Testo({scelta.Destra(), scelta.Basso()}, nome, Allinea::Destra, Posa::Basso);
+    }
+
+    /// Inside the axes and apart from the texts before.
+    [[nodiscard]] bool Libera(const CampoQuadro& c) const {
+        return c.sinistra >= campo_.sinistra && c.Destra() <= campo_.Destra() && c.alto >= campo_.alto &&
+               c.Basso() <= campo_.Basso() && std::ranges::none_of(occupate_, [&](const CampoQuadro& o) {
+                   return c.sinistra < o.Destra() && o.sinistra < c.Destra() && c.alto < o.Basso() &&
+                          o.alto < c.Basso();
+               });
     }
 
     void Giunto() const {
@@ -183,7 +242,7 @@ private:
         PennaPlt(pennaInchiostro);
         LineaStilePlt(2 * spessoreContorno, TipoLinea::Continua, Estremi::Quadri);
         Quadro::Spezzata(linea);
-        Scritta(ultimo, "Mj,Rd " + Kn(c_.Mj), false);
+        Scritta(Casella(c_.Mj, TestoRd(), RdSotto()), TestoRd());
         q_.Fine(TipoLinea::TrattoPuntoCorto);
         Quadro::Linea(In(0, c_.Mel), linea[1]);
         PennaPlt(pennaInchiostro);
@@ -205,21 +264,36 @@ private:
             LineaStilePlt(spessoreContorno);
             Quadro::Cerchio(In(c_.Msd / c_.SSd, c_.Msd), 4.5);
         }
-        const bool sotto = std::abs(c_.Msd - c_.Mj) / mMax_ * campo_.altezza < 1.3 * riga_ && !oltre;
-        Scritta(In(phiMax_, c_.Msd), "Mj,Sd " + Kn(c_.Msd) + (oltre ? " > Mj,Rd" : ""), sotto);
+        Scritta(Casella(c_.Msd, TestoSd(), SdSotto()), TestoSd());
     }
 
-    /// A text at the right end of a level, on a ground of its own: limits may cross there.
-    void Scritta(Punto fine, const std::string& testo, bool sotto) const {
+    [[nodiscard]] std::string TestoRd() const { return "Mj,Rd " + Kn(c_.Mj); }
+    [[nodiscard]] std::string TestoSd() const {
+        return "Mj,Sd " + Kn(c_.Msd) + (c_.Msd > c_.Mj ? " > Mj,Rd" : "");
+    }
+
+    /// Both texts stand on their levels, the lower one under its own where the levels are near each other.
+    [[nodiscard]] bool Vicini() const {
+        return std::abs(c_.Msd - c_.Mj) / mMax_ * campo_.altezza < 1.3 * riga_;
+    }
+    [[nodiscard]] bool RdSotto() const { return c_.Msd > c_.Mj && Vicini(); }
+    [[nodiscard]] bool SdSotto() const { return c_.Msd <= c_.Mj && Vicini(); }
+
+    /// Of a text at the right end of a level.
+    [[nodiscard]] CampoQuadro Casella(double M, const std::string& testo, bool sotto) const {
+        const Punto fine = In(phiMax_, M);
         const double l = q_.LarghezzaTesto(testo);
-        const double alto = sotto ? fine.y + 3 : fine.y - 3 - riga_;
-        const double destra = fine.x - 2;
-        Quadro::Area(std::array<Punto, 4>{{{destra - l - 1, alto},
-                                           {destra, alto},
-                                           {destra, alto + riga_},
-                                           {destra - l - 1, alto + riga_}}},
+        return {fine.x - 2 - l, sotto ? fine.y + 3 : fine.y - 3 - riga_, l, riga_};
+    }
+
+    /// A text on a ground of its own: limits may cross there.
+    void Scritta(const CampoQuadro& c, const std::string& testo) const {
+        Quadro::Area(std::array<Punto, 4>{{{c.sinistra - 1, c.alto},
+                                           {c.Destra(), c.alto},
+                                           {c.Destra(), c.Basso()},
+                                           {c.sinistra - 1, c.Basso()}}},
                      Fondo::Sfondo);
-        q_.Testo({destra, alto}, testo, Allinea::Destra, Posa::Alto);
+        q_.Testo({c.Destra(), c.alto}, testo, Allinea::Destra, Posa::Alto);
     }
 
     static std::string Kn(double M) {
@@ -232,6 +306,7 @@ private:
     double riga_;
     CampoQuadro campo_;
     double phiMax_ = 0, mMax_ = 0;
+    std::vector<CampoQuadro> occupate_; ///< by texts inside the axes
 };
 
 } // namespace

@@ -3,7 +3,10 @@
 #include "joints/DiagrammaRigidezza.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <string>
+#include <utility>
 
 #include <gmock/gmock.h>
 
@@ -63,6 +66,58 @@ TEST_F(DiagrammaRigidezzaTest, NamesOfLimitsStandInTheOrderOfTheirLines) {
                 }
         EXPECT_GT(prima, 0) << luce;
     }
+}
+
+/// Texts as wide as in a common sans serif.
+class Larga : public SuperficieFinta {
+public:
+    using SuperficieFinta::SuperficieFinta;
+    [[nodiscard]] double TextWidth(std::string_view testo) const override {
+        return 1.25 * SuperficieFinta::TextWidth(testo);
+    }
+};
+
+/// Boxes of the texts, letters that hang down included: none on another, none beyond the picture.
+void SenzaSovrapposizioni(const SuperficieFinta& s, double larga, const std::string& dove) {
+    struct Casella {
+        double x1, y1, x2, y2;
+    };
+    std::vector<Casella> c;
+    for (const auto& t : s.scritte) {
+        c.push_back(
+            {t.x, t.y - t.altezza, t.x + larga * t.altezza * double(t.testo.size()), t.y + 0.3 * t.altezza});
+        EXPECT_GE(c.back().x1, -1e-6) << dove << ": " << t.testo;
+        EXPECT_LE(c.back().x2, s.ScaleWidth + 1e-6) << dove << ": " << t.testo;
+        EXPECT_GE(c.back().y1, -1e-6) << dove << ": " << t.testo;
+        EXPECT_LE(c.back().y2, s.ScaleHeight + 1e-6) << dove << ": " << t.testo;
+    }
+    for (std::size_t i = 0; i < c.size(); ++i)
+        for (std::size_t j = 0; j < i; ++j)
+            EXPECT_FALSE(c[i].x1 < c[j].x2 && c[j].x1 < c[i].x2 && c[i].y1 < c[j].y2 && c[j].y1 < c[i].y2)
+                << dove << ": " << s.scritte[i].testo << " on " << s.scritte[j].testo;
+}
+
+// From the least size on, whatever lies near what: limits, level and acting moment.
+TEST_F(DiagrammaRigidezzaTest, TextsDoNotTouch) {
+    const double Mj = g().MplRdGIUNTO;
+    const std::array<std::pair<double, double>, 5> misure{
+        {{300, 160}, {300, 200}, {440, 280}, {900, 160}, {700, 500}}};
+    for (const auto& [l, h] : misure)
+        for (const double luce : {0.0, 0.3, 0.6, 1.0, 1.5, 2.0, 3.0, 4.0, 6.0, 8.0, 12.0, 24.0})
+            for (const double parte : {0.0, 0.05, 0.2, 0.4, 0.6, 0.8, 0.9, 0.98, 1.0, 1.02, 1.1, 1.3, 3.0}) {
+                n.TraveDx->lunghezza() = luce;
+                n.TraveDx->Mysd = parte * Mj;
+                g().Limiti();
+                const std::string dove = std::to_string(int(l)) + 'x' + std::to_string(int(h)) + " luce " +
+                                         std::to_string(luce) + " parte " + std::to_string(parte);
+                SuperficieFinta stretta(l, h);
+                Larga larga(l, h);
+                for (SuperficieFinta* s : {&stretta, static_cast<SuperficieFinta*>(&larga)}) {
+                    const SuUscita uscita(s);
+                    DiagrammaRigidezza(g()).PlottaInOggetto(s, "frmGiunti");
+                    SenzaSovrapposizioni(*s, s == &larga ? 0.75 : 0.6, dove);
+                }
+            }
 }
 
 // The unit of an axis from the joint's own line: its last rise ends at Mj,Rd and Mj,Rd / Sj.
