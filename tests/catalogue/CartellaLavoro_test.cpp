@@ -246,6 +246,17 @@ TEST_F(CartellaLavoroTest, WhatTheUserWorksWithInSuchAnInstallationIsNeverReplac
     EXPECT_EQ(LeggeByte(configurazione / "Sagomi.ini"), "vecchie impostazioni");
 }
 
+// As long as the one without rows, but another.
+TEST_F(CartellaLavoroTest, AWorkbookOfTheSameLengthIsNotTheEmptyOne) {
+    const ConVariabile altra("XDG_DATA_HOME", (dir.percorso / "usr" / "share").string());
+    ScriveByte(share / "SagomiUtente-vuota.xls", "vuota");
+    ApreCartellaLavoro(bin);
+    ScriveByte(share / "SagomiUtente.xls", "piena");
+    ScriveConfigurazione("SagomiUtente.xls", "vecchie sezioni");
+    EXPECT_EQ(ApreCartellaLavoro(bin).avviso, "");
+    EXPECT_EQ(LeggeByte(share / "SagomiUtente.xls"), "piena");
+}
+
 TEST_F(CartellaLavoroTest, AWorkbookThatCannotBeToldFromTheInstalledOneStays) {
     const ConVariabile altra("XDG_DATA_HOME", (dir.percorso / "usr" / "share").string());
     ScriveConfigurazione("SagomiUtente.xls", "vecchie sezioni");

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "catalogue/ErroreCatalogo.h"
+#include "catalogue/Famiglie.h"
 #include "frame/Ambiente.h"
 
 using namespace sagomi;
@@ -44,6 +45,20 @@ TEST(FoglioDaCsv, DistanceOfTheCentroidIsNotWritten) {
     EXPECT_EQ(f.Legge(1, 18), Valore(30.0));
 }
 
+// Each column of the table by its number, from the first figure to the last.
+TEST(FoglioDaCsv, EveryColumnInItsPlace) {
+    S riga = "nome";
+    for (int c = 1; c < 18; ++c)
+        riga += "," + std::to_string(c) + ".5";
+    const Foglio f = FoglioDaCsv("ISE", "frmSaldati", testaSaldati + riga + "\n" + riga + "\n");
+    ASSERT_EQ(f.righe.size(), 3U);
+    for (std::size_t c = 1; c < 18; ++c) {
+        EXPECT_EQ(f.Legge(1, c), Valore(static_cast<double>(c) + 0.5));
+        EXPECT_EQ(f.Legge(2, c), f.Legge(1, c));
+        EXPECT_EQ(f.Legge(0, c), Valore(S(Intestazioni("frmSaldati")[c])));
+    }
+}
+
 S Errore(const S& csv, const char* schermo = "frmSaldati") {
     try {
         FoglioDaCsv("ISE", schermo, csv);
@@ -60,6 +75,11 @@ TEST(FoglioDaCsv, TellsSheetLineAndWhatIsWrong) {
     S scambiate = testaSaldati;
     scambiate.replace(scambiate.find("h_mm,b_mm"), 9, "b_mm,h_mm");
     EXPECT_EQ(Errore(scambiate), "Errore nella tabella \"ISE\", riga 1: \"b_mm\" al posto di \"h (mm)\".");
+    EXPECT_EQ(Errore("nome" + testaSaldati.substr(11)),
+              "Errore nella tabella \"ISE\", riga 1: \"nome\" al posto di \"Designation\".");
+    S ultima = testaSaldati;
+    ultima.replace(ultima.find("Iw_cm6"), 6, "IT_cm4");
+    EXPECT_EQ(Errore(ultima), "Errore nella tabella \"ISE\", riga 1: \"IT_cm4\" al posto di \"Iw (cm6)\".");
     S lettere = rigaSaldata;
     lettere.replace(lettere.find("7503"), 4, "75o3");
     EXPECT_EQ(Errore(testaSaldati + rigaSaldata + lettere),

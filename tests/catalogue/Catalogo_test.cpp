@@ -245,6 +245,16 @@ TEST_F(CatalogoTest, MissingOrDamagedWorkbook) {
                 testing::ThrowsMessage<ErroreCatalogo>(HasSubstr("non è una cartella di lavoro .xls")));
 }
 
+// 300 rows by themselves are 90,000 pairs: some hundred thousand steps are no long query.
+TEST_F(CatalogoTest, AQueryOfManyStepsIsAnswered) {
+    Foglio f = FoglioDi("x", {{S("a")}});
+    for (std::size_t i = 0; i < 300; ++i)
+        f.Scrive(i + 1, 0, double(i));
+    const auto c = Con({f});
+    EXPECT_EQ(c->Esegue("SELECT count(*) FROM [x$] p, [x$] q WHERE p.a + q.a < 1000").righe.at(0).at(0),
+              Valore(90000.0));
+}
+
 TEST(FileAccanto, WhateverTheCapitals) {
     const prove::CartellaDiProva dir;
     EXPECT_EQ(FileAccanto(dir.percorso, "Sagomi.xls"),

@@ -105,6 +105,21 @@ TEST_F(ControlloTest, PublishedRowsPass) {
 
 // 1945.37 cm4 is the second moment of the 44 vertex outline, each fillet an arc in 8 chords (computed apart,
 // in Python, from the vertices): (2100 - 1945.37) / 2100 = 7.363 %.
+// Whatever the radius at its tip, a flange with one is tapered: torsion and warping have wider limits.
+TEST_F(ControlloTest, ASmallRadiusAtTheTipMeansATaperedFlange) {
+    const auto tolleranze = [this](double r2) {
+        Carica(Con(ipn200, 7, r2));
+        std::vector<double> t;
+        for (const VoceControllo& voce : VociLaminati(sezione))
+            if (voce.campo >= 17)
+                t.push_back(voce.tolleranza);
+        return t;
+    };
+    EXPECT_EQ(tolleranze(0.5), tolleranze(4.5));
+    EXPECT_EQ(tolleranze(1), tolleranze(4.5));
+    EXPECT_NE(tolleranze(0), tolleranze(4.5));
+}
+
 TEST_F(ControlloTest, WrongInertiaRaisesItsBoxAndNoOther) {
     EXPECT_THAT(Controlla(Con(ipe200, 9, 2100.0)),
                 ElementsAre("Riscontrato valore troppo approssimato nel database\r"

@@ -111,6 +111,21 @@ TEST(FoglioXls, IndexPointsAtColumnsAndBlocks) {
         EXPECT_EQ(indice.U32(16 + 4 * i), blocchi[i].posizione);
 }
 
+TEST(FoglioXls, TheIndexOfASheetThatBeginsFurtherDown) {
+    Foglio f{"x", {}};
+    for (std::size_t r = 40; r < 110; ++r) // 70 rows: 32 + 32 + 6
+        f.Scrive(r, 0, double(r));
+    const auto record = Scritto(f);
+    const auto indice = Del(record, Biff::Index).at(0);
+    EXPECT_EQ(indice.U32(4), 40U);
+    EXPECT_EQ(indice.U32(8), 110U);
+    const auto blocchi = Del(record, Biff::DbCell);
+    ASSERT_EQ(blocchi.size(), 3U);
+    ASSERT_EQ(indice.corpo.size(), 16U + 4U * 3U);
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_EQ(indice.U32(16 + 4 * i), blocchi[i].posizione);
+}
+
 /// Follows the offsets of a block: to its first row, then from the second ROW record to the first cell of
 /// each row, each counted from the one before.
 TEST(FoglioXls, BlockOffsetsLeadToTheFirstCellOfEachRow) {

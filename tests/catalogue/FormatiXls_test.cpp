@@ -17,12 +17,13 @@ TEST(GenereFormato, TheFormatsThatEveryWorkbookHas) {
 }
 
 TEST(GenereFigura, DatesAndTimes) {
-    for (const char* f :
-         {"dd/mm/yyyy", "d-mmm-yy", "YYYY\\-MM\\-DD", "[$-410]d mmmm yyyy;@", "mmm-yy", "mmmm"})
+    for (const char* f : {"dd/mm/yyyy", "d", "\"x\"d", "_xd", "\\xy", "*xm", "[Red]y", "d-mmm-yy",
+                          "YYYY\\-MM\\-DD", "[$-410]d mmmm yyyy;@", "mmm-yy", "mmmm"})
         EXPECT_EQ(GenereFigura(f), GenereNumero::Data) << f;
     for (const char* f : {"h:mm", "hh:mm:ss", "[h]:mm", "mm:ss.0", "h:mm AM/PM", "[mm]"})
         EXPECT_NE(GenereFigura(f), GenereNumero::Semplice) << f;
-    EXPECT_EQ(GenereFigura("[h]:mm"), GenereNumero::Ora);
+    for (const char* f : {"[h]:mm", "h", "s", "[s]", "\"d\"s", "0\"y\"h", "a/p", "[mm]:ss"})
+        EXPECT_EQ(GenereFigura(f), GenereNumero::Ora) << f;
     EXPECT_EQ(GenereFigura("h AM/PM"), GenereNumero::Ora);
     EXPECT_EQ(GenereFigura("dd/mm/yyyy hh:mm"), GenereNumero::DataOra);
 }

@@ -231,6 +231,122 @@ TEST_F(LettoreTest, ReceiverMayMoveAndReplaceItself) {
     EXPECT_EQ(annunci, 1);
 }
 
+TEST_F(LettoreTest, TheFirstRowIsFoundAndGoneTo) {
+    lettore.MoveLast();
+    EXPECT_TRUE(lettore.CercaRecord("IPE 80"));
+    EXPECT_EQ(lettore.RigaCorrente(), 0);
+    lettore.MoveLast();
+    lettore.MoveTo(0);
+    EXPECT_EQ(lettore.RigaCorrente(), 0);
+}
+
+TEST_F(LettoreTest, WhatIsNotThereIsToldWithItsBounds) {
+    const auto detto = [](const auto& chiede) {
+        try {
+            chiede();
+        } catch (const std::out_of_range& e) {
+            return S(e.what());
+        }
+        return S();
+    };
+    EXPECT_EQ(detto([&] { lettore.MoveTo(3); }), "riga 3 fuori da 0..2");
+    EXPECT_EQ(detto([&] { static_cast<void>(lettore.NomeCampo(-1)); }), "campo -1 fuori da 0..2");
+    EXPECT_EQ(detto([&] { static_cast<void>(lettore.Cella(1, 5)); }), "campo 5 fuori da 0..2");
+}
+
+TEST_F(LettoreTest, RowsAreFoundByANumberToo) {
+    ScriveXls({{FoglioDi("N", {{S("n"), S("m")}, {100.0, 1.0}, {97.5, 2.0}, {100.0, 3.0}})}}, file);
+    lettore.RecordSource("SELECT * FROM [N$]");
+    lettore.Refresh();
+    EXPECT_TRUE(lettore.CercaRecord("97.5"));
+    EXPECT_EQ(lettore.RigaCorrente(), 1);
+    EXPECT_TRUE(lettore.CercaRecord("100"));
+    EXPECT_EQ(lettore.RigaCorrente(), 0);
+    EXPECT_FALSE(lettore.CercaRecord("97"));
+}
+
+// A text in quotation marks that is no column orders nothing: the rows stay as they stand.
+TEST_F(LettoreTest, AnOrderByNoColumnLeavesTheRows) {
+    ScriveXls({{FoglioDi("N", {{S("n"), S("m")}, {3.0, 1.0}, {1.0, 2.0}, {2.0, 3.0}})}}, file);
+    for (const char* ordine : {"'niente'", "[_rowid_]"}) {
+        lettore.RecordSource(S("SELECT * FROM [N$] ORDER BY ") + ordine);
+        lettore.Refresh();
+        ASSERT_EQ(lettore.Righe(), 3);
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(lettore.Cella(i, 1), Valore(i + 1.0)) << ordine;
+    }
+}
+
+/// The same rows as before, but to be changed.
+TEST_F(LettoreTest, RowsInHandBecomeOnesThatCanBeChanged) {
+    lettore.RecordSource("SELECT * FROM [IPE$] ORDER BY [h (mm)]");
+    lettore.Refresh();
+    EXPECT_THROW(lettore.Edit(), ErroreCatalogo);
+    EXPECT_THROW(lettore.AddNew(), ErroreCatalogo);
+    EXPECT_THROW(lettore.Update(), ErroreCatalogo);
+    lettore.TabellaModificabile("IPE$");
+    lettore.Refresh();
+    EXPECT_EQ(lettore.RigaDelFoglio(0), 1U); // IPE 80 stands behind the headings
+    EXPECT_EQ(lettore.RigaDelFoglio(1), 3U); // 97.5 before 100
+    EXPECT_THROW(static_cast<void>(lettore.RigaDelFoglio(3)), ErroreCatalogo);
+    EXPECT_THROW(static_cast<void>(lettore.RigaDelFoglio(-1)), ErroreCatalogo);
+}
+
+TEST_F(LettoreTest, AChangeStaysInItsPlace) {
+    lettore.TabellaModificabile("IPE$");
+    lettore.Refresh();
+    for (const int i : {0, 1, 2}) {
+        lettore.MoveTo(i);
+        EXPECT_THROW(lettore.Campo(1, 1.0), std::out_of_range) << "nothing is being written";
+        lettore.Edit();
+        lettore.Campo(1, 200.0 + i);
+        lettore.Campo(0, S("x"));
+        for (const int fuori : {-1, 3, 4})
+            EXPECT_THROW(lettore.Campo(fuori, 1.0), std::out_of_range) << fuori;
+        const int lettura = lettore.Lettura();
+        lettore.Update();
+        EXPECT_NE(lettore.Lettura(), lettura);
+        EXPECT_EQ(lettore.RigaCorrente(), i);
+        EXPECT_EQ(lettore.Righe(), 3);
+        EXPECT_EQ(lettore.Numero(1), 200 + i);
+    }
+    lettore.Refresh();
+    for (const int i : {0, 1, 2})
+        EXPECT_EQ(lettore.Cella(i, 1), Valore(200.0 + i));
+}
+
+TEST_F(LettoreTest, ANewRowComesBehindTheLastAndTheRowInHandStays) {
+    lettore.TabellaModificabile("IPE$");
+    lettore.Refresh();
+    const auto nuova = [this](const char* nome) {
+        lettore.AddNew();
+        lettore.Campo(0, S(nome));
+        lettore.Update();
+        EXPECT_EQ(lettore.Cella(lettore.Righe() - 1, 0), Valore(S(nome)));
+        EXPECT_TRUE(Vuoto(lettore.Cella(lettore.Righe() - 1, 2)));
+    };
+    nuova("a");
+    EXPECT_EQ(lettore.RigaCorrente(), 0);
+    lettore.MoveTo(1);
+    nuova("b");
+    EXPECT_EQ(lettore.RigaCorrente(), 1);
+    lettore.MoveFirst();
+    lettore.MovePrevious();
+    nuova("c");
+    EXPECT_TRUE(lettore.BOF());
+    lettore.MoveLast();
+    lettore.MoveNext();
+    nuova("d");
+    EXPECT_TRUE(lettore.EOF_());
+    EXPECT_EQ(lettore.RigaDelFoglio(6), 7U);
+    lettore.TabellaModificabile("Vuoto$");
+    lettore.RecordSource("SELECT * FROM [Vuoto$]");
+    lettore.Refresh();
+    nuova("e");
+    EXPECT_EQ(lettore.RigaCorrente(), 0) << "the only row is in hand";
+    EXPECT_FALSE(lettore.EOF_());
+}
+
 /// Values of every kind, with many that are equal; what SQLite gives is the measure.
 class OrdineRigheTest : public LettoreTest {
 protected:

@@ -59,7 +59,8 @@ TEST(OrdineQuery, TellsTheTablesOfWholeSheetsAlsoWithoutAnOrder) {
     EXPECT_EQ(two->colonna, "h");
     for (const char* query :
          {"", "SELECT * FROM IPE$", "SELECT * FROM [IPE$];", "SELECT * FROM [IPE$] LIMIT 1",
-          "SELECT * FROM [IPE$] UNION ", "SELECT * FROM [IPE$] ORDER BY "})
+          "SELECT * FROM [IPE$] UNION ", "SELECT * FROM [IPE$] ORDER BY ", "SELECT * FROM [] ORDER BY [a]",
+          R"(SELECT * FROM "" ORDER BY "a")", "SELECT * FROM [a] ORDER BY [] ASC]"})
         EXPECT_FALSE(SeparaFogli(query)) << query;
 }
 
@@ -70,6 +71,14 @@ TEST(OrdineQuery, KnowsTheSheetsOfAQuery) {
     EXPECT_FALSE(NominaFoglio(query, "HEA"));
     EXPECT_TRUE(NominaFoglio(ComponeQuery("frmSagomiL", {"L Uguali"}, 0), "L Uguali"));
     EXPECT_FALSE(NominaFoglio(query, "L Uguali"));
+}
+
+TEST(OrdineQuery, ANameMayBeASingleCharacter) {
+    const auto fogli = SeparaFogli(R"(SELECT * FROM [x] UNION SELECT * FROM "y" ORDER BY [z] ASC)");
+    ASSERT_TRUE(fogli);
+    EXPECT_EQ(fogli->tabelle, (std::vector<std::string_view>{"x", "y"}));
+    EXPECT_EQ(fogli->colonna, "z");
+    EXPECT_EQ(fogli->righe, R"(SELECT * FROM [x] UNION SELECT * FROM "y")");
 }
 
 } // namespace

@@ -150,4 +150,32 @@ TEST(FlussoBiff, RefusesWhatARecordCannotHold) {
     EXPECT_THROW(f.Record(Biff::Sst, o.U8(0)), std::length_error);
 }
 
+// The first and the last character of each length, and those beside the halves of pairs (RFC 3629, chapter
+// 3).
+TEST(Utf8DaUtf16, FirstAndLastOfEachLength) {
+    const std::pair<char32_t, std::string> casi[] = {{0x00, std::string(1, '\0')},
+                                                     {0x7F, "\x7F"},
+                                                     {0x80, "\xC2\x80"},
+                                                     {0x7FF, "\xDF\xBF"},
+                                                     {0x800, "\xE0\xA0\x80"},
+                                                     {0xFFF, "\xE0\xBF\xBF"},
+                                                     {0xD7FF, "\xED\x9F\xBF"},
+                                                     {0xE000, "\xEE\x80\x80"},
+                                                     {0xFFFF, "\xEF\xBF\xBF"},
+                                                     {0x10000, "\xF0\x90\x80\x80"},
+                                                     {0x3FFFF, "\xF0\xBF\xBF\xBF"},
+                                                     {0x10FFFF, "\xF4\x8F\xBF\xBF"}};
+    for (const auto& [c, utf8] : casi) {
+        std::u16string utf16(1, static_cast<char16_t>(c));
+        if (c > 0xFFFF)
+            utf16 = {static_cast<char16_t>(0xD800 + (c - 0x10000) / 0x400),
+                     static_cast<char16_t>(0xDC00 + (c - 0x10000) % 0x400)};
+        EXPECT_EQ(Utf8DaUtf16(utf16), utf8) << std::hex << std::uint32_t(c);
+        EXPECT_EQ(Utf16DaUtf8(utf8), utf16) << std::hex << std::uint32_t(c);
+        EXPECT_EQ(Utf16DaUtf8("a" + utf8 + "z"), u"a" + utf16 + u"z");
+    }
+    for (const char16_t mezza : {char16_t(0xD800), char16_t(0xDBFF), char16_t(0xDC00), char16_t(0xDFFF)})
+        EXPECT_EQ(Utf8DaUtf16(std::u16string(1, mezza)), "\uFFFD");
+}
+
 } // namespace

@@ -172,4 +172,22 @@ TEST_F(RigaSagomiTest, TaperedFlangesHaveMoreRoom) {
     EXPECT_EQ(VociSagomiL({}).size(), 0U);
 }
 
+TEST_F(RigaSagomiTest, WithoutARowTheSectionStays) {
+    Carica(Potenze("L 100x100x10", 19));
+    SezioneSagomoL l;
+    SezioneSagomoU u;
+    l.h = u.h = 7;
+    l.iV = 8;
+    for (const bool oltre : {true, false}) {
+        oltre ? lettore.MoveLast() : lettore.MoveFirst();
+        oltre ? lettore.MoveNext() : lettore.MovePrevious();
+        LeggeRiga(lettore, l);
+        LeggeRiga(lettore, u);
+        EXPECT_EQ(l.h, 7);
+        EXPECT_EQ(l.iV, 8);
+        EXPECT_EQ(u.h, 7);
+        EXPECT_EQ(l.Designation + u.Designation, "");
+    }
+}
+
 } // namespace

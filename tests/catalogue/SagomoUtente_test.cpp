@@ -142,6 +142,16 @@ TEST_F(SagomoUtenteTest, PlatesThatMakeNoSectionAreNotAccepted) {
     p = buoni;
     p.tw = 201;
     EXPECT_FALSE(p.Accettabili()) << "thicker than the lower flange is wide";
+    p = buoni;
+    p.r = 95; // 10 + 2 x 95 = 200, the narrower flange
+    EXPECT_TRUE(p.Accettabili());
+    p.r = 95.5;
+    EXPECT_FALSE(p.Accettabili());
+    p = buoni;
+    p.b2 = 2000, p.b = 2000, p.r = 232; // 15 + 20 + 2 x 232 = 499, less than 500
+    EXPECT_TRUE(p.Accettabili());
+    p.r = 232.5;
+    EXPECT_FALSE(p.Accettabili()) << "no straight web is left";
     EXPECT_TRUE(
         (PiattiSaldati{.h = 500, .b = 250, .tf = 15, .tw = 10, .r = 0, .b2 = {}, .tf2 = {}}).Accettabili());
 }

@@ -12,6 +12,7 @@
 
 #include "DiscoVolatile.h"
 #include "Fogli.h"
+#include "Guasti.h"
 #include "catalogue/CartellaXls.h"
 #include "catalogue/ErroreCatalogo.h"
 #include "catalogue/LettoreXls.h"
@@ -241,12 +242,16 @@ TEST(ScriveXls, TellsWhyAFileCannotBeWritten) {
                                                            "\": la cartella non esiste.");
     std::filesystem::create_directory(dir.percorso / "u.xls");
     EXPECT_THAT(testo(dir.percorso / "u.xls"), HasSubstr("al suo posto c'è una cartella"));
-    if (geteuid() == 0)
-        GTEST_SKIP() << "root may write anywhere";
-    std::filesystem::permissions(dir.percorso,
-                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    const auto gia = dir.percorso / "gia.xls";
+    ScriveXls(c, gia);
+    {
+        const prove::DiscoPieno disco(100); // also where a file is there already
+        EXPECT_THAT(testo(dir.percorso / "v.xls"), HasSubstr("il disco non accetta i dati"));
+        EXPECT_THAT(testo(gia), HasSubstr("il disco non accetta i dati"));
+    }
+    EXPECT_EQ(Rilegge(c, gia).fogli.size(), 1U);
+    const prove::CartellaChiusa chiusa(dir.percorso);
     EXPECT_THAT(testo(dir.percorso / "v.xls"), HasSubstr("accesso negato"));
-    std::filesystem::permissions(dir.percorso, std::filesystem::perms::owner_all);
 }
 
 TEST(ComponeBiff, PassesItsOwnCheck) {

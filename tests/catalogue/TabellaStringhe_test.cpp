@@ -129,6 +129,35 @@ TEST(TabellaStringhe, HalvesOfACharacterStayTogether) {
     }
 }
 
+// A string begins where its head of 3 and a character find room, which may be one of two halves.
+TEST(TabellaStringhe, AStringBeginsWhereItFindsRoom) {
+    for (const auto& [testo, minimo] : {std::pair{"abcd", std::size_t{5}}, {"\u20AC\u20AC\u20AC\u20AC", 7}})
+        for (std::size_t libero = 0; libero < 12; ++libero) {
+            std::vector<std::u16string> attesi;
+            TabellaStringhe t = ConSpazio(libero, attesi);
+            t.Raccoglie(testo);
+            const auto record = Scritta(t);
+            EXPECT_EQ(record[0].corpo.size() == massimoRecord - libero, libero < minimo || libero == 0)
+                << testo << ' ' << libero;
+        }
+}
+
+// One pair alone at every distance from the border: it goes over whole, and all else as far as it finds room.
+TEST(TabellaStringhe, APairAtTheBorderGoesOverWhole) {
+    for (std::size_t posto = 1; posto < 12; ++posto) {
+        std::vector<std::u16string> attesi;
+        constexpr std::size_t libero = 3 + 2 * 6; // the head and six units
+        TabellaStringhe t = ConSpazio(libero, attesi);
+        const std::string testo =
+            Ripete("\u20AC", int(posto)) + "\U0001F529" + Ripete("\u20AC", 12 - int(posto));
+        t.Raccoglie(testo);
+        attesi.push_back(Utf16DaUtf8(testo));
+        const auto record = Scritta(t);
+        EXPECT_EQ(LeggeStringhe(record), attesi) << posto;
+        EXPECT_EQ(record[0].corpo.size(), massimoRecord - (posto == 5 ? 2 : 0)) << posto;
+    }
+}
+
 TEST(TabellaStringhe, LongestTextAndOneMore) {
     TabellaStringhe t;
     EXPECT_NO_THROW(t.Raccoglie(std::string(32767, 'x')));
