@@ -209,6 +209,33 @@ TEST_F(Colonna, StiffenerTroppoVicinoDiceLaGrandezza) {
     }
 }
 
+// With the stiffener as thick as the flange m2c is d2, without a weld.
+TEST_F(Colonna, LaDistanzaFuoriDalDiagrammaSiDice) {
+    g.Irrigidimenti = "Si";
+    g.ec = 30;
+    trave->tf = 10;
+    g.Irr_Spessore = 10;
+    const auto detta = [this](double mc, double d2, double dX) {
+        g.mc = mc;
+        g.d2 = d2;
+        g.dX = dX;
+        try {
+            g.Beff_Calcola();
+        } catch (const std::out_of_range& e) {
+            return std::string(e.what());
+        }
+        return std::string();
+    };
+    EXPECT_EQ(detta(-5, 40, 40), "mc = -5 mm: fuori dal diagramma di alfa");
+    EXPECT_EQ(detta(0, -3, 40), "m2c = -3 mm: fuori dal diagramma di alfa");
+    EXPECT_EQ(detta(30, -3, 40), "m2c = -3 mm: fuori dal diagramma di alfa");
+    EXPECT_EQ(detta(30, 40, -3), "");
+    g.nf = 2;
+    EXPECT_EQ(detta(30, 40, -3), "mxc = -3 mm: fuori dal diagramma di alfa");
+    EXPECT_EQ(detta(0, 40, -3), "mxc = -3 mm: fuori dal diagramma di alfa");
+    EXPECT_EQ(detta(0, 0, 0), "");
+}
+
 TEST_F(Colonna, DistanzaN) {
     g.ec = 60;
     g.mc = 30;

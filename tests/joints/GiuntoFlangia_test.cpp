@@ -86,6 +86,25 @@ TEST_F(Flangia, DistanzeNulle) {
     EXPECT_THROW(g.LeffFlangia_Calcola(), std::out_of_range);
 }
 
+// Told by the distance that leaves the diagram; a row at the web itself does not.
+TEST_F(Flangia, LaDistanzaFuoriDalDiagrammaSiDice) {
+    const auto detta = [this](double mf, double m2) {
+        g.mf = mf;
+        g.m2 = m2;
+        try {
+            g.LeffFlangia_Calcola();
+        } catch (const std::out_of_range& e) {
+            return std::string(e.what());
+        }
+        return std::string();
+    };
+    EXPECT_EQ(detta(-5, 36), "mf = -5 mm: fuori dal diagramma di alfa");
+    EXPECT_EQ(detta(-5, -3), "mf = -5 mm: fuori dal diagramma di alfa");
+    EXPECT_EQ(detta(0, -3), "m2 = -3 mm: fuori dal diagramma di alfa");
+    EXPECT_EQ(detta(30, -3), "m2 = -3 mm: fuori dal diagramma di alfa");
+    EXPECT_EQ(detta(0, 0), "");
+}
+
 // 7.1 235 165.6 / 1050.
 TEST_F(Flangia, AnimaTrave) {
     g.LeffFlangia_Calcola();

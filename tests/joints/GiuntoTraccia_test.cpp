@@ -216,3 +216,21 @@ TEST_F(Traccia, IrrigidimentoPiuSottileDellAla) {
         EXPECT_EQ(Passo(g().Traccia, "Irrigidimenti", "Nota") != nullptr, piuSottile) << tf;
     }
 }
+
+// Half a flange of 10 and a plate of 3.75 are the legs of a throat of 5 3.75 / 6.25 = 3: the weld of one row
+// has just that. With two rows it lies inside and may be larger.
+TEST_F(Traccia, GolaOltreLaMassima) {
+    n.TraveDx->tf = 10;
+    g().tf = 3.75;
+    g().nf = 1;
+    ASSERT_TRUE(n.EsegueCalcolo());
+    EXPECT_EQ(Valore("Saldatura delle ali della trave", "CordoneAla"), 3);
+    EXPECT_EQ(Valore("Saldatura delle ali della trave", "Af"), 3);
+    EXPECT_EQ(Passo(g().Traccia, "Saldatura delle ali della trave", "Nota"), nullptr);
+    g().nf = 2;
+    ASSERT_TRUE(n.EsegueCalcolo());
+    EXPECT_GT(Valore("Saldatura delle ali della trave", "Af"), 3);
+    const PassoGiunto* nota = Passo(g().Traccia, "Saldatura delle ali della trave", "Nota");
+    ASSERT_NE(nota, nullptr);
+    EXPECT_EQ(nota->testo, "gola massima 3.0 mm");
+}

@@ -191,6 +191,9 @@ TEST_F(LimitiFlangia, NotaDelloSpessore) {
     EXPECT_EQ(NotaSpessore(g, 1), "Non rispetta i 3 mm (EC3).");
     EXPECT_EQ(NotaSpessore(g, 3.6), "Non rispetta i 3 mm (EC3).");
     EXPECT_EQ(NotaSpessore(g, 3.7), "");
+    trave->tf = 10; // 5 3.75 / 6.25 = 3
+    EXPECT_EQ(NotaSpessore(g, 3.75), "");
+    EXPECT_EQ(NotaSpessore(g, 3.74), "Non rispetta i 3 mm (EC3).");
 }
 
 // Room by the column (160 - 11)/2 - 27 = 47.5, so M42 in 45; by the extension 40 - 7.07 = 32.9, so M27 in 30;

@@ -289,6 +289,13 @@ TEST_F(NodoProva, LuceNegativaSiRifiuta) {
     EXPECT_FALSE(Nodo::ControllaLunghezza(testo, luce));
     EXPECT_EQ(luce, 6);
     EXPECT_EQ(testo, "6");
+    for (const double valore : {0.5, 0.0}) { // short, or not given
+        testo = TestoPiano(valore);
+        EXPECT_TRUE(Nodo::ControllaLunghezza(testo, luce));
+        EXPECT_EQ(luce, valore);
+    }
+    testo = "0";
+    EXPECT_FALSE(Nodo::ControllaLunghezza(testo, luce)) << "the same again";
 }
 
 TEST_F(NodoProva, BetaCautelativo) {

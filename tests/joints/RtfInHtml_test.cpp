@@ -42,6 +42,8 @@ INSTANTIATE_TEST_SUITE_P(RtfInHtml, RtfInHtmlTest, testing::Values(
     CasoRtf{"sostituto_hex","\\u8722\\'2d5",                "<p>−5</p>\n"},
     CasoRtf{"simboli",      "{\\fonttbl{\\f0 Times;}{\\f3\\fcharset2 Symbol;}}{\\f3 bS\\'b3\\'d6}b", "<p>βΣ≥√b</p>\n"},
     CasoRtf{"segni",        "a\\{b\\}\\\\c\\~d\\_e\\emdash f", "<p>a{b}\\c\xC2\xA0" "d\xE2\x80\x91" "e—f</p>\n"},
+    CasoRtf{"segni_per_nome", "\\tab a\\endash b\\bullet c\\lquote d\\rquote e\\ldblquote f\\rdblquote g",
+                            "<p>\ta–b•c‘d’e“f”g</p>\n"},
     CasoRtf{"html",         "a<b>&c",                       "<p>a&lt;b&gt;&amp;c</p>\n"},
     CasoRtf{"a_capo",       "a\\line b\r\nc",               "<p>a<br>bc</p>\n"},
     CasoRtf{"nascosto",     "a\\v xx\\v0 b{\\v y}c",        "<p>abc</p>\n"},

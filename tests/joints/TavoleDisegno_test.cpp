@@ -69,6 +69,8 @@ TEST(TavoleDisegno, SheetsOfTheWorkshop) {
 }
 
 TEST(TavoleDisegno, PicturesBesideTheFigures) {
+    const std::string titoli =
+        "governa: ala della colonna, fila esterna 90 kN; flangia d'estremità, fila interna 120 kN";
     std::string tavola;
     for (const auto& [nome, tipo] : nodi)
         for (const bool sinistro : {false, true})
@@ -77,8 +79,7 @@ TEST(TavoleDisegno, PicturesBesideTheFigures) {
                     SuperficieFinta s(larga, alta);
                     const SuUscita uscita(&s);
                     const Nodo n = NodoDisegnato(tipo, larga < 400 ? 1 : 2, "Cp", sinistro && tipo < nodoT);
-                    FiguraGiunto(n, nullptr, {{}, alta > 500 ? "governa: a; governa: b" : "", {}, {}})
-                        .PlottaInOggetto(&s, "");
+                    FiguraGiunto(n, nullptr, {{}, alta > 500 ? titoli : "", {}, {}}).PlottaInOggetto(&s, "");
                     tavola += std::string(nome) + (sinistro ? " sinistro " : " destro ") + Cifra(larga) +
                               " x " + Cifra(alta) + ':' + Collocazione(s).Riga() + '\n';
                 }
