@@ -22,6 +22,9 @@ constexpr double misuraMassima =
     1e4; ///< of a plate: beyond it the steps of the search would have no end [mm]
 constexpr const char* titolo = "Giunto Flangiato";
 
+/// Whether steps from one measure reach the other.
+bool HaFine(double da, double a) { return da >= -misuraMassima && a <= misuraMassima; }
+
 /// The coefficients of a search, in force while one lives.
 struct CoefficientiInForza {
     CoefficientiInForza() { coefficientiProgetto.Imposta(); }
@@ -69,12 +72,12 @@ bool RicercaGiunto::Esegue() {
     g_.VplRdPannello_Calcola(g_.Beta);
     g_.parametriSelezione_.Svuota();
     g_.MplRdGIUNTO = 0;
-    if (tfMax_ < 1 || !(g_.c().b <= misuraMassima) || (dueFile_ && !(g_.L_max <= misuraMassima)))
+    if (tfMax_ < 1 || !HaFine(g_.t().b, g_.c().b))
         return false;
-    if (dueFile_)
-        Progetto2File();
-    else
+    if (!dueFile_)
         Progetto1Fila();
+    else if (LIniziale_ = g_.LMin_Calcola().value_or(0); HaFine(LIniziale_, g_.L_max))
+        Progetto2File();
     if (record_.Vuoto())
         return false;
     g_.DatiSelezione_Imposta(record_);
@@ -93,7 +96,6 @@ void RicercaGiunto::Progetto1Fila() {
 }
 
 void RicercaGiunto::Progetto2File() {
-    LIniziale_ = g_.LMin_Calcola().value_or(0);
     const double ultima = ParteIntera(g_.c().b);
     for (double bf = ParteIntera(g_.t().b); bf <= ultima; bf += passo_) {
         g_.bf = bf;

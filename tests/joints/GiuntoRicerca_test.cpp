@@ -1,6 +1,7 @@
 // The search of a design: what it reads, what it leaves, how it ends. Its tables of improvements stand in
 // GiuntoTabelle_test.cpp.
 #include <gmock/gmock.h>
+#include <limits>
 
 #include <cstdlib>
 #include <functional>
@@ -391,6 +392,21 @@ TEST_F(Ricerca, LunghezzaDelGambo) {
     };
     ASSERT_TRUE(n.EsegueCalcolo(&o));
     EXPECT_GT(visti, 0);
+}
+
+// From there no step goes on: -1e30 + 5 is -1e30.
+TEST_F(Ricerca, UnaTraveSmisurataNonSiCerca) {
+    const Attesa attesa([] { return true; });
+    for (const std::int16_t file : {1, 2})
+        for (const float b :
+             {-1e30F, -std::numeric_limits<float>::infinity(), std::numeric_limits<float>::quiet_NaN()}) {
+            g().nf = file;
+            auto trave = IPE300();
+            trave->b = b;
+            n.TraveDx = trave;
+            EXPECT_FALSE(n.EsegueCalcolo(&o));
+            EXPECT_EQ(o.candidati, 0) << b;
+        }
 }
 
 // A plate of 10 mm has no room for a hole: there is no candidate that would ask.
