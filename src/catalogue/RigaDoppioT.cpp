@@ -130,6 +130,8 @@ void Riempie(SezioneDoppioT& sezione, std::string nome, const F& numero, RigheDo
 
 } // namespace
 
+int CampiDi(RigheDoppioT righe) { return Destinazioni(righe).back().campo + 1; }
+
 void LeggeRiga(const Lettore& riga, SezioneDoppioT& sezione, RigheDoppioT righe) {
     if (!riga.BOF() && !riga.EOF_())
         Riempie(

@@ -13,10 +13,13 @@ class SezioneDoppioT;
 /// ones.
 enum class RigheDoppioT { Laminate, Saldate, SaldateAsimmetriche };
 
+/// Columns that rows of a kind have at least: 19, 18 or 21.
+int CampiDi(RigheDoppioT righe);
+
 /// Fills a section with the row in hand: name, dimensions and constants of the table, from mm, cm2, cm3, cm4,
 /// cm6 and cm to mm and its powers. Of welded sections the kind is set too; equal flanges have one modulus
 /// for both fibres. The weight is not read, an empty field is 0. At BOF and EOF the section stays as it is. A
-/// table with fewer columns than these rows have (19, 18 or 21) throws std::out_of_range.
+/// table with fewer columns than these rows have throws std::out_of_range.
 void LeggeRiga(const Lettore& riga, SezioneDoppioT& sezione, RigheDoppioT righe = RigheDoppioT::Laminate);
 
 /// The same from the fields of a row by position; too few of them throw std::out_of_range.

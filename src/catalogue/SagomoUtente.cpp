@@ -86,6 +86,7 @@ int CompletaRighe(const fs::path& file, std::string_view tabella, RigheDoppioT r
     const MessaggiTaciuti quiet;
     Lettore lettore;
     lettore.DatabaseName(file);
+    lettore.CampiAttesi(CampiDi(righe));
     lettore.RecordSource("SELECT * FROM [" + std::string(tabella) + "]");
     lettore.TabellaModificabile(tabella);
     lettore.Refresh();

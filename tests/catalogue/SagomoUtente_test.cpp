@@ -7,6 +7,7 @@
 
 #include "Fogli.h"
 #include "Registratore.h"
+#include "catalogue/ErroreCatalogo.h"
 #include "catalogue/Lettore.h"
 #include "catalogue/LettoreXls.h"
 #include "catalogue/ScrittoreXls.h"
@@ -118,6 +119,20 @@ TEST_F(SagomoUtenteTest, RowsWithValuesAndRowsThatAreNoneStay) {
         for (std::size_t c = 0; c < 18; ++c)
             EXPECT_EQ(dopo.Legge(riga, c), prima.fogli[0].Legge(riga, c)) << riga << ' ' << c;
     EXPECT_NEAR(std::get<double>(dopo.Legge(5, 7)), 106, 1e-4);
+}
+
+// The sheet of equal flanges has 18 columns, rows of different ones 21.
+TEST_F(SagomoUtenteTest, ASheetWithTooFewColumnsIsToldAndLeft) {
+    Scrive(simmetrico, {{S("S1"), {}, 300.0, 200.0, 10.0, 20.0, 0.0}});
+    const S prima = prove::LeggeByte(file);
+    try {
+        Completa(simmetrico, RigheDoppioT::SaldateAsimmetriche);
+        FAIL();
+    } catch (const ErroreCatalogo& e) {
+        EXPECT_STREQ(e.what(),
+                     "Errore nella lettura di \"SagomiUtente.xls\": la tabella ha 18 colonne invece di 21.");
+    }
+    EXPECT_EQ(prove::LeggeByte(file), prima);
 }
 
 TEST_F(SagomoUtenteTest, PlatesThatMakeNoSectionAreNotAccepted) {
