@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QMap>
 #include <QPrinter>
 #include <QTemporaryDir>
 #include <QTest>
@@ -64,12 +65,23 @@ void Sgombera() {
     }
 }
 
-/// Names of the windows that are left.
-QString Rimaste() {
-    QStringList names;
-    for (const QWidget* w : QApplication::topLevelWidgets())
-        names << QString::fromLatin1(w->metaObject()->className()) + u' ' + w->objectName();
-    return names.join(QLatin1String(", "));
+/// The widgets that are there, how many of each kind.
+QMap<QString, int> Presenti() {
+    QMap<QString, int> kinds;
+    for (const QWidget* w : QApplication::allWidgets())
+        ++kinds[QString::fromLatin1(w->window()->metaObject()->className()) + u'.' +
+                QString::fromLatin1(w->metaObject()->className()) + u' ' + w->objectName()];
+    return kinds;
+}
+
+/// What there is more of than there was.
+QString InPiu(const QMap<QString, int>& before) {
+    QStringList more;
+    const QMap<QString, int> now = Presenti();
+    for (auto kind = now.begin(); kind != now.end(); ++kind)
+        if (const int n = kind.value() - before.value(kind.key()); n > 0)
+            more << QStringLiteral("%1 %2").arg(n).arg(kind.key());
+    return more.join(QLatin1String(", "));
 }
 
 } // namespace
@@ -94,19 +106,18 @@ int main(int argc, char** argv) {
     QApplication::closeAllWindows();
     prove::Scimmia monkey(watch, events, seed);
     CollegaDialoghi(monkey, folder.path());
-    std::size_t windows = 0;
+    QMap<QString, int> first;
     int lives = 0;
     while (!monkey.Finito()) {
         ChiusuraInCorso = false;
         monkey.Vive(InizializzaProgramma);
         Sgombera();
-        const auto left = static_cast<std::size_t>(QApplication::allWidgets().size());
         if (++lives == 1) // what the first run makes once for all
-            windows = left;
-        std::printf("life %d: %zu widgets, %zu objects left\n", lives, left, prove::OggettiVivi());
-        if (left > windows)
-            watch.Trova(QStringLiteral("%1 widgets more than after the first life: ").arg(left - windows) +
-                        Rimaste());
+            first = Presenti();
+        std::printf("life %d: %lld widgets, %zu objects left\n", lives,
+                    static_cast<long long>(QApplication::allWidgets().size()), prove::OggettiVivi());
+        if (const QString more = InPiu(first); !more.isEmpty())
+            watch.Trova(QStringLiteral("more widgets than after the first life: ") + more);
     }
     QStringList met = monkey.Incontrate().values();
     met.sort();
