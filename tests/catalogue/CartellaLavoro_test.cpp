@@ -192,6 +192,20 @@ TEST_F(CartellaLavoroTest, APipeOrALongFileInPlaceOfTheRegisterHoldsNoStartUp) {
     EXPECT_LT(fs::file_size(registro), 1000U) << "written anew";
 }
 
+// 16 MB are read, one byte more is not: then nothing is known of the copy.
+TEST_F(CartellaLavoroTest, ARegisterIsReadUpTo16Megabytes) {
+    const fs::path registro = dati / ".Sagomi.xls.copia";
+    ApreCartellaLavoro(bin);
+    fs::resize_file(registro, std::uintmax_t{16} << 20U);
+    Aggiorna("standard 2");
+    ApreCartellaLavoro(bin);
+    EXPECT_EQ(Standard(), "standard 2");
+    fs::resize_file(registro, (std::uintmax_t{16} << 20U) + 1);
+    Aggiorna("standard 3");
+    ApreCartellaLavoro(bin);
+    EXPECT_EQ(Standard(), "standard 2");
+}
+
 // The copy has been renewed, but not what is known of it: the next version is taken over all the same.
 TEST_F(CartellaLavoroTest, ATakeOverThatWasInterruptedIsFinished) {
     ApreCartellaLavoro(bin);
