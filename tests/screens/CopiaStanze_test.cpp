@@ -216,6 +216,20 @@ TEST_F(CopiaStanzeTest, TheContextMenuSaysWhatItCopies) {
     QApplication::activePopupWidget()->close();
 }
 
+// A popup that takes no key holds the whole desktop.
+TEST_F(CopiaStanzeTest, TheMenuOfAControlThatIsSwitchedOffCanBeLeft) {
+    auto& main = Avvia();
+    VaA(main, "IPE 500");
+    auto* box = Trova<QLineEdit>(&main, "TxtProf_0");
+    for (QWidget* control : {static_cast<QWidget*>(box), box->parentWidget()}) {
+        ASSERT_NE(Voce(control, "mnuCopiaFinestra"), nullptr);
+        control->setEnabled(false);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        control->setEnabled(true);
+    }
+}
+
 TEST_F(CopiaStanzeTest, AResultOffersItsValueAlone) {
     auto& main = Avvia();
     VaA(main, "IPE 500");

@@ -80,6 +80,7 @@ void AggiungeCopie(QMenu& menu, const QWidget& controllo, QWidget& schermo) {
 
 bool MostraMenuCopie(QWidget& schermo, QWidget& ricevente, const QContextMenuEvent& evento) {
     QMenu* menu = MenuDi(ricevente);
+    menu->setParent(schermo.window(), menu->windowFlags()); // a control that is switched off takes it along
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (!menu->isEmpty())
         menu->addSeparator();

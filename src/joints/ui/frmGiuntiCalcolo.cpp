@@ -43,6 +43,8 @@ constexpr QColor rosso(210, 0, 0);
 class TuttoSpento {
 public:
     TuttoSpento(QWidget& window, QWidget* room) : stanza_(room) {
+        while (QWidget* menu = QApplication::activePopupWidget())
+            menu->close(); // switched off it would hold the keyboard and could not be left
         SpegneIntorno(window);
         for (QAction* action : window.findChildren<QAction*>())
             if (action->isEnabled()) {

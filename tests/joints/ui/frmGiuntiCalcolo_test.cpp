@@ -1,6 +1,7 @@
 // Check, design and files on the joint screen. What the mechanics compute has its own tests; here the boxes
 // are held against the joint that was computed.
 #include <QFile>
+#include <QMenu>
 #include <QProgressBar>
 #include <QTimer>
 
@@ -130,9 +131,13 @@ TEST_F(CalcoloGiuntiTest, DesignFindsAJointAndShowsIt) {
 TEST_F(CalcoloGiuntiTest, OnlyTheStopReactsWhileASearchRuns) {
     Tutorial();
     Scheda(1);
+    QMenu menu(g); // a client may ask for the search while the user has one open
+    menu.addAction(QStringLiteral("Copia"));
+    menu.popup({});
     int seen = 0;
     CollegaAttesa([&] {
         if (++seen == 1) {
+            EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
             EXPECT_FALSE(Trova<QWidget>(g, "FrameTipoanalisi")->isVisibleTo(g));
             EXPECT_TRUE(Trova<QWidget>(g, "FrameAttesa")->isVisibleTo(g));
             EXPECT_TRUE(Trova<QPushButton>(g, "CmdInterrompi")->isEnabled());
