@@ -10,6 +10,7 @@
 #include "NodoDisegnato.h"
 #include "drawing/SuperficieFinta.h"
 #include "frame/Numeri.h"
+#include "joints/DiagrammaRigidezza.h"
 #include "joints/DisegnoNodo.h"
 #include "joints/FiguraGiunto.h"
 
@@ -131,6 +132,61 @@ TEST(TavoleDisegno, SizesThatAreBeingTyped) {
                 tavola += caso + " figura" + Conto(figura) + '\n' + caso + " foglio" + Conto(foglio) + '\n';
             }
     ConfrontaApprovato("joints/misure.txt", tavola);
+}
+
+/// All texts but the column of data, where they stand on the surface.
+std::string Scritte(const SuperficieFinta& s) {
+    std::string riga;
+    for (const auto& t : s.scritte)
+        if (t.testo.find(" = ") == std::string::npos)
+            riga += ' ' + t.testo + ' ' + Cifra(s.InX(t.x)) + ' ' + Cifra(s.InY(t.y)) + ';';
+    return riga;
+}
+
+// Texts inside and under beams from 80 to 600 mm, on paper and on the screen.
+TEST(TavoleDisegno, TextsOfShallowAndDeepBeams) {
+    const std::array sezioni{Laminato("IPE 80", 80, 46, 3.8, 5.2, 5, 764, 801400),
+                             Laminato("IPE 120", 120, 64, 4.4, 6.3, 7, 1321, 3178000),
+                             Laminato("IPE 160", 160, 82, 5, 7.4, 9, 2009, 8693000), IPE600()};
+    std::string tavola;
+    for (const Sezione& trave : sezioni)
+        for (const int nf : {1, 2})
+            for (const std::int16_t tipo : {nodoT, nodoCroceSenzaColonna})
+                for (const bool carta : {false, true}) {
+                    const Nodo n = NodoDisegnato(tipo, nf, nf == 1 ? "Cp" : "Si", false, trave);
+                    SuperficieFinta s(carta ? 190 : 800, carta ? 277 : 500);
+                    const SuUscita uscita(&s, carta ? dispositivoStampante : dispositivoVideo);
+                    DisegnoNodo(n).PlottaInOggetto(&s, "");
+                    tavola += trave->Designation + ' ' + std::to_string(nf) +
+                              (tipo == nodoT ? " T" : " croce") + (carta ? " carta:" : " video:") +
+                              Scritte(s) + '\n';
+                }
+    ConfrontaApprovato("joints/travi.txt", tavola);
+}
+
+// The texts of the diagram of stiffness at several sizes, spans and acting moments.
+TEST(TavoleDisegno, TextsOfTheStiffnessDiagram) {
+    std::string tavola;
+    for (const double luce : {0.0, 1.0, 3.0, 9.0}) {
+        Nodo n = NodoDisegnato(nodoT, 2);
+        n.TraveDx->McyRd = 484e3 * 235 / 1.05;
+        n.TraveDx->lunghezza() = luce;
+        n.ConnessioneCorrente->Criterio1 = false;
+        n.EsegueCalcolo();
+        const double Mj = n.ConnessioneCorrente->MplRdGIUNTO;
+        for (const double parte : {0.0, 0.5, 0.97, 1.0, 1.04, 1.6}) {
+            n.TraveDx->Mysd = parte * Mj;
+            n.ConnessioneCorrente->Sj_MjSd = n.ConnessioneCorrente->Sj_MjRd * (2 - std::min(parte, 1.0));
+            for (const auto& [l, h] : {std::pair{300, 160}, {300, 400}, {440, 280}, {900, 200}}) {
+                SuperficieFinta s(l, h);
+                const SuUscita uscita(&s);
+                DiagrammaRigidezza(*n.ConnessioneCorrente).PlottaInOggetto(&s, "");
+                tavola += Cifra(luce) + " m, " + TestoPiano(parte) + " Mj, " + std::to_string(l) + " x " +
+                          std::to_string(h) + ':' + Scritte(s) + '\n';
+            }
+        }
+    }
+    ConfrontaApprovato("joints/curve.txt", tavola);
 }
 
 } // namespace
