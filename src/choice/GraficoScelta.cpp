@@ -115,7 +115,7 @@ private:
         Quadro::Linea({s_.campo.sinistra, s_.campo.Basso()}, {s_.campo.Destra(), s_.campo.Basso()});
         for (double u = 0; u < s_.uMassimo + s_.uPasso / 2; u += s_.uPasso)
             Quota({s_.campo.sinistra, s_.In(0, u).y}, Formato("0", u * 100) + " %", true);
-        for (double g = 0; g < s_.gMassimo + s_.gPasso / 2; g += s_.gPasso)
+        for (double g = 0; g < s_.gMassimo + s_.gPasso / 1000; g += s_.gPasso)
             Quota({s_.In(g, 0).x, s_.campo.Basso()}, TestoPiano(std::round(g * 1000) / 1000), false);
         q_.Testo({s_.campo.sinistra + 0.4 * riga_, s_.campo.Basso() - 0.2 * riga_}, "g [kg/m]",
                  Allinea::Sinistra, Posa::Basso); // light sections are much utilised: nothing lies there

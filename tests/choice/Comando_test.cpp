@@ -407,6 +407,8 @@ TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
         {{"--scelta", "--famiglie", "XYZ"}, "L Uguali, L Disuguali, DoppioT Simmetrico"},
         {{"--verifica", "HEA 99"}, "si chiama \"HEA 99\": forse HE"},
         {{"--verifica", "IPE 301"}, "forse IPE 300"},
+        {{"--verifica", "IPE 301", "--famiglie", "IPE"}, "si chiama \"IPE 301\": forse IPE 300"},
+        {{"--verifica", "IPE 301", "--famiglie", "HEA"}, "si chiama \"IPE 301\"\n"},
         {{"--verifica", "--N", "400"}, "--verifica vuole il nome di un sagomo"},
         {{"--scelta", "--famiglie", "--N", "400"}, "--famiglie vuole nomi di famiglie"},
         {{"--verifica", "HEA 200", "--N", "--My", "4"}, "--N vuole un numero"},

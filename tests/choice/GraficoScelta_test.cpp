@@ -4,10 +4,12 @@
 
 #include <algorithm>
 #include <random>
+#include <tuple>
 
 #include "choice/ConfrontoScelta.h"
 #include "choice/TabellaScelta.h"
 #include "drawing/Grafica.h"
+#include "drawing/SuperficieRitratta.h"
 #include "drawing/SuperficieSvg.h"
 #include "frame/GeneraleSagomi.h"
 #include "frame/Numeri.h"
@@ -77,9 +79,10 @@ DatiGrafico Uno(double g) {
 // An eighth of the weight, rounded up to 1, 2 or 5 of a power of ten, is the step; the axis ends at a whole
 // number of them.
 TEST(GraficoSceltaTest, TheAxisEndsAtAWholeStep) {
-    const std::pair<double, double> ends[] = {{8, 8},      {8.1, 10},  {16, 16},     {17, 20},  {23, 25},
-                                              {40, 40},    {41, 50},   {80, 80},     {81, 100}, {101, 120},
-                                              {801, 1000}, {0.5, 0.5}, {0.31, 0.35}, {0, 100}};
+    const std::pair<double, double> ends[] = {{8, 8},       {8.1, 10},  {16, 16},          {17, 20},
+                                              {23, 25},     {40, 40},   {41, 50},          {80, 80},
+                                              {81, 100},    {101, 120}, {801, 1000},       {0.5, 0.5},
+                                              {0.31, 0.35}, {0, 100},   {10 + 1.6e-9, 10}, {10 + 2.4e-9, 12}};
     for (const auto& [g, end] : ends)
         EXPECT_NEAR(ScalaDi(Uno(g), {0, 0, 800, 300}, 15).gMassimo, end, 1e-9) << g;
     DatiGrafico none = Uno(100); // nothing holds: as far as there are sections
@@ -98,6 +101,8 @@ TEST(GraficoSceltaTest, TheFieldLeavesRoomForValuesAndLegend) {
     EXPECT_DOUBLE_EQ(field(d).sinistra, 7 + 51);
     EXPECT_DOUBLE_EQ(field(d).alto, 9 + 10.5);
     EXPECT_DOUBLE_EQ(field(d).altezza, 300 - 10.5 - 24);
+    EXPECT_DOUBLE_EQ(field(d).larghezza, 800 - 51 - 24);
+    d.famiglie = {""}; // takes no room
     EXPECT_DOUBLE_EQ(field(d).larghezza, 800 - 51 - 24);
     d.famiglie = {"IPE", "L Uguali"};
     EXPECT_NEAR(field(d).larghezza, 800 - 51 - 15 - (8 * 0.62 + 1.6) * 15, 1e-9);
@@ -247,6 +252,18 @@ TEST(GraficoSceltaTest, ItIsDrawnWithNamesAndTheLimit) {
     for (const char* text : {"IPE 240", "HEA", "100 %", "g [kg/m]", "1 sagomo fuori dal grafico"})
         EXPECT_NE(svg.find(text), std::string::npos) << text;
     EXPECT_FALSE(Svg(DisegnoGrafico(std::make_shared<DatiGrafico>())).empty());
+}
+
+// On a narrow sheet the step may be no part of the end: 0 and 50 of 80, 0 and 20 of 30.
+TEST(GraficoSceltaTest, NoValueStandsBeyondTheEndOfItsAxis) {
+    for (const auto& [g, last, beyond] : {std::tuple{80, ">50<", ">100<"}, {30, ">20<", ">40<"}}) {
+        const auto d = std::make_shared<DatiGrafico>(Uno(g));
+        const std::string narrow = prove::InSvg(DisegnoGrafico(d), 170, 200, "FrmScelta");
+        EXPECT_NE(narrow.find(last), std::string::npos) << narrow;
+        EXPECT_EQ(narrow.find(beyond), std::string::npos) << narrow;
+        const std::string wide = prove::InSvg(DisegnoGrafico(d), 900, 200, "FrmScelta");
+        EXPECT_NE(wide.find('>' + std::to_string(g) + '<'), std::string::npos) << "the end itself: " << wide;
+    }
 }
 
 // 900 kg/m lies beyond the axis of 120, 300 % beyond that of 150.

@@ -179,7 +179,10 @@ TEST_F(RisposteApprovate, GraficiDelSagomoInMano) {
     DatiGrafico lontani = InMano(300, 1.48, "HL 1100");
     for (int i = 0; i < 1200; ++i)
         lontani.punti.push_back({5000.0 + i, 0.2, 2, true, 200});
-    for (const Figura& f : {Figura{"mano-sinistra", InMano(1, 0.6, "HEA 1000 con un nome lungo")},
+    DatiGrafico angolo = InMano(225, 1.47, "IPE 500");
+    angolo.punti.push_back({400, 0.4, 0, true, 102});
+    for (const Figura& f : {Figura{"mano-nell-angolo", angolo},
+                            {"mano-sinistra", InMano(1, 0.6, "HEA 1000 con un nome lungo")},
                             {"mano-basso", InMano(70, 0.03, "HEM 900")},
                             {"mano-orlo", InMano(70, 0.14, "HEM 800")},
                             {"mano-uguali", uguali},
@@ -245,6 +248,9 @@ TEST_F(RisposteApprovate, ConfrontiDiCoppieEDisuguali) {
         }
         Approvata("confronto-" + nome + ".txt", tabella);
     }
+    Approvata("figure/confronto-stretto.svg",
+              InSvg(DisegnoConfronto(Verificati(r, {"HEM 300", "IPE 300", "UPN 200"}, messaggi)), 260, 300,
+                    "FrmScelta"));
     Approvata("figure/confronto-carta.svg",
               InSvg(DisegnoConfronto(Verificati(r, {"UPN 80", "IPE 600"}, messaggi)), 190, 120, "FrmScelta",
                     dispositivoStampante));

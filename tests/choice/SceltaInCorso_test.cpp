@@ -76,6 +76,14 @@ TEST_F(SceltaInCorsoTest, WhatIsInSightComesFirst) {
     EXPECT_FALSE(scelta.Valida(last - 1));
 }
 
+TEST_F(SceltaInCorsoTest, APlaceThatIsNoneIsPassedOver) {
+    scelta.Sagomi(Alcuni());
+    scelta.Comincia(richiesta, {});
+    const auto size = static_cast<std::uint32_t>(scelta.Sagomi().size());
+    EXPECT_FALSE(scelta.Avanza(0us, std::vector{size, size + 1, size + 1000000, 4000000000U}));
+    EXPECT_EQ(scelta.Ammesse().size(), 32U) << "a piece of the others";
+}
+
 TEST_F(SceltaInCorsoTest, AnotherRequestMakesAllRowsInvalid) {
     scelta.Sagomi(Alcuni());
     scelta.Comincia(richiesta, {});

@@ -110,10 +110,11 @@ bool PrimaPerPezzi(const Pezzo& a, const Pezzo& b) {
 
 TEST_F(TabellaSceltaTest, NamesArePiecesOfLettersAndNumbers) {
     const std::vector<std::string> names = {
-        "",         "IPE",      "IPE ",    "IPE 80",   "IPE 080",  "IPE 100",      "IPE 100 A",  "IPE 100x5",
-        "IPE 100x", "IPE100",   "HE 100",  "HE 100 B", "HE 1000",  "L 50x50x5",    "L 50x50x10", "L 50x5x50",
-        "80",       "80 IPE",   "8",       "08 A",     "L 50x6",   "L 50x60",      "L 5x600",    "IPE 80 O",
-        "IPE 9",    "UB 10x20", "UB 10x3", "UB 10-3",  "UB 10 30", "12345678 902", "12345678901"};
+        "",           "IPE",          "IPE ",        "IPE 80", "IPE 080",  "IPE 100", "IPE 100 A",
+        "IPE 100x5",  "IPE 100x",     "IPE100",      "HE 100", "HE 100 B", "HE 1000", "L 50x50x5",
+        "L 50x50x10", "L 50x5x50",    "80",          "80 IPE", "8",        "08 A",    "L 50x6",
+        "L 50x60",    "L 5x600",      "IPE 80 O",    "IPE 9",  "UB 10x20", "UB 10x3", "UB 10-3",
+        "UB 10 30",   "12345678 902", "12345678901", "IPEè",   "è"};
     sagomi.clear();
     for (const std::string& name : names)
         sagomi.push_back(Sagomo(name.c_str(), "F"));
