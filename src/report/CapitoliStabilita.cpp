@@ -226,10 +226,12 @@ void AggiungeMcr(Passi& p, const SezioneDoppioT& s) {
 void AggiungeMbRd(Passi& p, const SezioneDoppioT& s) {
     const char* norma = "ENV 1993-1-1 5.5.2";
     const std::string Mcr = s.LLT > 0 ? KiloMetri(s.Mcr) : "∞";
+    const bool numero = std::isfinite(Valido(s, s.MbRd)); // what is no number is not put in
     p.push_back({.descrizione = "Snellezza relativa",
                  .simbolo = "λ̅{LT}",
                  .formula = "√(γ{M0} M{c,y,Rd} / M{cr})",
-                 .numeri = "√(" + Piano(GammaM0) + " · " + KiloMetri(s.McyRd) + " / " + Mcr + ")",
+                 .numeri = numero ? "√(" + Piano(GammaM0) + " · " + KiloMetri(s.McyRd) + " / " + Mcr + ")"
+                                  : std::string(),
                  .valore = Rapporto(Valido(s, s.LamdaLT)),
                  .norma = norma});
     p.push_back(
@@ -238,7 +240,7 @@ void AggiungeMbRd(Passi& p, const SezioneDoppioT& s) {
     const double lamda = Valido(s, s.LamdaLT);
     const std::string ls = Rapporto(lamda);
     const std::string fi = Rapporto(Fi(alfa, lamda));
-    const bool ridotto = lamda > 0.4;
+    const bool ridotto = std::isfinite(lamda) ? lamda > 0.4 : false;
     p.push_back({.descrizione = "",
                  .simbolo = "φ{LT}",
                  .formula = "0,5 [1 + α{LT} (λ̅{LT} − 0,2) + λ̅{LT}^{2}]",
@@ -256,8 +258,9 @@ void AggiungeMbRd(Passi& p, const SezioneDoppioT& s) {
     p.push_back({.descrizione = "Resistenza all'instabilità flesso-torsionale",
                  .simbolo = "M{b,Rd}",
                  .formula = "χ{LT} γ{M0} M{c,y,Rd} / γ{M1}",
-                 .numeri = Formato("0.0##", Valido(s, s.ChiLT)) + " · " + Piano(GammaM0) + " · " +
-                           KiloMetri(s.McyRd) + " / " + Piano(GammaM1),
+                 .numeri = numero ? Formato("0.0##", s.ChiLT) + " · " + Piano(GammaM0) + " · " +
+                                        KiloMetri(s.McyRd) + " / " + Piano(GammaM1)
+                                  : std::string(),
                  .valore = KiloMetri(Valido(s, s.MbRd)),
                  .unita = "kNm",
                  .norma = norma});
@@ -381,7 +384,9 @@ CapitoloRelazione CapitoloSvergolamento(const SezioneDoppioT& s, bool conAsseZ) 
          .simbolo = "",
          .formula = "N{Sd} / N{b,z,Rd} + " + Sopra("LT", "y", classe4) + " / M{b,Rd} + " +
                     Sopra("z", "z", classe4) + " γ{M1} / (γ{M0} M{c,z,Rd})",
-         .numeri = Kilo(t.NSd) + " / " + Kilo(t.NRd) + " + " + Numeri(t.y) + " + " + Numeri(t.z),
+         .numeri = std::isfinite(Valido(s, t.y.MRd))
+                       ? Kilo(t.NSd) + " / " + Kilo(t.NRd) + " + " + Numeri(t.y) + " + " + Numeri(t.z)
+                       : std::string(),
          .valore = Rapporto(v.somma),
          .norma = norma});
     AdattaDecimali(c);

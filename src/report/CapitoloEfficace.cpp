@@ -44,13 +44,14 @@ void AggiungeSnellezza(Passi& p, const PiattoSnello& k, double lamda) {
     p.push_back({.descrizione = "Snellezza del piatto",
                  .simbolo = "λ̅{p}",
                  .formula = k.simboloB + " / " + k.simboloT + " / (28,4 ε √k{σ})",
-                 .numeri = Lungo(k.b) + " / " + Lungo(k.t) + " / (28,4 · " + Rapporto(Epsilon(k.fy)) +
-                           " · √" + fattore + ")",
+                 .numeri = std::isfinite(lamda) ? Lungo(k.b) + " / " + Lungo(k.t) + " / (28,4 · " +
+                                                      Rapporto(Epsilon(k.fy)) + " · √" + fattore + ")"
+                                                : std::string(),
                  .valore = Rapporto(lamda),
                  .norma = efficaci});
 }
 
-/// From the slenderness to what the plate loses.
+/// From the slenderness to what the plate loses; one without a buckling factor has no numbers and loses all.
 void Aggiunge(Passi& p, const PiattoSnello& k) {
     const double lamda = k.b / k.t / (28.4 * Epsilon(k.fy) * std::sqrt(k.kSigma));
     const double rho = Rho(k.b, k.t, k.fy, k.kSigma);
@@ -58,12 +59,13 @@ void Aggiunge(Passi& p, const PiattoSnello& k) {
     const double larghezza = k.simboloCompressa.empty() ? k.b : k.compressa;
     const std::string ls = Rapporto(lamda);
     AggiungeSnellezza(p, k, lamda);
-    p.push_back({.descrizione = "Quota efficace, 1 fino a λ̅{p} = 0,673",
-                 .simbolo = "ρ",
-                 .formula = "(λ̅{p} − 0,22) / λ̅{p}^{2}",
-                 .numeri = rho < 1 ? "(" + ls + " − 0,22) / " + ls + "^{2}" : std::string(),
-                 .valore = Rapporto(rho),
-                 .norma = efficaci});
+    p.push_back(
+        {.descrizione = "Quota efficace, 1 fino a λ̅{p} = 0,673",
+         .simbolo = "ρ",
+         .formula = "(λ̅{p} − 0,22) / λ̅{p}^{2}",
+         .numeri = rho < 1 && std::isfinite(lamda) ? "(" + ls + " − 0,22) / " + ls + "^{2}" : std::string(),
+         .valore = Rapporto(rho),
+         .norma = efficaci});
     p.push_back({.descrizione = "Larghezza efficace",
                  .simbolo = "b{eff}",
                  .formula = "ρ " + b,

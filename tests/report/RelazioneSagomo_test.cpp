@@ -108,6 +108,7 @@ TEST_F(RelazioneSagomoTest, NumbersPutInGiveTheValues) {
         ProvaNumeri(RelazioneMembratura(s, {"b", "c"}, {}, ""));
     }
     s = SezioneDoppioT(); // rolled, as an IPE 300
+    s.TipoAcciaio = "S275 (Fe430)";
     s.fy = 275;
     s.L0y = 5000;
     s.L0z = s.LLT = 2500;
