@@ -48,7 +48,7 @@ CapitoloRelazione Dati(const Bullone& b, const std::string& acciaio) {
     c.passi = {Dato("Diametro", "d", std::to_string(b.d()), "mm"),
                Dato("Classe", "", NomeClasse(b)),
                Dato("Tensione di rottura del bullone", "f{ub}", Piano(b.fub), "N/mm^{2}"),
-               Dato("Tensione di snervamento del bullone", "f{yb}", Piano(b.fyb), "N/mm^{2}"),
+               Dato("Tensione di snervamento del bullone", "f{yb}", Intero(b.fyb), "N/mm^{2}"),
                Dato("Sezione tagliata", "", b.Gambo ? "gambo" : "filettatura"),
                Dato("Area tagliata", "A", Formato("0.0", b.Ataglio), "mm^{2}"),
                Dato("Area resistente", "A{s}", Formato("0.0", b.Ares), "mm^{2}"),

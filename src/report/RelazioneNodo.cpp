@@ -1,6 +1,7 @@
 #include "report/RelazioneNodo.h"
 
 #include <cmath>
+#include <span>
 #include <utility>
 
 #include "frame/Acciaio.h"
@@ -18,6 +19,7 @@
 #include "joints/UtilizzoGiunto.h"
 #include "report/Figure.h"
 #include "report/FormuleRelazione.h"
+#include "report/NumeriGiunto.h"
 
 namespace sagomi {
 
@@ -183,8 +185,6 @@ template <typename T> std::string NomeIn(const T& tavola, std::string_view nome)
 /// Symbol and formula of a step, from the file of formulas where it has them.
 void Spiega(PassoRelazione& passo, std::string_view nome, const std::string& rtf) {
     passo.simbolo = NomeIn(simboli, nome);
-    if (nome == "Bt")
-        passo.formula = "0,9 f{ub} A{s} / γ{M2}";
     if (const auto f = FormulaDi(rtf, nome)) {
         passo.simbolo = f->simbolo.empty() ? passo.simbolo : f->simbolo;
         const std::string uguale = passo.simbolo + " = ";
@@ -197,11 +197,26 @@ void Spiega(PassoRelazione& passo, std::string_view nome, const std::string& rtf
         passo.simbolo = ConPedice(nome);
 }
 
-PassoRelazione PassoDi(const PassoGiunto& p, const std::string& rtf) {
+/// The numbers stand behind the first line of a formula; those below it say what its symbols are.
+void AggiungeNumeri(PassoRelazione& passo, NumeriPasso numeri) {
+    if (passo.formula.empty())
+        passo.formula = std::move(numeri.formula);
+    passo.numeri = std::move(numeri.numeri);
+    const std::size_t riga = passo.formula.find('\n');
+    if (passo.numeri.empty() || riga == 0 || riga == std::string::npos)
+        return;
+    passo.numeri += passo.formula.substr(riga);
+    passo.formula.erase(riga);
+}
+
+PassoRelazione PassoDi(const TracciaGiunto& traccia, std::size_t i, const Giunto& giunto,
+                       const std::string& rtf) {
+    const PassoGiunto& p = traccia[i];
     PassoRelazione passo = Dato({}, {}, p.testo.empty() ? Cifre(p.valore) : p.testo, std::string(p.unita));
-    if (p.testo.empty())
+    if (p.testo.empty()) {
         Spiega(passo, p.nome, rtf);
-    else
+        AggiungeNumeri(passo, NumeriDi(p, std::span(traccia).first(i), giunto));
+    } else
         passo.descrizione = NomeIn(testi, p.nome);
     if (passo.unita == "mm2" || passo.unita == "N/mm2")
         passo.unita.replace(passo.unita.size() - 1, 1, "^{2}");
@@ -213,11 +228,13 @@ void AggiungePassi(Relazione& r, const Giunto& giunto, const std::string& lato) 
     CapitoloRelazione c{.titolo = "Passi del calcolo, giunto " + lato};
     const std::string rtf = Formule();
     std::string_view componente;
-    for (const PassoGiunto& p : PassiDi(giunto)) {
+    const TracciaGiunto traccia = PassiDi(giunto);
+    for (std::size_t i = 0; i < traccia.size(); ++i) {
+        const PassoGiunto& p = traccia[i];
         if (p.nome == "TipoMessaggio" ||
             (!p.testo.empty() && p.testo.find_first_not_of(' ') == std::string::npos))
             continue;
-        PassoRelazione passo = PassoDi(p, rtf);
+        PassoRelazione passo = PassoDi(traccia, i, giunto, rtf);
         if (std::exchange(componente, p.componente) != p.componente) {
             passo.descrizione =
                 std::string(p.componente) + (passo.descrizione.empty() ? "" : ", ") + passo.descrizione;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <stdexcept>
@@ -70,6 +71,8 @@ private:
             return std::sqrt(Fattore());
         if (Prende("π"))
             return std::numbers::pi;
+        if (Prende("min("))
+            return Minimo();
         if (Prende("("))
             return Chiusa(")");
         if (Prende("["))
@@ -79,6 +82,14 @@ private:
     double Chiusa(std::string_view fine) {
         const double v = Somma();
         if (!Prende(fine))
+            throw std::invalid_argument(std::string(resto_));
+        return v;
+    }
+    double Minimo() {
+        double v = Somma();
+        while (Prende(";"))
+            v = std::min(v, Somma());
+        if (!Prende(")"))
             throw std::invalid_argument(std::string(resto_));
         return v;
     }

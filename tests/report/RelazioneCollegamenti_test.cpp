@@ -1,5 +1,7 @@
 #include "report/RelazioneCollegamenti.h"
 
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "fasteners/Bullone.h"
@@ -80,6 +82,20 @@ TEST_F(RelazioneBulloneTest, TheClassIsANameWithAPoint) {
 
 // Ft,Rd = 0.9 x 1000 x 115 / 1.25 = 82.8: 20/39.1 + 30/(1.4 x 82.8) = 0.5115 + 0.2588 = 0.7703; 30/82.8 =
 // 0.3623; 20/84 = 0.2381.
+// A nominal strength, ENV 1993-1-1 table 3.3, not what single precision makes of 8.8 and 10.9.
+TEST_F(RelazioneBulloneTest, TheYieldStrengthIsThatOfTheClass) {
+    EXPECT_EQ(Passo(RelazioneBullone(b, "S235"), "f{yb}").valore, "900");
+    for (const auto& [classe, fyb] : {std::pair(4.6F, "240"),
+                                      {4.8F, "320"},
+                                      {5.6F, "300"},
+                                      {5.8F, "400"},
+                                      {6.8F, "480"},
+                                      {8.8F, "640"}}) {
+        b.Classe(classe);
+        EXPECT_EQ(Passo(RelazioneBullone(b, "S235"), "f{yb}").valore, fyb);
+    }
+}
+
 TEST_F(RelazioneBulloneTest, EachCriterionIsAStepAndTheGreatestTheUtilisation) {
     const CapitoloRelazione c = RelazioneBullone(b, "S235").capitoli.back();
     ASSERT_EQ(c.passi.size(), 4U);

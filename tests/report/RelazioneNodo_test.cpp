@@ -8,6 +8,7 @@
 #include "frame/GeneraleSagomi.h"
 #include "joints/ComponentiGiunto.h"
 #include "joints/NodoDisegnato.h"
+#include "report/Passi.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -57,6 +58,27 @@ long Quanti(const Relazione& r, std::string_view inizio) {
         n += std::ranges::count_if(
             c.passi, [&](const PassoRelazione& p) { return p.descrizione.starts_with(inizio); });
     return n;
+}
+
+// One and two rows, with and without stiffeners: the numbers give the value beside them.
+TEST_F(RelazioneNodoTest, FormulasGiveTheValuesBesideThem) {
+    for (const int nf : {1, 2})
+        for (const char* irrigidimenti : {"No", "Cp", "Si"}) {
+            nodo = NodoDisegnato(nodoT, nf, irrigidimenti);
+            nodo.TraveDx->McyRd = 484e3 * 235 / 1.05;
+            nodo.TraveDx->NplRd = 1e6;
+            giunto().Criterio1 = false;
+            nodo.EsegueCalcolo();
+            ASSERT_TRUE(giunto().Acquisito);
+            const Relazione r = RelazioneNodo(nodo, "");
+            ProvaNumeri(r);
+            for (const char* simbolo : {"B{t,Rd}", "M{pl,Rd}", "F{t,1,Rd}", "F{t,2,Rd}", "F{t,3,Rd}"}) {
+                EXPECT_FALSE(Passo(r, simbolo).formula.empty()) << simbolo;
+                EXPECT_FALSE(Passo(r, simbolo).numeri.empty()) << simbolo << nf << irrigidimenti;
+            }
+        }
+    giunto().fubl = 500; // since the check
+    EXPECT_EQ(Passo(RelazioneNodo(nodo, ""), "B{t,Rd}").numeri, "");
 }
 
 TEST_F(RelazioneNodoTest, WithoutASpanThereAreNeitherASpanNorLimits) {
