@@ -1,5 +1,6 @@
 #include "report/RelazioneNodo.h"
 
+#include <algorithm>
 #include <cmath>
 #include <span>
 #include <utility>
@@ -197,10 +198,26 @@ void Spiega(PassoRelazione& passo, std::string_view nome, const std::string& rtf
         passo.simbolo = ConPedice(nome);
 }
 
+/// The lines of a block but those that the steps of a T-stub have said with their numbers.
+std::string SenzaModi(std::string_view blocco) {
+    constexpr std::string_view detti[] = {"M{pl} = ", "F{1} = ", "F{2} = ", "F{3} = ", "F = "};
+    std::string resto;
+    while (!blocco.empty()) {
+        const std::string_view riga = blocco.substr(0, blocco.find('\n'));
+        blocco.remove_prefix(std::min(riga.size() + 1, blocco.size()));
+        const bool detta = std::ranges::any_of(detti, [&](auto d) { return riga.starts_with(d); });
+        if (!riga.empty() && !detta && !riga.starts_with("min(F{1};"))
+            resto += '\n' + std::string(riga);
+    }
+    return resto;
+}
+
 /// The numbers stand behind the first line of a formula; those below it say what its symbols are.
 void AggiungeNumeri(PassoRelazione& passo, NumeriPasso numeri) {
-    if (passo.formula.empty())
-        passo.formula = std::move(numeri.formula);
+    if (!numeri.formula.empty()) {
+        numeri.numeri += numeri.numeri.empty() ? std::string() : SenzaModi(passo.formula);
+        passo.formula = passo.formula.empty() || !numeri.numeri.empty() ? numeri.formula : passo.formula;
+    }
     passo.numeri = std::move(numeri.numeri);
     const std::size_t riga = passo.formula.find('\n');
     if (passo.numeri.empty() || riga == 0 || riga == std::string::npos)

@@ -1,6 +1,7 @@
 #include "report/RelazioneNodo.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include <gtest/gtest.h>
 
@@ -79,6 +80,22 @@ TEST_F(RelazioneNodoTest, FormulasGiveTheValuesBesideThem) {
         }
     giunto().fubl = 500; // since the check
     EXPECT_EQ(Passo(RelazioneNodo(nodo, ""), "B{t,Rd}").numeri, "");
+}
+
+// With the formulas beside the program: the least of the modes, whose own formulas stand above it.
+TEST_F(RelazioneNodoTest, NumbersStandBehindTheFirstLineOfABlock) {
+    PathInstallazione = std::filesystem::path(SAGOMI_TEST_DATA) / "../../data";
+    const Relazione r = RelazioneNodo(nodo, "");
+    PathInstallazione.clear();
+    ProvaNumeri(r);
+    const PassoRelazione minimo = Passo(r, "F{individuale}");
+    EXPECT_EQ(minimo.formula, "min(F{t,1,Rd}; F{t,2,Rd}; F{t,3,Rd})");
+    EXPECT_TRUE(minimo.numeri.starts_with("min("));
+    EXPECT_NE(minimo.numeri.find("\nn = min(e{c}"), std::string::npos) << minimo.numeri;
+    EXPECT_EQ(minimo.numeri.find("M{pl}"), std::string::npos) << minimo.numeri;
+    const PassoRelazione momento = Passo(r, "M{j,Rd}");
+    EXPECT_EQ(momento.formula, "z{est} · F{est} + z{int} · F{int}");
+    EXPECT_TRUE(momento.numeri.ends_with("t{f,b}")) << momento.numeri;
 }
 
 TEST_F(RelazioneNodoTest, WithoutASpanThereAreNeitherASpanNorLimits) {
