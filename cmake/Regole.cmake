@@ -30,21 +30,12 @@ target_compile_options(sagomi_regole_meccanica INTERFACE -Wconversion -Wsign-con
 # the programs that find the installed package.
 macro(sagomi_modulo prefix module)
   find_package(PkgConfig REQUIRED)
-  pkg_check_modules(${prefix} REQUIRED IMPORTED_TARGET ${module})
+  pkg_check_modules(${prefix} REQUIRED IMPORTED_TARGET GLOBAL ${module})
   set_property(GLOBAL APPEND_STRING PROPERTY sagomi_moduli
                "pkg_check_modules(${prefix} REQUIRED IMPORTED_TARGET ${module})\n")
 endmacro()
 
-# sagomi_archivio(<variable> <file> <otherwise>): the archive of a library that only this program needs, or what stands
-# for the shared one where there is none. An archive spares the start the search for the library and for its symbols.
-macro(sagomi_archivio variable file otherwise)
-  find_library(${variable}_FILE ${file})
-  mark_as_advanced(${variable}_FILE)
-  set(${variable} ${otherwise})
-  if(${variable}_FILE)
-    set(${variable} ${${variable}_FILE})
-  endif()
-endmacro()
+include(${CMAKE_CURRENT_LIST_DIR}/Archivio.cmake)
 
 # sagomi_meccanica(<folder> SOURCES ... LINK ...): a layer of plain C++, without Qt.
 function(sagomi_meccanica folder)

@@ -1,0 +1,23 @@
+# sagomi_archivio in a folder that only pkg-config would name: the archive there, or what stands for it.
+include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/Archivio.cmake)
+string(RANDOM nome)
+set(cartella ${CMAKE_CURRENT_BINARY_DIR}/archivio_${nome})
+file(WRITE ${cartella}/lib/libfinta.a "")
+set(FINTA_LIBRARY_DIRS ${cartella}/lib)
+set(FINTA_INCLUDE_DIRS ${cartella}/include)
+
+function(attende che trovato atteso)
+  if(NOT "${trovato}" STREQUAL "${atteso}")
+    file(REMOVE_RECURSE ${cartella})
+    message(FATAL_ERROR "${che}: \"${trovato}\" instead of \"${atteso}\"")
+  endif()
+endfunction()
+
+sagomi_archivio(PRIMA libfinta.a PkgConfig::FINTA)
+attende("the archive" "${PRIMA}" "${cartella}/lib/libfinta.a")
+attende("its headers" "${PRIMA_INCLUDE}" "${cartella}/include")
+sagomi_archivio(SECONDA libnessuna.a PkgConfig::FINTA)
+attende("no archive" "${SECONDA}" PkgConfig::FINTA)
+sagomi_archivio(TERZA libnessuna.a nessuna)
+attende("no module" "${TERZA}${TERZA_INCLUDE}" nessuna)
+file(REMOVE_RECURSE ${cartella})
