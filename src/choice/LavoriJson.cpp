@@ -42,12 +42,14 @@ void ControllaZeri(std::string_view riga) {
 
 void Aggiunge(std::vector<std::string>& argomenti, const Istruzione& s) {
     const std::string tipo = Testo(s, 1);
+    const std::string chiave = Testo(s, 0);
+    const std::string voce = chiave == "My1" || chiave == "Mz1" ? chiave.substr(0, 2) : chiave;
+    ControllaVoce(voce);
     if (tipo == "false" || tipo == "null")
         return;
     if (tipo == "object")
         NonOggetto();
-    const std::string chiave = Testo(s, 0);
-    argomenti.push_back(chiave == "My1" || chiave == "Mz1" ? "--" + chiave.substr(0, 2) : "--" + chiave);
+    argomenti.push_back("--" + voce);
     if (tipo != "true" && EInterruttore(argomenti.back()))
         throw ErroreUso('"' + chiave + "\" vuole true o false, non " + Testo(s, 2));
     if (tipo != "true")

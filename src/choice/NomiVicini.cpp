@@ -34,7 +34,10 @@ std::vector<std::string> NomiVicini(std::string_view nome, const std::vector<std
     std::size_t minima = cercato.size() / 2 + 1;
     std::vector<std::string> vicini;
     for (const std::string& altro : nomi) {
-        const std::size_t d = Distanza(cercato, Piegato(altro));
+        const std::string piegato = Piegato(altro);
+        if (cercato.size() > piegato.size() + minima) // letters that are too many cannot stay
+            continue;
+        const std::size_t d = Distanza(cercato, piegato);
         if (d > minima || (d == minima && vicini.empty()))
             continue;
         if (d < minima)

@@ -181,13 +181,15 @@ bool DelloSvergolamento(std::string_view nome) {
     return std::ranges::find(sue, nome) != std::end(sue);
 }
 
-/// Refuses what is no option, with the one that was probably meant, or what is expected.
-[[noreturn]] void NonOpzione(const std::string& nome) {
+/// The option that a name was probably meant for; empty: none is near.
+std::string_view OpzioneVicina(const std::string& nome) {
     constexpr std::size_t simile = 2; // letters
     std::string_view vicina;
     std::size_t minima = simile + 1;
     const auto prova = [&](std::string_view nostra) {
-        if (const std::size_t d = nostra.size() > 2 + simile ? Distanza(nome, nostra) : minima; d < minima) {
+        const bool troppe = nome.size() > nostra.size() + simile;
+        if (const std::size_t d = troppe || nostra.size() <= 2 + simile ? minima : Distanza(nome, nostra);
+            d < minima) {
             minima = d;
             vicina = nostra;
         }
@@ -198,6 +200,12 @@ bool DelloSvergolamento(std::string_view nome) {
         prova(t.nome);
     for (const OpzioneNumero& n : numeri)
         prova(n.nome);
+    return vicina;
+}
+
+/// Refuses what is no option, with the one that was probably meant, or what is expected.
+[[noreturn]] void NonOpzione(const std::string& nome) {
+    const std::string_view vicina = OpzioneVicina(nome);
     throw ErroreUso('"' + nome + "\" non è un'opzione: " +
                     (vicina.empty() ? "si attende un file Gfl o Sco, --verifica o --scelta"
                                     : "forse " + std::string(vicina)));
@@ -262,40 +270,34 @@ void AnnotaSenzaEffetto(Lettura& l, const std::string& nome, bool conValore) {
         l.c.fattoreChiesto = nome;
 }
 
-/// Takes one option, with its value where it has one.
+/// "--option" of "--option=value", where the option has a value; else the argument.
+std::string NomeOpzione(const std::string& argomento) {
+    const std::string nome = argomento.substr(0, argomento.find('='));
+    return nome.size() < argomento.size() && ConValore(nome) ? nome : argomento;
+}
+
+/// Takes one option, with its value where it has one. What stands behind a "=" is a value, whatever it is.
 /// @return how many arguments it has taken
 std::size_t Prende(Lettura& l, std::span<const std::string> argomenti) {
-    const std::string& nome = argomenti.front();
+    const std::string nome = NomeOpzione(argomenti.front());
     if (!ENostra(nome))
         NonOpzione(nome);
     const bool conValore = ConValore(nome);
+    const bool unito = nome.size() < argomenti.front().size();
     const auto* testo = std::ranges::find(testi, nome, &OpzioneTesto::nome);
-    const std::string* valore =
-        conValore ? &ValoreDi(argomenti, testo != std::end(testi) ? testo->vuole : "un numero") : nullptr;
+    const char* vuole = testo != std::end(testi) ? testo->vuole : "un numero";
+    const std::string valore = unito       ? argomenti.front().substr(nome.size() + 1)
+                               : conValore ? ValoreDi(argomenti, vuole)
+                                           : std::string();
     Annota(l, nome);
     AnnotaSenzaEffetto(l, nome, conValore);
-    if (valore == nullptr)
+    if (!conValore)
         std::ranges::find(interruttori, nome, [](const auto& i) { return i.first; })->second(l.c);
     else if (testo != std::end(testi))
-        testo->prende(l.c, *valore);
+        testo->prende(l.c, valore);
     else if (const auto* numero = std::ranges::find(numeri, nome, &OpzioneNumero::nome))
-        numero->prende(l.c, NumeroDi(*numero, *valore));
-    return conValore ? 2 : 1;
-}
-
-/// "--option=value" as two arguments, where the option has a value.
-std::vector<std::string> Divisi(const std::vector<std::string>& argomenti) {
-    std::vector<std::string> divisi;
-    for (const std::string& argomento : argomenti) {
-        const std::size_t uguale = argomento.find('=');
-        if (uguale != std::string::npos && ConValore(argomento.substr(0, uguale))) {
-            divisi.push_back(argomento.substr(0, uguale));
-            divisi.push_back(argomento.substr(uguale + 1));
-        } else {
-            divisi.push_back(argomento);
-        }
-    }
-    return divisi;
+        numero->prende(l.c, NumeroDi(*numero, valore));
+    return conValore && !unito ? 2 : 1;
 }
 
 void PrendeTutte(Lettura& l, const std::vector<std::string>& argomenti) {
@@ -427,15 +429,14 @@ void Completa(Lettura& l, bool conL0v) {
 
 } // namespace
 
-Comando LeggeOpzioni(const std::vector<std::string>& dati, const std::vector<std::string>& comuni) {
+Comando LeggeOpzioni(const std::vector<std::string>& argomenti, const std::vector<std::string>& comuni) {
     Lettura l;
-    const std::vector<std::string> argomenti = Divisi(dati);
-    if (std::ranges::none_of(argomenti, ENostra) && comuni.empty()) {
+    if (std::ranges::none_of(argomenti, ENostra, NomeOpzione) && comuni.empty()) {
         ControllaFinestre(argomenti);
         return l.c;
     }
     l.proprie = false;
-    PrendeTutte(l, Divisi(comuni));
+    PrendeTutte(l, comuni);
     const bool conL0v = l.Ha("--L0v");
     l.proprie = true;
     l.date.clear();
@@ -448,6 +449,15 @@ Comando LeggeOpzioni(const std::vector<std::string>& dati, const std::vector<std
 
 bool EInterruttore(std::string_view nome) {
     return std::ranges::any_of(interruttori, [nome](const auto& i) { return i.first == nome; });
+}
+
+void ControllaVoce(const std::string& chiave) {
+    if (ENostra("--" + chiave))
+        return;
+    const std::string vicina(OpzioneVicina("--" + chiave));
+    throw ErroreUso(
+        '"' + chiave + "\" non è una voce di un lavoro: " +
+        (vicina.empty() ? "le voci sono le opzioni senza i trattini" : "forse " + vicina.substr(2)));
 }
 
 std::optional<std::filesystem::path> PrendeCartella(std::vector<std::string>& argomenti) {

@@ -54,6 +54,10 @@ Comando LeggeOpzioni(const std::vector<std::string>& argomenti, const std::vecto
 /// Whether it is an option without a value.
 bool EInterruttore(std::string_view nome);
 
+/// A key of a job is an option without its dashes. Throws ErroreUso for another one, with that which was
+/// probably meant.
+void ControllaVoce(const std::string& chiave);
+
 /// Takes --cartella with its folder out of the arguments; it holds for windows and answers alike.
 /// @return the folder, where one is chosen; of several the last
 /// Throws ErroreUso.

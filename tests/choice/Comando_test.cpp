@@ -294,6 +294,22 @@ TEST_F(ComandoTest, AJobOfTheWrongKindSaysWhatWasExpected) {
         << "for all jobs: " << uscita.str();
 }
 
+TEST_F(ComandoTest, AWordThatNoJobKnowsIsNamed) {
+    const std::pair<const char*, const char*> jobs[] = {
+        {R"({"verifica":"HEA 200","Forza":3})",
+         R"(\"Forza\" non è una voce di un lavoro: le voci sono le opzioni senza i trattini)"},
+        {R"({"qualcosa":"HEA 200"})", R"(\"qualcosa\" non è una voce di un lavoro)"},
+        {R"({"verifca":"HEA 200"})", R"(\"verifca\" non è una voce di un lavoro: forse verifica)"},
+        {R"({"verifica":"HEA 200","verificatti":false})", "forse verificati"},
+        {R"({"verifica":"HEA 200","--N":3})", R"(\"--N\" non è una voce)"},
+        {R"({"verifica":"HEA 200","N=3":3})", R"(\"N=3\" non è una voce)"},
+        {R"({"verifica":"HEA 200","":null})", R"(\"\" non è una voce)"}};
+    for (const auto& [job, expected] : jobs) {
+        EXPECT_EQ(Esegue({"--json"}, std::string(job) + '\n'), comandoErrato);
+        EXPECT_TRUE(Dice(expected)) << uscita.str();
+    }
+}
+
 // The character of the number 0 in all of its disguises; a backslash that is itself one is none.
 TEST_F(ComandoTest, OnlyTheCharacterZeroIsRefused) {
     const std::string no = "un lavoro non può contenere il carattere U+0000";
@@ -412,6 +428,7 @@ TEST_F(ComandoTest, WrongCallsSayWhatWasExpected) {
         {{"--verifica", "--N", "400"}, "--verifica vuole il nome di un sagomo"},
         {{"--scelta", "--famiglie", "--N", "400"}, "--famiglie vuole nomi di famiglie"},
         {{"--verifica", "HEA 200", "--N", "--My", "4"}, "--N vuole un numero"},
+        {{"--scelta", "--famiglie", "IPE", "--L0v"}, "--L0v vuole un numero"},
         {{"IPE 300", "--pdf"}, "--pdf vuole un file"},
         {{"IPE 300", "--progetto", "--pdf", "o.pdf"}, "--progetto vuole un testo"},
         {{"--verifica=HEA 200", "--N=x"}, "--N vuole un numero col punto decimale"},

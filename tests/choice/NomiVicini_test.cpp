@@ -80,6 +80,12 @@ TEST(NomiVicini, TheNearestAreToldEachOnceAndThreeAtMost) {
     }
 }
 
+TEST(NomiVicini, ANameOfMegabytesIsNearNoneAtOnce) {
+    const Nomi names(1200, "IPE 300");
+    EXPECT_EQ(NomiVicini(std::string(std::size_t{1} << 24U, 'I'), names), Nomi{});
+    EXPECT_EQ(NomiVicini("IPE 300 IPE 300", names), Nomi{"IPE 300"}); // 6 of 12 letters are too many
+}
+
 TEST(NomiVicini, NamesAreComparedInSmallLettersWithoutBlanks) {
     EXPECT_EQ(Piegato(" HEA 200 A"), "hea200a");
     EXPECT_EQ(NomiVicini("ipe301", {"HEA 300", "IPE 300", "IPE 3000"}), Nomi{"IPE 300"});

@@ -284,6 +284,24 @@ TEST_F(OpzioniTest, AValueIsNotTheNextOption) {
     EXPECT_EQ(joined, (Argomenti{"trave.sco", "--N"}));
 }
 
+// Behind a "=" there is no other option, nor a second sign.
+TEST_F(OpzioniTest, WhatStandsBehindAnEqualSignIsAValueWhateverItIs) {
+    for (const char* text : {"--x", "--N", "--json", "a=b", "-", "="})
+        EXPECT_EQ(LeggeOpzioni({"IPE 300", "--relazione=o.txt", std::string("--progetto=") + text}).progetto,
+                  text);
+    EXPECT_EQ(LeggeOpzioni({"--verifica=--scelta", "--N=3"}).sagomo, "--scelta");
+    EXPECT_EQ(Rifiuto({"--scelta", "--N=--My"}),
+              "--N vuole un numero col punto decimale, per esempio 2.5, non \"--My\"");
+    EXPECT_EQ(Rifiuto({"IPE 300", "--relazione=o.txt", "--progetto", "--x"}), "--progetto vuole un testo");
+}
+
+// A name of megabytes is near none, which is known from its length.
+TEST_F(OpzioniTest, AnOptionOfAnyLengthIsRefusedAtOnce) {
+    const std::string endless = "--" + std::string(std::size_t{1} << 24U, 'x');
+    EXPECT_TRUE(
+        Rifiuto({"--scelta", endless}).ends_with("si attende un file Gfl o Sco, --verifica o --scelta"));
+}
+
 TEST_F(OpzioniTest, TheToolkitHasItsOwnOptionsWithOneDashOrTwo) {
     for (const std::string with :
          {"style", "stylesheet", "platform", "platformpluginpath", "platformtheme", "plugin", "qwindowtitle",
