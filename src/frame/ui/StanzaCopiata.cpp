@@ -29,7 +29,7 @@ QString Valore(const QWidget* w) {
     if (const auto* box = qobject_cast<const QComboBox*>(w))
         return box->currentText().trimmed();
     if (const auto* bar = qobject_cast<const QProgressBar*>(w))
-        return bar->text().trimmed();
+        return bar->accessibleName().isEmpty() ? QString() : bar->text().trimmed();
     if (const auto* button = qobject_cast<const QPushButton*>(w)) // the factor of a table that is pressed
         return qobject_cast<const GrigliaFattori*>(w->parentWidget()) == nullptr ? QString()
                                                                                  : button->text().trimmed();
