@@ -252,6 +252,7 @@ TEST_F(LettoreTest, WhatIsNotThereIsToldWithItsBounds) {
     EXPECT_EQ(detto([&] { lettore.MoveTo(3); }), "riga 3 fuori da 0..2");
     EXPECT_EQ(detto([&] { static_cast<void>(lettore.NomeCampo(-1)); }), "campo -1 fuori da 0..2");
     EXPECT_EQ(detto([&] { static_cast<void>(lettore.Cella(1, 5)); }), "campo 5 fuori da 0..2");
+    EXPECT_EQ(detto([&] { lettore.Campo(1, 1.0); }), "campo 1 fuori da 0..-1") << "nothing is being written";
 }
 
 TEST_F(LettoreTest, RowsAreFoundByANumberToo) {

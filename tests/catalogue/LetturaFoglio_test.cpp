@@ -213,6 +213,38 @@ TEST(LeggeFoglio, DaysFrom1904AreCountedFrom1900) {
     EXPECT_EQ(f.Legge(0, 2), Valore(0.5));
 }
 
+// Each record that holds a number, in each style: 2.5 as the upper half of a double, 1 as an integer of RK.
+TEST(LeggeFoglio, EveryNumberHasTheKindOfItsStyle) {
+    for (const auto& [conStile, genere] : {std::pair{StileXls::Generale, GenereNumero::Semplice},
+                                           {StileXls::Data, GenereNumero::Data},
+                                           {StileXls::DataOra, GenereNumero::DataOra},
+                                           {StileXls::Ora, GenereNumero::Ora}}) {
+        const auto xf = static_cast<unsigned>(conStile);
+        const Foglio f = Letto(
+            Ipe()
+                .Numero(0, 0, 2.5, xf)
+                .Cella(Biff::Rk, 0, 1, Ottetti().U32(0x40040000U), xf)
+                .Cella(Biff::Formula, 0, 2,
+                       Ottetti().F64(2.5).U16(0).U32(0).U16(7).U8(0x1E).U16(1).U8(0x1E).U16(1).U8(3), xf)
+                .Sciolto(Biff::MulRk, Ottetti()
+                                          .U16(0)
+                                          .U16(3)
+                                          .U16(xf)
+                                          .U32(0x40040000U)
+                                          .U16(15)
+                                          .U32(6)
+                                          .U16(xf)
+                                          .U32(0x40040000U)
+                                          .U16(5)));
+        for (const std::size_t c : {0U, 1U, 2U, 3U, 5U}) {
+            EXPECT_EQ(f.Legge(0, c), Valore(2.5)) << c;
+            EXPECT_EQ(f.righe[0][c].genere, genere) << c;
+        }
+        EXPECT_EQ(f.Legge(0, 4), Valore(1.0));
+        EXPECT_EQ(f.righe[0][4].genere, GenereNumero::Semplice);
+    }
+}
+
 TEST(LeggeFoglio, WorkbooksBeforeExcel97) {
     const Foglio f = Letto(Ipe(CartellaAMano::biff5)
                                .Numero(0, 0, 2.5)

@@ -33,6 +33,10 @@ INSTANTIATE_TEST_SUITE_P(Testi, Utf16Test, testing::Values(
     CasoUtf16{"euro",             "\xE2\x82\xAC",         u"\u20AC"},
     CasoUtf16{"oltreFFFF",        "\xF0\x9F\x94\xA9",     u"\U0001F529"},
     CasoUtf16{"seguitoSolo",      "a\x80z",               u"a\uFFFDz"},
+    CasoUtf16{"seguitoInTesta",   "\x81\x90\x80\x80",     u"\uFFFD\uFFFD\uFFFD\uFFFD"},
+    CasoUtf16{"formaLungaDue",    "\xC1\x90\x80\x80",     u"\uFFFD\uFFFD\uFFFD\uFFFD"},
+    CasoUtf16{"formaLungaQuattro","\xF0\x8F\xBF\xBF",     u"\uFFFD\uFFFD\uFFFD\uFFFD"},
+    CasoUtf16{"oltreF4",          "\xF9\x90\x80\x80",     u"\uFFFD\uFFFD\uFFFD\uFFFD"},
     CasoUtf16{"troncato",         "a\xC3",                u"a\uFFFD"},
     CasoUtf16{"seguitoSbagliato", "\xC3z",                u"\uFFFDz"},
     CasoUtf16{"formaLunga",       "\xC0\xAF",             u"\uFFFD\uFFFD"},
@@ -174,6 +178,9 @@ TEST(Utf8DaUtf16, FirstAndLastOfEachLength) {
         EXPECT_EQ(Utf16DaUtf8(utf8), utf16) << std::hex << std::uint32_t(c);
         EXPECT_EQ(Utf16DaUtf8("a" + utf8 + "z"), u"a" + utf16 + u"z");
     }
+    const std::u16string coppia{char16_t(0xD800), char16_t(0xDC00)};
+    EXPECT_EQ(Utf8DaUtf16(std::u16string_view(coppia).substr(0, 1)), "\uFFFD")
+        << "nothing beyond the end is read";
     for (const char16_t mezza : {char16_t(0xD800), char16_t(0xDBFF), char16_t(0xDC00), char16_t(0xDFFF)})
         EXPECT_EQ(Utf8DaUtf16(std::u16string(1, mezza)), "\uFFFD");
 }

@@ -143,6 +143,19 @@ TEST_F(RigaDoppioTTest, DifferentFlangesTakeTheirOwnColumns) {
     EXPECT_EQ(double(s.Jw), 1048576.0 * 1000000);
 }
 
+TEST_F(RigaDoppioTTest, FieldsAloneAreReadAsTheirRow) {
+    for (const auto& [righe, campi] :
+         {std::pair{RigheDoppioT::Saldate, 18}, {RigheDoppioT::SaldateAsimmetriche, 21}}) {
+        Carica(Potenze(campi));
+        LeggeRiga(lettore, s, righe);
+        SezioneDoppioT altra;
+        LeggeCampi(Potenze(campi), altra, righe);
+        EXPECT_EQ(altra.Designation, "nome");
+        EXPECT_EQ(CampiRiga(altra, righe), CampiRiga(s, righe));
+        EXPECT_THROW(LeggeCampi(Potenze(campi - 1), altra, righe), std::out_of_range);
+    }
+}
+
 // A weight of 2 kg/m, which a row that is read does not give.
 TEST_F(RigaDoppioTTest, FieldsGoBackToTheirPlaces) {
     for (const auto& [righe, campi] :

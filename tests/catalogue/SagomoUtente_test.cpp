@@ -140,7 +140,7 @@ TEST_F(SagomoUtenteTest, PlatesThatMakeNoSectionAreNotAccepted) {
     EXPECT_TRUE(buoni.Accettabili());
     for (double PiattiSaldati::*lato :
          {&PiattiSaldati::h, &PiattiSaldati::b, &PiattiSaldati::tf, &PiattiSaldati::tw})
-        for (const double valore : {0.0, -1.0, std::nan(""), 1e30}) {
+        for (const double valore : {0.0, -1.0, std::nan(""), 1e6, 1e30}) {
             PiattiSaldati p = buoni;
             p.*lato = valore;
             EXPECT_FALSE(p.Accettabili()) << valore;
@@ -173,6 +173,7 @@ TEST_F(SagomoUtenteTest, PlatesThatMakeNoSectionAreNotAccepted) {
 
 TEST(NomeUtente, AQuotationMarkBecomesTwoApostrophes) {
     EXPECT_EQ(NomeUtente("H \"12\""), "H ''12''");
+    EXPECT_EQ(NomeUtente("\"\"\"x\""), "''''''x''");
     EXPECT_EQ(NomeUtente("L'ala"), "L'ala");
     EXPECT_EQ(NomeUtente(""), "");
 }
