@@ -1,6 +1,7 @@
 // Resistance, number and spacing of headed studs. Expected values by hand and from published tables.
 
 #include <cmath>
+#include <utility>
 
 #include "TraveDiProva.h"
 
@@ -51,6 +52,17 @@ TEST_F(ConnettoriTest, PublishedStud) {
     EXPECT_EQ(t.kRiduzione, 1);
     EXPECT_EQ(t.PRd, t.PRd2);
     EXPECT_EQ(t.MessaggioPioli, "");
+}
+
+TEST_F(ConnettoriTest, WithoutAForceOrAResistanceThereIsNoStud) {
+    AcciaioCls t = Trave();
+    for (const auto& [Vl, PRd] : {std::pair{-100e3, 70e3}, {0.0, 70e3}, {100e3, 0.0}, {-100e3, 0.0}}) {
+        t.Vl = Singolo(Vl);
+        t.PRd = PRd;
+        t.CalcolaNumeroConnettori();
+        EXPECT_EQ(t.nConnCalc, 0) << Vl << ' ' << PRd;
+        EXPECT_EQ(t.nConnettori, 0);
+    }
 }
 
 // 0.8·450·(pi/4)/1.25

@@ -112,6 +112,8 @@ TEST_F(DisegnoTraveTest, MeasuresOfASection) {
     EXPECT_FALSE(possibile([](auto& s) { s.fy = 0; }));
     EXPECT_FALSE(possibile([](auto& s) { s.tw = 150; }));
     EXPECT_FALSE(possibile([](auto& s) { s.r = 140; })) << "2·11 + 2·140 is more than 300";
+    EXPECT_FALSE(possibile([](auto& s) { s.r = 139; })) << "nothing is left of the web";
+    EXPECT_TRUE(possibile([](auto& s) { s.r = 138; }));
     EXPECT_FALSE(possibile([](auto& s) { s.r = -1; }));
 }
 

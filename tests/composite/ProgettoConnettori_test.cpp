@@ -59,6 +59,27 @@ TEST_F(ProgettoConnettoriTest, FullConnection) {
     EXPECT_TRUE(registratore.testi.empty());
 }
 
+// Half a newton is a force, and a stud that bears less than one still a stud; a spacing below a millimetre is
+// one.
+TEST_F(ProgettoConnettoriTest, LittleIsNotNothing) {
+    AcciaioCls t = Trave(solettaPiena);
+    t.Vl = 0.5;
+    EXPECT_TRUE(ProgettaConnettori(t, false).PRd);
+    EXPECT_EQ(t.MessaggioPioli, "");
+    t.Vl = 0;
+    EXPECT_FALSE(ProgettaConnettori(t, false).PRd);
+    AcciaioCls weak = Trave(solettaPiena);
+    weak.fu = 0.001; // 0.8 0.001 283.5 / 1.25 = 0.181 N
+    weak.Vl = 1;
+    const EsitoConnettori esito = ProgettaConnettori(weak, false);
+    ASSERT_TRUE(esito.PRd);
+    EXPECT_NEAR(*esito.PRd, 0.1815, 1e-4);
+    EXPECT_EQ(esito.n, 12) << "2 x 5.51, rounded up";
+    AcciaioCls brief = Trave(solettaPiena);
+    brief.Luce = 0.01;
+    EXPECT_EQ(ProgettaConnettori(brief, false).Passo, 0) << "10 / 21 mm, in whole ones";
+}
+
 TEST_F(ProgettoConnettoriTest, SolidSlabShowsNoRibs) {
     AcciaioCls t = Trave(solettaPiena);
     const EsitoConnettori esito = ProgettaConnettori(t, false);

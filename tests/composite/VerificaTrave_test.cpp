@@ -142,6 +142,60 @@ TEST_F(VerificaTraveTest, ARatioOfOneIsOne) {
     EXPECT_TRUE(registratore.testi.empty());
 }
 
+// A deck of no depth is a wrong slab, not one below the top of the steel; a steel without strength is told.
+TEST_F(VerificaTraveTest, WhatIsNoneIsHeldBackByItsName) {
+    AcciaioCls t = Grecata();
+    t.hc = 0;
+    HeldBack(t, "hc = 0");
+    InUso(0, 300, 150, 7, 11);
+    HeldBack(Trave(sluPositivo), "trave senza area o senza fy");
+}
+
+// Webs of 478 mm of S235 in bending: 59.8 is of class 1 (72), 77.1 of class 2 (83), 95.6 of class 3 (124),
+// 136.6 of class 4.
+TEST_F(VerificaTraveTest, FromClassThreeOnTheCheckIsElastic) {
+    int classe = 0;
+    for (const double tw : {8.0, 6.2, 5.0, 3.5}) {
+        const auto s = InUso(235, 500, 200, tw, 11);
+        AcciaioCls t = Trave(metodoNPositivo);
+        t.Msd = 50e6;
+        EXPECT_EQ(VerificaTrave(t).soloElastica, ++classe >= 3) << tw;
+        EXPECT_EQ(t.Sezione->ClasseFlessioneY, classe);
+    }
+}
+
+// Of a moment of nothing each stress is nothing: no part has a least one, with bars or without.
+TEST_F(VerificaTraveTest, ATinyMomentUsesNothing) {
+    for (const double As : {0.0, 1000.0}) {
+        AcciaioCls t = Trave(metodoNPositivo, As);
+        t.Msd = 1;
+        const EsitoTrave esito = VerificaTrave(t);
+        ASSERT_TRUE(esito.validi);
+        EXPECT_GT(Giudica(t, esito).utilizzo, 0);
+        EXPECT_LT(Giudica(t, esito).utilizzo, 1e-6);
+    }
+}
+
+// A slab of half a millimetre is one above the steel: -M (h + hc - yN) / Jid / n at its top; hogging it bears
+// nothing, and its bars as much as those of one twice as thick.
+TEST_F(VerificaTraveTest, AThinSlabLiesAboveTheSteel) {
+    AcciaioCls t = Trave(metodoNPositivo, 500);
+    t.hc = 0.5;
+    t.c = 0.25;
+    t.Msd = 1e8;
+    ASSERT_TRUE(VerificaTrave(t).validi);
+    EXPECT_NEAR(t.SigmaCls, -1e8 * (300.5 - t.yNeutro) / t.Jid / CoeffOmogeneizzazione, 1e-4);
+    AcciaioCls thin = Trave(sluNegativo, 1000), thicker = thin;
+    thin.hc = 0.5;
+    thicker.hc = 1;
+    thin.c = thicker.c = 0.25;
+    ASSERT_TRUE(VerificaTrave(thin).validi && VerificaTrave(thicker).validi);
+    EXPECT_EQ(thin.yNeutro, thicker.yNeutro);
+    EXPECT_EQ(thin.Vl, thicker.Vl);
+    EXPECT_NEAR(thin.MplRd, thicker.MplRd, 0.5 * AcciaioCls::fsd() * 1000 * 1.01)
+        << "half a millimetre of arm";
+}
+
 // Hogging, the slab in tension: its strength plays no part.
 TEST_F(VerificaTraveTest, ConcreteWithoutStrengthIsTaken) {
     fck = 0;
