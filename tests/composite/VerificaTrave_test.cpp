@@ -185,6 +185,10 @@ TEST_F(VerificaTraveTest, AThinSlabLiesAboveTheSteel) {
     t.Msd = 1e8;
     ASSERT_TRUE(VerificaTrave(t).validi);
     EXPECT_NEAR(t.SigmaCls, -1e8 * (300.5 - t.yNeutro) / t.Jid / CoeffOmogeneizzazione, 1e-4);
+    t.TipoVerifica = metodoNNegativo;
+    t.Msd = -1e8;
+    ASSERT_TRUE(VerificaTrave(t).validi);
+    EXPECT_NEAR(t.SigmaCls, 1e8 * (300.5 - t.yNeutro) / t.Jid / CoeffOmogeneizzazione, 1e-4);
     AcciaioCls thin = Trave(sluNegativo, 1000), thicker = thin;
     thin.hc = 0.5;
     thicker.hc = 1;

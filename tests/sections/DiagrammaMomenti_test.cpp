@@ -30,6 +30,20 @@ protected:
     prove::Registratore registratore;
 };
 
+// Factors are those of the shape: they do not hang on the unit of the moments.
+TEST_F(DiagrammaMomentiTest, FactorsDoNotHangOnTheSizeOfTheMoments) {
+    for (std::int16_t pict = 1; pict <= nPict; ++pict)
+        for (const double M2 : {-0.5, 0.0, 0.8})
+            for (const double MQ : {0.1, 0.3, 0.7, 2.0}) {
+                const auto effects = [&](double unit) {
+                    return EffettiDelDiagramma({0.8 * unit, M2 * unit, MQ * unit, 0}, TipoDiPict(pict), pict);
+                };
+                const EffettiDiagramma small = effects(1), large = effects(1e6);
+                EXPECT_NEAR(small.BetaM, large.BetaM, 1e-9) << pict << ' ' << M2 << ' ' << MQ;
+                EXPECT_NEAR(small.C1, large.C1, 1e-9) << pict << ' ' << M2 << ' ' << MQ;
+            }
+}
+
 class DiagrammaMomentiTabella : public testing::TestWithParam<Caso> {};
 
 TEST_P(DiagrammaMomentiTabella, MomentoEFattori) {

@@ -69,6 +69,7 @@ TEST(FibraInferiore, CountsEveryModulusThatThereIs) {
     EXPECT_NEAR(McyRdInferiore(s).value_or(0), 235 / GammaM0, 1e-9);
     s.WelyInf = 0;
     EXPECT_EQ(QuotaElastica(s), 1);
+    EXPECT_FALSE(McyRdInferiore(s));
     s.WelyInf = 4;
     s.ClasseFlessioneY = 4;
     s.WyEff = 3;
@@ -76,6 +77,9 @@ TEST(FibraInferiore, CountsEveryModulusThatThereIs) {
     s.SezioneWy4->WxInferiore = 1;
     EXPECT_EQ(QuotaElastica(s), 0.25);
     EXPECT_NEAR(McyRdInferiore(s).value_or(0), 235 / GammaM1, 1e-9);
+    s.SezioneWy4->WxInferiore = 0;
+    EXPECT_EQ(QuotaElastica(s), 1);
+    EXPECT_FALSE(McyRdInferiore(s));
 }
 
 // 2 x 300 x 20 against 300 x 20 + 250 x 12: 1550.6 and 1162.9 kN.
@@ -83,6 +87,12 @@ TEST(FibraInferiore, ShearCountsTheFlangesAsTheyAre) {
     EXPECT_NEAR(Trave(10).VplzRd / 1e3, 1550.6, 0.1);
     EXPECT_NEAR(VplzRdInferiore(Trave(10)).value() / 1e3, 1162.9, 0.1);
     EXPECT_FALSE(VplzRdInferiore(Trave(10, 250, 12, 300, 20)));
+    SezioneDoppioT s = Trave(10);
+    s.ErroreDatiDatabase = true;
+    EXPECT_FALSE(VplzRdInferiore(s)) << "data that are none";
+    s.ErroreDatiDatabase = false;
+    s.SaldataAsimm = false;
+    EXPECT_FALSE(VplzRdInferiore(s)) << "the lower flange is the upper one";
 }
 
 // 1300 kNm: 0.873 of what the upper fibre bears, 1.186 of the lower one.

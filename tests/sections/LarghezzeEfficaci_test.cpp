@@ -16,6 +16,19 @@ using namespace sagomi::prove;
 
 namespace {
 
+// Web 460 x 3 of S235, the axis in its middle, k 23.9: lambda 153.333 / (28.4 x 4.88876) = 1.10438, rho
+// 0.72511; of the 230 mm in compression 0.27489 are lost, 63.22 mm. Of one of class 3 nothing.
+TEST(LunghezzePerse, OfAWebInBending) {
+    const Registratore quiet;
+    SezioneDoppioT s;
+    s.fy = 235;
+    s.InizializzaSezioneUtente(nullptr, 500, 250, 3, 15, 5);
+    ASSERT_EQ(s.ClasseWebF, 4);
+    EXPECT_NEAR(PerseDi(s).animaInflessa, 63.22, 0.01);
+    s.ClasseWebF = 3;
+    EXPECT_EQ(PerseDi(s).animaInflessa, 0);
+}
+
 // By hand. Web 300 x 4: lambda = 75 / (28.4 x 2) = 1.32042, rho = (lambda - 0.22) / lambda2 = 0.63115. Flange
 // 100 x 5: lambda = 20 / (28.4 sqrt(0.43)) = 1.07393, rho = 0.74040. In bending, k 23.9: lambda = 75 / (28.4
 // x 4.88876) = 0.54019, below 0.673: nothing is lost.

@@ -125,6 +125,9 @@ TEST_F(InizialiTest, TheRestFollowsAndTheScreenIsAsked) {
     EXPECT_EQ(schermo.chiamate, (std::vector<bool>{false, true}));
     EXPECT_EQ(s.ClasseFlessioneY, 2); // 78.3 between 72 and 83
     EXPECT_NEAR(s.MplyRd, s.Wply * 235 / 1.05, 1e-6 * s.MplyRd);
+    EXPECT_NEAR(s.MplzRd, s.Wplz * 235 / 1.05, 1e-6 * s.MplzRd);
+    EXPECT_NEAR(s.MelyRd, s.Wely * 235 / 1.05, 1e-6 * s.MelyRd);
+    EXPECT_NEAR(s.MelzRd, s.Welz * 235 / 1.05, 1e-6 * s.MelzRd);
     EXPECT_NEAR(s.McyRd, s.MplyRd, 1e-9 * s.MplyRd);
     EXPECT_GT(s.VplyRd, 0);
 }

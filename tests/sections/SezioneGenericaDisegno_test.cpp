@@ -57,6 +57,7 @@ TEST_F(SezioneGenericaDisegnoTest, HatchingIsAFiftiethApart) {
     const double lunga = std::hypot(a.x2 - a.x1, a.y2 - a.y1);
     const double stacco = ((a.x2 - a.x1) * (b.y1 - a.y1) - (a.y2 - a.y1) * (b.x1 - a.x1)) / lunga;
     EXPECT_NEAR(std::abs(stacco), 2, 1e-6);
+    EXPECT_NEAR(std::abs(a.x2 - a.x1), std::abs(a.y2 - a.y1), 1e-6) << "at 45 degrees";
 }
 
 TEST_F(SezioneGenericaDisegnoTest, TheJointScreenHasNoHatching) {

@@ -49,6 +49,23 @@ TEST(SezioneGenerica, AFreshSectionIsZero) {
     EXPECT_EQ(s.Poligono->nVertici(), 0);
 }
 
+// Who holds an outline keeps it when the section takes another one.
+TEST(SezioneGenerica, AnOutlineThatIsHeldElsewhereStays) {
+    SezioneGenerica s;
+    s.CoordinateSezione(xL, yL, 6);
+    const auto held = s.Poligono;
+    const SezioneGenerica copy = s;
+    s.CoordinateSezione({0, 5, 5, 0}, {0, 0, 7, 7}, 4);
+    EXPECT_EQ(held->nVertici(), 6);
+    EXPECT_EQ(copy.Poligono->nVertici(), 6);
+    EXPECT_EQ(s.Poligono->nVertici(), 4);
+    SezioneGenerica two;
+    two.CoordinateSezione(xL, yL, 6);
+    const auto alone = two.Poligono; // one other holder
+    two.CoordinateSezione({0, 5, 5, 0}, {0, 0, 7, 7}, 4);
+    EXPECT_EQ(alone->nVertici(), 6);
+}
+
 TEST(SezioneGenerica, PlasticModuliNeedTheStaticValuesFirst) {
     SezioneGenerica s;
     s.CoordinateSezione(xL, yL, 6);

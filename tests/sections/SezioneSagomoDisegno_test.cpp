@@ -8,6 +8,7 @@
 #include "drawing/Grafica.h"
 #include "drawing/SuperficieFinta.h"
 #include "frame/GeneraleSagomi.h"
+#include "sections/DisegnoQuotato.h"
 #include "sections/DisegnoSagoma.h"
 #include "sections/SezioneGenerica.h"
 #include "sections/SezioneSagomoL.h"
@@ -92,6 +93,18 @@ protected:
     SuperficieFinta su{900, 600};
     StatoUscita prima;
 };
+
+// Among the data, and, however small, beside its corner.
+TEST_F(DisegnoSagomi, ARadiusIsNamed) {
+    for (const double r : {11.5, 0.5, 0.0}) {
+        SuperficieFinta sheet{900, 600};
+        auto s = Canale();
+        s.r1 = Singolo(r);
+        s.InizializzaSezione();
+        s.PlottaSezione(&sheet, "frm", "VIDEO");
+        EXPECT_EQ(std::ranges::count(sheet.Testi(), RigaDato("r", s.r1)), r > 0 ? 2 : 1) << r;
+    }
+}
 
 TEST_F(DisegnoSagomi, AChannelStandsWithItsBackAtZero) {
     auto s = Canale();

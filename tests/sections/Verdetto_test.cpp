@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 #include "frame/Numeri.h"
 #include "sections/SezioneDoppioT.h"
@@ -28,6 +29,40 @@ TEST(Verdetto, TermsThatAddUpNeedNoReason) {
     EXPECT_EQ(v.utilizzo, 1.375);
     EXPECT_EQ(v.governa, TermineVerifica::My);
     EXPECT_EQ(v.motivo, "");
+}
+
+// Half a newton in compression is no pull: of 600 kN, not of the 1000 of tension.
+TEST(Verdetto, TheLeastCompressionIsOne) {
+    EXPECT_DOUBLE_EQ(Giudica(Termini(0.5, 0, 0), resistenze).utilizzo, 0.5 / 600e3);
+    EXPECT_DOUBLE_EQ(Giudica(Termini(-0.5, 0, 0), resistenze).utilizzo, 0.5 / 1000e3);
+}
+
+// The load at the level of the centroid, whatever the height of that.
+TEST(Verdetto, OfUnequalFlangesTheLevelOfTheLoadCounts) {
+    SezioneDoppioT s;
+    s.SaldataAsimm = true;
+    s.h = 500;
+    s.b = 200;
+    s.bAlaInf = 300;
+    s.tf = s.tAlaInf = 20;
+    s.LLT = 4000;
+    s.c2 = 0.5;
+    s.yG = 210;
+    for (const auto& [za, apart] : {std::pair{-40.0, false}, {0.0, true}, {40.0, true}, {-41.0, true}}) {
+        s.za = za;
+        EXPECT_EQ(McrSiDiscosta(s), apart) << za;
+    }
+    s.za = 0;
+    s.c2 = 0;
+    EXPECT_FALSE(McrSiDiscosta(s)) << "no load";
+    s.c2 = 0.5;
+    s.LLT = 0;
+    EXPECT_FALSE(McrSiDiscosta(s));
+    s.LLT = 4000;
+    s.bAlaInf = 200;
+    EXPECT_FALSE(McrSiDiscosta(s)) << "equal flanges";
+    s.tAlaInf = 25;
+    EXPECT_TRUE(McrSiDiscosta(s));
 }
 
 TEST(Verdetto, NothingActingPassesWithoutAGoverningTerm) {
