@@ -80,7 +80,7 @@ public:
     /// The handlers of the screen do nothing.
     [[nodiscard]] bool Fermo() const { return CaricaForm || AggiungeSagomoUtente; }
     /// Reads the table anew, with the families that are ticked now.
-    virtual void Aggiorna();
+    void Aggiorna() override;
     /// Empties every result, where there is no row.
     virtual void SvuotaRisultati();
     /// Empties the boxes of the results alone.

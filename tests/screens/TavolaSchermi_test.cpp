@@ -19,6 +19,21 @@ TEST_F(TavolaSchermiTest, EveryScreenIsMadeUnderTheNameOfItsRow) {
         EXPECT_EQ(NavigaSchermi::Unico().Prende(voce.nome).objectName(), voce.nome);
 }
 
+// What is computed on one screen is told to the others, whether they have been loaded or not.
+TEST_F(TavolaSchermiTest, EveryScreenIsToldOfChangesBeforeItsFirstLoadAndAfterItsLast) {
+    auto& main = Avvia();
+    auto& n = NavigaSchermi::Unico();
+    for (const VoceSchermo& voce : n.Tavola()) {
+        Schermo& screen = n.Prende(voce.nome);
+        EXPECT_NO_THROW(screen.Aggiorna()) << voce.nome.toStdString();
+        if (voce.menu != QLatin1String("mnuCollegamenti_0"))
+            continue;
+        n.Apre(voce.nome, main);
+        screen.close();
+        EXPECT_NO_THROW(screen.Aggiorna());
+    }
+}
+
 TEST_F(TavolaSchermiTest, MenuEntriesAreEnabledExactlyWhereTheTableHasTheirScreen) {
     auto& s = Avvia();
     QStringList led;

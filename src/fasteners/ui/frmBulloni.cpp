@@ -348,6 +348,8 @@ void frmBulloni::DiametroCambiato() {
 }
 
 void frmBulloni::Aggiorna() {
+    if (!bullone_) // another screen changed while this one was on its way
+        return;
     MostraTaglioTrazione();
     RifollamentoAggiorna();
     Interazione();

@@ -57,7 +57,7 @@ private:
 
     void ClasseCambiata();
     void DiametroCambiato();
-    void Aggiorna();
+    void Aggiorna() override;
     void LeggePiastra();
     void RifollamentoAggiorna();
     void Messaggi();

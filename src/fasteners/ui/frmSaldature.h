@@ -26,7 +26,7 @@ public:
 
 private:
     void MostraAcciaio();
-    void Aggiorna();
+    void Aggiorna() override;
 
     std::unique_ptr<Ui::frmSaldature> ui_;
     std::optional<Saldatura> saldatura_; ///< made at first use
