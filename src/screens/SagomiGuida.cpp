@@ -33,8 +33,10 @@ std::size_t Grado(double fy) { return fy < 255 ? 0 : fy < 315 ? 1 : 2; }
 const Gara& GaraGuida() {
     static std::map<std::filesystem::path, Gara> lette;
     const std::filesystem::path cartella = CartellaInstallata();
-    const auto found = lette.find(cartella);
-    return found != lette.end() ? found->second : lette.emplace(cartella, Letta(cartella)).first->second;
+    Gara& gara = lette[cartella];
+    if (gara.sagomi.empty()) // the workbook may come back
+        gara = Letta(cartella);
+    return gara;
 }
 
 const SagomoInGara& SagomoGuida(std::string_view nome) {

@@ -7,10 +7,14 @@
 #include <QTextBrowser>
 #include <QUrl>
 
+#include <filesystem>
+#include <stdexcept>
+
 #include "frame/ui/FinestraGuida.h"
 #include "frame/ui/Guida.h"
 #include "frame/ui/IndiceGuida.h"
 #include "screens/Comandi.h"
+#include "screens/SagomiGuida.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -107,6 +111,19 @@ TEST_F(GuidaSchermiTest, EveryScreenHasAPictureInItsTopic) {
         EXPECT_TRUE(Argomento(html, place).contains(QStringLiteral("<img src=\"figura:")))
             << voce.nome.toStdString();
     }
+}
+
+// A workbook that comes back is read; pictures without it are not kept.
+TEST_F(GuidaSchermiTest, PicturesComeBackWithTheWorkbook) {
+    const auto file = std::filesystem::path(PathProgramma) / "Sagomi.xls";
+    const auto aside = std::filesystem::path(PathProgramma) / "altrove";
+    std::filesystem::rename(file, aside);
+    EXPECT_TRUE(GaraGuida().sagomi.empty());
+    EXPECT_THROW((void)SagomoGuida("IPE 300"), std::out_of_range);
+    std::filesystem::rename(aside, file);
+    EXPECT_EQ(SagomoGuida("IPE 300").Designazione(), "IPE 300");
+    const Gara* kept = &GaraGuida();
+    EXPECT_EQ(kept->sagomi.data(), GaraGuida().sagomi.data()) << "read once";
 }
 
 } // namespace
