@@ -129,6 +129,12 @@ TEST_F(RelazioniPdfTest, ABeamHasItsMomentAndItsStuds) {
     const std::string n = Testo(&studs, "txtn");
     const std::string spacing = Testo(&studs, "txtPasso");
     ASSERT_FALSE(n.empty());
+    Prova(studs, {"txtn", "txtPasso"}, {"Connettori a piolo", "Trave mista", "OK"});
+    prove::Scrive(&studs, "txtInput_3", "");
+    Preme(&studs, "CmdRelazione");
+    EXPECT_EQ(registratore.testi.back(), "Questo schermo non ha risultati da riportare.");
+    prove::Scrive(&studs, "txtInput_3", "8");
+    Preme(&studs, "CmdProgetta");
     studs.close();
     Prova(beam, {"Txt_MplRd", "Txt_NeutroPlastico", "Txt_MaplRd", "Txt_Vl"},
           {"Connettori a piolo", "IPE 300", "OK"});

@@ -28,6 +28,8 @@
 #include "frame/ui/Mostra.h"
 #include "frame/ui/NavigaSchermi.h"
 #include "frame/ui/Protetto.h"
+#include "report/RelazioneTrave.h"
+#include "report/ui/ComandoRelazione.h"
 
 namespace sagomi {
 
@@ -78,6 +80,7 @@ frmConnettori::frmConnettori() : Schermo(QStringLiteral("frmConnettori")) {
             [this] { Progetta(); });
     Collega(findChild<QPushButton*>(QStringLiteral("lblDomandaPrd")), &QPushButton::clicked, this,
             [this] { MostraResistenze(); });
+    AggiungeRelazione(*this, [this] { return DaRiportare(); });
     DimensionaIniziale({});
 }
 
@@ -283,6 +286,14 @@ void frmConnettori::Progetta() {
     progettata_ = true;
     if (esito.nervatureDoppie > 0)
         SuggerimentoPerNervatura(esito.nervatureDoppie);
+}
+
+/// The studs are a chapter of their beam's report.
+Relazione frmConnettori::DaRiportare() {
+    if (trave_ == nullptr || !ValidaDati())
+        return {};
+    Leggedati();
+    return trave_->AssicuraRisultati() ? RelazioneTraveVerificata(Trave()) : Relazione();
 }
 
 void frmConnettori::Mostra(const EsitoConnettori& esito) {

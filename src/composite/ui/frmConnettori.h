@@ -14,6 +14,7 @@ class QLineEdit;
 namespace sagomi {
 
 class FiltroCampi;
+struct Relazione;
 
 /// Number and spacing of the studs of the beam in hand, by command, with its picture at every key. What is
 /// entered belongs to the beam and goes into its file.
@@ -60,6 +61,7 @@ private:
     void MostraTipo();
     void MostraMomento();
     void Mostra(const EsitoConnettori& esito);
+    [[nodiscard]] Relazione DaRiportare();
     void MostraResistenze();
     void SvuotaUscite();
     void Disegna();
