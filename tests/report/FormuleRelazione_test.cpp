@@ -60,7 +60,7 @@ TEST(FormuleRelazione, WhatIsNotThereIsEmpty) {
 
 // All blocks of the file that goes with the program.
 TEST(FormuleRelazione, AreThoseOfTheFile) {
-    std::ifstream file(SAGOMI_BIN "/FormuleGiunto.rtf", std::ios::binary);
+    std::ifstream file(SAGOMI_CATALOGUE_DATA "/../FormuleGiunto.rtf", std::ios::binary);
     const std::string rtf{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     std::string text;
     std::set<std::string> seen;

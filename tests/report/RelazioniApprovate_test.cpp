@@ -198,6 +198,20 @@ TEST_F(RelazioniApprovate, SezioniAiLimiti) {
     SezioneInBreve("dati-errati", asimmetrica);
 }
 
+// Where the two factors are not the same it shows which one counts.
+TEST_F(RelazioniApprovate, FattoriDiversi) {
+    Normativa = normativaAltro;
+    GammaM0Altro = 1;
+    GammaM1Altro = 1.1;
+    ImpostaGamma();
+    SezioneDoppioT terza = Saldata(11, 15);
+    terza.NSd = 900e3;
+    SezioneInBreve("fattori-classe2", Saldata(14, 20));
+    SezioneInBreve("fattori-classe3", terza);
+    SezioneInBreve("fattori-classe3-inflessa", Saldata(5, 20));
+    SezioneInBreve("fattori-classe4", Saldata(3, 5));
+}
+
 TEST_F(RelazioniApprovate, MomentiCriticiEDiagrammi) {
     SezioneDoppioT s = Saldata(12, 15);
     std::vector<CapitoloRelazione> capitoli;
@@ -236,6 +250,7 @@ TEST_F(RelazioniApprovate, Angolari) {
     int n = 0;
     std::vector<Relazione> relazioni;
     for (const auto& [h, b, t] : {std::tuple{100.0, 100.0, 12.0},
+                                  {100.0, 100.0, 10.0},
                                   {100.0, 100.0, 9.0},
                                   {100.0, 100.0, 6.0},
                                   {150.0, 100.0, 12.0},
@@ -320,6 +335,20 @@ TEST_F(RelazioniApprovate, BulloniDiOgniClasse) {
             b.FtSd = gambo ? 9e3 : 0;
             relazioni.push_back(RelazioneBullone(b, "S355 (Fe510)"));
         }
+    for (const auto sbagliata : {&Bullone::e1, &Bullone::p1, &Bullone::e2, &Bullone::p2, &Bullone::do_}) {
+        Bullone b;
+        b.Classe(8.8F);
+        b.d(7);
+        b.CalcolaResistenzaTaglio();
+        b.fu = 360;
+        b.t = 10;
+        b.e1 = b.e2 = 50;
+        b.p1 = b.p2 = 90;
+        b.*sbagliata = sbagliata == &Bullone::do_ ? 30 : 5; // one alone
+        b.RifollamentoCalcola();
+        b.FvSd = 10e3;
+        relazioni.push_back(RelazioneBullone(b, "S235 (Fe360)"));
+    }
     for (const double fu : {360.0, 430.0, 510.0, 520.0, 540.0, 450.0, 0.0}) {
         Saldatura s;
         s.fu = fu;
