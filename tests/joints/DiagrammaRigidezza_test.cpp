@@ -205,6 +205,16 @@ TEST_F(DiagrammaRigidezzaTest, AMomentThatIsNotCarriedIsRed) {
     EXPECT_THAT(s.Testi(), Contains(HasSubstr(" > Mj,Rd")));
 }
 
+// A joint carries the moment that it can just resist.
+TEST_F(DiagrammaRigidezzaTest, AMomentAsLargeAsTheResistanceIsCarried) {
+    g().MplRdGIUNTO = 80;
+    n.TraveDx->Mysd = 80;
+    const auto s = Disegnato(g());
+    EXPECT_EQ(s.cerchi.size(), 1U);
+    EXPECT_TRUE(std::none_of(s.linee.begin(), s.linee.end(), [](const auto& l) { return l.colore == 12; }));
+    EXPECT_THAT(s.Testi(), testing::Not(Contains(HasSubstr(" > Mj,Rd"))));
+}
+
 TEST_F(DiagrammaRigidezzaTest, NothingMisleadsWhereSomethingIsMissing) {
     n.TraveDx->lunghezza() = 0;
     const auto testi = Disegnato(g()).Testi();

@@ -40,6 +40,17 @@ TEST_F(DisegnoNodoTest, WhatACheckHasLeftIsShownAsItIs) {
     EXPECT_EQ(g.hf, 255); // the copy alone is computed
 }
 
+// What follows from the four sizes of the plate has no value while one of them is missing.
+TEST_F(DisegnoNodoTest, WhatFollowsWaitsForAllSizes) {
+    for (double Giunto::*misura : {&Giunto::tf, &Giunto::bf, &Giunto::ef, &Giunto::d2}) {
+        const Nodo n = NodoDisegnato(nodoT, 2);
+        (*n.ConnessioneCorrente).*misura = 0;
+        EXPECT_THAT(Testi(DisegnoNodo(n)),
+                    testing::IsSupersetOf({altezza, std::string("Passo orizzontale fori: w = ")}));
+    }
+    EXPECT_THAT(Testi(DisegnoNodo(NodoDisegnato(nodoT, 2))), Contains(altezza + "350"));
+}
+
 TEST_F(DisegnoNodoTest, ANodeWithoutASectionIsDrawnAsFarAsItGoes) {
     const Registratore boxes;
     Nodo n = NodoDisegnato(nodoT, 1);

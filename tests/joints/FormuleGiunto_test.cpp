@@ -2,12 +2,14 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <regex>
 #include <set>
 
 #include "Registratore.h"
+#include "frame/Ambiente.h"
 #include "frame/Errori.h"
 #include "joints/NodoDaFile.h"
 #include "joints/RtfInHtml.h"
@@ -93,6 +95,21 @@ TEST(LeggeFormula, FileMancante) {
         EXPECT_STREQ(e.what(), "File non trovato: FormuleGiunto.rtf");
     }
     EXPECT_THROW((void)LeggeFormula(cartella, "non_c_e"), ErroreNumerato);
+}
+
+TEST(LeggeFormula, OgniErroreHaIlSuoNumero) {
+    const auto numero = [](const std::string& dove, const char* id) {
+        try {
+            (void)LeggeFormula(dove, id);
+        } catch (const ErroreNumerato& e) {
+            return e.Numero();
+        }
+        return 0;
+    };
+    EXPECT_EQ(numero(cartella, "non_c_e"), 5);
+    const CartellaDiProva dir;
+    std::filesystem::create_directory(dir.percorso / "FormuleGiunto.rtf");
+    EXPECT_EQ(numero(dir.percorso.string(), "k6"), 75);
 }
 
 TEST(FileFormule, EUnDocumentoIntero) {

@@ -157,6 +157,54 @@ TEST(GeometriaNodo, ComponentsLieWhereTheyWork) {
     EXPECT_TRUE(zona(Nessuno, FilaGiunto::Nessuna).empty());
 }
 
+// The stiffeners that were computed are drawn, however small; those of a joint that has none yet are
+// estimated.
+TEST(GeometriaNodo, StiffenersAsTheyWereComputed) {
+    const Nodo n = NodoDisegnato(nodoT, 2, "Si");
+    Giunto& g = *n.ConnessioneCorrente;
+    g.Irr_Spessore = g.Irr_B = g.Irr_L1 = g.Irr_L2 = g.Irr_a = 1;
+    const GeometriaNodo minima(n, nullptr, false);
+    EXPECT_EQ(minima.spessoreIrr, 1);
+    EXPECT_EQ(minima.larghezzaIrr, 1);
+    EXPECT_EQ(minima.lunghezzaIrr, 1);
+    EXPECT_EQ(minima.lunghezzaSup, 1);
+    EXPECT_EQ(minima.golaIrr, 1);
+    for (std::int16_t Giunto::*manca : {&Giunto::Irr_Spessore, &Giunto::Irr_L1}) {
+        Giunto& senza = *n.ConnessioneCorrente;
+        senza.*manca = 0;
+        const GeometriaNodo stimata(n, nullptr, false);
+        EXPECT_EQ(stimata.spessoreIrr, 10);   // the flange of 10.2
+        EXPECT_EQ(stimata.larghezzaIrr, 91);  // (200 - 9) / 2 - 5 rounded
+        EXPECT_EQ(stimata.lunghezzaIrr, 162); // 200 - 30 - 8
+        EXPECT_EQ(stimata.golaIrr, 0);
+        senza.*manca = 1;
+    }
+}
+
+// A node whose joints are not there yet: which columns go on above the beams.
+TEST(GeometriaNodo, KindsWithoutAJoint) {
+    for (const auto& [tipo, sopra] :
+         {std::pair{nodoCroce, true}, {nodoCroceSenzaColonna, false}, {nodoT, true}, {nodoL, false}}) {
+        Nodo n;
+        n.ImpostaNodo();
+        n.Tipovie = tipo;
+        n.ConnessioneCorrente.reset();
+        n.PuntatoreColonna(HEB200());
+        EXPECT_EQ(GeometriaNodo(n, nullptr, false).sopra, sopra) << tipo;
+        EXPECT_EQ(GeometriaNodo(NodoDisegnato(tipo, 1), nullptr, false).sopra, sopra) << tipo;
+    }
+}
+
+// A beam alone begins at the axis of the column that is not there.
+TEST(GeometriaNodo, ABeamWithoutAColumn) {
+    Nodo n = NodoDisegnato(nodoT, 1);
+    n.Colonnainf.reset();
+    n.ConnessioneCorrente->PuntatoreSezioni(n.TraveDx.Riferimento(), nullptr);
+    const GeometriaNodo g(n, nullptr, false);
+    EXPECT_EQ(g.Laterale().x1, 0);
+    EXPECT_NEAR(g.Laterale().x2, 20 + 0.9 * 270, vicino); // the plate and what is seen of the beam
+}
+
 // What is thinner than a millimetre is there all the same, and what is 0 is not.
 TEST(GeometriaNodo, MisurePiccoleCiSono) {
     Nodo n = NodoDisegnato(nodoT, 2);

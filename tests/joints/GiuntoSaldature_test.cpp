@@ -119,3 +119,15 @@ TEST_F(Saldature, MomentoConDueDecimali) {
     EXPECT_NEAR(M, 81.70, 0.01);
     EXPECT_EQ(g.M_Saldature(), "81.70");
 }
+
+// Of the other steels with a factor, 0.85 and 0.9, and of one without.
+TEST_F(Saldature, MomentoDiOgniAcciaio) {
+    const double c = 5.35 * 20 / std::hypot(5.35, 20);
+    for (const auto& [fu, beta, atteso] : {std::tuple{430, 0.85, "91.85"}, {510, 0.9, "102.88"}}) {
+        trave->fu = fu;
+        EXPECT_NEAR(262.9 * 289.3 * c * fu / (1e6 * beta * std::sqrt(3) * 1.25), std::stod(atteso), 0.006);
+        EXPECT_EQ(g.M_Saldature(), atteso);
+    }
+    trave->fu = 520;
+    EXPECT_EQ(g.M_Saldature(), "");
+}

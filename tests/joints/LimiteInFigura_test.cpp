@@ -49,4 +49,29 @@ TEST(LimiteInFigura, IsToldOnceWhateverIsMissing) {
             }
 }
 
+// Sections that are missing are told a line each, the sizes of the plate in one line when all sections are
+// there.
+TEST(LimiteInFigura, WhatIsMissingIsToldBySectionsFirst) {
+    const auto detto = [](bool colonna, bool destra, bool sinistra) {
+        Nodo n;
+        n.ImpostaNodo();
+        n.CaratterizzaGiunti();
+        if (colonna)
+            n.PuntatoreColonna(HEB200());
+        if (destra)
+            n.PuntatoreTraveDestra(IPE270());
+        if (sinistra)
+            n.PuntatoreTraveSinistra(IPE330());
+        return DescrizioneGiunto(n, nullptr, {});
+    };
+    const std::string inizio = "Vista laterale e prospetto della flangia. ";
+    EXPECT_EQ(detto(false, true, true), inizio + "Trave IPE 270, Manca colonna.");
+    EXPECT_EQ(detto(true, false, true), inizio + "Colonna HE 200 B, Manca trave destra.");
+    EXPECT_EQ(detto(true, true, false), inizio + "Colonna HE 200 B, Trave IPE 270, Manca trave sinistra.");
+    EXPECT_EQ(detto(true, false, false),
+              inizio + "Colonna HE 200 B, Manca trave destra, Manca trave sinistra.");
+    EXPECT_EQ(detto(true, true, true), inizio + "Colonna HE 200 B, Trave IPE 270, Mancano tf, bf, ef, d1.");
+    EXPECT_EQ(detto(false, false, false), "Nessun sagomo assegnato.");
+}
+
 } // namespace

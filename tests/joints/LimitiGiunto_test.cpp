@@ -213,6 +213,8 @@ TEST_F(LimitiFlangia, BulloneMassimo) {
     EXPECT_EQ(BulloneMax(g).suggerimento, "per aumentarlo bisogna incrementare d2");
     g.L = 50; // 50 - 7.07 = 42.9, less than by the column
     EXPECT_EQ(BulloneMax(g).suggerimento, "per aumentarlo bisogna incrementare d2");
+    g.L = 54.5; // 54.5 - 7.07 = 47.4: both leave 47, the width is named
+    EXPECT_EQ(BulloneMax(g).suggerimento, "per aumentarlo bisogna aumentare bf");
     g.nf = 1;
     EXPECT_EQ(BulloneMax(g).indice, 15);
     g.nf = 2;

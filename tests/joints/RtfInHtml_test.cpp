@@ -104,3 +104,27 @@ TEST(RtfInHtml, GruppiOltreIlLimite) {
 TEST(RtfInHtml, AlfabetoDeiSimboli) {
     EXPECT_EQ(Html("{\\fonttbl{\\f1\\fcharset2 Symbol;}}{\\f1 AaZz}"), "<p>ΑαΖζ</p>\n");
 }
+
+// A minus belongs to a number that follows it, also at the end; alone it is a text.
+TEST(RtfInHtml, NumeriNegativi) {
+    EXPECT_EQ(Senza(HtmlDaRtf("{\\rtf1\\ansi a\\b-5")), "<p>a</p>\n");
+    EXPECT_EQ(Html("a\\b-5 x"), "<p>a<b>x</b></p>\n");
+    EXPECT_EQ(Html("a\\b-x"), "<p>a<b>-x</b></p>\n");
+    EXPECT_EQ(Html("a\\u-8192?b"), "<p>a\xEE\x80\x80"
+                                   "b</p>\n");      // the first character behind the halves of pairs
+    EXPECT_EQ(Html("a\\u-8193?b"), "<p>a?b</p>\n"); // the last half of a pair
+}
+
+TEST(RtfInHtml, UnRitornoDopoLaBarraEUnParagrafo) {
+    EXPECT_EQ(Html("a\\\nb"), "<p>a</p>\n<p>b</p>\n");
+    EXPECT_EQ(Html("a\\\rb"), "<p>a</p>\n<p>b</p>\n");
+}
+
+// What stands behind the end of the text is not read: neither a letter nor a sign.
+TEST(RtfInHtml, FineDopoLaBarra) {
+    for (const std::string segno : {"~", "_", "{", "b "}) {
+        const std::string intero = "{\\rtf1\\ansi a\\" + segno;
+        EXPECT_EQ(Senza(HtmlDaRtf(std::string_view(intero).substr(0, intero.size() - segno.size()))),
+                  "<p>a</p>\n");
+    }
+}

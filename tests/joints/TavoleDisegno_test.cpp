@@ -164,10 +164,48 @@ TEST(TavoleDisegno, TextsOfShallowAndDeepBeams) {
     ConfrontaApprovato("joints/travi.txt", tavola);
 }
 
+// Texts inside the beams or under them, as the beams become deeper: those of bolts and weld, and the names.
+TEST(TavoleDisegno, TextsFromShallowToDeepBeams) {
+    std::string tavola;
+    for (int h = 70; h <= 340; h += 9)
+        for (const auto& [l, alta] : {std::pair{480, 340}, {800, 500}, {190, 277}})
+            for (const bool sinistro : {false, true}) {
+                const auto trave =
+                    Laminato("T " + std::to_string(h), h, 0.5 * h, 0.02 * h, 0.035 * h, 9, 1000, 1e6);
+                const Nodo n = NodoDisegnato(nodoCroce, 1 + h % 2, h % 3 == 0 ? "No" : "Si", sinistro, trave);
+                SuperficieFinta s(l, alta);
+                const SuUscita uscita(&s, l < 200 ? dispositivoStampante : dispositivoVideo);
+                DisegnoNodo(n).PlottaInOggetto(&s, "");
+                tavola +=
+                    std::to_string(h) + ' ' + std::to_string(l) + (sinistro ? " sinistro:" : " destro:");
+                for (const auto& t : s.scritte)
+                    for (const char* inizio :
+                         {"T ", "IPE", "HE ", "4 M", "6 M", "cl.", "aw", "af", "2 piatti"})
+                        if (t.testo.starts_with(inizio))
+                            tavola += ' ' + t.testo + ' ' + Cifra(s.InX(t.x)) + ' ' + Cifra(s.InY(t.y)) + ';';
+                tavola += '\n';
+            }
+    ConfrontaApprovato("joints/altezze.txt", tavola);
+}
+
+// A stiffener has the text of its weld where that is known, however thin.
+TEST(TavoleDisegno, WeldOfAStiffener) {
+    for (const auto& [gola, volte] : {std::pair{0, 0}, {1, 2}, {5, 2}}) {
+        const Nodo n = NodoDisegnato(nodoT, 2, "Si");
+        n.ConnessioneCorrente->Irr_a = std::int16_t(gola);
+        n.ConnessioneCorrente->Acquisito = true;
+        SuperficieFinta s(800, 500);
+        const SuUscita uscita(&s);
+        DisegnoNodo(n).PlottaInOggetto(&s, "");
+        const auto testi = s.Testi();
+        EXPECT_EQ(std::count(testi.begin(), testi.end(), "a " + std::to_string(gola)), volte) << gola;
+    }
+}
+
 // The texts of the diagram of stiffness at several sizes, spans and acting moments.
 TEST(TavoleDisegno, TextsOfTheStiffnessDiagram) {
     std::string tavola;
-    for (const double luce : {0.0, 1.0, 3.0, 9.0}) {
+    for (const double luce : {0.0, 0.25, 1.0, 3.0, 9.0}) {
         Nodo n = NodoDisegnato(nodoT, 2);
         n.TraveDx->McyRd = 484e3 * 235 / 1.05;
         n.TraveDx->lunghezza() = luce;

@@ -180,6 +180,15 @@ TEST_F(TracciaVistaTest, NarrowEndsOfALevelChainHaveTheirTextsOutside) {
     EXPECT_NEAR(s.scritte[1].x, 221 + 11 - 9, 1e-9);
 }
 
+// Distances that are given from right to left measure the same.
+TEST_F(TracciaVistaTest, NarrowEndsOfAChainFromTheRight) {
+    diritta.Orizzontali(
+        0, -30, std::array{QuotaNodo{10, 0, "aaa"}, QuotaNodo{90, 10, "bbb"}, QuotaNodo{100, 90, "ccc"}});
+    ASSERT_EQ(s.scritte.size(), 3U);
+    EXPECT_NEAR(s.scritte[0].x, 100 - 11 - 9, 1e-9);
+    EXPECT_NEAR(s.scritte[2].x, 200 + 11 - 9, 1e-9);
+}
+
 // The line passes the thickness by 1.6 on both sides, the text stands 0.4 beyond.
 TEST_F(TracciaVistaTest, AThicknessIsMeasuredFromOutside) {
     diritta.Spessore(40, 52, 5, 30, {0, 12, "tf 12"});
