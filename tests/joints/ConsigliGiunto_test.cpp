@@ -20,6 +20,8 @@ TEST(ConsigliGiunto, OgniArgomentoHaUnTestoEUnNomeSuoi) {
     EXPECT_EQ(nomi.size(), 21U);
     EXPECT_THROW((void)ConsiglioGiunto(21, "8.8"), std::out_of_range);
     EXPECT_THROW((void)ConsiglioGiunto(-1, "8.8"), std::out_of_range);
+    EXPECT_THAT([] { (void)ConsiglioGiunto(21, "8.8"); },
+                testing::ThrowsMessage<std::out_of_range>("argomento 21 fuori da 0..20"));
 }
 
 TEST(ConsigliGiunto, BulloniSecondoLaClasse) {

@@ -205,6 +205,33 @@ TEST_F(DiagrammaRigidezzaTest, AMomentThatIsNotCarriedIsRed) {
     EXPECT_THAT(s.Testi(), Contains(HasSubstr(" > Mj,Rd")));
 }
 
+TEST_F(DiagrammaRigidezzaTest, WithoutAValueThereIsNoCurve) {
+    for (double Giunto::*valore : {&Giunto::MplRdGIUNTO, &Giunto::Sj_MjRd, &Giunto::Sj_Mela}) {
+        Giunto senza = g();
+        senza.*valore = 0;
+        EXPECT_THAT(Disegnato(senza).Testi(), testing::ElementsAre("Giunto non calcolato"));
+    }
+}
+
+// The stiffness that the joint holds is that of the check to some figures, or straight lines join the values.
+TEST_F(DiagrammaRigidezzaTest, TheLineIsCurvedWhereTheCheckIsThatOfTheJoint) {
+    const double Sj = g().Sj_MjRd;
+    g().Sj_MjRd = Sj * (1 + 1e-8);
+    EXPECT_EQ(PuntiMomentoRotazione(g()).size(), 14U); // 0, elastic, eleven between, the last
+    g().Sj_MjRd = Sj * (1 - 1e-8);
+    EXPECT_EQ(PuntiMomentoRotazione(g()).size(), 14U);
+    g().Sj_MjRd = Sj * (1 + 1e-5);
+    EXPECT_LE(PuntiMomentoRotazione(g()).size(), 4U);
+}
+
+TEST_F(DiagrammaRigidezzaTest, ThePictureHasItsSizes) {
+    const Disegno d = DiagrammaRigidezza(g());
+    EXPECT_EQ(d.misura.larghezza, 440);
+    EXPECT_EQ(d.misura.altezza, 280);
+    EXPECT_EQ(d.minima.larghezza, 300);
+    EXPECT_EQ(d.minima.altezza, 160);
+}
+
 // A joint carries the moment that it can just resist.
 TEST_F(DiagrammaRigidezzaTest, AMomentAsLargeAsTheResistanceIsCarried) {
     g().MplRdGIUNTO = 80;

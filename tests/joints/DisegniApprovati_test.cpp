@@ -101,6 +101,15 @@ TEST_F(DisegniApprovati, AltreForme) {
     Approvato("sola-colonna", InSvg(FiguraGiunto(sola, nullptr, {}), 480, 600, "frmGiunti"));
 }
 
+// Beams that have no room for texts between their flanges.
+TEST_F(DisegniApprovati, TraviBasse) {
+    const auto bassa = [] { return Laminato("IPE 80", 80, 46, 3.8, 5.2, 5, 764, 801400); };
+    const Nodo T = NodoDisegnato(nodoT, 2, "Si", false, bassa());
+    const Nodo croce = NodoDisegnato(nodoCroce, 1, "Cp", true, bassa());
+    Approvato("bassa-T", InSvg(DisegnoNodo(T), 190, 277, "frmGiunti", dispositivoStampante));
+    Approvato("bassa-croce", InSvg(DisegnoNodo(croce), 800, 500, "frmGiunti"));
+}
+
 // As small as the windows let them become, and with a component chosen.
 TEST_F(DisegniApprovati, FiguraMinimaEScelta) {
     const Nodo T = NodoDisegnato(nodoT, 2, "Si");

@@ -6,6 +6,7 @@
 #include "NodoDisegnato.h"
 #include "Registratore.h"
 #include "drawing/SuperficieFinta.h"
+#include "frame/Numeri.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -49,6 +50,18 @@ TEST_F(DisegnoNodoTest, WhatFollowsWaitsForAllSizes) {
                     testing::IsSupersetOf({altezza, std::string("Passo orizzontale fori: w = ")}));
     }
     EXPECT_THAT(Testi(DisegnoNodo(NodoDisegnato(nodoT, 2))), Contains(altezza + "350"));
+}
+
+// The welds of a check of an older program, however small.
+TEST_F(DisegnoNodoTest, SmallWeldsHaveTheirTexts) {
+    for (const double gola : {0.5, 1.0, 4.0}) {
+        const Nodo n = NodoDisegnato(nodoT, 2);
+        n.ConnessioneCorrente->Acquisito = true;
+        n.ConnessioneCorrente->aw = n.ConnessioneCorrente->Af = gola;
+        const auto testi = Testi(DisegnoNodo(n));
+        EXPECT_THAT(testi, Contains("aw " + TestoPiano(gola)));
+        EXPECT_THAT(testi, Contains("af " + TestoPiano(gola)));
+    }
 }
 
 TEST_F(DisegnoNodoTest, ANodeWithoutASectionIsDrawnAsFarAsItGoes) {

@@ -69,6 +69,32 @@ TEST(GeometriaNodo, ThereIsNoFilletBeyondThePlate) {
             EXPECT_GE(p.x, 100 - vicino);
 }
 
+// 270.25 - 8.25 = 262, so 4.125 stand over the plate: hardly more than a throat of 4.0144, whose other leg
+// is 4.0144 4.125 / root of 0.9002 = 17.453; over 4.0 it would have no end, and the plate of 20 ends it.
+TEST(GeometriaNodo, FilletBesideAPlateAsHighAsItsThroat) {
+    for (const auto& [h, lungo] : {std::pair{270.25, 17.453}, {270.0, 20.0}}) {
+        Nodo n = NodoDisegnato(nodoT, 1);
+        n.TraveDx->h = h;
+        n.TraveDx->tf = 8.25;
+        n.ConnessioneCorrente->Af = 4.0144;
+        const auto cordoni = GeometriaNodo(n, nullptr, false).lato.Cordoni();
+        ASSERT_EQ(cordoni.size(), 4U);
+        EXPECT_NEAR(cordoni[0][0].x - cordoni[0][1].x, lungo, 1e-3) << h;
+    }
+}
+
+// 10.2 of the flange and 35 to the inner row.
+TEST(GeometriaNodo, ARowThatIsNotThereIsTheInnerOne) {
+    const Nodo n = NodoDisegnato(nodoT, 2);
+    EXPECT_NEAR(GeometriaNodo(n, nullptr, false).lato.Fila(FilaGiunto::Esterna), 35, vicino);
+    n.ConnessioneCorrente->dX = 0;
+    n.ConnessioneCorrente->L = n.ConnessioneCorrente->ex;
+    const GeometriaNodo g(n, nullptr, false);
+    EXPECT_NEAR(g.lato.Fila(FilaGiunto::Esterna), -45.2, vicino);
+    EXPECT_NEAR(g.lato.Fila(FilaGiunto::Interna), -45.2, vicino);
+    EXPECT_NEAR(g.lato.Fila(FilaGiunto::Nessuna), -270 + 45.2, vicino);
+}
+
 TEST(GeometriaNodo, SideAndColumnFollowTheKind) {
     struct Caso {
         std::int16_t tipo;

@@ -455,6 +455,22 @@ TEST_F(Ricerca, SenzaMomentoUnCandidatoALarghezza) {
     }
 }
 
+// The plate of each candidate: beam, extension above and below.
+TEST_F(Ricerca, AltezzaDellaFlangia) {
+    g().nf = 2;
+    o.ferma = 300;
+    for (const char* irrigidimenti : {"No", "Si"}) {
+        g().Irrigidimenti = irrigidimenti;
+        o.candidati = 0;
+        o.adOgnuno = [](const Giunto& c) {
+            EXPECT_GT(c.u, 0);
+            EXPECT_NEAR(c.hf, 300 + c.L + c.u, 1e-9);
+        };
+        (void)n.EsegueCalcolo(&o);
+        EXPECT_EQ(o.candidati, 300);
+    }
+}
+
 // No plate of a whole millimetre: nothing is searched, so nothing is asked.
 TEST_F(Ricerca, SenzaSpessoriNonSiChiedeNulla) {
     g().tf_max = 0.9;

@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "Registratore.h"
@@ -233,4 +234,18 @@ TEST_F(Traccia, GolaOltreLaMassima) {
     const PassoGiunto* nota = Passo(g().Traccia, "Saldatura delle ali della trave", "Nota");
     ASSERT_NE(nota, nullptr);
     EXPECT_EQ(nota->testo, "gola massima 3.0 mm");
+}
+
+// Without an acting moment there is no way to its stiffness; with any other there is.
+TEST_F(Traccia, RigidezzaDelMomentoAgente) {
+    const auto passi = [this](double M) {
+        n.TraveDx->Mysd = M;
+        EXPECT_TRUE(n.EsegueCalcolo());
+        return std::count_if(g().Traccia.begin(), g().Traccia.end(),
+                             [](const PassoGiunto& p) { return p.componente == "Rigidezza per Mj.Sd"; });
+    };
+    const auto senza = passi(0);
+    EXPECT_EQ(senza, 3); // inner row, outer row, joint
+    for (const double M : {1.0, 0.5, -1.0, 40.0})
+        EXPECT_GT(passi(M), senza) << M;
 }

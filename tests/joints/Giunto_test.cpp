@@ -145,6 +145,14 @@ TEST(Giunto, DatiSelezioneDaUnaRiga) {
     EXPECT_EQ(g.d2, 50);
     EXPECT_EQ(g.u, 16);
     EXPECT_EQ(g.dX, 47);
+    for (int i = 1; i <= 22; ++i) { // every bolt of the table, the last of 68
+        Giunto bullone;
+        bullone.IndiceBullone(static_cast<std::int16_t>(i));
+        TabellaSelezione una;
+        una.Aggiunge({1.0, std::string("12.00"), bullone.Diam, 15.0, 170.0, 40.0, 38.0, 47.0, 45.0, 16.0});
+        g.DatiSelezione_Completa(una, 1);
+        EXPECT_EQ(g.IndiceBullone(), i);
+    }
     EXPECT_THROW(g.DatiSelezione_Completa(tabella, 3), std::out_of_range); // no bolt of 19 mm
     EXPECT_THROW(g.DatiSelezione_Completa(tabella, 4), std::out_of_range);
 }

@@ -196,6 +196,17 @@ TEST_F(LimitiFlangia, NotaDelloSpessore) {
     EXPECT_EQ(NotaSpessore(g, 3.74), "Non rispetta i 3 mm (EC3).");
 }
 
+// With the coefficients of a search: root 2 0.8 4 + 1.2 22 = 30.93 off the web of 60, and 1.2 22 = 26.4, so
+// 27, to the edge: 60 + 2 (30.93 + 27) = 175.9. By the column 11 + 2 (21.6 + 26.4 + 27) = 161.
+TEST_F(LimitiFlangia, LarghezzaConICoefficientiDellaRicerca) {
+    trave->tw = 60;
+    coefficientiProgetto.Imposta();
+    EXPECT_EQ(CampoDi(g, ParametroGiunto::bf).minimo, 176);
+    trave->tw = 7.1;
+    EXPECT_EQ(CampoDi(g, ParametroGiunto::bf).minimo, 162); // 1.2 is a little more in 32 bits
+    coefficientiRiposo.Imposta();
+}
+
 // Room by the column (160 - 11)/2 - 27 = 47.5, so M42 in 45; by the extension 40 - 7.07 = 32.9, so M27 in 30;
 // of the sections alone 117.5 and 140.8: every bolt, the largest in 71.
 TEST_F(LimitiFlangia, BulloneMassimo) {

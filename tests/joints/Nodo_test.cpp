@@ -306,6 +306,10 @@ TEST_F(NodoProva, BetaCautelativo) {
     EXPECT_EQ(Beta(0, 0), 0);
     EXPECT_EQ(Beta(50, 50), 0);
     EXPECT_EQ(Beta(-50, -20), 1);
+    EXPECT_EQ(Beta(50, 0.5), 1); // of one sign, however small
+    EXPECT_EQ(Beta(0.5, 50), 1);
+    EXPECT_EQ(Beta(-50, 0.5), 2);
+    EXPECT_EQ(Beta(0.5, -50), 2);
     UnaTrave(nodoT);
     EXPECT_EQ(Beta(0, 0), 1);
 }

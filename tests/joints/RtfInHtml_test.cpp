@@ -128,3 +128,19 @@ TEST(RtfInHtml, FineDopoLaBarra) {
                   "<p>a</p>\n");
     }
 }
+
+// Two hundred groups are kept, that of the document among them; letters of a deeper one are those of the
+// last.
+TEST(RtfInHtml, LUltimoGruppoCheSiRicorda) {
+    const auto dentro = [](int gruppi) {
+        return Html(std::string(static_cast<std::size_t>(gruppi), '{') + "{\\b x}y" +
+                    std::string(static_cast<std::size_t>(gruppi), '}'));
+    };
+    EXPECT_EQ(dentro(198), "<p><b>x</b>y</p>\n");
+    EXPECT_EQ(dentro(199), "<p><b>xy</b></p>\n");
+}
+
+TEST(RtfInHtml, OgniCifraEsadecimale) {
+    EXPECT_EQ(Html("\\'30\\'39\\'41\\'5a\\'6f\\'7A"), "<p>09AZoz</p>\n");
+    EXPECT_EQ(Html("\\'3ga"), "<p>3ga</p>\n"); // no character
+}

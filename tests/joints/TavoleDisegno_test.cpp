@@ -80,7 +80,8 @@ TEST(TavoleDisegno, PicturesBesideTheFigures) {
                     SuperficieFinta s(larga, alta);
                     const SuUscita uscita(&s);
                     const Nodo n = NodoDisegnato(tipo, larga < 400 ? 1 : 2, "Cp", sinistro && tipo < nodoT);
-                    FiguraGiunto(n, nullptr, {{}, alta > 500 ? titoli : "", {}, {}}).PlottaInOggetto(&s, "");
+                    FiguraGiunto(n, nullptr, {{}, alta > 500 || larga > 1000 ? titoli : "", {}, {}})
+                        .PlottaInOggetto(&s, "");
                     tavola += std::string(nome) + (sinistro ? " sinistro " : " destro ") + Cifra(larga) +
                               " x " + Cifra(alta) + ':' + Collocazione(s).Riga() + '\n';
                 }
@@ -168,7 +169,7 @@ TEST(TavoleDisegno, TextsOfShallowAndDeepBeams) {
 TEST(TavoleDisegno, TextsFromShallowToDeepBeams) {
     std::string tavola;
     for (int h = 70; h <= 340; h += 9)
-        for (const auto& [l, alta] : {std::pair{480, 340}, {800, 500}, {190, 277}})
+        for (const auto& [l, alta] : {std::pair{480, 340}, {800, 500}, {900, 120}, {190, 277}})
             for (const bool sinistro : {false, true}) {
                 const auto trave =
                     Laminato("T " + std::to_string(h), h, 0.5 * h, 0.02 * h, 0.035 * h, 9, 1000, 1e6);
