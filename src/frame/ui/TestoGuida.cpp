@@ -53,6 +53,8 @@ QVariant TestoGuida::loadResource(int type, const QUrl& name) {
         return Figura(name);
     if (type != QTextDocument::HtmlResource)
         return {};
+    for (const auto& [picture, width] : larghezze_.asKeyValueRange()) // they would outlive the text
+        document()->addResource(QTextDocument::ImageResource, picture, {});
     larghezze_.clear();
     return LeggeGuida(name.path().section(u'/', -1));
 }
