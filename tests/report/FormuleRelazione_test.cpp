@@ -45,6 +45,11 @@ TEST(FormuleRelazione, SignsOfAPageAreThoseOfTheText) {
     EXPECT_EQ(f.formula, "a < b > c & \"d\" < &lt; e");
 }
 
+TEST(FormuleRelazione, ASignThatReadsAsAnotherStaysOne) {
+    for (const char* text : {"&amp; a &amp;amp; b", "&& &&", "<<&gt;>>"})
+        EXPECT_EQ(Letta(std::string(titolo) + "\\pard\\plain\\li567 " + text + "\\par\n").formula, text);
+}
+
 TEST(FormuleRelazione, WhatIsNotThereIsEmpty) {
     EXPECT_FALSE(FormulaDi(File(titolo), "r"));
     EXPECT_FALSE(FormulaDi("", "q"));

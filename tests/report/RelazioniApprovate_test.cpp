@@ -1,4 +1,5 @@
 // Reports as text, held against files that a person has read. Their numbers are proven by Passi.h.
+#include <cmath>
 #include <set>
 #include <sstream>
 #include <string>
@@ -505,8 +506,9 @@ TEST_F(RelazioniApprovate, TraviAiLimiti) {
 }
 
 /// A node with its joints computed.
-Nodo NodoCalcolato(std::int16_t tipo, int nf, const char* irrigidimenti) {
+Nodo NodoCalcolato(std::int16_t tipo, int nf, const char* irrigidimenti, Singolo forzaColonna = 0) {
     Nodo n = NodoDisegnato(tipo, nf, irrigidimenti);
+    n.Colonnainf->Nsd() = forzaColonna; // kN
     for (const auto& trave : {n.TraveDx.Riferimento(), n.TraveSx.Riferimento()})
         if (trave) {
             trave->McyRd = 484e3 * 235 / 1.05;
@@ -546,6 +548,50 @@ TEST_F(RelazioniApprovate, NodiAiLimiti) {
     Normativa = normativaEC3;
     ImpostaGamma();
     Approvata("nodo-letto-altra-norma", RelazioneNodo(letto, "come salvato"));
+}
+
+// A column whose stress reduces the resistance of its flange and web.
+TEST_F(RelazioniApprovate, NodoDiColonnaCompressa) {
+    Nodo n = NodoCalcolato(nodoT, 2, "No", 1650);
+    EXPECT_LT(n.ConnessioneCorrente->Kfc, 1);
+    EXPECT_LT(n.ConnessioneCorrente->Kwc, 1);
+    Approvata("nodo-colonna-compressa", RelazioneNodo(n, "colonna compressa"));
+}
+
+// On paper and screen subscripts are low: the text, where they run on, does not show it.
+TEST_F(RelazioniApprovate, Segni) {
+    std::set<std::string> viste;
+    std::string testo;
+    const auto segni = [&](const Relazione& r) {
+        for (const CapitoloRelazione& c : r.capitoli)
+            for (const PassoRelazione& p : c.passi)
+                if (const std::string riga = p.simbolo + " | " + p.formula + " | " + p.unita;
+                    viste.insert(riga).second)
+                    testo += riga + "\n";
+    };
+    for (const char* irrigidimenti : {"No", "Cp", "Si"})
+        segni(RelazioneNodo(NodoCalcolato(nodoCroce, 2, irrigidimenti), ""));
+    for (const SezioneDoppioT& s : {Saldata(20, 15), Saldata(3, 8), Saldata(8, 20, 180, 12)})
+        for (const auto& [quale, relazione] : RelazioniDi(s))
+            segni(relazione);
+    for (const char* nome : {"piena", "trasversale", "parallela"})
+        for (const std::int16_t tipo : {sluPositivo, metodoNPositivo}) {
+            AcciaioCls t = TraveLetta(nome);
+            t.TipoVerifica = tipo;
+            segni(RelazioneTraveVerificata(t));
+        }
+    ConfrontaApprovato("report/segni.txt", testo);
+}
+
+// A modulus or a moment that is no number leaves its place empty.
+TEST(PassiSagomo, AMomentWithoutANumberIsEmpty) {
+    const double none = std::nan("");
+    for (const auto& [W, M, empty] :
+         {std::tuple{1e6, 223e6, false}, {none, 223e6, true}, {1e6, none, true}, {none, none, true}}) {
+        const PassoRelazione p = PassoMomento(true, 4, {1, 1, W}, 235, M);
+        EXPECT_EQ(p.valore.empty(), empty);
+        EXPECT_EQ(p.numeri.empty(), empty);
+    }
 }
 
 TEST_F(RelazioniApprovate, Nodi) {
