@@ -123,10 +123,11 @@ TEST_F(Saldature, MomentoConDueDecimali) {
 // Of the other steels with a factor, 0.85 and 0.9, and of one without.
 TEST_F(Saldature, MomentoDiOgniAcciaio) {
     const double c = 5.35 * 20 / std::hypot(5.35, 20);
-    for (const auto& [fu, beta, atteso] : {std::tuple{430, 0.85, "91.85"}, {510, 0.9, "102.88"}}) {
+    for (const auto& [fu, beta, M, testo] :
+         {std::tuple{430, 0.85, 91.85, "91.85"}, {510, 0.9, 102.88, "102.88"}}) {
         trave->fu = fu;
-        EXPECT_NEAR(262.9 * 289.3 * c * fu / (1e6 * beta * std::sqrt(3) * 1.25), std::stod(atteso), 0.006);
-        EXPECT_EQ(g.M_Saldature(), atteso);
+        EXPECT_NEAR(262.9 * 289.3 * c * fu / (1e6 * beta * std::sqrt(3) * 1.25), M, 0.005);
+        EXPECT_EQ(g.M_Saldature(), testo);
     }
     trave->fu = 520;
     EXPECT_EQ(g.M_Saldature(), "");
