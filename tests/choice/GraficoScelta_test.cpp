@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <random>
+#include <regex>
 #include <tuple>
 
 #include "choice/ConfrontoScelta.h"
@@ -242,6 +244,30 @@ std::string Svg(const Disegno& drawing) {
     OggettoGrafico = &surface;
     drawing.PlottaInOggetto(&surface, "FrmScelta");
     return surface.Documento();
+}
+
+// Five inks in turn: blue, green, red, magenta and cyan of the table, for the marks and for the legend.
+TEST(GraficoSceltaTest, EachFamilyHasItsInk) {
+    DatiGrafico d;
+    std::vector<std::string> expected;
+    for (std::uint16_t f = 0; f < 12; ++f) {
+        d.famiglie.push_back("F" + std::to_string(f));
+        d.punti.push_back({20.0 + 5 * f, 0.8, f, true, f});
+        constexpr std::int16_t inks[] = {9, 2, 4, 5, 3};
+        const ColoreRgb c = ColoreTabella(inks[f % 5]);
+        char text[8];
+        std::snprintf(text, sizeof text, "#%02x%02x%02x", unsigned(c.rosso), unsigned(c.verde),
+                      unsigned(c.blu));
+        expected.emplace_back(text);
+    }
+    const std::string svg = Svg(DisegnoGrafico(std::make_shared<DatiGrafico>(d)));
+    std::vector<std::string> fills;
+    const std::regex polygon("<polygon[^>]*fill=\"(#[0-9a-f]{6})\"");
+    for (std::sregex_iterator i(svg.begin(), svg.end(), polygon), end; i != end; ++i)
+        fills.push_back((*i)[1]);
+    ASSERT_EQ(fills.size(), 24U) << svg;
+    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), fills.begin())) << "marks: " << svg;
+    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), fills.begin() + 12)) << "legend";
 }
 
 TEST(GraficoSceltaTest, ItIsDrawnWithNamesAndTheLimit) {
