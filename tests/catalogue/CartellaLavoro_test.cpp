@@ -330,6 +330,8 @@ TEST_F(CartellaLavoroTest, AChosenFolderThatCannotBeUsedIsToldWithItsReason) {
     ScriveByte(file, "");
     EXPECT_EQ(motivo(file),
               "la cartella " + file.string() + " non si può usare: " + file.string() + " non è una cartella");
+    fs::permissions(file, fs::perms(0755)); // as a folder has them
+    EXPECT_THAT(motivo(file), HasSubstr("non è una cartella"));
     EXPECT_EQ(motivo(file / "sotto" / "ancora"), "la cartella " + (file / "sotto" / "ancora").string() +
                                                      " non si può usare: " + file.string() +
                                                      " non è una cartella");

@@ -38,4 +38,10 @@ INSTANTIATE_TEST_SUITE_P(Testi, CsvTest, testing::Values(
     [](const auto& i) { return std::string(i.param.nome); });
 // clang-format on
 
+// What stands behind the end of the text is not read.
+TEST(LeggeCsv, EndsAtItsEnd) {
+    const std::string_view intero = "\"a\"\"";
+    EXPECT_EQ(LeggeCsv(intero.substr(0, 3)), (std::vector<std::vector<std::string>>{{"a"}}));
+}
+
 } // namespace

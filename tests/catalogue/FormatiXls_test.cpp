@@ -17,7 +17,7 @@ TEST(GenereFormato, TheFormatsThatEveryWorkbookHas) {
 }
 
 TEST(GenereFigura, DatesAndTimes) {
-    for (const char* f : {"dd/mm/yyyy", "d", "\"x\"d", "_xd", "\\xy", "*xm", "[Red]y", "d-mmm-yy",
+    for (const char* f : {"dd/mm/yyyy", "d", "\"x\"d", "\"\"d", "_xd", "\\xy", "*xm", "[Red]y", "d-mmm-yy",
                           "YYYY\\-MM\\-DD", "[$-410]d mmmm yyyy;@", "mmm-yy", "mmmm"})
         EXPECT_EQ(GenereFigura(f), GenereNumero::Data) << f;
     for (const char* f : {"h:mm", "hh:mm:ss", "[h]:mm", "mm:ss.0", "h:mm AM/PM", "[mm]"})

@@ -100,6 +100,19 @@ TEST(LettoreStringhe, CharactersGoOnInTheNextRecordInAnotherWidth) {
     EXPECT_THROW(l.U8(), DannoBiff);
 }
 
+// One byte at a time or all at once, over the border of the record too.
+TEST(LettoreStringhe, SkipsEachByte) {
+    const auto flusso = StringaInDueParti();
+    CursoreBiff uno(flusso), tutti(flusso);
+    ASSERT_TRUE(uno.Avanza() && tutti.Avanza());
+    LettoreStringhe a(uno, 0), b(tutti, 0);
+    for (int i = 0; i < 5; ++i)
+        a.Salta(1);
+    a.Salta(0);
+    b.Salta(5);
+    EXPECT_EQ(a.U8(), b.U8());
+}
+
 TEST(LettoreStringhe, TooFewBytes) {
     EXPECT_NO_THROW(Letti(1, 6, 0)); // 2 narrow, 4 wide
     EXPECT_THROW(Letti(1, 7, 0), DannoBiff);

@@ -245,6 +245,22 @@ TEST(LeggeFoglio, EveryNumberHasTheKindOfItsStyle) {
     }
 }
 
+// A text of one character is one, of none is an empty cell: in the sheet and among those that the sheets
+// share.
+TEST(LeggeFoglio, ShortestTexts) {
+    const Foglio f = Letto(CartellaAMano()
+                               .Testa(Biff::Sst, Ottetti().U32(2).U32(2).U16(0).U8(0).U16(1).U8(0).U8('b'))
+                               .Foglio(u"x")
+                               .Testo(0, 0, u"a")
+                               .Testo(0, 1, u"")
+                               .Cella(Biff::LabelSst, 0, 2, Ottetti().U32(0))
+                               .Cella(Biff::LabelSst, 0, 3, Ottetti().U32(1)));
+    EXPECT_EQ(f.Legge(0, 0), Valore(S("a")));
+    EXPECT_EQ(f.Legge(0, 1), Valore());
+    EXPECT_EQ(f.Legge(0, 2), Valore());
+    EXPECT_EQ(f.Legge(0, 3), Valore(S("b")));
+}
+
 TEST(LeggeFoglio, WorkbooksBeforeExcel97) {
     const Foglio f = Letto(Ipe(CartellaAMano::biff5)
                                .Numero(0, 0, 2.5)

@@ -164,6 +164,8 @@ TEST_F(RigaSagomiTest, TaperedFlangesHaveMoreRoom) {
     s.fy = 235;
     s.InizializzaSezione();
     EXPECT_EQ(VociSagomiU(s)[2].tolleranza, 0.02);
+    s.pendenza = 0.5; // however flat the slope
+    EXPECT_EQ(VociSagomiU(s)[2].tolleranza, 0.02);
     s.pendenza = 0;
     s.InizializzaSezione();
     EXPECT_EQ(VociSagomiU(s)[2].tolleranza, 0.01);
