@@ -446,6 +446,7 @@ TEST_F(RelazioniApprovate, TraviAiLimiti) {
     const Variante varianti[] = {
         {"pioli-corti", [](AcciaioCls& t) { t.hPiolo = 70; }},
         {"pioli-giusti", [](AcciaioCls& t) { t.hPiolo = 76; }},
+        {"pioli-medi", [](AcciaioCls& t) { t.hPiolo = 85; }},
         {"pioli-senza-dati", [](AcciaioCls& t) { t.fu = t.GammaV = 0; }},
         {"pioli-strani",
          [](AcciaioCls& t) {
