@@ -9,6 +9,7 @@
 #include "report/CapitoliStabilita.h"
 #include "report/CapitoloEfficace.h"
 #include "report/Passi.h"
+#include "sections/AreaEfficace.h"
 #include "sections/SezioneDoppioT.h"
 #include "sections/SezioneSagomoL.h"
 #include "sections/SezioneSagomoU.h"
@@ -84,6 +85,51 @@ TEST_F(RelazioneSagomoTest, WithoutACriticalMomentThereIsNoVerdict) {
     Calcola();
     const CapitoloRelazione c = RelazioneSvergolamento(s, "FrmMsverg").capitoli.back();
     EXPECT_EQ(c.verdetto->esito, EsitoRelazione::Assente);
+}
+
+// The shortest length has a critical moment; none at all needs none, whatever was found for another.
+TEST_F(RelazioneSagomoTest, ALengthOfAMillimetreIsALength) {
+    s.LLT = 1;
+    Calcola();
+    const Relazione r = RelazioneSvergolamento(s, "");
+    EXPECT_NE(Passo(r, "M{cr}").numeri, "");
+    ProvaNumeri(r);
+    s.Kw = 0;
+    s.LLT = 4000;
+    Calcola();
+    EXPECT_EQ(Passo(RelazioneSvergolamento(s, ""), "M{b,Rd}").numeri, "");
+    s.LLT = 0; // its critical moment stays none
+    Calcola();
+    const PassoRelazione MbRd = Passo(RelazioneSvergolamento(s, ""), "M{b,Rd}");
+    EXPECT_EQ(Calcolatore::Valore(MbRd.numeri.substr(0, MbRd.numeri.find(' '))), 1) << "nothing is reduced";
+}
+
+// EC3 6.2.9.1 (5): up to n = a, here 0.5 of a web that has more, the weak axis keeps its whole moment.
+TEST_F(RelazioneSagomoTest, AnAxialForceAtTheShareOfTheWebLeavesTheWeakAxisWhole) {
+    Salda(20);
+    s.NplRd = 4e6;
+    s.NSd = 2e6;
+    ASSERT_LT(s.ClassePressoFlessione, 3);
+    EXPECT_EQ(Passo(RelazioneSezione(s, ""), "M{N,z,Rd}").formula, "M{c,z,Rd}");
+    s.NSd = 2.1e6;
+    EXPECT_NE(Passo(RelazioneSezione(s, ""), "M{N,z,Rd}").formula, "M{c,z,Rd}");
+}
+
+TEST_F(RelazioneSagomoTest, AMeasureOfNothingIsNotListed) {
+    EXPECT_EQ(Passo(RelazioneSezione(s, ""), "r").valore, "5");
+    s.r = 0;
+    EXPECT_FALSE(Ha(RelazioneSezione(s, ""), "r"));
+}
+
+TEST_F(RelazioneSagomoTest, WithoutAnEffectiveOutlineNothingIsReadFromIt) {
+    s.InizializzaSezioneUtente(nullptr, 500, 250, 8, 5, 5);
+    ASSERT_EQ(s.ClasseFlessioneZ, 4);
+    Relazione r;
+    r.capitoli = {CapitoloEfficace(s)};
+    EXPECT_TRUE(Ha(r, "x{G,eff}"));
+    s.SezioneWz4.reset();
+    r.capitoli = {CapitoloEfficace(s)};
+    EXPECT_FALSE(Ha(r, "x{G,eff}"));
 }
 
 // Wel fy / gamma M0 of class 3; of class 4 the shifts of the effective centroids.
@@ -196,6 +242,26 @@ TEST(RelazioneAngolare, LimitsFollowTheSeparator) {
     EXPECT_EQ(c.passi[1].descrizione, "Lato lungo: classe 3 (limiti 10 - 11,5)");
 }
 
+// By hand, 150 x 100.8 x 8: 100.8 / 8 = 12.6, / (28.4 x 0.655744) = 0.67658, rho (0.67658 - 0.22) / 0.67658^2
+// = 0.99744: of the short leg less than a millimetre is lost, 0.258 mm, and that counts.
+TEST(RelazioneAngolare, ALossBelowAMillimetreStandsInTheArea) {
+    const Registratore quiet;
+    SezioneSagomoL l;
+    l.fy = 235;
+    l.h = 150, l.b = 100.8F, l.t = 8;
+    l.Area = (150 + 100.8F - 8) * 8;
+    l.iY = 48, l.Iz = 29, l.iV = 21.9F;
+    l.L0y = l.L0z = l.L0v = 2000;
+    l.InizializzaSezione();
+    ASSERT_EQ(l.ClasseCompressione, 4);
+    Relazione r;
+    r.capitoli = {CapitoloEfficace(l)};
+    ProvaNumeri(r);
+    const std::string numeri = Passo(r, "A{eff}").numeri;
+    ASSERT_NE(numeri.find(" − 0."), std::string::npos) << numeri;
+    EXPECT_NEAR(std::stod(numeri.substr(numeri.rfind(" − ") + std::string(" − ").size())), 0.258, 0.005);
+}
+
 class RelazioneCanaleTest : public testing::Test {
 protected:
     void TearDown() override { RipristinaGenerale(); }
@@ -248,6 +314,26 @@ TEST_F(RelazioneCanaleTest, APairBearsTwiceAsMuch) {
     ProvaNumeri(r);
     EXPECT_EQ(Passo(r, "M{c,y,Rd}").valore, "102.057");
     EXPECT_EQ(Passo(r, "V{pl,z,Rd}").valore, "445.797");
+}
+
+// By hand, 400 x 75 x 3 x 11.5 of S235 without roots: d 377, 125.667 / 56.8 = 2.21244, rho (2.21244 - 0.22) /
+// 2.21244^2 = 0.40705: 223.54 mm of a web are lost, of a pair twice.
+TEST_F(RelazioneCanaleTest, AThinWebLosesOnceAloneAndTwiceInAPair) {
+    for (const int quanti : {1, 2}) {
+        SezioneSagomoU u = Canale(quanti == 2);
+        u.h = 400, u.tw = 3, u.r1 = 0, u.r2 = 0, u.pendenza = 0;
+        u.Area = Singolo(quanti * (400 * 3 + 2 * 72 * 11.5));
+        InizializzaConAreaEfficace(u);
+        ASSERT_EQ(u.ClasseCompressione, 4);
+        Relazione r;
+        r.capitoli = {CapitoloEfficace(u)};
+        ProvaNumeri(r);
+        const PassoRelazione p = Passo(r, "A{eff}");
+        const double perse = quanti * 223.54 * 3;
+        ASSERT_NE(p.numeri, "") << quanti;
+        EXPECT_NEAR(Calcolatore::Valore(p.numeri), quanti * 2856 - perse, 0.5);
+        EXPECT_EQ(p.numeri.find(" − 2 · ") != std::string::npos, quanti == 2) << p.numeri;
+    }
 }
 
 // By hand, N 0: lambda f = 75 / 23 sqrt(235 / 210000) = 0.10908; dwe = 177 / 2 = 88.5, lambda w = 88.5 / 8.5
