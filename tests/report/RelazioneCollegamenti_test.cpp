@@ -72,6 +72,15 @@ TEST_F(RelazioneBulloneTest, ADistanceBelowItsLeastSaysWhyNothingIsBorne) {
     EXPECT_NE(p.descrizione.find("sotto il minimo"), std::string::npos);
 }
 
+TEST_F(RelazioneBulloneTest, AHoleBelowTheBoltIsNoted) {
+    b.do_ = 10; // of M14
+    b.RifollamentoCalcola();
+    const Relazione r = RelazioneBullone(b, "S235");
+    ASSERT_EQ(r.capitoli.size(), 3U);
+    ASSERT_EQ(r.capitoli[1].note.size(), 1U);
+    EXPECT_EQ(r.capitoli[1].note[0], "do deve essere > d = 14.0");
+}
+
 TEST_F(RelazioneBulloneTest, TheClassIsANameWithAPoint) {
     const ConSeparatori italiani(',', '.');
     const Relazione r = RelazioneBullone(b, "S235");

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "Registratore.h"
+#include "frame/Ambiente.h"
 #include "frame/GeneraleSagomi.h"
 #include "joints/ComponentiGiunto.h"
 #include "joints/NodoDisegnato.h"
@@ -96,6 +97,22 @@ TEST_F(RelazioneNodoTest, NumbersStandBehindTheFirstLineOfABlock) {
     const PassoRelazione momento = Passo(r, "M{j,Rd}");
     EXPECT_EQ(momento.formula, "z{est} · F{est} + z{int} · F{int}");
     EXPECT_TRUE(momento.numeri.ends_with("t{f,b}")) << momento.numeri;
+}
+
+// Lines of a block that do not begin with its symbol are a text: they stay below, the numbers stay numbers.
+TEST_F(RelazioneNodoTest, ATextOfABlockStaysApartFromTheNumbers) {
+    const CartellaDiProva cartella;
+    ScriveByte(cartella.percorso / "FormuleGiunto.rtf",
+               "{\\rtf1\\ansi\\uc1\n{\\fonttbl{\\f0 Arial;}}\n{\\pard\\plain\\v\nSTART-RTF-GIUNTO\n"
+               "ID-RTF-GIUNTO-VplRd_Pannello_c\n\\pard\\plain{\\b V{\\sub x}}  Taglio \\par\n"
+               "\\pard\\plain\\li567 se A > 0:\\par\n\\pard\\plain\\li567 W = A f\\par\n"
+               "\\v\nID-RTF-GIUNTO-VplRd_Pannello_c\n}}\n");
+    PathInstallazione = cartella.percorso;
+    const PassoRelazione p = Passo(RelazioneNodo(nodo, ""), "V{x}");
+    PathInstallazione.clear();
+    EXPECT_EQ(p.formula, "\nse A > 0:\nW = A f");
+    EXPECT_NE(p.numeri, "");
+    EXPECT_EQ(p.numeri.find('\n'), std::string::npos) << p.numeri;
 }
 
 TEST_F(RelazioneNodoTest, WithoutASpanThereAreNeitherASpanNorLimits) {

@@ -7,9 +7,12 @@
 
 #include "Registratore.h"
 #include "composite/AcciaioCls.h"
+#include "composite/VerificaTrave.h"
 #include "frame/FileDati.h"
 #include "frame/GeneraleSagomi.h"
+#include "report/CapitoloConnettori.h"
 #include "report/Passi.h"
+#include "sections/SezioneInForza.h"
 
 using namespace sagomi;
 using namespace sagomi::prove;
@@ -24,6 +27,14 @@ protected:
         const std::int16_t n = ApreFile(std::string(SAGOMI_TEST_DATA "/composite/") + nome + ".sco", "L");
         EXPECT_TRUE(t.FileLeggeScrive("L", n));
         ChiudeFile(n);
+        return t;
+    }
+    /// A beam of a file after its plastic check in sagging.
+    static AcciaioCls Verificata(const std::string& nome) {
+        AcciaioCls t = Letta(nome);
+        t.TipoVerifica = sluPositivo;
+        const SezioneInForza propria(t.Sezione);
+        EXPECT_TRUE(VerificaTrave(t).validi);
         return t;
     }
 
@@ -115,6 +126,55 @@ TEST_F(RelazioneTraveTest, PartialConnectionBearsTheMomentWithNoStudTooMany) {
     }
 }
 
+// A moment as great as the plastic one needs all studs.
+TEST_F(RelazioneTraveTest, TheWholeMomentLeavesNoPartialConnection) {
+    AcciaioCls t = Verificata("piena");
+    t.Msd = t.MplRd * 0.9;
+    Relazione r;
+    r.capitoli = {CapitoloConnettori(t).value_or(CapitoloRelazione())};
+    EXPECT_TRUE(Ha(r, "n{c}"));
+    EXPECT_TRUE(Ha(r, "n{p}"));
+    t.Msd = t.MplRd;
+    r.capitoli = {CapitoloConnettori(t).value_or(CapitoloRelazione())};
+    EXPECT_TRUE(Ha(r, "n{c}"));
+    EXPECT_FALSE(Ha(r, "n{p}"));
+}
+
+// Half a beam of 8 m has 13 ribs at 300 mm. A little more than 13 single studs bear needs one rib of two.
+TEST_F(RelazioneTraveTest, OneRibOfTwoStudsIsAdvised) {
+    AcciaioCls t = Verificata("trasversale");
+    t.Luce = 8;
+    t.iNervature = 300;
+    t.dPiolo = 19;
+    t.hPiolo = 100;
+    t.fu = 450;
+    t.GammaV = 1.25;
+    t.Nr = 1;
+    Relazione r;
+    r.capitoli = {CapitoloConnettori(t).value_or(CapitoloRelazione())};
+    const double PRd = std::stod(Passo(r, "P{Rd}").valore) * 1e3;
+    const auto nota = [&](double connettori) {
+        t.Vl = connettori * PRd;
+        return CapitoloConnettori(t).value_or(CapitoloRelazione()).note.front();
+    };
+    EXPECT_EQ(nota(13.1), "Dove si ha taglio massimo disporre 2 connettori per nervatura");
+    EXPECT_EQ(nota(12.9).find("Dove si ha"), std::string::npos);
+}
+
+// EC4 6.3.3.1: of a stud in ribs along the beam no more than 75 mm above the deck count.
+TEST_F(RelazioneTraveTest, ATallStudCountsAsFarAs75AboveTheDeck) {
+    AcciaioCls t = Letta("parallela");
+    t.TipoVerifica = sluPositivo;
+    t.hc = 220;
+    t.dPiolo = 19;
+    t.fu = 450;
+    t.GammaV = 1.25;
+    t.Luce = 8;
+    t.hPiolo = 160; // of 73.5 + 75
+    const Relazione r = RelazioneTraveVerificata(t);
+    EXPECT_NE(Passo(r, "k").numeri.find("(148.5 / 73.5 − 1)"), std::string::npos) << Passo(r, "k").numeri;
+}
+
 TEST_F(RelazioneTraveTest, StudsThatDoNotFitSayWhy) {
     AcciaioCls t = Letta("piena");
     t.TipoVerifica = sluPositivo;
@@ -123,6 +183,8 @@ TEST_F(RelazioneTraveTest, StudsThatDoNotFitSayWhy) {
     EXPECT_EQ(r.capitoli.back().note.back(), "Il piolo esce dalla soletta!");
     EXPECT_FALSE(Ha(r, "P{Rd}"));
     EXPECT_TRUE(quiet.testi.empty());
+    t.hPiolo = 1; // a stud all the same
+    EXPECT_EQ(RelazioneTraveVerificata(t).capitoli.back().titolo, "Connettori a piolo");
     t.hPiolo = 0;
     EXPECT_NE(RelazioneTraveVerificata(t).capitoli.back().titolo, "Connettori a piolo");
 }
