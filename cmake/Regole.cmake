@@ -16,6 +16,8 @@ endif()
 if(SAGOMI_SANITIZERS)
   target_compile_options(sagomi_regole INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                                  -fno-omit-frame-pointer)
+  # An optional or a place beyond a vector that is looked into is told, too.
+  target_compile_definitions(sagomi_regole INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(sagomi_regole INTERFACE -fsanitize=address,undefined)
 endif()
 if(SAGOMI_FUZZ)
