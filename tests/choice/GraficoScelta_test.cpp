@@ -128,6 +128,8 @@ TEST(GraficoSceltaTest, TheStepsAreAsManyAsThereIsRoomFor) {
     const auto high = [](double height) { return ScalaDi(Uno(40), {0, 0, 800, height}, 15).uPasso; };
     EXPECT_EQ(high(9 * 15 + 34.4), 0.5);
     EXPECT_EQ(high(9 * 15 + 34.6), 0.25);
+    const auto inTens = [](double height) { return ScalaDi(Uno(40), {0, 0, 800, height}, 10).uPasso; };
+    EXPECT_EQ(inTens(7 + 90 + 16), 0.5) << "nine are not more";
     EXPECT_EQ(ScalaDi(Uno(40), {0, 0, 800, 300}, 15).uMassimo, 1.5);
 }
 
@@ -244,6 +246,33 @@ std::string Svg(const Disegno& drawing) {
     OggettoGrafico = &surface;
     drawing.PlottaInOggetto(&surface, "FrmScelta");
     return surface.Documento();
+}
+
+/// Left and right end of each polygon.
+std::vector<std::pair<double, double>> Poligoni(const std::string& svg) {
+    std::vector<std::pair<double, double>> ends;
+    const std::regex polygon("<polygon[^>]*points=\"([^\"]*)\""), point("([-0-9.]+),[-0-9.]+");
+    for (std::sregex_iterator i(svg.begin(), svg.end(), polygon), end; i != end; ++i) {
+        const std::string points = (*i)[1];
+        std::vector<double> x;
+        for (std::sregex_iterator p(points.begin(), points.end(), point); p != end; ++p)
+            x.push_back(std::stod((*p)[1]));
+        const auto [least, greatest] = std::ranges::minmax(x);
+        ends.emplace_back(least, greatest);
+    }
+    return ends;
+}
+
+// Of 400 sections that lie on each other there is a mark at each quarter of its width.
+TEST(GraficoSceltaTest, MarksThatLieOnEachOtherAreDrawnOnce) {
+    DatiGrafico d = Uno(30);
+    for (std::uint32_t i = 1; i <= 400; ++i)
+        d.punti.push_back({30 + i / 40.0, 0.5, 0, true, i});
+    const auto marks = Poligoni(Svg(DisegnoGrafico(std::make_shared<DatiGrafico>(d))));
+    ASSERT_GT(marks.size(), 2U);
+    const double quarter = (marks.front().second - marks.front().first) / 4;
+    const double whole = marks.back().first - marks.front().first;
+    EXPECT_NEAR(static_cast<double>(marks.size()), whole / quarter + 1, 3) << quarter;
 }
 
 // Five inks in turn: blue, green, red, magenta and cyan of the table, for the marks and for the legend.

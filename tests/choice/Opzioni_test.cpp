@@ -121,7 +121,7 @@ TEST_F(OpzioniTest, WhatIsAlmostAnOptionIsToldAsThatOne) {
         {"--helq", "--help"},        {"--relazion", "--relazione"},
         {"--Gamma0", "--GammaM0"},   {"--verifixy", "--verifica"},
         {"--famglia", "--famiglie"}, {"--diagrama", "--diagramma"},
-        {"--prgetto", "--progetto"}};
+        {"--prgetto", "--progetto"}, {"--sceltaxy", "--scelta"}};
     for (const auto& [wrong, meant] : almost)
         EXPECT_EQ(Rifiuto({"--scelta", wrong}),
                   '"' + std::string(wrong) + "\" non è un'opzione: forse " + meant);
