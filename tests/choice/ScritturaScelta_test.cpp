@@ -172,6 +172,14 @@ TEST_F(ScritturaSceltaTest, WithoutForcesThereIsNoVerdict) {
     EXPECT_NE(uscita.str().find("Resistenza allo svergolamento"), std::string::npos) << uscita.str();
 }
 
+// Between supports without a distance there is no lateral buckling, and no critical moment to tell.
+TEST_F(ScritturaSceltaTest, WithoutADistanceThereIsNoCriticalMoment) {
+    Esegue({"--verifica", "HEA 200", "--My", "30", "--L", "0", "--json"});
+    EXPECT_EQ(Campo("LLT"), "0");
+    EXPECT_EQ(Campo("Mcr"), "null");
+    EXPECT_EQ(Campo("chiLT"), "1");
+}
+
 // 5383 mm2 x 235 / 1.05 = 1204.1 kN: a force a little above it is above 1, and does not read as 1.
 TEST_F(ScritturaSceltaTest, AUtilisationBesideOneIsNotToldAsOne) {
     const Argomenti call{"--verifica", "HEA 200", "--N", "1204.13"};
