@@ -317,7 +317,7 @@ TEST_F(ScritturaSceltaTest, NumbersAreRoundedForWhoReadsThem) {
         return uscita.str();
     };
     for (const double v : {0.0, -0.0, 1.0, -1.0, 1.00001, 0.99999, 0.99994, -0.00004, -0.00006, 0.00006, 12.5,
-                           100.0, 120.0, 1234567.89012, -20.05, 0.3, 999999999999.5}) {
+                           100.0, 120.0, 1234567.89012, -20.05, 0.3, 1 / 3.0, 999999999999.5}) {
         const std::string csv = written(FormatoUscita::Csv, v, v);
         EXPECT_NE(csv.find("\n,\"Mia, \"\"nuova\"\"\"," + QuattroDecimali(v) + ",0,0,0,0,"),
                   std::string::npos)

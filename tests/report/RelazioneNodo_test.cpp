@@ -115,6 +115,36 @@ TEST_F(RelazioneNodoTest, ATextOfABlockStaysApartFromTheNumbers) {
     EXPECT_EQ(p.numeri.find('\n'), std::string::npos) << p.numeri;
 }
 
+// A file keeps the resistance in single precision: what differs by less has the same steps.
+TEST_F(RelazioneNodoTest, AJointThatWasReadHasItsStepsWhileTheyLeadToItsResistance) {
+    giunto().Traccia.clear();
+    const double letta = giunto().MplRdGIUNTO;
+    giunto().MplRdGIUNTO = Singolo(letta * (1 + 2e-7));
+    EXPECT_TRUE(Ha(RelazioneNodo(nodo, ""), "B{t,Rd}"));
+    giunto().MplRdGIUNTO = Singolo(letta * 1.01);
+    EXPECT_FALSE(Ha(RelazioneNodo(nodo, ""), "B{t,Rd}"));
+}
+
+// Moments that turn a column the same way: beta 2, half the shear of the panel (ENV 1993-1-1 annex J).
+TEST_F(RelazioneNodoTest, MomentsOfOppositeSignsHalveThePanel) {
+    nodo = NodoDisegnato(nodoCroce, 1, "No");
+    for (const auto& trave : {nodo.TraveDx.Riferimento(), nodo.TraveSx.Riferimento()}) {
+        trave->McyRd = 484e3 * 235 / 1.05;
+        trave->NplRd = 1e6;
+    }
+    nodo.TraveDx->Mysd = 40;
+    nodo.TraveSx->Mysd = -40;
+    nodo.nGiunto = 1;
+    nodo.ConnessioneCorrente = nodo.Giunti[1].Usa();
+    giunto().Criterio1 = false;
+    nodo.EsegueCalcolo();
+    ASSERT_EQ(giunto().Beta, 2);
+    const Relazione r = RelazioneNodo(nodo, "");
+    ProvaNumeri(r);
+    const std::string numeri = Passo(r, "V{plRd_Pannello_c}").numeri;
+    EXPECT_NE(numeri.find(" · 2) · 10^{-3}"), std::string::npos) << numeri;
+}
+
 TEST_F(RelazioneNodoTest, WithoutASpanThereAreNeitherASpanNorLimits) {
     nodo.TraveDx->lunghezza() = 6;
     EXPECT_EQ(Quanti(RelazioneNodo(nodo, ""), "Limite "), 3);

@@ -185,6 +185,11 @@ TEST_F(RelazioneTraveTest, StudsThatDoNotFitSayWhy) {
     EXPECT_TRUE(quiet.testi.empty());
     t.hPiolo = 1; // a stud all the same
     EXPECT_EQ(RelazioneTraveVerificata(t).capitoli.back().titolo, "Connettori a piolo");
+    AcciaioCls sottile = Verificata("piena");
+    sottile.dPiolo = 1;
+    EXPECT_TRUE(CapitoloConnettori(sottile));
+    sottile.Vl = 0.5; // N
+    EXPECT_TRUE(CapitoloConnettori(sottile));
     t.hPiolo = 0;
     EXPECT_NE(RelazioneTraveVerificata(t).capitoli.back().titolo, "Connettori a piolo");
 }
