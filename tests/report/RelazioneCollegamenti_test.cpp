@@ -79,6 +79,7 @@ TEST_F(RelazioneBulloneTest, AHoleBelowTheBoltIsNoted) {
     ASSERT_EQ(r.capitoli.size(), 3U);
     ASSERT_EQ(r.capitoli[1].note.size(), 1U);
     EXPECT_EQ(r.capitoli[1].note[0], "do deve essere > d = 14.0");
+    EXPECT_EQ(Passo(r, "F{b,Rd}").formula, "") << "nothing is borne";
 }
 
 TEST_F(RelazioneBulloneTest, TheClassIsANameWithAPoint) {

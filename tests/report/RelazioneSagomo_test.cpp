@@ -95,6 +95,8 @@ TEST_F(RelazioneSagomoTest, ALengthOfAMillimetreIsALength) {
     EXPECT_NE(Passo(r, "M{cr}").numeri, "");
     ProvaNumeri(r);
     s.Kw = 0;
+    Calcola();
+    EXPECT_EQ(RelazioneSvergolamento(s, "").capitoli.back().verdetto->esito, EsitoRelazione::Assente);
     s.LLT = 4000;
     Calcola();
     EXPECT_EQ(Passo(RelazioneSvergolamento(s, ""), "M{b,Rd}").numeri, "");

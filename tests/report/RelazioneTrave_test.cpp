@@ -175,6 +175,16 @@ TEST_F(RelazioneTraveTest, ATallStudCountsAsFarAs75AboveTheDeck) {
     EXPECT_NE(Passo(r, "k").numeri.find("(148.5 / 73.5 − 1)"), std::string::npos) << Passo(r, "k").numeri;
 }
 
+// Half a millimetre of slab lies above the steel all the same.
+TEST_F(RelazioneTraveTest, AThinSlabHasItsEdgeAbove) {
+    AcciaioCls t = Letta("piena");
+    t.TipoVerifica = metodoNNegativo;
+    t.Msd = -60e6;
+    t.hc = 0.5;
+    t.c = 0.25;
+    EXPECT_EQ(Passo(RelazioneTraveVerificata(t), "σ{c}").descrizione, "Bordo superiore del calcestruzzo");
+}
+
 TEST_F(RelazioneTraveTest, StudsThatDoNotFitSayWhy) {
     AcciaioCls t = Letta("piena");
     t.TipoVerifica = sluPositivo;
