@@ -146,6 +146,12 @@ TEST_F(RelazioneSagomoTest, ElasticMomentsAndShiftsHaveTheirFormulas) {
     const Relazione r = RelazioneSezione(s, "");
     EXPECT_EQ(Passo(r, "e{Ny}").formula, "h / 2 − y{G,eff}");
     EXPECT_EQ(Passo(r, "e{Nz}").formula, "") << "whole about z-z";
+    Salda(4.5); // 460 / 4.5 = 102: of class 3 in bending, of class 4 in compression
+    s.NSd = 1e6;
+    Calcola();
+    ASSERT_EQ(s.ClasseFlessioneY, 3);
+    ASSERT_EQ(s.ClassePressoFlessione, 4);
+    EXPECT_EQ(Passo(RelazioneSezione(s, ""), "e{Ny}").formula, "") << "whole about y-y";
 }
 
 TEST_F(RelazioneSagomoTest, NumbersPutInGiveTheValues) {
