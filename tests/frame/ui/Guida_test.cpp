@@ -258,7 +258,7 @@ TEST_F(GuidaTest, PicturesFollowTheWidthOfThePage) {
     Finestra()->resize(1250, 700);
     QTest::qWait(200);
     Guida::Apre(QStringLiteral("Sagomi.hlp"));
-    EXPECT_EQ(shown("figura:curve"), Testo()->viewport()->width() - 24) << "another text came between";
+    QTRY_COMPARE(shown("figura:curve"), Testo()->viewport()->width() - 24); // another text came between
     Finestra()->resize(950, 700);
     QTRY_COMPARE(shown("figura:curve"), Testo()->viewport()->width() - 24);
     TestoGuida::figura = before;
