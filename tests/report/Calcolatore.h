@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <numbers>
 #include <stdexcept>
@@ -8,6 +9,14 @@
 #include <string_view>
 
 namespace sagomi::prove {
+
+/// A number with a decimal point, as reports write it in every locale.
+inline double ConPunto(std::string_view testo) {
+    double v = std::nan("");
+    const auto inizio = std::min(testo.find_first_not_of(' '), testo.size());
+    std::from_chars(testo.data() + inizio, testo.data() + testo.size(), v);
+    return v;
+}
 
 /// Works out what a report prints as a formula with its numbers put in, as "√(235 / 275) · 10^{-3}".
 class Calcolatore {
@@ -98,7 +107,7 @@ private:
         const std::size_t lungo = std::min(resto_.find_first_not_of("0123456789."), resto_.size());
         if (lungo == 0)
             throw std::invalid_argument(std::string(resto_));
-        const double v = std::stod(std::string(resto_.substr(0, lungo)));
+        const double v = ConPunto(resto_.substr(0, lungo));
         resto_.remove_prefix(lungo);
         return v;
     }

@@ -42,7 +42,7 @@ inline void ProvaNumeri(const Relazione& r) {
                 continue;
             std::string senzaMigliaia = p.valore;
             std::erase(senzaMigliaia, ',');
-            const double valore = std::stod(senzaMigliaia);
+            const double valore = ConPunto(senzaMigliaia);
             EXPECT_NEAR(calcolato, valore, quattroCifre * std::abs(valore) + 1e-3)
                 << c.titolo << ": " << p.descrizione << ' ' << p.numeri << " = " << p.valore;
         }

@@ -185,9 +185,9 @@ TEST_F(RelazioneSagomoTest, PlatesOfClass4AreDerived) {
     const Relazione r = RelazioneSezione(s, "");
     EXPECT_EQ(Passo(r, "λ̅{p}").valore, "2.6995");
     EXPECT_EQ(Passo(r, "ρ").valore, "0.3402");
-    EXPECT_NEAR(std::stod(Passo(r, "b{eff}").valore), 156.51, 0.01);
-    EXPECT_NEAR(std::stod(Passo(r, "b{e1}").valore), 66.71, 0.01);
-    EXPECT_NEAR(std::stod(Passo(r, "b{e2}").valore), 100.07, 0.01);
+    EXPECT_NEAR(ConPunto(Passo(r, "b{eff}").valore), 156.51, 0.01);
+    EXPECT_NEAR(ConPunto(Passo(r, "b{e1}").valore), 66.71, 0.01);
+    EXPECT_NEAR(ConPunto(Passo(r, "b{e2}").valore), 100.07, 0.01);
     EXPECT_FALSE(Ha(RelazioneSezione(s, ""), "x{G,eff}")) << "whole about z-z";
     EXPECT_NE(Passo(r, "A{eff}").numeri, "");
     Salda(20); // whole
@@ -231,9 +231,9 @@ TEST(RelazioneAngolare, AnAngleOfClass4IsDerived) {
     EXPECT_EQ(Passo(r, "L{0,v}").valore, "2.0");
     EXPECT_EQ(Passo(r, "h / t / ε").valore, "18.75");
     EXPECT_EQ(Passo(r, "(b + h) / (2 t) / ε").valore, "15.625");
-    EXPECT_NEAR(std::stod(Passo(r, "λ̅{p}").valore), 1.0068, 1e-4);
-    EXPECT_NEAR(std::stod(Passo(r, "ρ").valore), 0.7762, 1e-4);
-    EXPECT_NEAR(std::stod(Passo(r, "N{pl,Rd}").valore), 1948 * l.betaA() * 0.235 / GammaM0, 0.01);
+    EXPECT_NEAR(ConPunto(Passo(r, "λ̅{p}").valore), 1.0068, 1e-4);
+    EXPECT_NEAR(ConPunto(Passo(r, "ρ").valore), 0.7762, 1e-4);
+    EXPECT_NEAR(ConPunto(Passo(r, "N{pl,Rd}").valore), 1948 * l.betaA() * 0.235 / GammaM0, 0.01);
     ProvaNumeri(r);
 }
 
@@ -267,7 +267,7 @@ TEST(RelazioneAngolare, ALossBelowAMillimetreStandsInTheArea) {
     ProvaNumeri(r);
     const std::string numeri = Passo(r, "A{eff}").numeri;
     ASSERT_NE(numeri.find(" − 0."), std::string::npos) << numeri;
-    EXPECT_NEAR(std::stod(numeri.substr(numeri.rfind(" − ") + std::string(" − ").size())), 0.258, 0.005);
+    EXPECT_NEAR(ConPunto(numeri.substr(numeri.rfind(" − ") + std::string(" − ").size())), 0.258, 0.005);
 }
 
 class RelazioneCanaleTest : public testing::Test {

@@ -93,11 +93,11 @@ TEST_F(RelazioneTraveTest, StudsHaveTheirChapter) {
     ASSERT_EQ(r.capitoli.back().titolo, "Connettori a piolo");
     EXPECT_EQ(r.capitoli.back().note.size(), 1U) << "what stays with the engineer, nothing assumed";
     EXPECT_EQ(Passo(r, "P{Rd,1}").valore, "81.656");
-    EXPECT_NEAR(std::stod(Passo(r, "P{Rd,2}").valore), 73.1, 0.01);
+    EXPECT_NEAR(ConPunto(Passo(r, "P{Rd,2}").valore), 73.1, 0.01);
     EXPECT_EQ(Passo(r, "P{Rd}").valore, Passo(r, "P{Rd,2}").valore) << "the concrete governs";
-    const double nf = std::stod(Passo(r, "n{f}").valore);
+    const double nf = ConPunto(Passo(r, "n{f}").valore);
     EXPECT_EQ(Passo(r, "n{c}").valore, std::to_string(2 * static_cast<int>(std::ceil(nf))));
-    EXPECT_NEAR(std::stod(Passo(r, "s").valore), 8500 / (std::stod(Passo(r, "n{c}").valore) - 1), 1);
+    EXPECT_NEAR(ConPunto(Passo(r, "s").valore), 8500 / (ConPunto(Passo(r, "n{c}").valore) - 1), 1);
     for (const char* simbolo :
          {"E{cm}", "α", "P{Rd,1}", "P{Rd,2}", "P{Rd}", "n{f}", "n{c}", "n{p}", "M{Rd}"}) {
         EXPECT_NE(Passo(r, simbolo).formula, "") << simbolo;
@@ -113,14 +113,14 @@ TEST_F(RelazioneTraveTest, PartialConnectionBearsTheMomentWithNoStudTooMany) {
         t.Nr = Nr;
         const Relazione r = RelazioneTraveVerificata(t);
         const double Msd = t.Msd / 1e6;
-        const double MRd = std::stod(Passo(r, "M{Rd}").valore);
-        const double Ma = std::stod(Passo(r, "M{a,pl,Rd}").valore);
-        const double np = std::stod(Passo(r, "n{p}").valore);
+        const double MRd = ConPunto(Passo(r, "M{Rd}").valore);
+        const double Ma = ConPunto(Passo(r, "M{a,pl,Rd}").valore);
+        const double np = ConPunto(Passo(r, "n{p}").valore);
         EXPECT_GE(MRd, Msd - 0.1);
         if (Nr == 1 && np > 2) {
             EXPECT_LT(Ma + (MRd - Ma) * (np - 2) / np, Msd);
         }
-        EXPECT_LE(np, std::stod(Passo(r, "n{c}").valore));
+        EXPECT_LE(np, ConPunto(Passo(r, "n{c}").valore));
         EXPECT_EQ(r.capitoli.back().note.size(), 3U) << "the file has no strength and no factor of the "
                                                         "studs; the least degree is left to the engineer";
     }
@@ -152,7 +152,7 @@ TEST_F(RelazioneTraveTest, OneRibOfTwoStudsIsAdvised) {
     t.Nr = 1;
     Relazione r;
     r.capitoli = {CapitoloConnettori(t).value_or(CapitoloRelazione())};
-    const double PRd = std::stod(Passo(r, "P{Rd}").valore) * 1e3;
+    const double PRd = ConPunto(Passo(r, "P{Rd}").valore) * 1e3;
     const auto nota = [&](double connettori) {
         t.Vl = connettori * PRd;
         return CapitoloConnettori(t).value_or(CapitoloRelazione()).note.front();

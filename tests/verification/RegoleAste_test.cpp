@@ -1,5 +1,6 @@
 // Settled rules of members: what they give beside theory or the code of today.
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <numbers>
 
@@ -20,10 +21,14 @@ namespace {
 
 class RegoleAste : public Ambiente {};
 
+/// With a decimal comma in every locale; further figures are cut off.
 std::string Virgola(double x, int decimali) {
-    std::string testo = std::to_string(x);
-    testo = testo.substr(0, testo.find('.') + 1 + std::size_t(decimali));
-    testo[testo.find('.')] = ',';
+    char cifre[32];
+    const auto fine = std::to_chars(cifre, cifre + sizeof cifre, x, std::chars_format::fixed, 6).ptr;
+    std::string testo(cifre, fine);
+    const std::size_t punto = testo.find('.');
+    testo.resize(punto + 1 + std::size_t(decimali));
+    testo[punto] = ',';
     return testo[0] == '-' ? "−" + testo.substr(1) : testo;
 }
 
