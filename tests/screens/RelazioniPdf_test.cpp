@@ -83,8 +83,9 @@ protected:
             EXPECT_GE(found, pages) << head << " in " << s.objectName().toStdString();
         }
         for (const char* name : figure) {
+            const QString shown = s.findChild<QWidget*>(name)->property("text").toString().trimmed();
             std::string value =
-                s.findChild<QWidget*>(name)->property("text").toString().trimmed().toStdString();
+                QString(shown).replace(QChar(0x202f), u' ').toStdString(); // as pdftotext does
             EXPECT_FALSE(value.empty()) << name;
             std::erase(value, ',');
             std::string plain = text;
